@@ -1,0 +1,57 @@
+#include "dialogs/bars.h"
+
+#include <cstddef>
+#include <numbers>
+#include <string>
+
+namespace orm {
+namespace {
+
+struct Reading {
+  double area = 0;
+  bool whole = false;       // of the form
+  bool startsOne = true;    // the beginning of such a text
+};
+
+// Up to three digits, not beginning with 0; -1 where there is none.
+int Number(const std::string& text, std::size_t& at) {
+  const std::size_t start = at;
+  int value = 0;
+  while (at < text.size() && text[at] >= '0' && text[at] <= '9' && at - start < 3)
+    value = value * 10 + (text[at++] - '0');
+  return at == start || text[start] == '0' ? -1 : value;
+}
+
+Reading Read(std::string_view raw) {
+  std::string text;
+  for (const char c : raw)
+    if (c != ' ') text += c == 'd' ? 'D' : c;
+  if (text.empty() || text == "0") return {0, true, true};
+  Reading reading;
+  for (std::size_t at = 0;;) {
+    const bool atEnd = at == text.size();
+    const int count = Number(text, at);
+    if (count < 0) return {0, false, atEnd};
+    if (at == text.size()) return {0, false, true};
+    if (text[at++] != 'D') return {0, false, false};
+    if (at == text.size()) return {0, false, true};
+    const int diameter = Number(text, at);
+    if (diameter < 0) return {0, false, false};
+    reading.area += count * std::numbers::pi * (diameter / 20.0) * (diameter / 20.0);
+    if (at == text.size()) break;
+    if (text[at++] != '+') return {0, false, false};
+  }
+  reading.whole = true;
+  return reading;
+}
+
+}  // namespace
+
+double BarsArea(std::string_view text) { return Read(text).area; }
+bool IsBarsText(std::string_view text) { return Read(text).whole; }
+bool AdmitsBarsDraft(std::string_view text) {
+  const Reading reading = Read(text);
+  return reading.whole || reading.startsOne;
+}
+
+}  // namespace orm

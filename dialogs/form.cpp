@@ -1,0 +1,73 @@
+#include "dialogs/form.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orm {
+namespace {
+
+void AdoptInto(Frame* parent, const Layout& layout) {
+  Frame* inner = parent;
+  if (layout.control != nullptr) {
+    layout.control->SetParent(parent);
+    if (layout.kind == Layout::Kind::Group) inner = static_cast<Frame*>(layout.control);
+  }
+  for (const Layout& part : layout.children) AdoptInto(inner, part);
+}
+
+Layout Items(Layout::Kind kind, std::initializer_list<std::reference_wrapper<Control>> controls) {
+  std::vector<Layout> parts;
+  for (Control& control : controls) parts.emplace_back(control);
+  return {kind, nullptr, std::move(parts)};
+}
+
+}  // namespace
+
+Layout Column(std::vector<Layout> parts) { return {Layout::Kind::Column, nullptr, std::move(parts)}; }
+Layout Row(std::vector<Layout> parts) { return {Layout::Kind::Row, nullptr, std::move(parts)}; }
+Layout Group(Frame& frame, std::vector<Layout> parts) {
+  return {Layout::Kind::Group, &frame, std::move(parts)};
+}
+Layout Fields(std::initializer_list<std::reference_wrapper<Control>> fields) {
+  return Items(Layout::Kind::Fields, fields);
+}
+Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons) {
+  return Items(Layout::Kind::Buttons, buttons);
+}
+
+Form::Form(std::string name, std::string title)
+    : name_(std::move(name)), title_(std::move(title)), content_(Column({})) {}
+
+void Form::SetTitle(std::string title) {
+  title_ = std::move(title);
+  if (view_ != nullptr) view_->TitleChanged();
+}
+
+Control* Form::Find(std::string_view name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* control) { return control->Name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::SetContent(Layout content) {
+  content_ = std::move(content);
+  AdoptInto(nullptr, content_);
+}
+
+Control* Form::FirstFocus() const {
+  if (firstFocus_ != nullptr && firstFocus_->IsShown() && firstFocus_->IsActive()) return firstFocus_;
+  for (Control* control : controls_)
+    if (control->TakesFocus() && control->IsShown() && control->IsActive()) return control;
+  return nullptr;
+}
+
+void Form::MoveFocus(Control& control) {
+  if (view_ != nullptr) view_->FocusMoved(control);
+}
+
+void Form::Open() {
+  open_ = true;
+  OnOpen();
+}
+
+}  // namespace orm

@@ -1,0 +1,95 @@
+// A form: its controls, its layout told in meaning, and its life between being shown and closed.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dialogs/control.h"
+
+namespace orm {
+
+// How controls stand to each other. No pixels: a player turns these into widgets of its own.
+struct Layout {
+  enum class Kind {
+    Column,   // children one below the other
+    Row,      // children side by side
+    Group,    // a frame around a column of children
+    Fields,   // labels in one column, fields in the next, units behind
+    Buttons,  // buttons at the foot of the form, the default one last
+    Item      // one control
+  };
+  Layout(Control& item) : kind(Kind::Item), control(&item) {}  // NOLINT: a control is a layout
+  Layout(Kind layoutKind, Control* frame, std::vector<Layout> parts)
+      : kind(layoutKind), control(frame), children(std::move(parts)) {}
+  Kind kind;
+  Control* control = nullptr;  // the control of an Item, the frame of a Group
+  std::vector<Layout> children;
+};
+
+Layout Column(std::vector<Layout> parts);
+Layout Row(std::vector<Layout> parts);
+Layout Group(Frame& frame, std::vector<Layout> parts);
+Layout Fields(std::initializer_list<std::reference_wrapper<Control>> fields);
+Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons);
+
+// What a form tells the player that shows it.
+class FormView {
+ public:
+  virtual ~FormView() = default;
+  virtual void ControlChanged(Control& control) = 0;  // value or looks
+  virtual void FocusMoved(Control& control) = 0;
+  virtual void TitleChanged() = 0;
+};
+
+class Form {
+ public:
+  // `name` as scripts and messages know the form, `title` in its title bar.
+  Form(std::string name, std::string title);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return name_; }
+  const std::string& Title() const { return title_; }
+  void SetTitle(std::string title);
+
+  // All controls in the order of building, which is the reading order and the tab order.
+  const std::vector<Control*>& Controls() const { return controls_; }
+  Control* Find(std::string_view name) const;  // nullptr when there is none
+
+  const Layout& Content() const { return content_; }
+  void SetContent(Layout content);
+
+  // Where the focus stands first: the first entry that takes it, unless set.
+  void SetFirstFocus(Control& control) { firstFocus_ = &control; }
+  Control* FirstFocus() const;
+  void MoveFocus(Control& control);
+
+  // The life of a form. Open: called by the player when it shows the form. Close: the form leaves
+  // the screen when the running event ends; its values stay.
+  virtual void OnOpen() {}
+  // The window button or Escape. What the case says for leaving; otherwise nothing more than Close.
+  virtual void OnWindowClose() { Close(); }
+  // Any key, for a form that ends on one.
+  virtual bool ClosesOnAnyKey() const { return false; }
+  void Open();
+  void Close() { open_ = false; }
+  bool IsOpen() const { return open_; }
+
+  void Attach(FormView* view) { view_ = view; }
+  FormView* View() const { return view_; }
+
+ private:
+  friend class Control;
+  std::string name_, title_;
+  std::vector<Control*> controls_;
+  Layout content_;
+  Control* firstFocus_ = nullptr;
+  FormView* view_ = nullptr;
+  bool open_ = false;
+};
+
+}  // namespace orm

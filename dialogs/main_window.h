@@ -1,0 +1,37 @@
+// The main window as the logic describes it: a title, a picture and a menu tree. A player shows it
+// and hands back what the person chooses.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orm {
+
+struct MenuItem {
+  std::string name;     // control name; empty for a separator
+  std::string caption;  // shown as it stands
+  std::vector<MenuItem> children = {};
+  bool IsSeparator() const { return name.empty(); }
+};
+
+class MainWindow {
+ public:
+  virtual ~MainWindow() = default;
+
+  virtual const std::string& Title() const = 0;
+  virtual const std::vector<MenuItem>& Menu() const = 0;
+
+  // Before the window is shown. False: the program ends.
+  virtual bool Load() = 0;
+  // Once, after the window has come to the screen.
+  virtual void FirstActivation() = 0;
+  // A top menu opens.
+  virtual void MenuOpened(std::string_view topName) = 0;
+  // A command is chosen. A run-time failure within it has become a message when this comes back.
+  virtual void Choose(std::string_view commandName) = 0;
+  // True when a command has ended the program.
+  virtual bool Ended() const = 0;
+};
+
+}  // namespace orm

@@ -1,0 +1,61 @@
+// What the logic asks of whoever stands before it: a person at a screen, a script, or nobody.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/dates.h"
+
+namespace orm {
+
+class Form;
+
+struct MessageBox {
+  enum class Icon { None, Information, Exclamation, Critical, Question };
+  enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+  std::string title;
+  std::string text;  // lines separated by "\n"
+  Icon icon = Icon::Exclamation;
+  Buttons buttons = Buttons::Ok;
+};
+
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct ScreenSize {
+  int width = 1280;
+  int height = 1024;
+};
+
+struct FileChoice {
+  std::string title;
+  std::string start;    // path shown first, may be empty
+  std::string pattern;  // "*.exe;*.com"; empty for all
+};
+
+// The programs that a new installation works with, whole paths.
+struct OutsidePrograms {
+  std::string reports;        // shows and prints reports
+  std::string configuration;  // edits plain text
+  std::string pdf;            // shows PDF files
+};
+
+class Player {
+ public:
+  virtual ~Player() = default;
+
+  // Shows the form and comes back when it has closed. The form keeps its values.
+  virtual void Show(Form& form) = 0;
+  virtual Answer Ask(const MessageBox& box) = 0;
+  // The chosen path, or nothing when the person gave up.
+  virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
+  // Starts a program on a file of the working folder and does not wait for it.
+  virtual void StartProgram(const std::string& program, const std::string& argument) = 0;
+  virtual bool ProgramExists(const std::string& path) = 0;
+  virtual OutsidePrograms DefaultPrograms() = 0;
+  virtual ScreenSize Screen() = 0;
+  virtual Date Today() = 0;
+};
+
+}  // namespace orm

@@ -1,0 +1,169 @@
+#include "runtime/data_file.h"
+
+#include <limits>
+#include <utility>
+
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+namespace orm {
+
+DataReader::DataReader(const WorkFolder& folder, std::string name) {
+  *this = OfBytes(name, folder.Read(name));
+}
+
+DataReader DataReader::OfBytes(std::string name, std::string_view bytes) {
+  DataReader reader;
+  reader.name_ = std::move(name);
+  reader.bytes_ = bytes;
+  return reader;
+}
+
+void DataReader::Fail(const char* field, std::string reason) const {
+  throw RuntimeFailure(std::move(reason)).AtFile(name_).AtLine(fieldLine_).AtField(field);
+}
+
+void DataReader::SkipBlanks() {
+  while (at_ < bytes_.size() && (bytes_[at_] == ' ' || bytes_[at_] == '\t')) ++at_;
+}
+
+bool DataReader::AtEnd() { return bytes_.find_first_not_of(" \t\r\n", at_) == std::string::npos; }
+
+void DataReader::ExpectEnd() {
+  fieldLine_ = line_;
+  if (!AtEnd()) Fail("(fine del file)", "Il file contiene altri dati dopo l'ultimo campo previsto.");
+}
+
+// A field ends at a comma or at a line end; a line end is a separator like any other.
+DataReader::Raw DataReader::Next(const char* field) {
+  SkipBlanks();
+  fieldLine_ = line_;
+  if (at_ >= bytes_.size()) Fail(field, "Il file finisce prima di questo campo.");
+  Raw raw;
+  if (bytes_[at_] == '"') {
+    raw.quoted = true;
+    ++at_;
+    for (;; ++at_) {
+      if (at_ >= bytes_.size()) Fail(field, "Il file finisce dentro un testo fra virgolette.");
+      const char c = bytes_[at_];
+      if (c == '"') {
+        if (at_ + 1 >= bytes_.size() || bytes_[at_ + 1] != '"') break;
+        ++at_;
+      }
+      if (c == '\r' && at_ + 1 < bytes_.size() && bytes_[at_ + 1] == '\n') continue;
+      if (c == '\n') ++line_;
+      raw.text += c;
+    }
+    ++at_;
+    SkipBlanks();
+    if (at_ < bytes_.size() && bytes_[at_] != ',' && bytes_[at_] != '\r' && bytes_[at_] != '\n')
+      Fail(field, "Dopo le virgolette di chiusura ci sono altri caratteri.");
+  } else {
+    const auto end = std::min(bytes_.find_first_of(",\r\n", at_), bytes_.size());
+    raw.text = TrimRight(std::string_view(bytes_).substr(at_, end - at_));
+    at_ = end;
+  }
+  if (at_ < bytes_.size()) {
+    if (bytes_[at_] == '\r' && at_ + 1 < bytes_.size() && bytes_[at_ + 1] == '\n') ++at_;
+    if (bytes_[at_] != ',') ++line_;
+    ++at_;
+  }
+  try {
+    raw.text = FromWindows1252(raw.text);
+  } catch (const RuntimeFailure& failure) {
+    Fail(field, failure.Reason());
+  }
+  return raw;
+}
+
+std::string DataReader::Text(const char* field) { return Next(field).text; }
+
+double DataReader::Number(const char* field) {
+  const Raw raw = Next(field);
+  if (raw.text.empty() && !raw.quoted) return 0;
+  const auto value = raw.quoted ? std::nullopt : ParseNumber(raw.text);
+  if (!value) Fail(field, "Al posto di un numero c'è \"" + Left(raw.text, 40) + "\".");
+  return *value;
+}
+
+template <class T>
+T DataReader::Whole(const char* field) {
+  const double value = Number(field);
+  if (value != Fix(value)) Fail(field, "Il numero deve essere intero.");
+  if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
+    Fail(field, "Il numero è fuori dai limiti del campo (overflow).");
+  return static_cast<T>(value);
+}
+
+std::int16_t DataReader::Integer(const char* field) { return Whole<std::int16_t>(field); }
+std::uint8_t DataReader::Byte(const char* field) { return Whole<std::uint8_t>(field); }
+
+bool DataReader::Boolean(const char* field) {
+  const Raw raw = Next(field);
+  if (raw.text == "#TRUE#") return true;
+  if (raw.text == "#FALSE#" || (raw.text.empty() && !raw.quoted)) return false;
+  Fail(field, "Al posto di #TRUE# o #FALSE# c'è \"" + Left(raw.text, 40) + "\".");
+}
+
+std::int16_t DataReader::Count(const char* field, int most) {
+  const std::int16_t count = Integer(field);
+  if (count < 0 || count > most)
+    Fail(field, "Il numero di elementi deve essere fra 0 e " + NumberText(most) + ".");
+  return count;
+}
+
+void DataWriter::Separate() {
+  if (!lineStarts_) bytes_ += ',';
+  lineStarts_ = false;
+}
+
+void DataWriter::Write(Field<std::string> field) {
+  Separate();
+  std::string bytes;
+  try {
+    bytes = ToWindows1252(field.value);
+    // What would not be read back as it is must not be written either.
+    FromWindows1252(bytes);
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtField(field.name);
+  }
+  bytes_ += '"';
+  for (const char c : bytes) {
+    if (c == '"') bytes_ += '"';
+    if (c == '\r') continue;
+    if (c == '\n') bytes_ += '\r';
+    bytes_ += c;
+  }
+  bytes_ += '"';
+}
+
+void DataWriter::Write(Field<double> field) {
+  Separate();
+  bytes_ += NumberText(field.value);
+}
+
+void DataWriter::Write(Field<std::int16_t> field) {
+  Separate();
+  bytes_ += NumberText(field.value);
+}
+
+void DataWriter::Write(Field<std::uint8_t> field) {
+  Separate();
+  bytes_ += NumberText(field.value);
+}
+
+void DataWriter::Write(Field<bool> field) {
+  Separate();
+  bytes_ += field.value ? "#TRUE#" : "#FALSE#";
+}
+
+void DataWriter::Replace(const WorkFolder& folder, std::string_view name) const {
+  folder.Replace(name, bytes_);
+}
+
+void DataWriter::Append(const WorkFolder& folder, std::string_view name) const {
+  folder.Replace(name, folder.Read(name) + bytes_);
+}
+
+}  // namespace orm
