@@ -22,6 +22,8 @@ class FormHand {
   virtual bool IsVisible(Control& control) = 0;
   virtual bool IsEnabled(Control& control) = 0;
   virtual std::string Title() = 0;
+  // Keeps a picture of the form as NAME.png where the player can make one.
+  virtual void Picture(const std::string& name) = 0;
 };
 
 // Whoever plays the person: told of everything that is shown, in its order.
