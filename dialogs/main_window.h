@@ -15,6 +15,9 @@ struct MenuItem {
   bool IsSeparator() const { return name.empty(); }
 };
 
+// The top entry whose tree holds the command, or nullptr.
+const MenuItem* TopOf(const std::vector<MenuItem>& menu, std::string_view commandName);
+
 class MainWindow {
  public:
   virtual ~MainWindow() = default;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "runtime/dates.h"
+#include "runtime/failure.h"
 
 namespace orm {
 
@@ -22,6 +23,10 @@ struct MessageBox {
 };
 
 enum class Answer { Ok, Cancel, Yes, No };
+
+// The box that tells a run-time failure, with its title by which it is known.
+inline constexpr const char* kFailureTitle = "ERRORE DI ESECUZIONE";
+MessageBox FailureBox(const RuntimeFailure& failure);
 
 struct ScreenSize {
   int width = 1280;

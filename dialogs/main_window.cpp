@@ -1,0 +1,22 @@
+#include "dialogs/main_window.h"
+
+#include <algorithm>
+
+namespace orm {
+namespace {
+
+bool Holds(const MenuItem& item, std::string_view name) {
+  if (item.children.empty()) return item.name == name;
+  return std::any_of(item.children.begin(), item.children.end(),
+                     [&](const MenuItem& child) { return Holds(child, name); });
+}
+
+}  // namespace
+
+const MenuItem* TopOf(const std::vector<MenuItem>& menu, std::string_view commandName) {
+  const auto found = std::find_if(menu.begin(), menu.end(),
+                                  [&](const MenuItem& top) { return Holds(top, commandName); });
+  return found == menu.end() ? nullptr : &*found;
+}
+
+}  // namespace orm

@@ -1,0 +1,85 @@
+#include <sys/stat.h>
+
+#include "script/stage.h"
+
+namespace orm {
+namespace {
+
+class PlainHand : public FormHand {
+ public:
+  explicit PlainHand(Form& form) : form_(form) {}
+  std::string Set(Control& control, std::string_view text) override { return control.Enter(text); }
+  std::string Press(Button& button) override {
+    button.Press();
+    return {};
+  }
+  void CloseByWindow() override { form_.OnWindowClose(); }
+  std::string Shown(Control& control) override { return control.ShownText(); }
+  bool IsVisible(Control& control) override { return control.IsShown(); }
+  bool IsEnabled(Control& control) override { return control.IsActive(); }
+  std::string Title() override { return form_.Title(); }
+  void Picture(const std::string&) override {}
+
+ private:
+  Form& form_;
+};
+
+class PlainPlayer : public Player {
+ public:
+  PlainPlayer(Actor& actor, const WorkFolder& folder) : actor_(actor), folder_(folder) {}
+  void Show(Form& form) override {
+    form.Open();
+    if (!form.IsOpen()) return;
+    PlainHand hand(form);
+    actor_.MeetForm(form, hand);
+  }
+  Answer Ask(const MessageBox& box) override { return actor_.MeetMessage(box); }
+  std::optional<std::string> ChooseFile(const FileChoice& choice) override {
+    return actor_.MeetFileChoice(choice);
+  }
+  void StartProgram(const std::string& program, const std::string& argument) override {
+    actor_.MeetProgramStart(program, argument);
+  }
+  bool ProgramExists(const std::string& path) override { return ScriptProgramExists(path, folder_); }
+  OutsidePrograms DefaultPrograms() override { return ScriptPrograms(); }
+  ScreenSize Screen() override { return actor_.Screen(); }
+  Date Today() override { return actor_.Today(); }
+
+ private:
+  Actor& actor_;
+  const WorkFolder& folder_;
+};
+
+class PlainStage : public Stage {
+ public:
+  PlainStage(Actor& actor, const WorkFolder& folder) : player_(actor, folder) {}
+  Player& People() override { return player_; }
+  void Raise(MainWindow&) override {}
+  std::string Choose(MainWindow& window, std::string_view command) override {
+    const MenuItem* top = TopOf(window.Menu(), command);
+    if (top == nullptr) return "il menù non ha questo comando";
+    window.MenuOpened(top->name);
+    window.Choose(command);
+    return {};
+  }
+
+ private:
+  PlainPlayer player_;
+};
+
+}  // namespace
+
+std::unique_ptr<Stage> BuildPlainStage(Actor& actor, const WorkFolder& folder) {
+  return std::make_unique<PlainStage>(actor, folder);
+}
+
+OutsidePrograms ScriptPrograms() { return {"orm2002-visore", "editor-testi", "lettore-pdf"}; }
+
+bool ScriptProgramExists(const std::string& path, const WorkFolder& folder) {
+  const OutsidePrograms known = ScriptPrograms();
+  if (path == known.reports || path == known.configuration || path == known.pdf) return true;
+  struct stat status {};
+  return folder.Exists(path) || (path.starts_with('/') && ::stat(path.c_str(), &status) == 0);
+}
+
+}  // namespace orm

@@ -1,0 +1,31 @@
+// The script language: one statement a line, texts in double quotes, '#' begins a comment line.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orm {
+
+struct Word {
+  std::string text;
+  bool quoted = false;
+  bool Is(std::string_view bare) const { return !quoted && text == bare; }
+};
+
+struct Statement {
+  int line = 0;
+  std::vector<Word> words;  // never empty
+  const std::string& Verb() const { return words[0].text; }
+};
+
+// A script that does not hold, with the line that does not.
+struct Mismatch {
+  int line = 0;
+  std::string text;
+};
+
+// Throws Mismatch on a word without its closing quote or an unknown verb.
+std::vector<Statement> ParseScript(std::string_view text);
+
+}  // namespace orm
