@@ -63,4 +63,15 @@ class Player {
   virtual Date Today() = 0;
 };
 
+// Runs what a confirming button does. A run-time failure becomes its message and the form stays as
+// it is, so that nothing typed is lost.
+template <class Action>
+void TryAndStay(Player& player, Action&& action) {
+  try {
+    action();
+  } catch (const RuntimeFailure& failure) {
+    player.Ask(FailureBox(failure));
+  }
+}
+
 }  // namespace orm

@@ -1,0 +1,50 @@
+#include "cases/fee_case.h"
+
+#include <algorithm>
+
+#include "cases/ppe.h"
+
+namespace orm {
+
+namespace {
+
+void CalcoloSoloPpe(RunState& stato) {
+  double totale = 0;
+  CalcoloPpe(stato, totale);
+}
+
+}  // namespace
+
+const std::vector<FeeCase>& FeeCases() {
+  // clang-format off
+  static const std::vector<FeeCase> kCases = {
+      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kAllCriteria, nullptr, nullptr},
+      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kAllCriteria, nullptr, nullptr},
+      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kAllCriteria, nullptr, nullptr},
+      // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
+      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
+      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, nullptr, nullptr},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kAllCriteria, nullptr, nullptr},
+      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr},
+      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr},
+      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr},
+      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr},
+      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcoloSoloPpe},
+      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kAllCriteria, nullptr, nullptr},
+      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr},
+      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr},
+      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kAllCriteria, nullptr, nullptr},
+  };
+  // clang-format on
+  return kCases;
+}
+
+const FeeCase* FindFeeCase(std::string_view code) {
+  const auto& cases = FeeCases();
+  const auto found =
+      std::find_if(cases.begin(), cases.end(), [&](const FeeCase& c) { return code == c.code; });
+  return found == cases.end() ? nullptr : &*found;
+}
+
+}  // namespace orm

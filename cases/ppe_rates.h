@@ -1,0 +1,26 @@
+// The fixed rates of expropriation plans.
+//
+// Fixed compensations a unit, whole Lire, under the tariff of Legge 2-3-1949 n. 143. The texts stand in the report as written, each beside its rate: the one of the holdings has four
+// zeros behind its point, the one of the parcels of the condition report is a constant in Euro and
+// not the conversion of the Lire.
+#pragma once
+
+#include <cstdint>
+
+namespace orm {
+
+struct TariffaPpe {
+  std::int32_t lire;
+  double euro;  // 0: the Lire through LireInEuro
+  const char* testoLire;
+  const char* testoEuro;
+};
+
+inline constexpr TariffaPpe kTariffaPartita{106000, 0, " x 106.0000", " x 54,74"};
+inline constexpr TariffaPpe kTariffaParticella{40000, 0, " x 40.000", " x 20,66"};
+inline constexpr TariffaPpe kTariffaVerbale{139000, 0, "139.000", "71,79"};
+inline constexpr TariffaPpe kTariffaParticellaVerbale{29000, 14.98, "x29.000", "x 14,98"};
+inline constexpr TariffaPpe kTariffaFabbricato{149000, 0, "x149.000", "x 76,95"};
+inline constexpr TariffaPpe kTariffaFrazionamento{1800000, 0, " x 1.800.000", " x 929,62"};
+
+}  // namespace orm

@@ -1,0 +1,22 @@
+// frmGEN_LISTAFILE: the choice of an outside program.
+//
+// A platform without drives has one tree of folders: the form shows the path and hands the search to
+// the platform's own file choice, which knows favourites, last places and hidden files.
+#pragma once
+
+#include "dialogs/form.h"
+#include "dialogs/player.h"
+
+namespace orm {
+
+class FrmGenListaFile : public Form {
+ public:
+  FrmGenListaFile(Player& player, std::string inizio);
+
+  std::string Percorso;  // the chosen path; empty when nothing was chosen
+
+  TestoBox File1;
+  Button cmdCerca, cmdOK;
+};
+
+}  // namespace orm

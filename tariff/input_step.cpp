@@ -1,0 +1,25 @@
+#include "tariff/input_step.h"
+
+#include "tariff/form_advances.h"
+#include "tariff/form_header.h"
+#include "tariff/form_new_case.h"
+
+namespace orm {
+
+bool ChiediVariazione(RunState& stato) {
+  FrmGenIntestazione intestazione(stato, stato.FileInt);
+  stato.player.Show(intestazione);
+  if (!stato.folder.Exists(stato.FileInp)) return false;
+  FrmGenNuovoCaso nuovoCaso;
+  stato.player.Show(nuovoCaso);
+  return nuovoCaso.Risposta == "VARIAZIONE";
+}
+
+void ChiediAcconti(RunState& stato, const DataWriter& corpo) {
+  stato.FileDatiAcconti = stato.FileInp;
+  ScriviParcella(stato.folder, stato.FileDatiAcconti, corpo, stato.chiusura);
+  FrmGenAcconti acconti(stato, corpo);
+  stato.player.Show(acconti);
+}
+
+}  // namespace orm

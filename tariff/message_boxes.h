@@ -1,0 +1,19 @@
+// The message boxes that commands share, with their words.
+#pragma once
+
+#include "dialogs/player.h"
+
+namespace orm {
+
+inline constexpr const char* kAttenzione = "  ATTENZIONE !! ";
+
+inline MessageBox Avviso(std::string testo) {
+  return {kAttenzione, std::move(testo), MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok};
+}
+
+inline MessageBox ProceduraNonDisponibile() {
+  return {"ORM2002", "PROCEDURA NON ANCORA DISPONIBILE", MessageBox::Icon::Information,
+          MessageBox::Buttons::Ok};
+}
+
+}  // namespace orm
