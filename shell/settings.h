@@ -2,6 +2,7 @@
 // start lays down.
 #pragma once
 
+#include "runtime/data_file.h"
 #include "shell/run_state.h"
 
 namespace orm {

@@ -23,7 +23,7 @@ FrmGenClasse::FrmGenClasse(RunState& stato, bool chiedeImporto)
   SetContent(Column({Label1, Fields({comClasse}), lblClasse, Fields({comCategoria}), lblCategoria,
                      Row({Fields({cdImporto, ciImporto}), Image1}), Buttons({cmdFINE, cmdCONFERMA})}));
   std::vector<std::string> names;
-  for (const ClasseDiOpere& classe : kClassiDiOpere) names.emplace_back(classe.nome);
+  for (const NomiClasse& classe : kNomiClassi) names.emplace_back(classe.nome);
   comClasse.SetItems(std::move(names));
   comClasse.onChange = [this] { ShowCategories(); };
   comCategoria.onChange = [this] { lblCategoria.SetText(comCategoria.ShownText()); };
@@ -39,8 +39,8 @@ void FrmGenClasse::ShowCategories() {
   lblClasse.SetText(comClasse.ShownText());
   std::vector<std::string> texts;
   if (comClasse.Index() >= 0)
-    for (const std::string_view categoria : kClassiDiOpere[static_cast<std::size_t>(comClasse.Index())].categorie)
-      if (!categoria.empty()) texts.emplace_back(categoria);
+    for (const std::string_view categoria : kNomiClassi[static_cast<std::size_t>(comClasse.Index())].categorie)
+      texts.emplace_back(categoria);
   const bool any = !texts.empty();
   comCategoria.SetItems(std::move(texts));
   comCategoria.SetVisible(any);

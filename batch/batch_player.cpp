@@ -1,0 +1,26 @@
+#include "batch/batch_player.h"
+
+#include <unistd.h>
+
+#include "dialogs/form.h"
+
+namespace orm {
+
+void BatchPlayer::Show(Form& form) {
+  form.Open();
+  if (form.IsOpen()) form.OnWindowClose();
+}
+
+Answer BatchPlayer::Ask(const MessageBox& box) {
+  (box.title == kFailureTitle ? failed_ : told_) = true;
+  const std::string text = box.text + "\n";
+  // Nobody to tell when standard error is closed.
+  if (::write(STDERR_FILENO, text.data(), text.size()) < 0) return Answer::Cancel;
+  switch (box.buttons) {
+    case MessageBox::Buttons::Ok: return Answer::Ok;
+    case MessageBox::Buttons::YesNo: return Answer::No;
+    default: return Answer::Cancel;
+  }
+}
+
+}  // namespace orm

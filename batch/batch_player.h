@@ -1,0 +1,33 @@
+// The player of the program without a screen: forms keep the values they come with, message boxes
+// go to standard error.
+#pragma once
+
+#include "dialogs/player.h"
+
+namespace orm {
+
+class BatchPlayer : public Player {
+ public:
+  explicit BatchPlayer(const Date& today) : today_(today) {}
+
+  void Show(Form& form) override;  // left by its window button at once
+  Answer Ask(const MessageBox& box) override;
+  std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
+  void StartProgram(const std::string&, const std::string&) override {}
+  bool ProgramExists(const std::string&) override { return true; }
+  OutsidePrograms DefaultPrograms() override { return {}; }
+  ScreenSize Screen() override { return {}; }
+  Date Today() override { return today_; }
+
+  // The kind of the last message: whether a command ended by itself or in a run-time failure.
+  bool Failed() const { return failed_; }
+  bool Told() const { return told_; }
+  void Forget() { failed_ = told_ = false; }
+
+ private:
+  Date today_;
+  bool failed_ = false;
+  bool told_ = false;
+};
+
+}  // namespace orm

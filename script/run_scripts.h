@@ -1,0 +1,17 @@
+// Runs scripts one after the other, each in a fresh working folder of its own.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "script/script_player.h"
+
+namespace orm {
+
+// Prints each mismatch with script and line, and at the end how many held. Returns the exit code:
+// 0 all held, 1 a mismatch.
+int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build, const ScriptOptions& options,
+               std::ostream& output);
+
+}  // namespace orm

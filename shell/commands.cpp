@@ -1,0 +1,127 @@
+#include "shell/commands.h"
+
+#include <algorithm>
+#include <array>
+
+#include "cases/fee_case.h"
+#include "shell/dispatch.h"
+#include "shell/form_criteria.h"
+#include "shell/form_editor.h"
+#include "shell/form_title.h"
+#include "shell/form_user.h"
+#include "shell/shell_boxes.h"
+
+namespace orm {
+namespace {
+
+struct Command {
+  std::string_view name;
+  void (*run)(RunState&);
+};
+
+template <class ShownForm>
+void Show(RunState& stato) {
+  ShownForm form(stato);
+  stato.player.Show(form);
+}
+
+template <const char* File>
+void EditConfiguration(RunState& stato) {
+  stato.player.StartProgram(stato.editors.EditorConfigurazione, File);
+}
+
+constexpr char kCac[] = "CAC.CFG", kTus[] = "TUS.CFG", kCs1[] = "CS1.CFG", kCs2[] = "CS2.CFG",
+               kInc[] = "INC.CFG", kGeo[] = "GEO.CFG";
+
+void ShowCriteria(RunState& stato) {
+  stato.CasoDiParcella.clear();
+  Show<FrmPerCriteri>(stato);
+}
+
+void ShowInformation(RunState& stato) {
+  FrmGenInforma form;
+  stato.player.Show(form);
+}
+
+constexpr std::array kCommands = {
+    Command{"CONF_EDITOR", Show<FrmPerEditor>},
+    Command{"CONF_NOTA", [](RunState& stato) { stato.player.Ask(AvvisoNotaConfigurazione()); }},
+    Command{"CONFIG_COMPACCES", EditConfiguration<kCac>},
+    Command{"CONFIG_TUS", EditConfiguration<kTus>},
+    Command{"CONFIG_CS1", EditConfiguration<kCs1>},
+    Command{"CONFIG_CS2", EditConfiguration<kCs2>},
+    Command{"CONFIG_INC", EditConfiguration<kInc>},
+    Command{"CONFIG_GEO", EditConfiguration<kGeo>},
+    Command{"PERS_UTENTE", Show<FrmPerUtente>},
+    Command{"PERS_CRITERI", ShowCriteria},
+    Command{"PERS_EDITMEMO",
+            [](RunState& stato) { stato.player.StartProgram(stato.editors.EditorTesti, "MEMO.RTF"); }},
+    Command{"Informa_Informazioni", ShowInformation},
+};
+
+const Command* FindCommand(std::string_view name) {
+  const auto found = std::find_if(kCommands.begin(), kCommands.end(),
+                                  [&](const Command& command) { return command.name == name; });
+  return found == kCommands.end() ? nullptr : found;
+}
+
+// A command of a fee case: the case, and which of its two steps.
+struct CaseCommand {
+  const FeeCase* fee = nullptr;
+  bool isInput = false;
+  bool isEuro = false;
+  bool Acts() const { return !isEuro || fee->actsInEuroMenu; }
+  bool IsThere() const { return (isInput ? fee->input : fee->calcolo) != nullptr || !Acts(); }
+};
+
+CaseCommand FindCaseCommand(std::string_view name) {
+  for (const FeeCase& fee : FeeCases()) {
+    if (fee.stem == nullptr || !name.starts_with(fee.stem)) continue;
+    const std::string_view ending = name.substr(std::string_view(fee.stem).size());
+    for (const bool euro : {false, true})
+      for (const bool input : {true, false})
+        if (ending == std::string(euro ? "_E" : "") + (input ? "_ID" : "_VS")) return {&fee, input, euro};
+  }
+  return {};
+}
+
+void CollectLeaves(const std::vector<MenuItem>& menu, std::vector<std::string>& names) {
+  for (const MenuItem& item : menu) {
+    if (!item.children.empty())
+      CollectLeaves(item.children, names);
+    else if (!item.IsSeparator())
+      names.push_back(item.name);
+  }
+}
+
+bool IsThere(const std::string& name) {
+  if (name == "File_Esci" || FindCommand(name) != nullptr) return true;
+  const CaseCommand command = FindCaseCommand(name);
+  return command.fee != nullptr && command.IsThere();
+}
+
+}  // namespace
+
+void RunCommand(RunState& stato, std::string_view name) {
+  if (const Command* command = FindCommand(name)) return command->run(stato);
+  const CaseCommand command = FindCaseCommand(name);
+  if (command.fee == nullptr) {
+    stato.player.Ask(ProceduraNonDisponibile());
+    return;
+  }
+  if (!command.Acts()) return;
+  stato.CasoDiParcella = command.fee->code;
+  if (command.isInput)
+    InputDatiParcella(stato);
+  else
+    CalcoloParcella(stato);
+}
+
+std::vector<std::string> CommandsNotYet(const std::vector<MenuItem>& menu) {
+  std::vector<std::string> names;
+  CollectLeaves(menu, names);
+  std::erase_if(names, IsThere);
+  return names;
+}
+
+}  // namespace orm

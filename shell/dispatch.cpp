@@ -1,0 +1,69 @@
+#include "shell/dispatch.h"
+
+#include "cases/fee_case.h"
+#include "shell/form_criteria.h"
+#include "shell/shell_boxes.h"
+#include "tariff/message_boxes.h"
+#include "tariff/user_data.h"
+
+namespace orm {
+namespace {
+
+std::string SetFileNames(RunState& stato) {
+  const NomiFile nomi = NomiDiCaso(stato.CasoDiParcella, stato.ModoLire);
+  stato.FileInt = nomi.FileInt;
+  stato.FileInp = nomi.FileInp;
+  return nomi.Report;
+}
+
+// The message of the first file that a calculation lacks, if any.
+const MessageBox* MissingFile(const RunState& stato) {
+  static const MessageBox kUtente = AvvisoFileUtenteAssente();
+  static const MessageBox kIntestazione = AvvisoFileIntestazioneAssente();
+  static const MessageBox kDati = AvvisoFileDatiAssente();
+  if (!stato.folder.Exists(kFileUtente)) return &kUtente;
+  if (!stato.folder.Exists(stato.FileInt)) return &kIntestazione;
+  if (!stato.folder.Exists(stato.FileInp)) return &kDati;
+  return nullptr;
+}
+
+}  // namespace
+
+NomiFile NomiDiCaso(const std::string& codice, bool modoLire) {
+  const std::string stem = "_" + codice + (modoLire ? "" : "_E");
+  return {"INT" + stem + ".DAP", "INP" + stem + ".DAP", "OUT" + stem + ".DOC"};
+}
+
+void InputDatiParcella(RunState& stato) {
+  SetFileNames(stato);
+  const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
+  if (fee == nullptr || fee->stem == nullptr) return;
+  if (fee->input == nullptr) {
+    stato.player.Ask(ProceduraNonDisponibile());
+    return;
+  }
+  fee->input(stato);
+}
+
+bool CalcoloParcella(RunState& stato) {
+  const std::string report = SetFileNames(stato);
+  const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
+  if (fee == nullptr) return false;
+  if (fee->calcolo == nullptr) {
+    stato.player.Ask(ProceduraNonDisponibile());
+    return false;
+  }
+  if (const MessageBox* missing = MissingFile(stato)) {
+    stato.player.Ask(*missing);
+    return false;
+  }
+  stato.NumFileUscita = ReportPrinter();
+  FrmPerCriteri criteri(stato);
+  stato.player.Show(criteri);
+  fee->calcolo(stato);
+  stato.NumFileUscita.Save(stato.folder, report);
+  stato.player.StartProgram(stato.editors.EditorTesti, report);
+  return true;
+}
+
+}  // namespace orm

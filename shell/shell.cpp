@@ -1,0 +1,81 @@
+#include "shell/shell.h"
+
+#include <new>
+
+#include "shell/commands.h"
+#include "shell/form_editor.h"
+#include "shell/form_title.h"
+#include "shell/menu_tree.h"
+#include "shell/settings.h"
+#include "shell/shell_boxes.h"
+#include "tariff/user_data.h"
+
+namespace orm {
+
+Shell::Shell(Player& player, WorkFolder folder)
+    : title_("   ORM2002      Onorari Rilievi Misure      La Brentoli - Catanzaro"),
+      menu_(BuildMenu()),
+      stato_(player, std::move(folder)) {}
+
+void Shell::Guard(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const RuntimeFailure& failure) {
+    stato_.player.Ask(FailureBox(failure));
+  } catch (const std::bad_alloc&) {
+    stato_.player.Ask(FailureBox(RuntimeFailure("La memoria non basta per eseguire il comando.")));
+  }
+}
+
+bool Shell::Load() {
+  const ScreenSize screen = stato_.player.Screen();
+  if (screen.width < 1024 || screen.height < 768) {
+    stato_.player.Ask(AvvisoRisoluzione());
+    ended_ = true;
+    return false;
+  }
+  ReadSettings();
+  Guard([this] {
+    if (!stato_.folder.Exists(kFileRedditi)) ScriviRedditiIniziali(stato_.folder);
+  });
+  Guard([this] {
+    if (!stato_.folder.Exists(kFileUtente)) ScriviUtentePredefinito(stato_.folder);
+  });
+  return true;
+}
+
+void Shell::ReadSettings() {
+  // A damaged file leaves the defaults in force.
+  stato_.criteri = {};
+  const OutsidePrograms programs = stato_.player.DefaultPrograms();
+  stato_.editors = {programs.reports, programs.configuration, programs.pdf};
+  Guard([this] { LeggiEditor(stato_); });
+  Guard([this] { LeggiCriteri(stato_); });
+}
+
+void Shell::FirstActivation() {
+  Guard([this] {
+    FrmGenPresentazione title;
+    stato_.player.Show(title);
+  });
+  Guard([this] {
+    if (EditorPresenti(stato_, stato_.editors)) return;
+    FrmPerEditor editors(stato_);
+    stato_.player.Show(editors);
+  });
+}
+
+void Shell::MenuOpened(std::string_view topName) {
+  if (topName == kMenuUtilita || topName == kMenuLire) stato_.ModoLire = true;
+  if (topName == kMenuEuro) stato_.ModoLire = false;
+}
+
+void Shell::Choose(std::string_view commandName) {
+  if (commandName == "File_Esci") {
+    ended_ = true;
+    return;
+  }
+  Guard([&] { RunCommand(stato_, commandName); });
+}
+
+}  // namespace orm

@@ -1,0 +1,38 @@
+// The main window's logic: start-up, the menu tree and the one place where failures are caught.
+#pragma once
+
+#include <functional>
+
+#include "dialogs/main_window.h"
+#include "shell/run_state.h"
+
+namespace orm {
+
+class Shell : public MainWindow {
+ public:
+  Shell(Player& player, WorkFolder folder);
+
+  const std::string& Title() const override { return title_; }
+  const std::vector<MenuItem>& Menu() const override { return menu_; }
+  bool Load() override;
+  void FirstActivation() override;
+  void MenuOpened(std::string_view topName) override;
+  void Choose(std::string_view commandName) override;
+  bool Ended() const override { return ended_; }
+
+  // Editors and criteria from their files, or their defaults.
+  void ReadSettings();
+
+  RunState& State() { return stato_; }
+
+ private:
+  // Runs one step; a failure in it becomes its message, and the program goes on.
+  void Guard(const std::function<void()>& step);
+
+  std::string title_;
+  std::vector<MenuItem> menu_;
+  RunState stato_;
+  bool ended_ = false;
+};
+
+}  // namespace orm

@@ -1,0 +1,49 @@
+#include "shell/shell_boxes.h"
+
+namespace orm {
+
+MessageBox AvvisoRisoluzione() {
+  return {"ATTENZIONE",
+          "La risoluzione dello schermo non permette una corretta visione della procedura\n"
+          "Si prega di impostare la risoluzione ad almeno 1024x768\n"
+          "e poi far ripartire la procedura",
+          MessageBox::Icon::Information, MessageBox::Buttons::Ok};
+}
+
+MessageBox AvvisoNotaConfigurazione() {
+  return {"NOTA SUI FILE DI CONFIGURAZIONE",
+          "I file di configurazione, necessari al calcolo di alcune tipologie di parcelle, \n"
+          "possono essere personalizzati seguendo le indicazioni contenute negli stessi    \n"
+          "file forniti come esempio assieme alla procedura ed editabili dal presente menù.",
+          MessageBox::Icon::Information, MessageBox::Buttons::Ok};
+}
+
+MessageBox AvvisoFileUtenteAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA     \n"
+      "OPZIONE DEL MENÚ PERSONALIZZAZIONE            ");
+}
+
+MessageBox AvvisoFileIntestazioneAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI DI INTESTAZIONE DELLA PARCELLA\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA                 \n"
+      "OPZIONE DEL MENÚ PARCELLE                                 ");
+}
+
+MessageBox AvvisoFileDatiAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI DELLA PARCELLA\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA     \n"
+      "OPZIONE DEL MENÚ PARCELLE                                 ");
+}
+
+MessageBox AvvisoFileLetteraAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI RELATIVO ALLA LETTERA DI TRASMISSIONE\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA                        \n"
+      "OPZIONE DEL MENÚ UTILITÁ                                         ");
+}
+
+}  // namespace orm
