@@ -73,7 +73,8 @@ Arguments Read(int count, char** words) {
   return a;
 }
 
-int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice, bool lire) {
+int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
+              bool lire) {
   player.Forget();
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
@@ -116,7 +117,8 @@ int main(int count, char** words) {
   orm::RunState stato(player, orm::WorkFolder(arguments.cartella));
   const orm::FolderLock lock(stato.folder);
   if (!lock.Held()) {
-    Tell("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO.\nChiudere prima l'altro programma.\n", STDERR_FILENO);
+    Tell("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO.\nChiudere prima l'altro programma.\n",
+         STDERR_FILENO);
     return kEndedByMessage;
   }
   return arguments.tutti ? CalculateAll(stato, player)

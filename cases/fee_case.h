@@ -13,10 +13,10 @@ namespace orm {
 // The groups of criteria that count for a case; the criteria dialog leaves the others inactive.
 enum CriteriaGroups : std::uint8_t {
   kNoCriteria = 0,
-  kCompensiAccessori = 1,   // percentage of the accessory compensations, and their decimals
-  kDirezioneLavori = 2,     // aliquots of supervision cumulated or apart
-  kTabelle = 4,             // decimals of the tables
-  kCompensiSuVoci = 8,      // compensations on surveillance and on the partial commission
+  kCompensiAccessori = 1,  // percentage of the accessory compensations, and their decimals
+  kDirezioneLavori = 2,    // aliquots of supervision cumulated or apart
+  kTabelle = 4,            // decimals of the tables
+  kCompensiSuVoci = 8,     // compensations on surveillance and on the partial commission
   kAllCriteria = 15
 };
 

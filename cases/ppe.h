@@ -7,8 +7,8 @@ namespace orm {
 
 void InputPpe(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita; `totale` receives the sum of the fees. A product in
-// Lire beyond 32 bits is a failure.
+// Prints the report of FileInp on NumFileUscita; `totale` receives the sum of the fees. A product
+// in Lire beyond 32 bits is a failure.
 void CalcoloPpe(RunState& stato, double& totale);
 
 }  // namespace orm

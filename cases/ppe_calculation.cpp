@@ -54,8 +54,8 @@ void StampaOnorario(RunState& stato, const char* titolo, const std::string& form
   totale += importo;
 }
 
-void StampaQuantita(RunState& stato, const char* titolo, std::int16_t numero, const TariffaPpe& tariffa,
-                    double& totale) {
+void StampaQuantita(RunState& stato, const char* titolo, std::int16_t numero,
+                    const TariffaPpe& tariffa, double& totale) {
   if (numero == 0) return;
   StampaOnorario(stato, titolo, " n° " + ConSegno(numero) + Testo(tariffa, stato.ModoLire),
                  Prodotto(numero, tariffa, stato.ModoLire), totale);
@@ -86,8 +86,10 @@ void CalcoloPpe(RunState& stato, double& totale) {
 
   stato.NumFileUscita.Line(kRigaOnorariCompensi);
   totale = 0;
-  StampaQuantita(stato, "Onorario in funzione delle Partite ", dati.NumPartite, kTariffaPartita, totale);
-  StampaQuantita(stato, "Onorario in funzione delle Particelle ", dati.NumParticelle, kTariffaParticella, totale);
+  StampaQuantita(stato, "Onorario in funzione delle Partite ", dati.NumPartite, kTariffaPartita,
+                 totale);
+  StampaQuantita(stato, "Onorario in funzione delle Particelle ", dati.NumParticelle,
+                 kTariffaParticella, totale);
   StampaVerbale(stato, dati, totale);
   StampaQuantita(stato, "Onorario in funzione dei frazionamenti ", dati.NumFrazionamenti,
                  kTariffaFrazionamento, totale);

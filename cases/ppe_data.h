@@ -20,8 +20,8 @@ struct DatiPpe {
 template <class Archive>
 void Campi(Archive& file, DatiPpe& d) {
   file.Line(Field("NumPartite", d.NumPartite), Field("NumParticelle", d.NumParticelle),
-            Field("NumParticelleVerbale", d.NumParticelleVerbale), Field("NumFabbricati", d.NumFabbricati),
-            Field("NumFrazionamenti", d.NumFrazionamenti));
+            Field("NumParticelleVerbale", d.NumParticelleVerbale),
+            Field("NumFabbricati", d.NumFabbricati), Field("NumFrazionamenti", d.NumFrazionamenti));
 }
 
 }  // namespace orm

@@ -28,8 +28,9 @@ FrmPpeDati::FrmPpeDati(const DatiPpe& dati)
 }
 
 DatiPpe FrmPpeDati::Dati() const {
-  return {CheckedInt16(ciPP[0].Value()), CheckedInt16(ciPP[1].Value()), CheckedInt16(ciVC[0].Value()),
-          CheckedInt16(ciVC[1].Value()), CheckedInt16(ciFrazionamenti.Value())};
+  return {CheckedInt16(ciPP[0].Value()), CheckedInt16(ciPP[1].Value()),
+          CheckedInt16(ciVC[0].Value()), CheckedInt16(ciVC[1].Value()),
+          CheckedInt16(ciFrazionamenti.Value())};
 }
 
 }  // namespace orm

@@ -9,8 +9,8 @@ namespace {
 
 struct Reading {
   double area = 0;
-  bool whole = false;       // of the form
-  bool startsOne = true;    // the beginning of such a text
+  bool whole = false;     // of the form
+  bool startsOne = true;  // the beginning of such a text
 };
 
 // Up to three digits, not beginning with 0; -1 where there is none.

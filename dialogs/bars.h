@@ -10,7 +10,7 @@ namespace orm {
 // is not of the form.
 double BarsArea(std::string_view text);
 
-bool IsBarsText(std::string_view text);     // of the form, empty or "0"
+bool IsBarsText(std::string_view text);       // of the form, empty or "0"
 bool AdmitsBarsDraft(std::string_view text);  // can still be completed to the form
 
 }  // namespace orm

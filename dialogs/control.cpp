@@ -68,7 +68,8 @@ void Label::SetStyle(Style style) {
 std::string Label::Enter(std::string_view) { return kNotAnEntry; }
 
 TestoBox::TestoBox(Form& form, std::string name, std::string caption, TextOptions options)
-    : Control(form, Kind::TextBox, std::move(name), std::move(caption)), options_(std::move(options)) {
+    : Control(form, Kind::TextBox, std::move(name), std::move(caption)),
+      options_(std::move(options)) {
   SetUnit(options_.unit);
   SetHint(options_.hint);
 }
@@ -95,12 +96,15 @@ std::string TestoBox::Type(std::string_view text) {
   return objection;
 }
 
-std::string TestoBox::Enter(std::string_view text) { return options_.readOnly ? kNotAnEntry : Type(text); }
+std::string TestoBox::Enter(std::string_view text) {
+  return options_.readOnly ? kNotAnEntry : Type(text);
+}
 
 // ---------------------------------------------------------------- numbers
 
 NumberBox::NumberBox(Form& form, std::string name, std::string caption, NumberLimits limits)
-    : Control(form, Kind::NumberBox, std::move(name), std::move(caption)), limits_(std::move(limits)) {
+    : Control(form, Kind::NumberBox, std::move(name), std::move(caption)),
+      limits_(std::move(limits)) {
   SetUnit(limits_.unit);
   SetHint(limits_.hint);
 }
@@ -130,7 +134,9 @@ std::string NumberBox::Type(std::string_view draft) {
   return reading.objection;
 }
 
-std::string NumberBox::ShownText() const { return shown_.empty() ? ShownNumber(value_, limits_) : shown_; }
+std::string NumberBox::ShownText() const {
+  return shown_.empty() ? ShownNumber(value_, limits_) : shown_;
+}
 
 std::string NumberBox::Enter(std::string_view text) {
   if (readOnly_) return kNotAnEntry;
@@ -164,14 +170,16 @@ double FerriBox::Area() const { return BarsArea(text_); }
 
 std::string FerriBox::Type(std::string_view text) {
   if (text.size() > 60 || !AdmitsBarsDraft(text))
-    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per esempio 2D16+2D12.";
+    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "
+           "esempio 2D16+2D12.";
   SetText(std::string(text));
   return {};
 }
 
 std::string FerriBox::Enter(std::string_view text) {
   if (!IsBarsText(text))
-    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per esempio 2D16+2D12.";
+    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "
+           "esempio 2D16+2D12.";
   return Type(text);
 }
 
@@ -262,7 +270,8 @@ std::string ListControl::Enter(std::string_view text) {
   return {};
 }
 
-ComboBox::ComboBox(Form& form, std::string name, std::string caption, std::vector<std::string> items)
+ComboBox::ComboBox(Form& form, std::string name, std::string caption,
+                   std::vector<std::string> items)
     : ListControl(form, Kind::Combo, std::move(name), std::move(caption), std::move(items)) {}
 
 ListBox::ListBox(Form& form, std::string name, std::string caption, std::vector<std::string> items)
@@ -270,7 +279,8 @@ ListBox::ListBox(Form& form, std::string name, std::string caption, std::vector<
 
 // ---------------------------------------------------------------- days and sliders
 
-DatePicker::DatePicker(Form& form, std::string name, std::string caption, orm::Date first, orm::Date last)
+DatePicker::DatePicker(Form& form, std::string name, std::string caption, orm::Date first,
+                       orm::Date last)
     : Control(form, Kind::Date, std::move(name), std::move(caption)),
       first_(first),
       last_(last),
@@ -290,7 +300,8 @@ std::string DatePicker::Enter(std::string_view text) {
   return {};
 }
 
-Slider::Slider(Form& form, std::string name, std::string caption, double least, double most, int steps)
+Slider::Slider(Form& form, std::string name, std::string caption, double least, double most,
+               int steps)
     : Control(form, Kind::Slider, std::move(name), std::move(caption)),
       least_(least),
       most_(most),

@@ -22,8 +22,21 @@ class Frame;
 class Control {
  public:
   enum class Kind {
-    Label, TextBox, NumberBox, BarsBox, Option, Check, Combo, List, Date, Slider, Frame, Button,
-    Image, Drawing, RichText
+    Label,
+    TextBox,
+    NumberBox,
+    BarsBox,
+    Option,
+    Check,
+    Combo,
+    List,
+    Date,
+    Slider,
+    Frame,
+    Button,
+    Image,
+    Drawing,
+    RichText
   };
 
   virtual ~Control() = default;
@@ -274,7 +287,8 @@ class DatePicker : public Control {
 // A value between two ends in `steps` equal steps.
 class Slider : public Control {
  public:
-  Slider(Form& form, std::string name, std::string caption, double least, double most, int steps = 100);
+  Slider(Form& form, std::string name, std::string caption, double least, double most,
+         int steps = 100);
   double Value() const;
   void SetValue(double value);  // to the nearest step
   int Position() const { return position_; }
@@ -310,7 +324,7 @@ class Button : public Control {
   };
   Button(Form& form, std::string name, std::string caption, Role role = Role::Plain);
   Role GetRole() const { return role_; }
-  void Press();  // as a person: nothing happens while hidden or disabled
+  void Press();                            // as a person: nothing happens while hidden or disabled
   std::string ShownText() const override;  // the caption without its mark
   std::string Enter(std::string_view) override;
   std::function<void()> onPress;

@@ -23,7 +23,9 @@ Layout Items(Layout::Kind kind, std::initializer_list<std::reference_wrapper<Con
 
 }  // namespace
 
-Layout Column(std::vector<Layout> parts) { return {Layout::Kind::Column, nullptr, std::move(parts)}; }
+Layout Column(std::vector<Layout> parts) {
+  return {Layout::Kind::Column, nullptr, std::move(parts)};
+}
 Layout Row(std::vector<Layout> parts) { return {Layout::Kind::Row, nullptr, std::move(parts)}; }
 Layout Group(Frame& frame, std::vector<Layout> parts) {
   return {Layout::Kind::Group, &frame, std::move(parts)};
@@ -55,7 +57,8 @@ void Form::SetContent(Layout content) {
 }
 
 Control* Form::FirstFocus() const {
-  if (firstFocus_ != nullptr && firstFocus_->IsShown() && firstFocus_->IsActive()) return firstFocus_;
+  if (firstFocus_ != nullptr && firstFocus_->IsShown() && firstFocus_->IsActive())
+    return firstFocus_;
   for (Control* control : controls_)
     if (control->TakesFocus() && control->IsShown() && control->IsActive()) return control;
   return nullptr;

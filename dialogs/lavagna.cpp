@@ -24,11 +24,20 @@ std::string Escaped(const std::string& text) {
   std::string out;
   for (const char c : text) {
     switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out += c;
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
     }
   }
   return out;
@@ -36,19 +45,26 @@ std::string Escaped(const std::string& text) {
 
 const char* NameOf(DrawOperation::Kind kind) {
   switch (kind) {
-    case DrawOperation::Kind::Line: return "line";
-    case DrawOperation::Kind::Arc: return "arc";
-    case DrawOperation::Kind::Polygon: return "polygon";
-    case DrawOperation::Kind::Text: return "text";
+    case DrawOperation::Kind::Line:
+      return "line";
+    case DrawOperation::Kind::Arc:
+      return "arc";
+    case DrawOperation::Kind::Polygon:
+      return "polygon";
+    case DrawOperation::Kind::Text:
+      return "text";
   }
   return "";
 }
 
 const char* NameOf(DrawOperation::Stroke stroke) {
   switch (stroke) {
-    case DrawOperation::Stroke::Solid: return "";
-    case DrawOperation::Stroke::Dashed: return " dashed";
-    case DrawOperation::Stroke::Dotted: return " dotted";
+    case DrawOperation::Stroke::Solid:
+      return "";
+    case DrawOperation::Stroke::Dashed:
+      return " dashed";
+    case DrawOperation::Stroke::Dotted:
+      return " dotted";
   }
   return "";
 }
@@ -131,8 +147,8 @@ void Lavagna::DrawText(double x, double y, std::string text) {
 std::string Lavagna::Enter(std::string_view) { return "Non è un campo da riempire."; }
 
 std::string Lavagna::AsText() const {
-  std::string out = "scale " + Shown(left_) + " " + Shown(bottom_) + " " + Shown(right_) + " " + Shown(top_) +
-                    "\nbackground " + Shown(background_) + "\n";
+  std::string out = "scale " + Shown(left_) + " " + Shown(bottom_) + " " + Shown(right_) + " " +
+                    Shown(top_) + "\nbackground " + Shown(background_) + "\n";
   for (const DrawOperation& op : operations_) {
     out += NameOf(op.kind);
     for (const Point& p : op.points) out += " " + Shown(p.x) + " " + Shown(p.y);
@@ -154,12 +170,14 @@ std::string Lavagna::AsSvg(int pixelsWide) const {
   const auto px = [&](const Point& p) { return Shown((p.x - left_) * scale); };
   const auto py = [&](const Point& p) { return Shown((top_ - p.y) * scale); };
   const auto rgb = [](const Colour& c) { return "rgb(" + Shown(c) + ")"; };
-  const std::string size = "width=\"" + NumberText(pixelsWide) + "\" height=\"" + Shown(height) + "\"";
+  const std::string size =
+      "width=\"" + NumberText(pixelsWide) + "\" height=\"" + Shown(height) + "\"";
   std::string out = "<svg xmlns=\"http://www.w3.org/2000/svg\" " + size + " viewBox=\"0 0 " +
-                    NumberText(pixelsWide) + " " + Shown(height) + "\">\n<rect " + size + " fill=\"" +
-                    rgb(background_) + "\"/>\n";
+                    NumberText(pixelsWide) + " " + Shown(height) + "\">\n<rect " + size +
+                    " fill=\"" + rgb(background_) + "\"/>\n";
   for (const DrawOperation& op : operations_) {
-    std::string pen = " stroke=\"" + rgb(op.colour) + "\" stroke-width=\"" + NumberText(op.width) + "\"";
+    std::string pen =
+        " stroke=\"" + rgb(op.colour) + "\" stroke-width=\"" + NumberText(op.width) + "\"";
     if (op.stroke == DrawOperation::Stroke::Dashed) pen += " stroke-dasharray=\"8 5\"";
     if (op.stroke == DrawOperation::Stroke::Dotted) pen += " stroke-dasharray=\"2 4\"";
     pen += " fill=\"" + (op.filled ? rgb(op.colour) : std::string("none")) + "\"";
@@ -172,8 +190,8 @@ std::string Lavagna::AsSvg(int pixelsWide) const {
         const double sweep = op.to - op.from;
         const std::string r = Shown(op.radius * scale);
         if (sweep >= 360) {
-          out += "<circle cx=\"" + px(op.points[0]) + "\" cy=\"" + py(op.points[0]) + "\" r=\"" + r + "\"" +
-                 pen + "/>\n";
+          out += "<circle cx=\"" + px(op.points[0]) + "\" cy=\"" + py(op.points[0]) + "\" r=\"" +
+                 r + "\"" + pen + "/>\n";
           break;
         }
         const auto at = [&](double degrees) {
@@ -181,8 +199,9 @@ std::string Lavagna::AsSvg(int pixelsWide) const {
           return Point{op.points[0].x + op.radius * std::cos(angle),
                        op.points[0].y + op.radius * std::sin(angle)};
         };
-        out += "<path d=\"M " + px(at(op.from)) + " " + py(at(op.from)) + " A " + r + " " + r + " 0 " +
-               (sweep > 180 ? "1" : "0") + " 0 " + px(at(op.to)) + " " + py(at(op.to)) + "\"" + pen + "/>\n";
+        out += "<path d=\"M " + px(at(op.from)) + " " + py(at(op.from)) + " A " + r + " " + r +
+               " 0 " + (sweep > 180 ? "1" : "0") + " 0 " + px(at(op.to)) + " " + py(at(op.to)) +
+               "\"" + pen + "/>\n";
         break;
       }
       case DrawOperation::Kind::Polygon:
@@ -194,8 +213,8 @@ std::string Lavagna::AsSvg(int pixelsWide) const {
         // The position is the upper left corner, SVG wants the base line.
         out += "<text x=\"" + px(op.points[0]) + "\" y=\"" + py(op.points[0]) + "\" dy=\"" +
                NumberText(op.fontSize) + "pt\" font-family=\"sans-serif\" font-size=\"" +
-               NumberText(op.fontSize) + "pt\"" + (op.bold ? " font-weight=\"bold\"" : "") + " fill=\"" +
-               rgb(op.colour) + "\">" + Escaped(op.text) + "</text>\n";
+               NumberText(op.fontSize) + "pt\"" + (op.bold ? " font-weight=\"bold\"" : "") +
+               " fill=\"" + rgb(op.colour) + "\">" + Escaped(op.text) + "</text>\n";
         break;
     }
   }

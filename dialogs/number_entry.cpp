@@ -14,7 +14,8 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 std::string Pattern(const NumberLimits& limits, bool thousands) {
   std::string pattern = thousands ? "#,##0" : "0";
   if (limits.decimals > 0)
-    pattern += "." + std::string(static_cast<std::size_t>(limits.decimals), limits.trailingZeros ? '0' : '#');
+    pattern += "." + std::string(static_cast<std::size_t>(limits.decimals),
+                                 limits.trailingZeros ? '0' : '#');
   return pattern;
 }
 
@@ -22,7 +23,8 @@ std::string Pattern(const NumberLimits& limits, bool thousands) {
 std::string Bare(std::string_view text) {
   std::string out(text);
   for (const std::string_view mark : {"€", "£", "L.", "\u00A0", " ", "\t", "\r", "\n", "%"})
-    for (auto at = out.find(mark); at != std::string::npos; at = out.find(mark)) out.erase(at, mark.size());
+    for (auto at = out.find(mark); at != std::string::npos; at = out.find(mark))
+      out.erase(at, mark.size());
   return out;
 }
 
@@ -31,7 +33,8 @@ bool GroupedInThrees(std::string_view whole, char mark) {
   const auto first = whole.find(mark);
   if (first == 0 || first > 3) return false;
   for (std::size_t i = first; i < whole.size(); i += 4)
-    if (whole[i] != mark || whole.size() - i < 4 || whole.substr(i + 1, 3).find(mark) != std::string::npos)
+    if (whole[i] != mark || whole.size() - i < 4 ||
+        whole.substr(i + 1, 3).find(mark) != std::string::npos)
       return false;
   return true;
 }
@@ -55,7 +58,8 @@ bool AdmitsDraft(std::string_view draft, const NumberLimits& limits) {
   const std::size_t longest =
       std::max(NumberText(Fix(limits.most)).size(), NumberText(Fix(std::abs(limits.least))).size());
   const auto comma = draft.find(',');
-  if (comma != std::string_view::npos && draft.size() - comma - 1 > static_cast<std::size_t>(limits.decimals))
+  if (comma != std::string_view::npos &&
+      draft.size() - comma - 1 > static_cast<std::size_t>(limits.decimals))
     return false;
   return digits <= longest + static_cast<std::size_t>(limits.decimals);
 }
@@ -66,7 +70,8 @@ NumberReading ReadNumber(std::string_view text, const NumberLimits& limits) {
   if (negative) number.erase(0, 1);
   if (number.empty()) return {0.0, {}};
   const auto refuse = [](std::string why) { return NumberReading{std::nullopt, std::move(why)}; };
-  if (!std::all_of(number.begin(), number.end(), [](char c) { return IsDigit(c) || c == ',' || c == '.'; }))
+  if (!std::all_of(number.begin(), number.end(),
+                   [](char c) { return IsDigit(c) || c == ',' || c == '.'; }))
     return refuse("Non è un numero.");
 
   const auto commas = std::count(number.begin(), number.end(), ',');
@@ -95,8 +100,9 @@ NumberReading ReadNumber(std::string_view text, const NumberLimits& limits) {
   if (whole.empty() && decimals.empty()) return refuse("Non è un numero.");
   decimals.erase(decimals.find_last_not_of('0') + 1);
   if (decimals.size() > static_cast<std::size_t>(limits.decimals))
-    return refuse(limits.decimals == 0 ? "Il numero deve essere intero."
-                                       : "Il numero ha più di " + NumberText(limits.decimals) + " decimali.");
+    return refuse(limits.decimals == 0
+                      ? "Il numero deve essere intero."
+                      : "Il numero ha più di " + NumberText(limits.decimals) + " decimali.");
   const auto value = ParseNumber((negative ? "-0" : "0") + whole + "." + decimals + "0");
   if (!value) return refuse("Il numero è troppo grande.");
   if (*value < limits.least || *value > limits.most)

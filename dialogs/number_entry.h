@@ -11,7 +11,7 @@ namespace orm {
 struct NumberLimits {
   double least = 0;
   double most = 999999999999.0;
-  int decimals = 2;  // 0: whole numbers
+  int decimals = 2;            // 0: whole numbers
   bool trailingZeros = false;  // shown with all its decimals
   std::string unit = {};
   std::string hint = {};

@@ -32,7 +32,8 @@ bool DataReader::AtEnd() { return bytes_.find_first_not_of(" \t\r\n", at_) == st
 
 void DataReader::ExpectEnd() {
   fieldLine_ = line_;
-  if (!AtEnd()) Fail("(fine del file)", "Il file contiene altri dati dopo l'ultimo campo previsto.");
+  if (!AtEnd())
+    Fail("(fine del file)", "Il file contiene altri dati dopo l'ultimo campo previsto.");
 }
 
 // A field ends at a comma or at a line end; a line end is a separator like any other.

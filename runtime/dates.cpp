@@ -22,7 +22,8 @@ std::string Padded(int value, std::size_t width) {
 }  // namespace
 
 bool IsValid(const Date& d) {
-  return d.year >= 1 && d.year <= 9999 && d.month >= 1 && d.month <= 12 && d.day >= 1 && Calendar(d).ok();
+  return d.year >= 1 && d.year <= 9999 && d.month >= 1 && d.month <= 12 && d.day >= 1 &&
+         Calendar(d).ok();
 }
 
 std::string ShortDate(const Date& d) {
@@ -49,7 +50,9 @@ std::optional<Date> ParseDate(std::string_view text) {
   return IsValid(date) ? std::optional(date) : std::nullopt;
 }
 
-long DayNumber(const Date& d) { return std::chrono::sys_days(Calendar(d)).time_since_epoch().count(); }
+long DayNumber(const Date& d) {
+  return std::chrono::sys_days(Calendar(d)).time_since_epoch().count();
+}
 
 Date SystemDate() {
   const std::time_t now = std::time(nullptr);

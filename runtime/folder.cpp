@@ -17,18 +17,27 @@ namespace {
 
 std::string ReasonOf(int error) {
   switch (error) {
-    case ENOENT: return "Il file non esiste.";
+    case ENOENT:
+      return "Il file non esiste.";
     case EACCES:
-    case EPERM: return "Non si ha il permesso di accedere al file o alla cartella di lavoro.";
-    case EROFS: return "Il disco è protetto da scrittura.";
+    case EPERM:
+      return "Non si ha il permesso di accedere al file o alla cartella di lavoro.";
+    case EROFS:
+      return "Il disco è protetto da scrittura.";
     case ENOSPC:
-    case EDQUOT: return "Sul disco non c'è più spazio.";
-    case EFBIG: return "Il file è troppo grande.";
-    case EISDIR: return "Al posto del file c'è una cartella.";
-    case EIO: return "Errore di lettura o scrittura del disco.";
+    case EDQUOT:
+      return "Sul disco non c'è più spazio.";
+    case EFBIG:
+      return "Il file è troppo grande.";
+    case EISDIR:
+      return "Al posto del file c'è una cartella.";
+    case EIO:
+      return "Errore di lettura o scrittura del disco.";
     case EMFILE:
-    case ENFILE: return "Troppi file aperti.";
-    default: return "Errore nell'accesso al file.";
+    case ENFILE:
+      return "Troppi file aperti.";
+    default:
+      return "Errore nell'accesso al file.";
   }
 }
 
@@ -72,7 +81,8 @@ int WriteAll(int fd, std::string_view bytes) {
   return 0;
 }
 
-int WriteWhole(const std::string& path, std::string_view bytes, Durability durability, mode_t mode) {
+int WriteWhole(const std::string& path, std::string_view bytes, Durability durability,
+               mode_t mode) {
   Descriptor file(OpenRetrying(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, mode));
   if (!file.IsOpen()) return errno;
   if (const int error = WriteAll(file.Get(), bytes)) return error;
@@ -87,7 +97,9 @@ int WriteWhole(const std::string& path, std::string_view bytes, Durability durab
 
 WorkFolder::WorkFolder(std::string path) : path_(std::move(path)) {}
 
-std::string WorkFolder::PathOf(std::string_view name) const { return path_ + "/" + std::string(name); }
+std::string WorkFolder::PathOf(std::string_view name) const {
+  return path_ + "/" + std::string(name);
+}
 
 bool WorkFolder::Exists(std::string_view name) const {
   struct stat status {};
@@ -113,7 +125,8 @@ std::string WorkFolder::Read(std::string_view name) const {
   struct stat status {};
   if (::fstat(file.Get(), &status) != 0) Fail(name, errno);
   if (S_ISDIR(status.st_mode)) Fail(name, EISDIR);
-  if (!S_ISREG(status.st_mode)) throw RuntimeFailure("Non è un file di dati.").AtFile(std::string(name));
+  if (!S_ISREG(status.st_mode))
+    throw RuntimeFailure("Non è un file di dati.").AtFile(std::string(name));
   if (static_cast<std::size_t>(status.st_size) > kLargestFile) Fail(name, EFBIG);
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   std::size_t got = 0;
@@ -128,7 +141,8 @@ std::string WorkFolder::Read(std::string_view name) const {
   return bytes;
 }
 
-void WorkFolder::Replace(std::string_view name, std::string_view bytes, Durability durability) const {
+void WorkFolder::Replace(std::string_view name, std::string_view bytes,
+                         Durability durability) const {
   const std::string target = PathOf(name);
   // One name beside each file: a leftover of a killed program is overwritten by the next save.
   const std::string beside = target + ".tmp";

@@ -18,9 +18,9 @@ struct Digits {
 
 Digits Decompose(double value) {
   char buffer[64];
-  const auto end =
-      std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific, 14)
-          .ptr;
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value),
+                                 std::chars_format::scientific, 14)
+                       .ptr;
   const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
   const auto e = text.find('e');
   Digits out;
@@ -64,12 +64,13 @@ Rounded RoundDigits(double value, int decimals) {
 }
 
 void RequireFinite(double value) {
-  if (!std::isfinite(value)) throw RuntimeFailure("Il risultato non è un numero finito (overflow).");
+  if (!std::isfinite(value))
+    throw RuntimeFailure("Il risultato non è un numero finito (overflow).");
 }
 
 [[noreturn]] void Overflow(int bits) {
-  throw RuntimeFailure("Il numero supera il limite di un intero a " + std::string(bits == 16 ? "16" : "32") +
-                       " bit (overflow).");
+  throw RuntimeFailure("Il numero supera il limite di un intero a " +
+                       std::string(bits == 16 ? "16" : "32") + " bit (overflow).");
 }
 
 }  // namespace
@@ -87,8 +88,10 @@ std::string NumberText(double value) {
     const std::string number = NumberText(std::abs(exponent));
     return out + (exponent < 0 ? "E-" : "E+") + (number.size() < 2 ? "0" : "") + number;
   }
-  if (d.point <= 0) return out + "0." + std::string(static_cast<std::size_t>(-d.point), '0') + d.digits;
-  if (d.point >= size) return out + d.digits + std::string(static_cast<std::size_t>(d.point - size), '0');
+  if (d.point <= 0)
+    return out + "0." + std::string(static_cast<std::size_t>(-d.point), '0') + d.digits;
+  if (d.point >= size)
+    return out + d.digits + std::string(static_cast<std::size_t>(d.point - size), '0');
   const auto split = static_cast<std::size_t>(d.point);
   return out + d.digits.substr(0, split) + "." + d.digits.substr(split);
 }
@@ -101,13 +104,15 @@ std::string BareNumber(double value) {
 
 std::optional<double> ParseNumber(std::string_view text) {
   if (!text.empty() && text[0] == '+') text.remove_prefix(1);
-  const bool starts = !text.empty() && (text[0] == '-' || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
+  const bool starts =
+      !text.empty() && (text[0] == '-' || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
   if (!starts) return std::nullopt;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   const bool whole = end == text.data() + text.size();
   // Below the least double the text is still a number, and counts as zero.
-  if (error == std::errc::result_out_of_range && whole && text.find_first_of("eE") != std::string_view::npos &&
+  if (error == std::errc::result_out_of_range && whole &&
+      text.find_first_of("eE") != std::string_view::npos &&
       text.find("E-") != std::string_view::npos)
     return 0.0;
   if (error != std::errc() || !whole || !std::isfinite(value)) return std::nullopt;
@@ -129,7 +134,8 @@ std::int32_t CheckedInt32(double value) {
 
 std::int32_t CheckedProduct32(std::int64_t a, std::int64_t b) {
   std::int64_t product = 0;
-  if (__builtin_mul_overflow(a, b, &product) || product > std::numeric_limits<std::int32_t>::max() ||
+  if (__builtin_mul_overflow(a, b, &product) ||
+      product > std::numeric_limits<std::int32_t>::max() ||
       product < std::numeric_limits<std::int32_t>::min())
     Overflow(32);
   return static_cast<std::int32_t>(product);
@@ -139,15 +145,18 @@ std::string FormatPattern(double value, std::string_view pattern) {
   RequireFinite(value);
   const auto point = pattern.find('.');
   const std::string_view wholePattern = pattern.substr(0, point);
-  const std::string_view decimalPattern = point == std::string_view::npos ? "" : pattern.substr(point + 1);
+  const std::string_view decimalPattern =
+      point == std::string_view::npos ? "" : pattern.substr(point + 1);
   Rounded r = RoundDigits(value, static_cast<int>(decimalPattern.size()));
 
-  const auto least = static_cast<std::size_t>(std::count(wholePattern.begin(), wholePattern.end(), '0'));
+  const auto least =
+      static_cast<std::size_t>(std::count(wholePattern.begin(), wholePattern.end(), '0'));
   if (r.whole.size() < least) r.whole.insert(0, least - r.whole.size(), '0');
   if (wholePattern.find(',') != std::string_view::npos)
     for (auto i = static_cast<int>(r.whole.size()) - 3; i > 0; i -= 3)
       r.whole.insert(static_cast<std::size_t>(i), ".");
-  while (!r.decimals.empty() && r.decimals.back() == '0' && decimalPattern[r.decimals.size() - 1] == '#')
+  while (!r.decimals.empty() && r.decimals.back() == '0' &&
+         decimalPattern[r.decimals.size() - 1] == '#')
     r.decimals.pop_back();
 
   const bool zero = r.whole.find_first_not_of("0.") == std::string::npos &&

@@ -130,10 +130,12 @@ std::string FromWindows1252(std::string_view bytes) {
   out.reserve(bytes.size() + bytes.size() / 8);
   for (const char raw : bytes) {
     const auto byte = static_cast<unsigned char>(raw);
-    const bool control = (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
+    const bool control =
+        (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
     const char32_t c = byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte;
     if (control || c == 0)
-      throw RuntimeFailure("Il file contiene caratteri che non sono testo (file binario o danneggiato).");
+      throw RuntimeFailure(
+          "Il file contiene caratteri che non sono testo (file binario o danneggiato).");
     AppendCharacter(out, c);
   }
   return out;

@@ -40,7 +40,9 @@ class PlainPlayer : public Player {
   void StartProgram(const std::string& program, const std::string& argument) override {
     actor_.MeetProgramStart(program, argument);
   }
-  bool ProgramExists(const std::string& path) override { return ScriptProgramExists(path, folder_); }
+  bool ProgramExists(const std::string& path) override {
+    return ScriptProgramExists(path, folder_);
+  }
   OutsidePrograms DefaultPrograms() override { return ScriptPrograms(); }
   ScreenSize Screen() override { return actor_.Screen(); }
   Date Today() override { return actor_.Today(); }

@@ -13,7 +13,8 @@ class FreshFolder {
  public:
   FreshFolder() {
     std::string pattern = (std::filesystem::temp_directory_path() / "orm2002-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) throw RuntimeFailure("Non si può creare una cartella di lavoro.");
+    if (::mkdtemp(pattern.data()) == nullptr)
+      throw RuntimeFailure("Non si può creare una cartella di lavoro.");
     path_ = pattern;
   }
   ~FreshFolder() {
@@ -28,7 +29,8 @@ class FreshFolder {
   std::string path_;
 };
 
-std::optional<Mismatch> RunOne(const std::string& path, const StageBuilder& build, const ScriptOptions& options) {
+std::optional<Mismatch> RunOne(const std::string& path, const StageBuilder& build,
+                               const ScriptOptions& options) {
   try {
     const std::filesystem::path script(path);
     const std::string home = script.has_parent_path() ? script.parent_path().string() : ".";
@@ -46,8 +48,8 @@ std::optional<Mismatch> RunOne(const std::string& path, const StageBuilder& buil
 
 }  // namespace
 
-int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build, const ScriptOptions& options,
-               std::ostream& output) {
+int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build,
+               const ScriptOptions& options, std::ostream& output) {
   std::size_t held = 0;
   for (const std::string& path : paths) {
     if (const auto mismatch = RunOne(path, build, options))

@@ -11,7 +11,7 @@ namespace orm {
 
 // Prints each mismatch with script and line, and at the end how many held. Returns the exit code:
 // 0 all held, 1 a mismatch.
-int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build, const ScriptOptions& options,
-               std::ostream& output);
+int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build,
+               const ScriptOptions& options, std::ostream& output);
 
 }  // namespace orm

@@ -43,7 +43,8 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
     const std::string left = i < a.size() ? a[i] : "(fine)";
     const std::string right = i < b.size() ? b[i] : "(fine)";
     if (left != right)
-      return "riga " + NumberText(static_cast<double>(i + 1)) + "\n  atteso  : " + left + "\n  ottenuto: " + right;
+      return "riga " + NumberText(static_cast<double>(i + 1)) + "\n  atteso  : " + left +
+             "\n  ottenuto: " + right;
   }
   return "le righe sono uguali, non i fine riga";
 }
@@ -58,18 +59,22 @@ std::optional<Answer> AnswerOf(const std::string& word) {
 
 bool Offers(MessageBox::Buttons buttons, Answer answer) {
   switch (buttons) {
-    case MessageBox::Buttons::Ok: return answer == Answer::Ok;
-    case MessageBox::Buttons::OkCancel: return answer == Answer::Ok || answer == Answer::Cancel;
-    case MessageBox::Buttons::YesNo: return answer == Answer::Yes || answer == Answer::No;
-    case MessageBox::Buttons::YesNoCancel: return answer != Answer::Ok;
+    case MessageBox::Buttons::Ok:
+      return answer == Answer::Ok;
+    case MessageBox::Buttons::OkCancel:
+      return answer == Answer::Ok || answer == Answer::Cancel;
+    case MessageBox::Buttons::YesNo:
+      return answer == Answer::Yes || answer == Answer::No;
+    case MessageBox::Buttons::YesNoCancel:
+      return answer != Answer::Ok;
   }
   return false;
 }
 
 }  // namespace
 
-ScriptPlayer::ScriptPlayer(std::vector<Statement> script, WorkFolder scriptFolder, WorkFolder folder,
-                           ScriptOptions options)
+ScriptPlayer::ScriptPlayer(std::vector<Statement> script, WorkFolder scriptFolder,
+                           WorkFolder folder, ScriptOptions options)
     : script_(std::move(script)),
       scriptFolder_(std::move(scriptFolder)),
       folder_(std::move(folder)),
@@ -79,7 +84,9 @@ void ScriptPlayer::Fail(int line, std::string text) {
   if (!mismatch_) mismatch_ = Mismatch{line, std::move(text)};
 }
 
-const Statement* ScriptPlayer::Next() const { return at_ < script_.size() ? &script_[at_] : nullptr; }
+const Statement* ScriptPlayer::Next() const {
+  return at_ < script_.size() ? &script_[at_] : nullptr;
+}
 
 int ScriptPlayer::Line() const {
   if (script_.empty()) return 0;
@@ -148,7 +155,8 @@ bool ScriptPlayer::PlayAnywhere(const Statement& s) {
     folder_.Replace(w.size() == 4 ? w[3].text : w[1].text, scriptFolder_.Read(w[1].text));
   } else if (verb == "write") {
     std::string bytes;
-    for (const char c : ToWindows1252(w[2].text)) bytes += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    for (const char c : ToWindows1252(w[2].text))
+      bytes += c == '\n' ? std::string("\r\n") : std::string(1, c);
     folder_.Replace(w[1].text, bytes);
   } else if (verb == "remove") {
     folder_.Remove(w[1].text);
@@ -250,7 +258,8 @@ void ScriptPlayer::PlayInForm(const Statement& s, Form& form, FormHand& hand) {
 
 Control* ScriptPlayer::Find(const Statement& s, Form& form) {
   Control* control = form.Find(s.words[1].text);
-  if (control == nullptr) Fail(s.line, "la finestra " + form.Name() + " non ha il controllo " + s.words[1].text);
+  if (control == nullptr)
+    Fail(s.line, "la finestra " + form.Name() + " non ha il controllo " + s.words[1].text);
   return control;
 }
 
@@ -301,11 +310,12 @@ void ScriptPlayer::Show(const Statement& s, Form& form, FormHand& hand) {
     return;
   }
   for (Control* control : form.Controls())
-    if (hand.IsVisible(*control)) *options_.output << control->Name() << "=" << hand.Shown(*control) << "\n";
+    if (hand.IsVisible(*control))
+      *options_.output << control->Name() << "=" << hand.Shown(*control) << "\n";
 }
 
 Answer ScriptPlayer::MeetMessage(const MessageBox& box) {
-  const Answer leave = box.buttons == MessageBox::Buttons::Ok ? Answer::Ok
+  const Answer leave = box.buttons == MessageBox::Buttons::Ok      ? Answer::Ok
                        : box.buttons == MessageBox::Buttons::YesNo ? Answer::No
                                                                    : Answer::Cancel;
   if (mismatch_) return leave;
@@ -330,7 +340,8 @@ Answer ScriptPlayer::MeetMessage(const MessageBox& box) {
     return leave;
   }
   const auto answer = AnswerOf(w[3].text);
-  if (!answer || !Offers(box.buttons, *answer)) Fail(next->line, "il messaggio non ha la risposta " + w[3].text);
+  if (!answer || !Offers(box.buttons, *answer))
+    Fail(next->line, "il messaggio non ha la risposta " + w[3].text);
   return answer.value_or(leave);
 }
 

@@ -15,7 +15,7 @@
 namespace orm {
 
 struct ScriptOptions {
-  bool update = false;  // rewrite the expected files instead of comparing
+  bool update = false;             // rewrite the expected files instead of comparing
   std::ostream* output = nullptr;  // where `show` prints
 };
 

@@ -1,4 +1,5 @@
-// Where a script is played: by the plain player, without a screen, or on the widgets of the desktop.
+// Where a script is played: by the plain player, without a screen, or on the widgets of the
+// desktop.
 #pragma once
 
 #include <functional>

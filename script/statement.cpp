@@ -13,12 +13,14 @@ struct Grammar {
 };
 
 constexpr std::array kGrammar = {
-    Grammar{"today", 1, 1},   Grammar{"screen", 2, 2},  Grammar{"copy", 1, 3},    Grammar{"write", 2, 2},
-    Grammar{"remove", 1, 1},  Grammar{"start", 0, 0},   Grammar{"menu", 1, 1},    Grammar{"dialog", 1, 1},
-    Grammar{"set", 2, 2},     Grammar{"press", 1, 1},   Grammar{"close", 0, 0},   Grammar{"expect", 2, 2},
-    Grammar{"show", 1, 1},    Grammar{"message", 2, 3}, Grammar{"failure", 1, 1}, Grammar{"starts", 2, 2},
-    Grammar{"drawing", 2, 2}, Grammar{"compare", 1, 3}, Grammar{"same", 1, 1},    Grammar{"absent", 1, 1},
-    Grammar{"picture", 1, 1}, Grammar{"file", 1, 1}};
+    Grammar{"today", 1, 1},  Grammar{"screen", 2, 2},  Grammar{"copy", 1, 3},
+    Grammar{"write", 2, 2},  Grammar{"remove", 1, 1},  Grammar{"start", 0, 0},
+    Grammar{"menu", 1, 1},   Grammar{"dialog", 1, 1},  Grammar{"set", 2, 2},
+    Grammar{"press", 1, 1},  Grammar{"close", 0, 0},   Grammar{"expect", 2, 2},
+    Grammar{"show", 1, 1},   Grammar{"message", 2, 3}, Grammar{"failure", 1, 1},
+    Grammar{"starts", 2, 2}, Grammar{"drawing", 2, 2}, Grammar{"compare", 1, 3},
+    Grammar{"same", 1, 1},   Grammar{"absent", 1, 1},  Grammar{"picture", 1, 1},
+    Grammar{"file", 1, 1}};
 
 Word QuotedWord(std::string_view line, std::size_t& at, int number) {
   Word word{{}, true};
@@ -54,7 +56,8 @@ std::vector<Word> Words(std::string_view line, int number) {
 void Check(const Statement& statement) {
   const auto rule = std::find_if(kGrammar.begin(), kGrammar.end(),
                                  [&](const Grammar& g) { return g.verb == statement.Verb(); });
-  if (rule == kGrammar.end()) throw Mismatch{statement.line, "istruzione sconosciuta: " + statement.Verb()};
+  if (rule == kGrammar.end())
+    throw Mismatch{statement.line, "istruzione sconosciuta: " + statement.Verb()};
   const std::size_t arguments = statement.words.size() - 1;
   if (arguments < rule->least || arguments > rule->most)
     throw Mismatch{statement.line, "numero di argomenti errato per " + statement.Verb()};

@@ -54,8 +54,9 @@ constexpr std::array kCommands = {
     Command{"CONFIG_GEO", EditConfiguration<kGeo>},
     Command{"PERS_UTENTE", Show<FrmPerUtente>},
     Command{"PERS_CRITERI", ShowCriteria},
-    Command{"PERS_EDITMEMO",
-            [](RunState& stato) { stato.player.StartProgram(stato.editors.EditorTesti, "MEMO.RTF"); }},
+    Command{
+        "PERS_EDITMEMO",
+        [](RunState& stato) { stato.player.StartProgram(stato.editors.EditorTesti, "MEMO.RTF"); }},
     Command{"Informa_Informazioni", ShowInformation},
 };
 
@@ -80,7 +81,8 @@ CaseCommand FindCaseCommand(std::string_view name) {
     const std::string_view ending = name.substr(std::string_view(fee.stem).size());
     for (const bool euro : {false, true})
       for (const bool input : {true, false})
-        if (ending == std::string(euro ? "_E" : "") + (input ? "_ID" : "_VS")) return {&fee, input, euro};
+        if (ending == std::string(euro ? "_E" : "") + (input ? "_ID" : "_VS"))
+          return {&fee, input, euro};
   }
   return {};
 }

@@ -9,19 +9,22 @@
 namespace orm {
 namespace {
 
-constexpr std::array<const char*, 4> kTipi = {"CALCOLATA", "ASSEGNATA", "CALABRIA", "NUOVA TARIFFA"};
+constexpr std::array<const char*, 4> kTipi = {"CALCOLATA", "ASSEGNATA", "CALABRIA",
+                                              "NUOVA TARIFFA"};
 constexpr std::array<const char*, 3> kResidenze = {"FUORIREGIONE", "OLTRE100KM", "ENTRO100KM"};
 constexpr std::array<const char*, 2> kDirezioni = {"UNITE", "SEPARATE"};
 
 template <std::size_t N>
-void Choose(OptionGroup& group, const std::array<const char*, N>& values, const std::string& value) {
+void Choose(OptionGroup& group, const std::array<const char*, N>& values,
+            const std::string& value) {
   group.Choose(static_cast<int>(std::find(values.begin(), values.end(), value) - values.begin()));
 }
 
 // The value of the chosen option; with a stored value of none of them no option is set, and the
 // value is kept.
 template <std::size_t N>
-std::string Chosen(const OptionGroup& group, const std::array<const char*, N>& values, const std::string& kept) {
+std::string Chosen(const OptionGroup& group, const std::array<const char*, N>& values,
+                   const std::string& kept) {
   return group.Chosen() < 0 ? kept : values[static_cast<std::size_t>(group.Chosen())];
 }
 
@@ -36,9 +39,11 @@ const NumberLimits kPercento{.most = 100, .decimals = 2, .unit = "%"};
 FrmPerCriteri::FrmPerCriteri(RunState& stato)
     : Form("frmPER_Criteri", "CRITERI"),
       fraCompensi(*this, "fraCompensi", "PERCENTUALE COMPENSI ACCESSORI"),
-      Option1(*this, "Option1", "CALCOLATA  secondo FILE PERSONALIZZATO ( es. criterio CASMEZ)", tipoPercentuale),
+      Option1(*this, "Option1", "CALCOLATA  secondo FILE PERSONALIZZATO ( es. criterio CASMEZ)",
+              tipoPercentuale),
       Option2(*this, "Option2", "ASSEGNATA per CONVENZIONE", tipoPercentuale),
-      Option3(*this, "Option3", "CRITERIO REGIONE CALABRIA PER ONORARI COLLAUDI TECNICI ED AMMINISTRATIVI",
+      Option3(*this, "Option3",
+              "CRITERIO REGIONE CALABRIA PER ONORARI COLLAUDI TECNICI ED AMMINISTRATIVI",
               tipoPercentuale),
       Option13(*this, "Option13", "CALCOLATA secondo D.M. 4-4-01", tipoPercentuale),
       fraPercentuale(*this, "fraPercentuale", "PERCENTUALE PER COMPENSI ACCESSORI"),
@@ -55,13 +60,15 @@ FrmPerCriteri::FrmPerCriteri(RunState& stato)
       casellainteri1(*this, "casellainteri1", "Tabelle A, C, F e similari", kDecimali),
       casellainteri2(*this, "casellainteri2", "Compensi Accessori", kDecimali),
       fraCompensiSu(*this, "fraCompensiSu", "COMPENSI ACCESSORI SU"),
-      chkCA{{{*this, "chkCA(0)", "SORVEGLIANZA"}, {*this, "chkCA(1)", "MAGGIORAZIONE INCARICO PARZIALE"}}},
+      chkCA{{{*this, "chkCA(0)", "SORVEGLIANZA"},
+             {*this, "chkCA(1)", "MAGGIORAZIONE INCARICO PARZIALE"}}},
       fraParere(*this, "fraParere", "PARERE CONGRUITÀ ORDINE PROFESSIONALE"),
       chkStampaParere(*this, "chkStampaParere", "Stampa "),
       cdQuotaFissa(*this, "cdQuotaFissa", "Quota fissa ( € )",
                    {.most = 999999.99, .decimals = 2, .trailingZeros = true}),
       cdQuotaPercentuale(*this, "cdQuotaPercentuale", "Quota Percent.", kPercento),
-      tboxPresidente(*this, "tboxPresidente", "Presidente dell'Ordine", {.longest = 50, .width = 28}),
+      tboxPresidente(*this, "tboxPresidente", "Presidente dell'Ordine",
+                     {.longest = 50, .width = 28}),
       fraSpese(*this, "fraSpese", "SPESE AGGIUNTIVE PER IL COMMITTENTE"),
       chkAggiuntive(*this, "chkAggiuntive", "Stampa "),
       chkSpese{{{*this, "chkSpese(0)", "Contr. INARCASSA "},
@@ -75,18 +82,19 @@ FrmPerCriteri::FrmPerCriteri(RunState& stato)
       stato_(stato) {
   casellainteri1.SetUnit("0 per criterio automatico");
   casellainteri2.SetUnit("0 per criterio automatico");
-  SetContent(Column(
-      {Group(fraCompensi, {Option1, Option2, Option3, Option13}),
-       Row({Column({Group(fraPercentuale, {Percentualecompensi}),
-                    Group(fraDirezione, {Row({Option4, Option5})}),
-                    Group(fraCompensiSu, {Row({chkCA[0], chkCA[1]})})}),
-            Column({Group(fraResidenza, {Row({Option6, Option7, Option8})}),
-                    Group(fraDecimali, {Fields({casellainteri1, casellainteri2})})})}),
-       Row({Group(fraParere, {chkStampaParere, Fields({cdQuotaFissa, cdQuotaPercentuale, tboxPresidente})}),
-            Group(fraSpese, {chkAggiuntive, Row({chkSpese[0], cdPercentualeAggiuntive[0]}),
-                             Row({chkSpese[1], cdPercentualeAggiuntive[1]}),
-                             Row({chkSpese[2], cdPercentualeAggiuntive[2]}), chkSpese[3]})}),
-       Buttons({btnOK})}));
+  SetContent(
+      Column({Group(fraCompensi, {Option1, Option2, Option3, Option13}),
+              Row({Column({Group(fraPercentuale, {Percentualecompensi}),
+                           Group(fraDirezione, {Row({Option4, Option5})}),
+                           Group(fraCompensiSu, {Row({chkCA[0], chkCA[1]})})}),
+                   Column({Group(fraResidenza, {Row({Option6, Option7, Option8})}),
+                           Group(fraDecimali, {Fields({casellainteri1, casellainteri2})})})}),
+              Row({Group(fraParere, {chkStampaParere,
+                                     Fields({cdQuotaFissa, cdQuotaPercentuale, tboxPresidente})}),
+                   Group(fraSpese, {chkAggiuntive, Row({chkSpese[0], cdPercentualeAggiuntive[0]}),
+                                    Row({chkSpese[1], cdPercentualeAggiuntive[1]}),
+                                    Row({chkSpese[2], cdPercentualeAggiuntive[2]}), chkSpese[3]})}),
+              Buttons({btnOK})}));
   Option2.onChange = Option3.onChange = [this] { EnableGroups(); };
   Show(stato.criteri);
   EnableGroups();
@@ -143,7 +151,8 @@ void FrmPerCriteri::Show(const Criteri& c) {
 
 Criteri FrmPerCriteri::Taken() const {
   Criteri c;
-  c.TipoPercentualeCompensi = Chosen(tipoPercentuale, kTipi, stato_.criteri.TipoPercentualeCompensi);
+  c.TipoPercentualeCompensi =
+      Chosen(tipoPercentuale, kTipi, stato_.criteri.TipoPercentualeCompensi);
   c.ResidenzaCollaudatore = Chosen(residenza, kResidenze, stato_.criteri.ResidenzaCollaudatore);
   c.AliquoteDirezioneLavori = Chosen(direzione, kDirezioni, stato_.criteri.AliquoteDirezioneLavori);
   c.PercCompensiAssegnata = Percentualecompensi.Value();

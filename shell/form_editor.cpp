@@ -19,11 +19,14 @@ bool EditorPresenti(RunState& stato, const Editors& editors) {
 FrmPerEditor::FrmPerEditor(RunState& stato)
     : Form("frmPER_Editor", "SCELTA DEI PROGRAMMI CON CUI INTERFACCIARE LA PROCEDURA"),
       Label4(*this, "Label4", "Fornire i percorsi completi dei programmi da utilizzare"),
-      casellatesto1(*this, "casellatesto1", "PROGRAMMA per VISUALIZZAZIONE e STAMPA delle PARCELLE", kPath),
+      casellatesto1(*this, "casellatesto1", "PROGRAMMA per VISUALIZZAZIONE e STAMPA delle PARCELLE",
+                    kPath),
       cmdCerca1(*this, "cmdCerca(0)", "Cerca..."),
-      casellatesto2(*this, "casellatesto2", "PROGRAMMA per EDITARE i file  ASCII di Configurazione", kPath),
+      casellatesto2(*this, "casellatesto2", "PROGRAMMA per EDITARE i file  ASCII di Configurazione",
+                    kPath),
       cmdCerca2(*this, "cmdCerca(1)", "Cerca..."),
-      CasellaTesto3(*this, "CasellaTesto3", "PROGRAMMA per VISUALIZZARE i file PDF (Acrobat Reader)", kPath),
+      CasellaTesto3(*this, "CasellaTesto3",
+                    "PROGRAMMA per VISUALIZZARE i file PDF (Acrobat Reader)", kPath),
       cmdCerca3(*this, "cmdCerca(2)", "Cerca..."),
       Label3(*this, "Label3", "", Label::Style::Warning),
       cmdOK(*this, "cmdOK", "&O.K.", Button::Role::Default),
@@ -55,8 +58,9 @@ void FrmPerEditor::TellMissing() {
   const bool configurazione = stato_.player.ProgramExists(casellatesto2.Text());
   std::string text;
   if (!testi && !configurazione) {
-    text = "I PROGRAMMI NON SONO RINTRACCIABILI NELLE POSIZIONI INDICATE\n"
-           "DARE I NOMI ED I PERCORSI ESATTI\noppure premi per ognuno CERCA...";
+    text =
+        "I PROGRAMMI NON SONO RINTRACCIABILI NELLE POSIZIONI INDICATE\n"
+        "DARE I NOMI ED I PERCORSI ESATTI\noppure premi per ognuno CERCA...";
   } else if (!testi || !configurazione) {
     text = std::string(testi ? "IL PROGRAMMA DI EDITOR" : "IL PROGRAMMA DI WORD PROCESSOR") +
            " PROPOSTO NON È RINTRACCIABILE NELLA POSIZIONE INDICATA\n"
@@ -70,7 +74,8 @@ void FrmPerEditor::Confirm() {
   const Editors taken = Taken();
   if (!EditorPresenti(stato_, taken)) {
     stato_.player.Ask(
-        Avviso("UNO o ENTRAMBI I PROGRAMMI PROPOSTI COME EDITOR NON SONO RINTRACCIABILI NELLA POSIZIONE INDICATA.\n"
+        Avviso("UNO o ENTRAMBI I PROGRAMMI PROPOSTI COME EDITOR NON SONO RINTRACCIABILI NELLA "
+               "POSIZIONE INDICATA.\n"
                "DARE IL NOME ED IL PERCORSO ESATTO."));
     return;
   }

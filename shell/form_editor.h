@@ -8,7 +8,8 @@
 
 namespace orm {
 
-// Whether the programs that show reports and edit configuration files are where they are said to be.
+// Whether the programs that show reports and edit configuration files are where they are said to
+// be.
 bool EditorPresenti(RunState& stato, const Editors& editors);
 
 class FrmPerEditor : public Form {

@@ -44,7 +44,8 @@ FrmPerUtente::FrmPerUtente(RunState& stato)
       casellatesto([this] {
         std::deque<TestoBox> boxes;
         for (const Entry& entry : kEntries)
-          boxes.emplace_back(*this, entry.name, entry.caption, TextOptions{.longest = 60, .width = entry.width});
+          boxes.emplace_back(*this, entry.name, entry.caption,
+                             TextOptions{.longest = 60, .width = entry.width});
         return boxes;
       }()),
       Frame1(*this, "Frame1"),
@@ -54,13 +55,15 @@ FrmPerUtente::FrmPerUtente(RunState& stato)
   SetContent(Column({Layout(Layout::Kind::Fields, nullptr, Items(casellatesto)),
                      Group(Frame1, {Row({Option1, option2})}), Buttons({Command1})}));
   const DatiProfessionista dati = LeggiDatiProfessionista(stato.folder);
-  for (std::size_t i = 0; i < kEntries.size(); ++i) casellatesto[i].SetText(dati.*kEntries[i].value);
+  for (std::size_t i = 0; i < kEntries.size(); ++i)
+    casellatesto[i].SetText(dati.*kEntries[i].value);
   // A profession of another first letter counts as Ingegnere.
   professione.Choose(dati.Professione.starts_with('A') ? 1 : 0);
   Command1.onPress = [this, &stato] {
     TryAndStay(stato.player, [&] {
       DatiProfessionista taken;
-      for (std::size_t i = 0; i < kEntries.size(); ++i) taken.*kEntries[i].value = casellatesto[i].Text();
+      for (std::size_t i = 0; i < kEntries.size(); ++i)
+        taken.*kEntries[i].value = casellatesto[i].Text();
       taken.Professione = option2.Value() ? "Architetto" : "Ingegnere";
       ScriviDatiProfessionista(stato.folder, taken);
       Close();

@@ -10,7 +10,8 @@ MenuItem Separator() { return {"", ""}; }
 std::string InCurrency(std::string caption, bool lire) {
   static const std::string kLira = "£";
   if (!lire)
-    if (const auto at = caption.find(kLira); at != std::string::npos) caption.replace(at, kLira.size(), "€");
+    if (const auto at = caption.find(kLira); at != std::string::npos)
+      caption.replace(at, kLira.size(), "€");
   return caption;
 }
 
@@ -38,11 +39,13 @@ std::vector<MenuItem> CaseEntries(bool lire) {
 }
 
 MenuItem Configuration() {
-  return {"CONF", "CONFIGURAZIONE",
+  return {"CONF",
+          "CONFIGURAZIONE",
           {{"CONF_EDITOR", "SCELTA DEGLI EDITOR"},
            Separator(),
            {"CONF_NOTA", "Nota sui File di Configurazione"},
-           {"CONF_FILE", "I FILE di CONFIGURAZIONE",
+           {"CONF_FILE",
+            "I FILE di CONFIGURAZIONE",
             {{"CONFIG_COMPACCES", "Compensi Accessori"},
              {"CONFIG_TUS", "Tasso Ufficiale di Sconto"},
              {"CONFIG_CS1", "Collaudo Statico con tabelle Revisione Calcoli ante D.M 4-4-01"},
@@ -52,7 +55,8 @@ MenuItem Configuration() {
 }
 
 MenuItem Personalisation() {
-  return {"PERS", "PERSONALIZZAZIONE",
+  return {"PERS",
+          "PERSONALIZZAZIONE",
           {{"PERS_UTENTE", "DATI DEL PROFESSIONISTA"},
            Separator(),
            {"PERS_CRITERI", "CRITERI DI CALCOLO"},
@@ -61,11 +65,14 @@ MenuItem Personalisation() {
 }
 
 MenuItem Utilities() {
-  return {kMenuUtilita, "UTILITA'",
+  return {kMenuUtilita,
+          "UTILITA'",
           {{"UTIL_CALCOLATRICE", "CALCOLATRICE - CONVERTITORE "},
            Separator(),
-           {"UTIL_LETTERA", "LETTERA TRASMISSIONE ORDINE",
-            {{"UTIL_LETTERA_ID", "Introduzione Dati "}, {"UTIL_LETTERA_VS", "Visualizzazione e Stampa "}}},
+           {"UTIL_LETTERA",
+            "LETTERA TRASMISSIONE ORDINE",
+            {{"UTIL_LETTERA_ID", "Introduzione Dati "},
+             {"UTIL_LETTERA_VS", "Visualizzazione e Stampa "}}},
            Separator(),
            {"UTIL_PERC_COMBO", "PERCENTUALI a video "},
            Separator(),
@@ -78,19 +85,23 @@ MenuItem Utilities() {
 }
 
 MenuItem Gadgets() {
-  return {"GADGETS", "GADGET",
-          {{"VERIFICHE_SEZIONI", "VERIFICHE SEZIONI in c.a.",
+  return {"GADGETS",
+          "GADGET",
+          {{"VERIFICHE_SEZIONI",
+            "VERIFICHE SEZIONI in c.a.",
             {{"VER_ST1", "a FLESSIONE sez. Rett., a T e doppia T(armatura pluristrato)"},
              {"ver_SC1", "a FLESSIONE sez CIRC. e ANULARI"}}},
            {"ELEMENTIPIETRA", "STRUTTURE in PIETRA", {{"VER_BALCONE", "BALCONE in PIETRA"}}},
-           {"SOLAI", "SOLAI",
+           {"SOLAI",
+            "SOLAI",
             {{"VER_SOLAIO_T", "A TRALICCIO (MONOCAMPATA)"},
              {"VER_SOLAIO_P", "A PUTRELLE E TAVELLONI"},
              {"VER_SBALZI_P", "sbalzi A PUTRELLE E TAVELLONI"}}}}};
 }
 
 MenuItem Help() {
-  return {"INFORMA", "AIUTO",
+  return {"INFORMA",
+          "AIUTO",
           {{"INFORMA_Avvertenze", "NOTE OPERATIVE"},
            {"INFORMA_Note", "MEMO"},
            {"INFORMA_Norme", "NORME TARIFFARIE"},
@@ -98,7 +109,8 @@ MenuItem Help() {
            Separator(),
            {"INFORMA_MANUALE", "MANUALE ORM2002"},
            Separator(),
-           {"INFORMA_GADGETS", "NOTE TECNICHE SUI GADGETS",
+           {"INFORMA_GADGETS",
+            "NOTE TECNICHE SUI GADGETS",
             {{"INFORMA_BALCONI", "BALCONI IN PIETRA"}, {"INFORMA_SOLAIT", "SOLAI A TRALICCIO"}}},
            Separator(),
            {"Informa_Informazioni", "INFORMAZIONI su ORM2002"}}};

@@ -45,8 +45,8 @@ void ScriviRedditiIniziali(const WorkFolder& folder) {
   std::string iscrizione = "01/01/1979";
   std::string sesso = "M";
   std::int16_t zero = 0;
-  file.Line(Field("data di nascita", nascita), Field("data di iscrizione", iscrizione), Field("sesso", sesso),
-            Field("condizione", zero));
+  file.Line(Field("data di nascita", nascita), Field("data di iscrizione", iscrizione),
+            Field("sesso", sesso), Field("condizione", zero));
   for (int i = 0; i < 17; ++i) file.Line(Field("reddito", zero));
   file.Replace(folder, kFileRedditi);
 }

@@ -14,22 +14,25 @@ void CampiCriteri(Archive& file, Criteri& c) {
             Field("AliquoteDirezioneLavori", c.AliquoteDirezioneLavori),
             Field("ResidenzaCollaudatore", c.ResidenzaCollaudatore),
             Field("PercCompensiAssegnata", c.PercCompensiAssegnata));
-  file.Line(Field("DecimaliTabelle", c.DecimaliTabelle), Field("DecimaliCompensi", c.DecimaliCompensi),
+  file.Line(Field("DecimaliTabelle", c.DecimaliTabelle),
+            Field("DecimaliCompensi", c.DecimaliCompensi),
             Field("CompensiSuSorveglianza", c.CompensiSuSorveglianza),
             Field("CompensiSuMaggiorazione", c.CompensiSuMaggiorazione));
   file.Line(Field("StampaParere", c.StampaParere), Field("QuotaFissaParere", c.QuotaFissaParere),
             Field("QuotaPercentualeParere", c.QuotaPercentualeParere),
             Field("PresidenteOrdine", c.PresidenteOrdine));
-  file.Line(Field("StampaSpeseAggiuntive", c.StampaSpeseAggiuntive), Field("SpesaInarcassa", c.SpesaInarcassa),
-            Field("SpesaInps", c.SpesaInps), Field("SpesaIva", c.SpesaIva),
-            Field("SpesaTassaParere", c.SpesaTassaParere), Field("PercInarcassa", c.PercInarcassa),
-            Field("PercInps", c.PercInps), Field("PercIva", c.PercIva));
+  file.Line(Field("StampaSpeseAggiuntive", c.StampaSpeseAggiuntive),
+            Field("SpesaInarcassa", c.SpesaInarcassa), Field("SpesaInps", c.SpesaInps),
+            Field("SpesaIva", c.SpesaIva), Field("SpesaTassaParere", c.SpesaTassaParere),
+            Field("PercInarcassa", c.PercInarcassa), Field("PercInps", c.PercInps),
+            Field("PercIva", c.PercIva));
 }
 
 // EDITOR.PER, one line.
 template <class Archive>
 void CampiEditors(Archive& file, Editors& e) {
-  file.Line(Field("EditorTesti", e.EditorTesti), Field("EditorConfigurazione", e.EditorConfigurazione),
+  file.Line(Field("EditorTesti", e.EditorTesti),
+            Field("EditorConfigurazione", e.EditorConfigurazione),
             Field("LettorePdf", e.LettorePdf));
 }
 

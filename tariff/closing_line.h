@@ -11,7 +11,8 @@ namespace orm {
 template <class Archive>
 void CampiChiusura(Archive& file, Chiusura& c) {
   file.Line(Field("PercDiRiduzione", c.PercDiRiduzione), Field("Acconti", c.Acconti),
-            Field("TipoRiduzione", c.TipoRiduzione), Field("ApplicazioneRiduzione", c.ApplicazioneRiduzione));
+            Field("TipoRiduzione", c.TipoRiduzione),
+            Field("ApplicazioneRiduzione", c.ApplicazioneRiduzione));
 }
 
 // Reads the body of a case by its Campi, then the closing line, and nothing may follow.

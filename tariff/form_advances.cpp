@@ -6,7 +6,8 @@
 namespace orm {
 
 FrmGenAcconti::FrmGenAcconti(RunState& stato, DataWriter corpo)
-    : Form("frmGEN_Acconti", "                               RAPPORTI CONVENUTI CON IL COMMITTENTE"),
+    : Form("frmGEN_Acconti",
+           "                               RAPPORTI CONVENUTI CON IL COMMITTENTE"),
       Frame1(*this, "Frame1", "Acconti ricevuti"),
       cdAccontiRicevuti(*this, "cdAccontiRicevuti", "", kAdvancesEuro),
       ciAccontiRicevuti(*this, "ciAccontiRicevuti", "", kAdvancesLire),
@@ -24,10 +25,11 @@ FrmGenAcconti::FrmGenAcconti(RunState& stato, DataWriter corpo)
       OK(*this, "OK", "&O.K.", Button::Role::Default),
       stato_(stato),
       corpo_(std::move(corpo)) {
-  SetContent(Column({Group(Frame1, {Row({Fields({cdAccontiRicevuti, ciAccontiRicevuti}), lblValuta, Image1})}),
-                     Group(Frame2, {optRiduzione2, optRiduzione1, Fields({cdPercentualeRiduzione})}),
-                     Group(Frame3, {optApplicazione[0], optApplicazione[1], optApplicazione[2]}),
-                     Buttons({OK})}));
+  SetContent(Column(
+      {Group(Frame1, {Row({Fields({cdAccontiRicevuti, ciAccontiRicevuti}), lblValuta, Image1})}),
+       Group(Frame2, {optRiduzione2, optRiduzione1, Fields({cdPercentualeRiduzione})}),
+       Group(Frame3, {optApplicazione[0], optApplicazione[1], optApplicazione[2]}),
+       Buttons({OK})}));
   cdAccontiRicevuti.SetVisible(!stato.ModoLire);
   ciAccontiRicevuti.SetVisible(stato.ModoLire);
   Image1.SetVisible(!stato.ModoLire);

@@ -4,7 +4,8 @@
 
 namespace orm {
 
-FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro, double importo)
+FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro,
+                                   double importo)
     : Form("frmGEN_UNOIMPORTI", std::move(titolo)),
       Label1(*this, "Label1", "TARIFFA", {.readOnly = true}),
       Label2(*this, "Label2", "CLASSE/CATEGORIA", {.readOnly = true}),
@@ -14,8 +15,9 @@ FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::str
       Image1(*this, "Image1", Image::Subject::Euro),
       cmdOK(*this, "cmdOK", "&O.K.", Button::Role::Default),
       stato_(stato) {
-  SetContent(Column({Fields({Label1, Label2}), Group(Frame1, {Row({Fields({FloatBox1, InterBox1}), Image1})}),
-                     Buttons({cmdOK})}));
+  SetContent(
+      Column({Fields({Label1, Label2}),
+              Group(Frame1, {Row({Fields({FloatBox1, InterBox1}), Image1})}), Buttons({cmdOK})}));
   Label1.SetVisible(false);
   Label2.SetVisible(false);
   FloatBox1.SetVisible(!stato.ModoLire);
@@ -29,7 +31,9 @@ FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::str
   };
 }
 
-double FrmGenUnoImporti::Importo() const { return stato_.ModoLire ? InterBox1.Value() : FloatBox1.Value(); }
+double FrmGenUnoImporti::Importo() const {
+  return stato_.ModoLire ? InterBox1.Value() : FloatBox1.Value();
+}
 
 void FrmGenUnoImporti::SetTariffa(std::string etichetta, std::string valore) {
   Label1.SetVisible(!valore.empty());

@@ -20,8 +20,9 @@ FrmGenClasse::FrmGenClasse(RunState& stato, bool chiedeImporto)
       cmdFINE(*this, "cmdFINE", "&FINE INPUT CLASSI E CATEGORIE"),
       stato_(stato),
       chiedeImporto_(chiedeImporto) {
-  SetContent(Column({Label1, Fields({comClasse}), lblClasse, Fields({comCategoria}), lblCategoria,
-                     Row({Fields({cdImporto, ciImporto}), Image1}), Buttons({cmdFINE, cmdCONFERMA})}));
+  SetContent(
+      Column({Label1, Fields({comClasse}), lblClasse, Fields({comCategoria}), lblCategoria,
+              Row({Fields({cdImporto, ciImporto}), Image1}), Buttons({cmdFINE, cmdCONFERMA})}));
   std::vector<std::string> names;
   for (const NomiClasse& classe : kNomiClassi) names.emplace_back(classe.nome);
   comClasse.SetItems(std::move(names));
@@ -39,7 +40,8 @@ void FrmGenClasse::ShowCategories() {
   lblClasse.SetText(comClasse.ShownText());
   std::vector<std::string> texts;
   if (comClasse.Index() >= 0)
-    for (const std::string_view categoria : kNomiClassi[static_cast<std::size_t>(comClasse.Index())].categorie)
+    for (const std::string_view categoria :
+         kNomiClassi[static_cast<std::size_t>(comClasse.Index())].categorie)
       texts.emplace_back(categoria);
   const bool any = !texts.empty();
   comCategoria.SetItems(std::move(texts));
@@ -73,14 +75,18 @@ void FrmGenClasse::Confirm() {
   if (chiedeImporto_) {
     const double importo = stato_.ModoLire ? ciImporto.Value() : cdImporto.Value();
     if (importo == 0) {
-      stato_.player.Ask(Avviso("VALORE NON ACCETTABILE : importo nullo !\nPer finire l'introduzione dati occorre premere\n" +
-                               cmdFINE.ShownText()));
+      stato_.player.Ask(
+          Avviso("VALORE NON ACCETTABILE : importo nullo !\nPer finire l'introduzione dati occorre "
+                 "premere\n" +
+                 cmdFINE.ShownText()));
       return;
     }
     Importo = importo;
   }
   Classe = std::string(1, static_cast<char>('1' + comClasse.Index()));
-  Categoria = comCategoria.Index() < 0 ? std::string() : std::string(1, static_cast<char>('a' + comCategoria.Index()));
+  Categoria = comCategoria.Index() < 0
+                  ? std::string()
+                  : std::string(1, static_cast<char>('a' + comCategoria.Index()));
   TipodiUscita = "CONFERMA";
   Close();
 }

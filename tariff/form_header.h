@@ -8,7 +8,8 @@ namespace orm {
 
 class FrmGenIntestazione : public Form {
  public:
-  // Shows the file's texts if it exists. "O.K." writes the file; leaving the form otherwise does not.
+  // Shows the file's texts if it exists. "O.K." writes the file; leaving the form otherwise does
+  // not.
   FrmGenIntestazione(RunState& stato, std::string nomeFile);
 
   TestoBox txtCommittente, txtIncarico, txtDocumenti, txtNote;

@@ -37,7 +37,10 @@ FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella
               {*this, "Option2", "CONSUNTIVA a Fine Lavori", tipo},
               {*this, "Option3", "INTERROTTA per risoluzione Incarico", tipo},
               {*this, "Option4", "A Percentuali distinte per Prog. e D.L.", tipo}}},
-      Help{{{*this, "Help1", "HELP"}, {*this, "Help2", "HELP"}, {*this, "Help3", "HELP"}, {*this, "Help4", "HELP"}}},
+      Help{{{*this, "Help1", "HELP"},
+            {*this, "Help2", "HELP"},
+            {*this, "Help3", "HELP"},
+            {*this, "Help4", "HELP"}}},
       OKbutton(*this, "OKbutton", "&O.K.", Button::Role::Default) {
   SetContent(Column({Group(Frame1, {Row({Option[0], Help[0]}), Row({Option[1], Help[1]}),
                                     Row({Option[2], Help[2]}), Row({Option[3], Help[3]})}),
@@ -46,7 +49,8 @@ FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella
   tipo.Choose(given == kValues.end() ? 0 : static_cast<int>(given - kValues.begin()));
   for (std::size_t i = 0; i < Help.size(); ++i)
     Help[i].onPress = [&player, i] {
-      player.Ask({"  INFORMAZIONE ", kHelp[i], MessageBox::Icon::Information, MessageBox::Buttons::Ok});
+      player.Ask(
+          {"  INFORMAZIONE ", kHelp[i], MessageBox::Icon::Information, MessageBox::Buttons::Ok});
     };
   OKbutton.onPress = [this] {
     TipoParcella = kValues[static_cast<std::size_t>(std::max(tipo.Chosen(), 0))];

@@ -1,7 +1,7 @@
 // frmGEN_LISTAFILE: the choice of an outside program.
 //
-// A platform without drives has one tree of folders: the form shows the path and hands the search to
-// the platform's own file choice, which knows favourites, last places and hidden files.
+// A platform without drives has one tree of folders: the form shows the path and hands the search
+// to the platform's own file choice, which knows favourites, last places and hidden files.
 #pragma once
 
 #include "dialogs/form.h"

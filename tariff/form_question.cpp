@@ -11,7 +11,8 @@ FrmGenSiNo::FrmGenSiNo(std::string titolo, std::string domanda, std::string avve
       OptionNO(*this, "OptionNO", "- NO", scelta),
       Avvertenza(*this, "Avvertenza", std::move(avvertenza), Label::Style::Warning),
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  SetContent(Column({Row({Label1, Column({OptionSI, OptionNO})}), Avvertenza, Buttons({Command1})}));
+  SetContent(
+      Column({Row({Label1, Column({OptionSI, OptionNO})}), Avvertenza, Buttons({Command1})}));
   scelta.Choose(risposta == "SI" ? 0 : 1);
   Avvertenza.SetVisible(!Avvertenza.Text().empty());
   Command1.onPress = [this] {

@@ -8,7 +8,8 @@ namespace orm {
 class FrmGenSiNo : public Form {
  public:
   // `avvertenza`: a longer warning, hidden when empty.
-  FrmGenSiNo(std::string titolo, std::string domanda, std::string avvertenza, const std::string& risposta);
+  FrmGenSiNo(std::string titolo, std::string domanda, std::string avvertenza,
+             const std::string& risposta);
 
   std::string Risposta;  // "SI" or "NO"; as given when the form was left by its window
 
