@@ -4,7 +4,9 @@
 // usage.
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,46 +33,41 @@ struct Arguments {
   std::string codice;
   bool euro = false;
   bool tutti = false;
-  bool aiuto = false;
   std::string cartella = ".";
   orm::Date data = orm::SystemDate();
-  std::string objection;
 };
 
-// The few options are read here: a library for them would double the size and the start of this
-// program, whose measure is the copying of a file.
-Arguments Read(int count, char** words) {
-  Arguments a;
-  for (int i = 1; i < count && a.objection.empty(); ++i) {
-    const std::string_view word = words[i];
-    const bool hasNext = i + 1 < count;
-    if (word == "--euro") {
-      a.euro = true;
-    } else if (word == "--tutti") {
-      a.tutti = true;
-    } else if (word == "--help" || word == "-h") {
-      a.aiuto = true;
-    } else if (word == "--cartella" && hasNext) {
-      a.cartella = words[++i];
-    } else if (word == "--data" && hasNext) {
-      const auto date = orm::ParseDate(words[++i]);
-      if (date)
-        a.data = *date;
-      else
-        a.objection = "La data si scrive GG/MM/AAAA.";
-    } else if (!word.starts_with("-") && a.codice.empty()) {
-      a.codice = orm::Capitals(word);
-    } else {
-      a.objection = "Argomento non previsto: " + std::string(word);
-    }
+// Reads the command line into `a`. Returns the exit code when there is nothing more to do.
+std::optional<int> Read(int count, char** words, Arguments& a) {
+  CLI::App app;
+  std::string data;
+  auto* codice = app.add_option("CODICE", a.codice);
+  auto* euro = app.add_flag("--euro", a.euro);
+  auto* tutti = app.add_flag("--tutti", a.tutti)->excludes(codice)->excludes(euro);
+  app.add_option("--cartella", a.cartella);
+  app.add_option("--data", data);
+  std::string objection;
+  try {
+    app.parse(count, words);
+  } catch (const CLI::CallForHelp&) {
+    Tell(kUsage, STDOUT_FILENO);
+    return kDone;
+  } catch (const CLI::ParseError&) {
+    objection = "Argomenti errati.";
   }
-  if (!a.aiuto && a.objection.empty()) {
-    if (a.tutti == !a.codice.empty()) a.objection = "Occorre un codice oppure --tutti.";
-    if (a.tutti && a.euro) a.objection = "--tutti calcola le parcelle in Lire e in Euro.";
-    if (!a.codice.empty() && orm::FindFeeCase(a.codice) == nullptr)
-      a.objection = "Codice sconosciuto: " + a.codice;
+  a.codice = orm::Capitals(a.codice);
+  if (objection.empty() && codice->empty() == tutti->empty())
+    objection = "Occorre un codice oppure --tutti.";
+  if (!a.codice.empty() && orm::FindFeeCase(a.codice) == nullptr)
+    objection = "Codice sconosciuto: " + a.codice;
+  if (!data.empty()) {
+    const auto date = orm::ParseDate(data);
+    if (!date) objection = "La data si scrive GG/MM/AAAA.";
+    a.data = date.value_or(a.data);
   }
-  return a;
+  if (objection.empty()) return std::nullopt;
+  Tell(objection + "\n" + kUsage, STDERR_FILENO);
+  return kWrongUsage;
 }
 
 int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
@@ -104,15 +101,8 @@ int CalculateAll(orm::RunState& stato, orm::BatchPlayer& player) {
 }  // namespace
 
 int main(int count, char** words) {
-  const Arguments arguments = Read(count, words);
-  if (arguments.aiuto) {
-    Tell(kUsage, STDOUT_FILENO);
-    return kDone;
-  }
-  if (!arguments.objection.empty()) {
-    Tell(arguments.objection + "\n" + kUsage, STDERR_FILENO);
-    return kWrongUsage;
-  }
+  Arguments arguments;
+  if (const auto outcome = Read(count, words, arguments)) return *outcome;
   orm::BatchPlayer player(arguments.data);
   orm::RunState stato(player, orm::WorkFolder(arguments.cartella));
   const orm::FolderLock lock(stato.folder);

@@ -9,7 +9,7 @@
 
 namespace orm {
 
-DataReader::DataReader(const WorkFolder& folder, std::string name) {
+DataReader::DataReader(const WorkFolder& folder, const std::string& name) {
   *this = OfBytes(name, folder.Read(name));
 }
 

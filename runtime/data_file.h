@@ -27,7 +27,7 @@ struct Field {
 class DataReader {
  public:
   // Reads the whole file. Every failure of this class names the file, the line and the field.
-  DataReader(const WorkFolder& folder, std::string name);
+  DataReader(const WorkFolder& folder, const std::string& name);
   // The same on bytes at hand.
   static DataReader OfBytes(std::string name, std::string_view bytes);
 

@@ -44,7 +44,7 @@ Rounded RoundDigits(double value, int decimals) {
     d.digits.insert(0, static_cast<std::size_t>(-d.point), '0');
     d.point = 0;
   }
-  const auto places = static_cast<std::size_t>(d.point + decimals);
+  const auto places = static_cast<std::size_t>(d.point) + static_cast<std::size_t>(decimals);
   const bool up = places < d.digits.size() && d.digits[places] >= '5';
   d.digits.resize(places, '0');
   if (up) {
