@@ -29,6 +29,15 @@ class TemporaryFolder {
   std::string path_;
 };
 
+// A page written as a raw string: it begins behind the first line end, and '|' shows where each
+// line ends.
+inline std::string Page(std::string_view drawn) {
+  std::string page;
+  for (std::size_t i = 1; i < drawn.size(); ++i)
+    if (drawn[i] != '|' || drawn[i + 1] != '\n') page += drawn[i];
+  return page;
+}
+
 class NoteTest : public testing::Test {
  protected:
   NoteTest() {
