@@ -15,12 +15,6 @@ void AdoptInto(Frame* parent, const Layout& layout) {
   for (const Layout& part : layout.children) AdoptInto(inner, part);
 }
 
-Layout Items(Layout::Kind kind, std::initializer_list<std::reference_wrapper<Control>> controls) {
-  std::vector<Layout> parts;
-  for (Control& control : controls) parts.emplace_back(control);
-  return {kind, nullptr, std::move(parts)};
-}
-
 }  // namespace
 
 Layout Column(std::vector<Layout> parts) {
@@ -30,11 +24,13 @@ Layout Row(std::vector<Layout> parts) { return {Layout::Kind::Row, nullptr, std:
 Layout Group(Frame& frame, std::vector<Layout> parts) {
   return {Layout::Kind::Group, &frame, std::move(parts)};
 }
-Layout Fields(std::initializer_list<std::reference_wrapper<Control>> fields) {
-  return Items(Layout::Kind::Fields, fields);
+Layout Fields(std::vector<Layout> lines) {
+  return {Layout::Kind::Fields, nullptr, std::move(lines)};
 }
 Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons) {
-  return Items(Layout::Kind::Buttons, buttons);
+  std::vector<Layout> parts;
+  for (Control& button : buttons) parts.emplace_back(button);
+  return {Layout::Kind::Buttons, nullptr, std::move(parts)};
 }
 
 Form::Form(std::string name, std::string title)

@@ -17,8 +17,8 @@ struct Layout {
     Column,   // children one below the other
     Row,      // children side by side
     Group,    // a frame around a column of children
-    Fields,   // labels in one column, fields in the next, units behind
-    Buttons,  // buttons at the foot of the form, the default one last
+    Fields,   // labels in one column, fields in the next, units behind; a Row in it is one line
+    Buttons,  // a line of buttons at the right, in the order given
     Item      // one control
   };
   Layout(Control& item) : kind(Kind::Item), control(&item) {}  // NOLINT: a control is a layout
@@ -32,7 +32,9 @@ struct Layout {
 Layout Column(std::vector<Layout> parts);
 Layout Row(std::vector<Layout> parts);
 Layout Group(Frame& frame, std::vector<Layout> parts);
-Layout Fields(std::initializer_list<std::reference_wrapper<Control>> fields);
+// A part is a field with its label, or a Row: of the first field's label, that field, and what
+// stands behind it; of an option or check box as label, and what belongs to it.
+Layout Fields(std::vector<Layout> lines);
 Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons);
 
 // What a form tells the player that shows it.

@@ -1,7 +1,7 @@
 #include "dialogs/number_entry.h"
 
 #include <algorithm>
-#include <cctype>
+#include <cmath>
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -28,10 +28,11 @@ std::string Bare(std::string_view text) {
   return out;
 }
 
-// True when the marks stand as thousands points do: three digits behind each, one to three before.
+// True when the marks stand as thousands points do: three digits behind each, one to three before
+// and no leading zero: "0.500" is a half.
 bool GroupedInThrees(std::string_view whole, char mark) {
   const auto first = whole.find(mark);
-  if (first == 0 || first > 3) return false;
+  if (first == 0 || first > 3 || whole[0] == '0') return false;
   for (std::size_t i = first; i < whole.size(); i += 4)
     if (whole[i] != mark || whole.size() - i < 4 ||
         whole.substr(i + 1, 3).find(mark) != std::string::npos)
@@ -39,37 +40,57 @@ bool GroupedInThrees(std::string_view whole, char mark) {
   return true;
 }
 
+std::string TooManyDecimals(const NumberLimits& limits) {
+  return limits.decimals == 0
+             ? "Il numero deve essere intero."
+             : "Il numero può avere al massimo " + NumberText(limits.decimals) + " decimali.";
+}
+
+std::string OutOfLimits(const NumberLimits& limits) {
+  return "Il numero deve essere fra " + ShownNumber(limits.least, limits) + " e " +
+         ShownNumber(limits.most, limits) + ".";
+}
+
 }  // namespace
 
 bool AdmitsDraft(std::string_view draft, const NumberLimits& limits) {
+  return DraftObjection(draft, limits).empty();
+}
+
+std::string DraftObjection(std::string_view draft, const NumberLimits& limits) {
   std::size_t digits = 0;
   for (std::size_t i = 0; i < draft.size(); ++i) {
     const char c = draft[i];
     if (IsDigit(c)) {
       ++digits;
     } else if (c == '-') {
-      if (i > 0 || limits.least >= 0) return false;
+      if (limits.least >= 0) return "Il numero non può essere negativo.";
+      if (i > 0) return "Il segno meno sta davanti al numero.";
     } else if (c == ',') {
-      if (limits.decimals == 0 || draft.find(',') != i) return false;
+      if (limits.decimals == 0) return "Il numero deve essere intero.";
+      if (draft.find(',') != i) return "Il numero ha già la sua virgola.";
     } else if (c != '.') {
-      return false;
+      return limits.decimals == 0 ? "Qui si scrivono solo cifre."
+                                  : "Qui si scrivono solo cifre e la virgola.";
     }
   }
-  const std::size_t longest =
-      std::max(NumberText(Fix(limits.most)).size(), NumberText(Fix(std::abs(limits.least))).size());
   const auto comma = draft.find(',');
   if (comma != std::string_view::npos &&
       draft.size() - comma - 1 > static_cast<std::size_t>(limits.decimals))
-    return false;
-  return digits <= longest + static_cast<std::size_t>(limits.decimals);
+    return TooManyDecimals(limits);
+  const std::size_t longest =
+      std::max(NumberText(Fix(limits.most)).size(), NumberText(Fix(std::abs(limits.least))).size());
+  if (digits > longest + static_cast<std::size_t>(limits.decimals)) return OutOfLimits(limits);
+  return {};
 }
 
 NumberReading ReadNumber(std::string_view text, const NumberLimits& limits) {
   std::string number = Bare(text);
   const bool negative = !number.empty() && number[0] == '-';
   if (negative) number.erase(0, 1);
-  if (number.empty()) return {0.0, {}};
   const auto refuse = [](std::string why) { return NumberReading{std::nullopt, std::move(why)}; };
+  if (number.empty())
+    return limits.least > 0 ? refuse(OutOfLimits(limits)) : NumberReading{0.0, {}};
   if (!std::all_of(number.begin(), number.end(),
                    [](char c) { return IsDigit(c) || c == ',' || c == '.'; }))
     return refuse("Non è un numero.");
@@ -100,14 +121,10 @@ NumberReading ReadNumber(std::string_view text, const NumberLimits& limits) {
   if (whole.empty() && decimals.empty()) return refuse("Non è un numero.");
   decimals.erase(decimals.find_last_not_of('0') + 1);
   if (decimals.size() > static_cast<std::size_t>(limits.decimals))
-    return refuse(limits.decimals == 0
-                      ? "Il numero deve essere intero."
-                      : "Il numero ha più di " + NumberText(limits.decimals) + " decimali.");
+    return refuse(TooManyDecimals(limits));
   const auto value = ParseNumber((negative ? "-0" : "0") + whole + "." + decimals + "0");
   if (!value) return refuse("Il numero è troppo grande.");
-  if (*value < limits.least || *value > limits.most)
-    return refuse("Il numero deve essere fra " + ShownNumber(limits.least, limits) + " e " +
-                  ShownNumber(limits.most, limits) + ".");
+  if (*value < limits.least || *value > limits.most) return refuse(OutOfLimits(limits));
   return {*value == 0 ? 0.0 : *value, {}};
 }
 

@@ -21,6 +21,8 @@ struct NumberLimits {
 // of thousands, a leading minus where negative values are allowed; and no more of them than the
 // greatest value has.
 bool AdmitsDraft(std::string_view draft, const NumberLimits& limits);
+// The same with the reason in Italian; empty when the draft is admitted.
+std::string DraftObjection(std::string_view draft, const NumberLimits& limits);
 
 // Reading of a typed or pasted number. A text with a comma and points is read by its last mark. A
 // lone point is a thousands point when exactly three digits follow each point, otherwise the
