@@ -168,19 +168,23 @@ void FerriBox::SetText(std::string text) {
 
 double FerriBox::Area() const { return BarsArea(text_); }
 
+const char* FerriBox::Writing() {
+  return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "
+         "esempio 2D16+2D12.";
+}
+
+std::string FerriBox::Objection(std::string_view text) const {
+  return text.size() > 60 || !AdmitsBarsDraft(text) ? Writing() : "";
+}
+
 std::string FerriBox::Type(std::string_view text) {
-  if (text.size() > 60 || !AdmitsBarsDraft(text))
-    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "
-           "esempio 2D16+2D12.";
-  SetText(std::string(text));
-  return {};
+  std::string objection = Objection(text);
+  if (objection.empty()) SetText(std::string(text));
+  return objection;
 }
 
 std::string FerriBox::Enter(std::string_view text) {
-  if (!IsBarsText(text))
-    return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "
-           "esempio 2D16+2D12.";
-  return Type(text);
+  return IsBarsText(text) ? Type(text) : Writing();
 }
 
 // ---------------------------------------------------------------- choices

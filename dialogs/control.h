@@ -191,6 +191,8 @@ class FerriBox : public Control {
   double Area() const;  // cmq; 0 for a text that is not of the form
   // A draft is admitted as long as it can still become a text of the form.
   std::string Type(std::string_view text);
+  std::string Objection(std::string_view text) const;  // why a draft is not admitted
+  static const char* Writing();                           // in Italian: how bars are written
   std::string ShownText() const override { return text_; }
   std::string Enter(std::string_view text) override;
 

@@ -1,0 +1,18 @@
+#include "desktop/desktop_app.h"
+
+#include <QLocale>
+
+#include "desktop/italian_texts.h"
+#include "desktop/pictures.h"
+
+namespace orm {
+
+void DressApplication(QApplication& application) {
+  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+  QGuiApplication::setApplicationDisplayName({});
+  QGuiApplication::setDesktopFileName("orm2002");
+  QApplication::setWindowIcon(ProgramIcon());
+  QCoreApplication::installTranslator(new ItalianTexts(&application));
+}
+
+}  // namespace orm

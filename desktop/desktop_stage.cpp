@@ -1,0 +1,104 @@
+#include "desktop/desktop_stage.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include "desktop/desktop_player.h"
+#include "desktop/menu_window.h"
+#include "desktop/message_window.h"
+#include "desktop/qt_text.h"
+#include "desktop/widget_hand.h"
+
+namespace orm {
+namespace {
+
+// The player of the desktop with a script in the person's place.
+class ScriptedPlayer : public DesktopPlayer {
+ public:
+  ScriptedPlayer(Actor& actor, const WorkFolder& folder, std::string pictures)
+      : DesktopPlayer(folder.Path()),
+        actor_(actor),
+        folder_(folder),
+        pictures_(std::move(pictures)) {}
+
+  std::optional<std::string> ChooseFile(const FileChoice& choice) override {
+    return actor_.MeetFileChoice(choice);
+  }
+  void StartProgram(const std::string& program, const std::string& argument) override {
+    actor_.MeetProgramStart(program, argument);
+  }
+  bool ProgramExists(const std::string& path) override {
+    return ScriptProgramExists(path, folder_);
+  }
+  OutsidePrograms DefaultPrograms() override { return ScriptPrograms(); }
+  ScreenSize Screen() override { return actor_.Screen(); }
+  Date Today() override { return actor_.Today(); }
+
+ protected:
+  void Run(FormDialog& dialog) override {
+    dialog.open();
+    QCoreApplication::processEvents();
+    WidgetHand hand(dialog, pictures_);
+    actor_.MeetForm(dialog.Model(), hand);
+    dialog.hide();
+  }
+  void Run(QMessageBox& shown, const MessageBox& box) override {
+    shown.open();
+    QCoreApplication::processEvents();
+    QTest::mouseClick(ButtonOf(shown, actor_.MeetMessage(box)), Qt::LeftButton);
+  }
+
+ private:
+  Actor& actor_;
+  const WorkFolder& folder_;
+  std::string pictures_;
+};
+
+void ClickIn(QMenu& menu, QAction* action) {
+  QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+}
+
+class WidgetStage : public Stage {
+ public:
+  WidgetStage(Actor& actor, const WorkFolder& folder, std::string pictures)
+      : player_(actor, folder, std::move(pictures)) {}
+
+  Player& People() override { return player_; }
+
+  void Raise(MainWindow& window) override {
+    if (shown_ != nullptr) return;
+    shown_ = std::make_unique<MenuWindow>(window);
+    player_.SetMainWindow(shown_.get());
+    shown_->show();
+    QCoreApplication::processEvents();
+  }
+
+  std::string Choose(MainWindow&, std::string_view command) override {
+    const std::vector<QMenu*> path = shown_->PathTo(std::string(command));
+    if (path.empty()) return "il menù non ha questo comando";
+    QMenuBar* bar = shown_->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(path[0]->menuAction()).center());
+    for (std::size_t i = 1; i < path.size(); ++i) {
+      ClickIn(*path[i - 1], path[i]->menuAction());
+      if (!path[i]->isVisible()) return "il menù non si apre";
+    }
+    ClickIn(*path.back(), shown_->CommandAction(std::string(command)));
+    QCoreApplication::processEvents();
+    return {};
+  }
+
+ private:
+  ScriptedPlayer player_;
+  std::unique_ptr<MenuWindow> shown_;
+};
+
+}  // namespace
+
+StageBuilder DesktopStage(std::string pictures) {
+  return [pictures](Actor& actor, const WorkFolder& folder) {
+    return std::make_unique<WidgetStage>(actor, folder, pictures);
+  };
+}
+
+}  // namespace orm

@@ -1,0 +1,119 @@
+// Lavagna on the screen, with its menu: to a file or to paper.
+#include <QContextMenuEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStyleOptionFocusRect>
+
+#include "desktop/paint_drawing.h"
+#include "desktop/qt_text.h"
+#include "desktop/views.h"
+
+namespace orm {
+namespace {
+
+constexpr int kPictureWidth = 1800;  // pixels of a saved PNG
+
+class DrawingWidget : public QWidget {
+ public:
+  DrawingWidget(Lavagna& lavagna, QWidget* parent) : QWidget(parent), lavagna_(lavagna) {
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMinimumSize((DrawingSize(lavagna) * 0.6).toSize());
+    setAccessibleName("Disegno");
+    setToolTip("Il menù del tasto destro salva o stampa il disegno");
+  }
+  QSize sizeHint() const override { return DrawingSize(lavagna_).toSize(); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    PaintDrawing(painter, lavagna_, rect());
+    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    QMenu menu(this);
+    menu.addAction("Salva come SVG...", this, [this] { SaveSvg(); });
+    menu.addAction("Salva come PNG...", this, [this] { SavePng(); });
+    menu.addSeparator();
+    menu.addAction("Stampa...", this, [this] { Print(); });
+    menu.exec(event->globalPos());
+  }
+
+ private:
+  // The chosen path with its ending; empty when the person gave up.
+  QString AskPath(const QString& ending) {
+    QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
+                                                ending.toUpper() + " (*." + ending + ")");
+    if (!path.isEmpty() && !path.endsWith("." + ending, Qt::CaseInsensitive)) path += "." + ending;
+    return path;
+  }
+  void TellFailure(const QString& path) {
+    QMessageBox::warning(this, "ATTENZIONE", "Non è stato possibile scrivere il file\n" + path);
+  }
+  void SaveSvg() {
+    const QString path = AskPath("svg");
+    if (path.isEmpty()) return;
+    const std::string svg = lavagna_.AsSvg(static_cast<int>(DrawingSize(lavagna_).width()));
+    QFile file(path);
+    const auto length = static_cast<qint64>(svg.size());
+    if (!file.open(QIODevice::WriteOnly) || file.write(svg.data(), length) != length ||
+        !file.flush())
+      TellFailure(path);
+  }
+  void SavePng() {
+    const QString path = AskPath("png");
+    if (path.isEmpty()) return;
+    const QSizeF size = DrawingSize(lavagna_) * (kPictureWidth / DrawingSize(lavagna_).width());
+    QImage picture(size.toSize(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    PaintDrawing(painter, lavagna_, picture.rect());
+    painter.end();
+    if (!picture.save(path, "PNG")) TellFailure(path);
+  }
+  void Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    QPainter painter(&printer);
+    PaintDrawing(
+        painter, lavagna_,
+        printer.pageLayout()
+            .paintRectPixels(printer.resolution())
+            .translated(-printer.pageLayout().paintRectPixels(printer.resolution()).topLeft()));
+  }
+  Lavagna& lavagna_;
+};
+
+class DrawingView : public ControlView {
+ public:
+  DrawingView(Lavagna& lavagna, FormHost& host) : ControlView(lavagna, host), lavagna_(lavagna) {
+    UseBare(new DrawingWidget(lavagna, host.Window()));
+  }
+  void Refresh() override {
+    const QString tip = Field()->toolTip();
+    ControlView::Refresh();
+    Field()->setToolTip(tip);
+    Field()->update();
+  }
+  bool Grows() const override { return true; }
+  std::string Shown() const override { return lavagna_.ShownText(); }
+
+ private:
+  Lavagna& lavagna_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeDrawingView(Lavagna& lavagna, FormHost& host) {
+  return std::make_unique<DrawingView>(lavagna, host);
+}
+
+}  // namespace orm

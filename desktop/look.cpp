@@ -1,0 +1,54 @@
+#include "desktop/look.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPixmap>
+#include <QWidget>
+
+namespace orm {
+
+bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+QColor WarningText(const QPalette& palette) {
+  return IsDark(palette) ? QColor(255, 138, 128) : QColor(176, 32, 24);
+}
+
+QColor WarningBase(const QPalette& palette) {
+  return IsDark(palette) ? QColor(74, 32, 30) : QColor(253, 236, 234);
+}
+
+QColor NoteText(const QPalette& palette) {
+  const QColor text = palette.color(QPalette::WindowText);
+  const QColor window = palette.color(QPalette::Window);
+  const auto blend = [](int a, int b) { return (a * 7 + b * 3) / 10; };
+  return {blend(text.red(), window.red()), blend(text.green(), window.green()),
+          blend(text.blue(), window.blue())};
+}
+
+QIcon WarningMark(const QPalette& palette) {
+  QIcon icon;
+  for (const int scale : {1, 2, 3}) {
+    QPixmap picture(16 * scale, 16 * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(WarningText(palette));
+    painter.drawEllipse(QRectF(1, 1, 14, 14));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRoundedRect(QRectF(7, 3.5, 2, 6), 1, 1);
+    painter.drawEllipse(QRectF(6.9, 10.6, 2.2, 2.2));
+    painter.end();
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
+int CharactersWide(const QWidget& widget, int characters) {
+  const QFontMetrics metrics(widget.font());
+  // Between a digit and an average letter: capitals are common in these forms.
+  return characters * std::max(metrics.horizontalAdvance('0'), metrics.averageCharWidth());
+}
+
+}  // namespace orm

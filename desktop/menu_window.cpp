@@ -1,0 +1,126 @@
+#include "desktop/menu_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+
+#include "desktop/menu_keys.h"
+#include "desktop/pictures.h"
+#include "desktop/qt_text.h"
+
+namespace orm {
+namespace {
+
+// The picture, centred, at a quarter of the free height from the top.
+class PictureArea : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (picture_.isNull()) picture_ = MainPicture(devicePixelRatioF());
+    QSizeF size = picture_.deviceIndependentSize();
+    if (size.width() > width() || size.height() > height())
+      size.scale(QSizeF(this->size()), Qt::KeepAspectRatio);
+    const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 4);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRectF(corner, size), picture_, QRectF(picture_.rect()));
+  }
+
+ private:
+  QPixmap picture_;
+};
+
+std::vector<std::string> Captions(const std::vector<MenuItem>& items) {
+  std::vector<std::string> captions;
+  for (const MenuItem& item : items) captions.push_back(item.caption);
+  return captions;
+}
+
+}  // namespace
+
+MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
+  setObjectName("frmGEN_Main");
+  setWindowTitle(ToQt(window.Title()).trimmed());
+  setCentralWidget(new PictureArea);
+  const QSize room = screen()->availableSize();
+  resize(QSize(1000, 680).boundedTo(room * 0.9));
+  const std::vector<std::string> captions = MenuKeys(Captions(window.Menu()));
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    const MenuItem& top = window.Menu()[i];
+    QMenu* menu = menuBar()->addMenu(ToQt(captions[i]));
+    menu->setObjectName(ToQt(top.name));
+    menu->menuAction()->setObjectName(ToQt(top.name));
+    connect(menu, &QMenu::aboutToShow, this, [this, name = top.name] { window_.MenuOpened(name); });
+    Fill(*menu, top.children);
+  }
+}
+
+void MenuWindow::Fill(QMenu& menu, const std::vector<MenuItem>& items) {
+  const std::vector<std::string> captions = MenuKeys(Captions(items));
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const MenuItem& item = items[i];
+    if (item.IsSeparator()) {
+      menu.addSeparator();
+      continue;
+    }
+    QAction* action = nullptr;
+    if (item.children.empty()) {
+      action = menu.addAction(ToQt(captions[i]));
+      connect(action, &QAction::triggered, this, [this, name = item.name] { Choose(name); });
+      commands_[item.name] = action;
+    } else {
+      QMenu* inner = menu.addMenu(ToQt(captions[i]));
+      inner->setObjectName(ToQt(item.name));
+      Fill(*inner, item.children);
+      action = inner->menuAction();
+    }
+    action->setObjectName(ToQt(item.name));
+    action->setMenuRole(QAction::NoRole);
+  }
+}
+
+void MenuWindow::Choose(const std::string& command) {
+  window_.Choose(command);
+  EndIfEnded();
+}
+
+void MenuWindow::EndIfEnded() {
+  if (!window_.Ended()) return;
+  close();
+  QCoreApplication::quit();
+}
+
+QAction* MenuWindow::CommandAction(const std::string& command) const {
+  const auto found = commands_.find(command);
+  return found == commands_.end() ? nullptr : found->second;
+}
+
+std::vector<QMenu*> MenuWindow::PathTo(const std::string& command) const {
+  std::vector<QMenu*> path;
+  if (QAction* action = CommandAction(command))
+    for (auto* menu = dynamic_cast<QMenu*>(action->parent()); menu != nullptr;
+         menu = dynamic_cast<QMenu*>(menu->parentWidget()))
+      path.insert(path.begin(), menu);
+  return path;
+}
+
+void MenuWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (!std::exchange(activates_, false)) return;
+  // After the first painting, so that the window stands behind what the start shows.
+  QTimer::singleShot(0, this, [this] {
+    repaint();
+    window_.FirstActivation();
+    EndIfEnded();
+  });
+}
+
+void MenuWindow::closeEvent(QCloseEvent* event) {
+  event->accept();
+  QCoreApplication::quit();
+}
+
+}  // namespace orm

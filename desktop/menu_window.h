@@ -1,0 +1,39 @@
+// The main window on the screen.
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <string>
+
+#include "dialogs/main_window.h"
+
+class QMenu;
+
+namespace orm {
+
+class MenuWindow : public QMainWindow {
+ public:
+  explicit MenuWindow(MainWindow& window);
+
+  // The menus from the top down to a command; empty when the tree does not have it.
+  std::vector<QMenu*> PathTo(const std::string& command) const;
+  QAction* CommandAction(const std::string& command) const;
+  // The first action of the program, once the window has come to the screen. Without it a script
+  // is the person, and acts by itself.
+  void ActivateOnceShown() { activates_ = true; }
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Fill(QMenu& menu, const std::vector<MenuItem>& items);
+  void Choose(const std::string& command);
+  void EndIfEnded();
+
+  MainWindow& window_;
+  std::map<std::string, QAction*> commands_;
+  bool activates_ = false;
+};
+
+}  // namespace orm

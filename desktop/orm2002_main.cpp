@@ -1,0 +1,28 @@
+// The desktop program. Works in the current folder; no arguments.
+#include "desktop/desktop_app.h"
+#include "desktop/desktop_player.h"
+#include "desktop/menu_window.h"
+#include "runtime/folder.h"
+#include "shell/shell.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  orm::DressApplication(application);
+  const orm::WorkFolder folder(".");
+  orm::DesktopPlayer player(folder.Path());
+  const orm::FolderLock lock(folder);
+  if (!lock.Held()) {
+    player.Ask({"  ATTENZIONE !! ",
+                "ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
+                "CHIUDERE PRIMA L'ALTRO PROGRAMMA",
+                orm::MessageBox::Icon::Exclamation, orm::MessageBox::Buttons::Ok});
+    return 1;
+  }
+  orm::Shell shell(player, folder);
+  if (!shell.Load()) return 0;
+  orm::MenuWindow window(shell);
+  player.SetMainWindow(&window);
+  window.ActivateOnceShown();
+  window.show();
+  return QApplication::exec();
+}

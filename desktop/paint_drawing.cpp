@@ -1,0 +1,91 @@
+#include "desktop/paint_drawing.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+
+#include "desktop/qt_text.h"
+
+namespace orm {
+namespace {
+
+constexpr double kWidest = 520, kHighest = 420;
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+QColor ToQt(const Colour& c) { return {c.red, c.green, c.blue}; }
+
+QPen PenOf(const DrawOperation& op) {
+  QPen pen(ToQt(op.colour), op.width);
+  if (op.stroke == DrawOperation::Stroke::Dashed)
+    pen.setDashPattern({8.0 / op.width, 5.0 / op.width});
+  if (op.stroke == DrawOperation::Stroke::Dotted)
+    pen.setDashPattern({2.0 / op.width, 4.0 / op.width});
+  pen.setJoinStyle(Qt::MiterJoin);
+  return pen;
+}
+
+void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& corner) {
+  QFont font = painter.font();
+  font.setPixelSize(std::max(1, static_cast<int>(op.fontSize * kPixelsPerPoint + 0.5)));
+  font.setBold(op.bold);
+  painter.setFont(font);
+  painter.drawText(corner + QPointF(0, QFontMetricsF(font).ascent()), ToQt(op.text));
+}
+
+void PaintArc(QPainter& painter, const QPointF& centre, double radius, const DrawOperation& op) {
+  const QRectF box(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+  if (op.to - op.from >= 360) return painter.drawEllipse(box);
+  QPainterPath path;
+  path.arcMoveTo(box, op.from);
+  path.arcTo(box, op.from, op.to - op.from);
+  painter.drawPath(path);
+}
+
+}  // namespace
+
+QSizeF DrawingSize(const Lavagna& lavagna) {
+  const QSizeF world(lavagna.RightEdge() - lavagna.LeftEdge(),
+                     lavagna.TopEdge() - lavagna.BottomEdge());
+  return world.scaled(kWidest, kHighest, Qt::KeepAspectRatio);
+}
+
+void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room) {
+  const QSizeF size = DrawingSize(lavagna);
+  const double zoom = std::min(room.width() / size.width(), room.height() / size.height());
+  painter.save();
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  painter.translate(room.center() - QPointF(size.width(), size.height()) * zoom / 2);
+  painter.scale(zoom, zoom);
+  painter.fillRect(QRectF(QPointF(0, 0), size), ToQt(lavagna.Background()));
+  painter.setClipRect(QRectF(QPointF(0, 0), size));
+  const double scale = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
+  const auto at = [&](const Point& p) {
+    return QPointF((p.x - lavagna.LeftEdge()) * scale, (lavagna.TopEdge() - p.y) * scale);
+  };
+  for (const DrawOperation& op : lavagna.Operations()) {
+    painter.setPen(PenOf(op));
+    painter.setBrush(op.filled ? QBrush(ToQt(op.colour)) : QBrush(Qt::NoBrush));
+    switch (op.kind) {
+      case DrawOperation::Kind::Line:
+        painter.drawLine(at(op.points[0]), at(op.points[1]));
+        break;
+      case DrawOperation::Kind::Arc:
+        PaintArc(painter, at(op.points[0]), op.radius * scale, op);
+        break;
+      case DrawOperation::Kind::Text:
+        PaintText(painter, op, at(op.points[0]));
+        break;
+      case DrawOperation::Kind::Polygon: {
+        QPolygonF polygon;
+        for (const Point& p : op.points) polygon << at(p);
+        painter.drawPolygon(polygon);
+        break;
+      }
+    }
+  }
+  painter.restore();
+}
+
+}  // namespace orm

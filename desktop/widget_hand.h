@@ -1,0 +1,37 @@
+// The hand of a script on a form that is on the screen: real keys and clicks on the widgets.
+#pragma once
+
+#include <string>
+
+#include "desktop/form_dialog.h"
+#include "script/hand.h"
+
+namespace orm {
+
+class WidgetHand : public FormHand {
+ public:
+  // `pictures`: the folder for pictures of the form; empty: none are made.
+  WidgetHand(FormDialog& dialog, std::string pictures);
+
+  std::string Set(Control& control, std::string_view text) override;
+  std::string Press(Button& button) override;
+  void CloseByWindow() override;
+  std::string Shown(Control& control) override;
+  bool IsVisible(Control& control) override;
+  bool IsEnabled(Control& control) override;
+  std::string Title() override;
+  void Picture(const std::string& name) override;
+
+ private:
+  QWidget* WidgetOf(const Control& control) const;
+  std::string Type(Control& control, std::string_view text);
+  std::string Switch(Control& control, std::string_view text);
+  std::string Pick(ListControl& control, std::string_view text);
+  std::string Slide(Slider& slider, std::string_view text);
+  void Settle();  // what the last event left to do is done
+
+  FormDialog& dialog_;
+  std::string pictures_;
+};
+
+}  // namespace orm
