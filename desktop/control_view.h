@@ -29,7 +29,7 @@ class FormHost {
 
 class ControlView : public QObject {
  public:
-  ControlView(Control& control, FormHost& host) : control_(control), host_(host) {}
+  ControlView(Control& control, FormHost& host) : host_(host), control_(control) {}
 
   Control& Model() const { return control_; }
   QWidget* Field() const { return field_; }  // the widget that a person uses, named as the control

@@ -1,5 +1,6 @@
 #include "desktop/desktop_stage.h"
 
+#include <QAbstractButton>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -25,6 +26,12 @@ QRect PlaceOf(const QWidget& widget, const QWidget& window) {
   return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
+bool Holds(const Layout& layout, const Control& control) {
+  return layout.control == &control ||
+         std::any_of(layout.children.begin(), layout.children.end(),
+                     [&](const Layout& child) { return Holds(child, control); });
+}
+
 void LintNames(const FormDialog& dialog, Faults& faults) {
   std::set<std::string> seen;
   for (const Control* control : dialog.Model().Controls()) {
@@ -32,17 +39,11 @@ void LintNames(const FormDialog& dialog, Faults& faults) {
     if (name.empty()) faults.push_back("un controllo senza nome");
     if (!seen.insert(name).second) faults.push_back(name + ": nome doppio");
     const QWidget* field = dialog.ViewOf(*control).Field();
-    if (field->parentWidget() == &dialog && dialog.layout()->indexOf(field) < 0 &&
-        dynamic_cast<const QPushButton*>(field) == nullptr)
+    if (!Holds(dialog.Model().Content(), *control))
       faults.push_back(name + ": non ha posto nella finestra");
     if (control->TakesFocus() && field->isVisible() && field->accessibleName().isEmpty())
       faults.push_back(name + ": senza etichetta");
   }
-}
-
-// Reading order: from the top down, on one line from the left; a group wholly before its neighbour.
-bool ReadsBefore(const QRect& a, const QRect& b) {
-  return a.top() < b.bottom() - 2 || a.left() < b.left();
 }
 
 void LintOrder(const FormDialog& dialog, Faults& faults) {

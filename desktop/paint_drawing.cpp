@@ -14,10 +14,10 @@ namespace {
 constexpr double kWidest = 520, kHighest = 420;
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
-QColor ToQt(const Colour& c) { return {c.red, c.green, c.blue}; }
+QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
 
 QPen PenOf(const DrawOperation& op) {
-  QPen pen(ToQt(op.colour), op.width);
+  QPen pen(InQt(op.colour), op.width);
   if (op.stroke == DrawOperation::Stroke::Dashed)
     pen.setDashPattern({8.0 / op.width, 5.0 / op.width});
   if (op.stroke == DrawOperation::Stroke::Dotted)
@@ -58,7 +58,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.translate(room.center() - QPointF(size.width(), size.height()) * zoom / 2);
   painter.scale(zoom, zoom);
-  painter.fillRect(QRectF(QPointF(0, 0), size), ToQt(lavagna.Background()));
+  painter.fillRect(QRectF(QPointF(0, 0), size), InQt(lavagna.Background()));
   painter.setClipRect(QRectF(QPointF(0, 0), size));
   const double scale = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
   const auto at = [&](const Point& p) {
@@ -66,7 +66,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
   };
   for (const DrawOperation& op : lavagna.Operations()) {
     painter.setPen(PenOf(op));
-    painter.setBrush(op.filled ? QBrush(ToQt(op.colour)) : QBrush(Qt::NoBrush));
+    painter.setBrush(op.filled ? QBrush(InQt(op.colour)) : QBrush(Qt::NoBrush));
     switch (op.kind) {
       case DrawOperation::Kind::Line:
         painter.drawLine(at(op.points[0]), at(op.points[1]));

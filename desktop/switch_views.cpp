@@ -22,10 +22,10 @@ QButtonGroup* GroupOf(const OptionGroup& group, QWidget* window) {
   return found;
 }
 
-template <class Model, class Widget>
+template <class Switch, class Widget>
 class SwitchView : public ControlView {
  public:
-  SwitchView(Model& model, FormHost& host)
+  SwitchView(Switch& model, FormHost& host)
       : ControlView(model, host), model_(model), widget_(new Widget(host.Window())) {
     UseBare(widget_);
     connect(widget_, &QAbstractButton::toggled, this, [this](bool on) {
@@ -48,7 +48,7 @@ class SwitchView : public ControlView {
   std::string Shown() const override { return widget_->isChecked() ? "on" : "off"; }
 
  protected:
-  Model& model_;
+  Switch& model_;
   Widget* widget_;
 
  private:
