@@ -68,9 +68,11 @@ ViewerWindow::ViewerWindow()
   connect(page_, &QPlainTextEdit::cursorPositionChanged, this, [this] { ShowState(); });
   page_->zoomChanged = [this] { ShowState(); };
   page_->setFocus();
+}
 
+void ViewerWindow::FitToSheet() {
   const QSize room = screen()->availableSize();
-  resize(std::min(page_->SheetWidth() + 100, room.width() - 20), std::min(820, room.height() - 60));
+  resize(std::min(page_->SheetWidth() + 100, room.width() - 20), std::min(860, room.height() - 60));
 }
 
 void ViewerWindow::Open(const std::string& path) {
@@ -302,7 +304,7 @@ void ViewerWindow::TakeHabits(const QSettings& settings) {
   page_->SetZoom(settings.value(QStringLiteral("zoom"), 100).toInt());
   const int theme = settings.value(QStringLiteral("theme"), 0).toInt();
   if (theme == 1 || theme == 2) SetTheme(static_cast<Theme>(theme));
-  restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+  if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray())) FitToSheet();
 }
 
 void ViewerWindow::KeepHabits(QSettings& settings) const {

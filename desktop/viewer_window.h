@@ -53,6 +53,9 @@ class ViewerWindow : public QMainWindow {
   FindBar& Find() { return *find_; }
   const TextFormat& Format() const { return format_; }
 
+  // Makes the window wide enough for the whole sheet, as far as the screen allows.
+  void FitToSheet();
+
   // Zoom, theme and size as the user left them.
   void TakeHabits(const QSettings& settings);
   void KeepHabits(QSettings& settings) const;

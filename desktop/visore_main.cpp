@@ -71,9 +71,9 @@ int WriteCopy(const Request& request) {
 int ShowFile(const std::string& file) {
   QSettings habits(QStringLiteral("ORM2002"), QStringLiteral("Visore"));
   ViewerWindow window;
-  window.TakeHabits(habits);
   try {
     window.Open(file);
+    window.TakeHabits(habits);
   } catch (const RuntimeFailure& failure) {
     Tell(nullptr, QMessageBox::Warning, QStringLiteral("Il file non può essere mostrato."),
          QString::fromStdString(failure.Text()));
