@@ -81,6 +81,7 @@ void ViewerWindow::Open(const std::string& path) {
   DecodeText(bytes);  // refuses what is no text before anything changes
   place_ = place;
   Show(bytes);
+  page_->moveCursor(QTextCursor::Start);
   SetEditing(!IsReport(place_.name));
   watch_.Follow(QFileInfo(QString::fromStdString(place_.Path())).absoluteFilePath());
 }
