@@ -128,7 +128,7 @@ void ThemeMenu(QMenu* view, ViewerWindow& window) {
   auto* group = new QActionGroup(themes);
   const std::pair<Theme, QString> choices[] = {{Theme::System, QStringLiteral("Del &sistema")},
                                                {Theme::Light, QStringLiteral("&Chiaro")},
-                                               {Theme::Dark, QStringLiteral("S&curo")}};
+                                               {Theme::Dark, QStringLiteral("Sc&uro")}};
   for (const auto& [theme, caption] : choices) {
     QAction* action =
         Command(themes, "theme", caption, {}, [&window, theme = theme] { window.SetTheme(theme); });

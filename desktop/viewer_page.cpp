@@ -15,8 +15,8 @@
 namespace orm {
 namespace {
 
-constexpr qreal kLetters = 11;   // points at 100 %
-constexpr int kSideColumns = 5;  // blank columns at each edge of the sheet
+constexpr qreal kLetters = 11;    // points at 100 %
+constexpr int kSheetMargin = 44;  // pixels, at each edge of the sheet
 constexpr int kLeastZoom = 50, kMostZoom = 400, kZoomStep = 10;
 constexpr int kShadow = 5;
 
@@ -29,6 +29,8 @@ ViewerPage::ViewerPage(QWidget* parent) : QPlainTextEdit(parent), columns_(kRepo
   setAccessibleName(QStringLiteral("Testo del documento"));
   setFrameShape(QFrame::NoFrame);
   setLineWrapMode(QPlainTextEdit::NoWrap);
+  // Set once and not by the zoom: to the document it is an edit, with its place in the history.
+  document()->setDocumentMargin(kSheetMargin);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   UpdateColours();
   SetZoom(100);
@@ -61,7 +63,6 @@ void ViewerPage::SetZoom(int percent) {
   setFont(font);
   document()->setDefaultFont(font);
   setTabStopDistance(8 * QFontMetricsF(font).horizontalAdvance('0'));
-  document()->setDocumentMargin(kSideColumns * QFontMetricsF(font).horizontalAdvance('0'));
   PlaceSheet();
   if (zoomChanged) zoomChanged();
 }
@@ -70,7 +71,7 @@ void ViewerPage::ZoomBy(int steps) { SetZoom((zoom_ / kZoomStep + steps) * kZoom
 
 int ViewerPage::SheetWidth() const {
   const qreal letter = QFontMetricsF(document()->defaultFont()).horizontalAdvance('0');
-  return static_cast<int>(std::ceil((columns_ + 2 * kSideColumns) * letter)) + 2;
+  return static_cast<int>(std::ceil(columns_ * letter)) + 2 * kSheetMargin + 2;
 }
 
 void ViewerPage::PlaceSheet() {

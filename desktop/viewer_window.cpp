@@ -25,6 +25,8 @@ namespace orm {
 namespace {
 
 constexpr int kMessageMilliseconds = 6000;
+constexpr int kRoomAround = 20;     // pixels that a new window leaves free
+constexpr int kLeastReadable = 60;  // per cent: a sheet too wide for the screen shrinks no further
 
 QLabel* StateLabel(ViewerWindow* window, const char* name) {
   auto* label = new QLabel(window);
@@ -71,8 +73,10 @@ ViewerWindow::ViewerWindow()
 }
 
 void ViewerWindow::FitToSheet() {
-  const QSize room = screen()->availableSize();
-  resize(std::min(page_->SheetWidth() + 100, room.width() - 20), std::min(860, room.height() - 60));
+  const QSize room = screen()->availableSize() - QSize(kRoomAround, 0);
+  while (page_->SheetWidth() > room.width() - kRoomAround && page_->Zoom() > kLeastReadable)
+    page_->ZoomBy(-1);
+  resize(std::min(page_->SheetWidth() + 100, room.width()), std::min(860, room.height() - 60));
 }
 
 void ViewerWindow::Open(const std::string& path) {

@@ -53,7 +53,7 @@ class ViewerWindow : public QMainWindow {
   FindBar& Find() { return *find_; }
   const TextFormat& Format() const { return format_; }
 
-  // Makes the window wide enough for the whole sheet, as far as the screen allows.
+  // Makes the window wide enough for the whole sheet; on a screen too small the letters shrink.
   void FitToSheet();
 
   // Zoom, theme and size as the user left them.

@@ -371,6 +371,8 @@ TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
   const int before = window.Page().SheetWidth();
   window.findChild<QAction*>("larger")->trigger();
   EXPECT_GT(window.Page().SheetWidth(), before);
+  EXPECT_FALSE(window.isWindowModified());  // looking closer is no edit
+  EXPECT_FALSE(window.Page().document()->isUndoAvailable());
   window.findChild<QAction*>("normal")->trigger();
   EXPECT_EQ(window.Page().SheetWidth(), before);
 }
