@@ -152,4 +152,11 @@ FilePlace FilePlace::Of(const std::string& path) {
   return {WorkFolder(folder), whole.filename().string()};
 }
 
+void FilePlace::Replace(std::string_view bytes) const {
+  std::error_code error;
+  if (!std::filesystem::is_directory(folder.Path(), error))
+    throw RuntimeFailure("La cartella \"" + folder.Path() + "\" non esiste.").AtFile(name);
+  folder.Replace(name, bytes);
+}
+
 }  // namespace orm

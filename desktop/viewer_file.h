@@ -57,7 +57,7 @@ struct FilePlace {
   static FilePlace Of(const std::string& path);
   std::string Path() const { return folder.PathOf(name); }
   std::string Read() const { return folder.Read(name); }
-  void Replace(std::string_view bytes) const { folder.Replace(name, bytes); }
+  void Replace(std::string_view bytes) const;  // a missing folder is named
 };
 
 }  // namespace orm

@@ -82,7 +82,11 @@ void ViewerWindow::FitToSheet() {
 void ViewerWindow::Open(const std::string& path) {
   const FilePlace place = FilePlace::Of(path);
   const std::string bytes = place.Read();
-  DecodeText(bytes);  // refuses what is no text before anything changes
+  try {
+    DecodeText(bytes);  // refuses what is no text before anything changes
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtFile(place.name);
+  }
   place_ = place;
   Show(bytes);
   page_->moveCursor(QTextCursor::Start);
@@ -250,7 +254,7 @@ void ViewerWindow::LookAtDisk() {
           onDisk_ = now;  // known now: saving may replace it
         });
   } catch (const RuntimeFailure& failure) {
-    statusBar()->showMessage(QString::fromStdString(failure.Text()), kMessageMilliseconds);
+    statusBar()->showMessage(QString::fromStdString(failure.Reason()), kMessageMilliseconds);
   }
 }
 

@@ -62,8 +62,8 @@ int WriteCopy(const Request& request) {
     if (request.copyOption == "--odt") copy.Replace(OdtOf(text));
     if (request.copyOption == "--utf8") copy.Replace(Utf8Of(text));
     return kDone;
-  } catch (const RuntimeFailure& failure) {
-    Complain(failure.Text());
+  } catch (RuntimeFailure& failure) {
+    Complain(failure.AtFile(request.file).Text());
     return kFailed;
   }
 }
@@ -88,7 +88,7 @@ int ShowFile(const std::string& file) {
 bool IsSet(const char* variable) { return !qEnvironmentVariableIsEmpty(variable); }
 
 // Chooses how Qt starts. Without a screen it would end the process with no word for the user, so it
-// is given a second choice that always starts. True when a window can only be painted unseen.
+// is given a second choice that always starts.
 void ChoosePlatform(bool needsScreen) {
   if (IsSet("QT_QPA_PLATFORM")) return;
   if (!needsScreen) {
@@ -103,7 +103,6 @@ int Run(int argc, char** argv) {
   const bool screenAsked = IsSet("QT_QPA_PLATFORM");
   ChoosePlatform(request.copyOption.empty());
   QApplication application(argc, argv);
-  QApplication::setApplicationDisplayName(QString());
   const bool unseen = !screenAsked && QGuiApplication::platformName() == QLatin1String("offscreen");
 
   if (request.valid && !request.copyOption.empty()) return WriteCopy(request);
@@ -118,7 +117,9 @@ int Run(int argc, char** argv) {
   ItalianCaptions italian;
   QCoreApplication::installTranslator(&italian);
   if (request.valid) return ShowFile(request.file);
-  Tell(nullptr, QMessageBox::Information, QStringLiteral("Manca il nome del file da mostrare."),
+  Tell(nullptr, QMessageBox::Information,
+       argc > 1 ? QStringLiteral("Gli argomenti non sono quelli attesi.")
+                : QStringLiteral("Manca il nome del file da mostrare."),
        QString::fromUtf8(kUsage));
   return kWrongUsage;
 }

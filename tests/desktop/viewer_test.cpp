@@ -299,6 +299,35 @@ TEST_F(ViewerTest, FindsForwardBackwardAndByCase) {
   EXPECT_FALSE(window.Find().isVisible());
 }
 
+TEST_F(ViewerTest, MessagesNameFolderAndFile) {
+  try {
+    FilePlace::Of(PathOf("nessuna/copia.txt")).Replace("x");
+    ADD_FAILURE();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_NE(failure.Text().find("/nessuna\" non esiste."), std::string::npos) << failure.Text();
+  }
+  Write("binario.DOC", std::string("\0", 1));
+  ViewerWindow window;
+  try {
+    window.Open(PathOf("binario.DOC"));
+    ADD_FAILURE();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.File(), "binario.DOC");
+  }
+}
+
+TEST_F(ViewerTest, SavesThroughALink) {
+  Write("vero.txt", "uno\n");
+  QFile::link(QString::fromStdString(PathOf("vero.txt")),
+              QString::fromStdString(PathOf("link.txt")));
+  ViewerWindow window;
+  window.Open(PathOf("link.txt"));
+  QTest::keyClicks(&window.Page(), "x");
+  ASSERT_TRUE(window.Save());
+  EXPECT_EQ(Read("vero.txt"), "xuno\n");
+  EXPECT_TRUE(QFileInfo(QString::fromStdString(PathOf("link.txt"))).isSymLink());
+}
+
 TEST(ViewerPages, BreaksAtSectionsAndKeepsEveryLine) {
   QStringList lines;
   for (int i = 0; i < 200; ++i)
