@@ -1,0 +1,24 @@
+// The commands of the viewer: menus, tool bar and keys over the methods of its window.
+#pragma once
+
+class QAction;
+class QMenu;
+
+namespace orm {
+
+class ViewerWindow;
+
+// The commands whose state follows the document.
+struct ViewerCommands {
+  QAction* save = nullptr;
+  QAction* edit = nullptr;
+  QAction* undo = nullptr;
+  QAction* redo = nullptr;
+  QAction* cut = nullptr;
+  QAction* paste = nullptr;
+};
+
+// Builds menus and tool bar into the window, which lives at least as long.
+ViewerCommands BuildCommands(ViewerWindow& window);
+
+}  // namespace orm

@@ -1,0 +1,19 @@
+// Copies of a report in other formats. Each gives the bytes of the copy, so that they are written
+// as safely as the report itself.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace orm {
+
+// A4 pages with text that can be selected. Needs a QGuiApplication. `title` names the document.
+std::string PdfOf(const QString& text, const QString& title);
+
+// A text document of A4 pages in letters of fixed width. Needs a QGuiApplication.
+std::string OdtOf(const QString& text);
+
+// The text in UTF-8 with its line ends as line feeds.
+std::string Utf8Of(const QString& text);
+
+}  // namespace orm

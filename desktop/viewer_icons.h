@@ -1,0 +1,26 @@
+// Small line drawings for the commands of the viewer, painted in the colour of the text: they are
+// sharp at every scale and follow the theme.
+#pragma once
+
+#include <QIcon>
+
+namespace orm {
+
+enum class LineIcon {
+  Save,
+  Print,
+  Preview,
+  Pdf,
+  Find,
+  Edit,
+  Reload,
+  Larger,
+  Smaller,
+  Up,
+  Down,
+  Close
+};
+
+QIcon IconOf(LineIcon shape);
+
+}  // namespace orm

@@ -1,0 +1,18 @@
+// Messages and questions of the viewer, with buttons that carry their own words.
+#pragma once
+
+#include <QMessageBox>
+#include <QStringList>
+
+namespace orm {
+
+inline constexpr const char* kViewerName = "ORM2002 Visore";
+
+// Shows a message with one button.
+void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {});
+
+// Shows a question and returns the index of the button pressed. The first button is the default;
+// Esc and the window's button give the last one.
+int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons);
+
+}  // namespace orm

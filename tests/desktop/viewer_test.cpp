@@ -1,0 +1,416 @@
+// The report viewer: what it reads comes back byte for byte, a failed save loses nothing, and paper
+// has the columns of the report.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <random>
+
+#include "desktop/viewer_export.h"
+#include "desktop/viewer_file.h"
+#include "desktop/viewer_find.h"
+#include "desktop/viewer_italian.h"
+#include "desktop/viewer_messages.h"
+#include "desktop/viewer_notice.h"
+#include "desktop/viewer_page.h"
+#include "desktop/viewer_pages.h"
+#include "desktop/viewer_window.h"
+#include "desktop/viewer_zip.h"
+#include "runtime/failure.h"
+
+namespace orm {
+namespace {
+
+QApplication& Application() {
+  if (!QApplication::instance()) {
+    static int argc = 1;
+    static char name[] = "orm_desktop_tests";
+    static char* argv[] = {name, nullptr};
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    new QApplication(argc, argv);
+  }
+  return *qApp;
+}
+
+// Presses the button of the next message box, by its caption, and keeps what the box said.
+class Answer {
+ public:
+  explicit Answer(const QString& caption) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, caption] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box) return;
+      timer_.stop();
+      said_ = box->text() + '\n' + box->informativeText();
+      for (QAbstractButton* button : box->buttons())
+        if (button->text().remove('&') == caption) return button->click();
+      ADD_FAILURE() << "no button " << caption.toStdString();
+      box->reject();
+    });
+    timer_.start(10);
+  }
+  QString Said() const { return said_; }
+
+ private:
+  QTimer timer_;
+  QString said_;
+};
+
+class ViewerTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    Application();
+    ASSERT_TRUE(folder_.isValid());
+  }
+  std::string PathOf(const std::string& name) const {
+    return folder_.filePath(QString::fromStdString(name)).toStdString();
+  }
+  void Write(const std::string& name, const std::string& bytes) const {
+    WorkFolder(folder_.path().toStdString()).Replace(name, bytes);
+  }
+  std::string Read(const std::string& name) const {
+    return WorkFolder(folder_.path().toStdString()).Read(name);
+  }
+  QTemporaryDir folder_;
+};
+
+// Fee lines of a report: labels from column 1, symbol at 56, amounts up to 72.
+const std::string kReport =
+    "              PARCELLA DELLE COMPETENZE PROFESSIONALI\r\n"
+    "========================== ONORARI E COMPENSI ==========================\r\n"
+    "Onorario in funzione delle Partite \r\n"
+    " n\xB0  2 x 106.0000                                      L.        212.000\r\n"
+    "TOTALE (Onorari e Compensi)                            L.      2.587.000\r\n"
+    "Totale onere finanziario Committente                   \x80      1.471,81\r\n";
+
+TEST(ViewerFile, TellsTheEncoding) {
+  const auto encoding = [](const std::string& bytes) { return DecodeText(bytes).format.encoding; };
+  EXPECT_EQ(encoding("solo ASCII\r\n"), TextEncoding::Windows1252);
+  EXPECT_EQ(encoding("citt\xE0 \x80 n.\xB0"), TextEncoding::Windows1252);
+  EXPECT_EQ(encoding("citt\xC3\xA0 \xE2\x82\xAC"), TextEncoding::Utf8);
+  EXPECT_EQ(encoding("\xEF\xBB\xBFsolo ASCII"), TextEncoding::Utf8);
+  // «CAFFÈ» ends in two bytes that could be one character of another alphabet.
+  EXPECT_EQ(encoding("\xAB"
+                     "CAFF\xC8\xBB"),
+            TextEncoding::Windows1252);
+  EXPECT_EQ(encoding("CAFF\xC8\xBB"), TextEncoding::Windows1252);
+  EXPECT_EQ(DecodeText("\x80").text, "€");
+}
+
+TEST(ViewerFile, RefusesWhatIsNoText) {
+  EXPECT_THROW(DecodeText(std::string("a\0b", 3)), RuntimeFailure);
+  EXPECT_THROW(DecodeText("\x89PNG\r\n\x1A\n"), RuntimeFailure);
+  EXPECT_THROW(DecodeText("\x81\x8D"), RuntimeFailure);  // no characters of Windows-1252
+}
+
+TEST(ViewerFile, NamesTheCharacterThatTheEncodingLacks) {
+  const auto lacking = FirstLackingCharacter("uno\ndue\u2028tre → quattro", {});
+  ASSERT_TRUE(lacking);
+  EXPECT_EQ(lacking->character, "→");
+  EXPECT_EQ(lacking->line, 3);
+  EXPECT_FALSE(FirstLackingCharacter("città € n.° “”", {}));
+}
+
+// Any text of Windows-1252, with line ends of all kinds mixed, comes back through the page.
+TEST_F(ViewerTest, EveryTextComesBackByteForByte) {
+  std::mt19937 random(1949);
+  const std::string ends[] = {"\r\n", "\n", "\r"};
+  ViewerPage page;
+  for (int round = 0; round < 300; ++round) {
+    const std::string usual = ends[random() % 3];
+    std::string bytes;
+    for (int i = 0; i < 60; ++i) {
+      unsigned byte = 0x20 + random() % 0xE0;
+      if (byte == 0x7F || byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 ||
+          byte == 0x9D)
+        byte = '\t';
+      bytes += static_cast<char>(byte);
+      if (random() % 6 == 0) bytes += usual;
+      if (random() % 40 == 0) bytes += ends[random() % 3];
+    }
+    if (round % 3 == 0) bytes += "\xC3\xA8\xE2\x86\x92";  // makes some of them broken UTF-8
+    DecodedText decoded;
+    try {
+      decoded = DecodeText(bytes);
+    } catch (const RuntimeFailure&) {
+      continue;
+    }
+    page.SetText(decoded.text);
+    ASSERT_EQ(EncodeText(page.Text(), decoded.format), bytes) << round;
+  }
+}
+
+TEST_F(ViewerTest, EditsKeepEncodingAndLineEnds) {
+  Write("A.DOC", "citt\xE0\r\ntab. E\nfine \x80\xA0.\r\n");
+  Write("B.txt",
+        "\xEF\xBB\xBF"
+        "citt\xC3\xA0\nfine\n");
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  EXPECT_FALSE(window.Editing());  // a report opens closed
+  window.SetEditing(true);
+  window.Page().moveCursor(QTextCursor::End);
+  QTest::keyClicks(&window.Page(), "Nota");
+  QTest::keyClick(&window.Page(), Qt::Key_Return, Qt::ShiftModifier);
+  ASSERT_TRUE(window.Save());
+  EXPECT_EQ(Read("A.DOC"), "citt\xE0\r\ntab. E\nfine \x80\xA0.\r\nNota\r\n");
+  EXPECT_FALSE(window.isWindowModified());
+
+  window.Open(PathOf("B.txt"));
+  EXPECT_TRUE(window.Editing());
+  QTest::keyClicks(&window.Page(), "La ");
+  ASSERT_TRUE(window.Save());
+  EXPECT_EQ(Read("B.txt"),
+            "\xEF\xBB\xBF"
+            "La citt\xC3\xA0\nfine\n");
+}
+
+TEST_F(ViewerTest, FailedSaveKeepsEditsAndFile) {
+  Write("A.DOC", kReport);
+  QDir(folder_.path()).mkdir("A.DOC.tmp");  // stands where the new contents would be written
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.SetEditing(true);
+  QTest::keyClicks(&window.Page(), "Nota");
+  Answer answer("Chiudi");
+  EXPECT_FALSE(window.Save());
+  EXPECT_TRUE(answer.Said().contains("Il file non è stato salvato."))
+      << answer.Said().toStdString();
+  EXPECT_TRUE(answer.Said().contains("A.DOC"));
+  EXPECT_EQ(Read("A.DOC"), kReport);
+  EXPECT_TRUE(window.isWindowModified());
+  EXPECT_EQ(window.Page().Text().substr(0, 4), "Nota");
+}
+
+TEST_F(ViewerTest, RefusesToSaveACharacterThatTheFileCannotHold) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.SetEditing(true);
+  window.Page().insertPlainText("→");
+  Answer answer("Annulla");
+  EXPECT_FALSE(window.Save());
+  EXPECT_TRUE(answer.Said().contains("«→» della riga 1")) << answer.Said().toStdString();
+  EXPECT_EQ(Read("A.DOC"), kReport);
+  EXPECT_TRUE(window.isWindowModified());
+  EXPECT_TRUE(window.SaveCopy(CopyKind::Utf8, PathOf("copia.txt")));
+  EXPECT_EQ(Read("copia.txt").substr(0, 3), "→");
+  window.Page().document()->setModified(false);
+}
+
+TEST_F(ViewerTest, ClosingWithEditsAsks) {
+  Write("A.txt", "uno\r\n");
+  ViewerWindow window;
+  window.Open(PathOf("A.txt"));
+  window.show();
+  QTest::keyClicks(&window.Page(), "x");
+  {
+    Answer answer("Annulla");
+    EXPECT_FALSE(window.close());
+  }
+  {
+    Answer answer("Non salvare");
+    EXPECT_TRUE(window.close());
+  }
+  EXPECT_EQ(Read("A.txt"), "uno\r\n");
+  window.show();
+  Answer answer("Salva");
+  EXPECT_TRUE(window.close());
+  EXPECT_EQ(Read("A.txt"), "xuno\r\n");
+}
+
+TEST_F(ViewerTest, ShowsANewCalculationAtOnce) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  for (const std::string line : {"Primo calcolo\r\n", "Secondo calcolo\r\n"}) {
+    Write("A.DOC", line + kReport);  // replaced, as every report is
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return window.Page().Text().starts_with(line.substr(0, 5)); }, 3000))
+        << line;
+  }
+  EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(ViewerTest, ANewCalculationDoesNotTakeTheEdits) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.show();
+  window.SetEditing(true);
+  QTest::keyClicks(&window.Page(), "Nota");
+  Write("A.DOC", "Nuovo calcolo\r\n");
+  auto* notice = window.findChild<QWidget*>("noticeBar");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return notice->isVisible(); }, 3000));
+  EXPECT_TRUE(window.Page().Text().starts_with("Nota"));
+  {
+    Answer answer("Annulla");  // saving now would overwrite the calculation unasked
+    EXPECT_FALSE(window.Save());
+  }
+  EXPECT_EQ(Read("A.DOC"), "Nuovo calcolo\r\n");
+  notice->findChildren<QPushButton*>().first()->click();
+  EXPECT_EQ(window.Page().Text(), "Nuovo calcolo\n");
+  EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(ViewerTest, RefusedFilesLeaveTheWindowAsItWas) {
+  Write("A.DOC", kReport);
+  Write("binario.DOC", std::string("\0\1\2", 3));
+  Write("vuoto.DOC", "");
+  QFile huge(folder_.filePath("grande.DOC"));
+  ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(9 << 20));
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  for (const char* name : {"assente.DOC", "binario.DOC", "grande.DOC", "."})
+    EXPECT_THROW(window.Open(PathOf(name)), RuntimeFailure) << name;
+  EXPECT_EQ(EncodeText(window.Page().Text(), window.Format()), kReport);
+  window.Open(PathOf("vuoto.DOC"));
+  EXPECT_EQ(window.Page().Text(), "");
+}
+
+TEST_F(ViewerTest, FindsForwardBackwardAndByCase) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.show();
+  window.Find().Open();
+  auto* field = window.findChild<QLineEdit*>("findField");
+  auto* count = window.findChild<QLabel*>("findCount");
+  QTest::keyClicks(field, "totale");
+  EXPECT_EQ(count->text(), "1 di 2");
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(count->text(), "2 di 2");
+  EXPECT_EQ(window.Page().textCursor().blockNumber(), 5);
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(count->text(), "1 di 2, ripreso dall'inizio");
+  QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(window.Page().textCursor().blockNumber(), 5);
+  window.findChild<QAbstractButton*>("findCase")->click();
+  EXPECT_EQ(count->text(), "Nessun risultato");
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_FALSE(window.Find().isVisible());
+}
+
+TEST_F(ViewerTest, MessagesNameFolderAndFile) {
+  try {
+    FilePlace::Of(PathOf("nessuna/copia.txt")).Replace("x");
+    ADD_FAILURE();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_NE(failure.Text().find("/nessuna\" non esiste."), std::string::npos) << failure.Text();
+  }
+  Write("binario.DOC", std::string("\0", 1));
+  ViewerWindow window;
+  try {
+    window.Open(PathOf("binario.DOC"));
+    ADD_FAILURE();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.File(), "binario.DOC");
+  }
+}
+
+TEST_F(ViewerTest, SavesThroughALink) {
+  Write("vero.txt", "uno\n");
+  QFile::link(QString::fromStdString(PathOf("vero.txt")),
+              QString::fromStdString(PathOf("link.txt")));
+  ViewerWindow window;
+  window.Open(PathOf("link.txt"));
+  QTest::keyClicks(&window.Page(), "x");
+  ASSERT_TRUE(window.Save());
+  EXPECT_EQ(Read("vero.txt"), "xuno\n");
+  EXPECT_TRUE(QFileInfo(QString::fromStdString(PathOf("link.txt"))).isSymLink());
+}
+
+TEST(ViewerPages, BreaksAtSectionsAndKeepsEveryLine) {
+  QStringList lines;
+  for (int i = 0; i < 200; ++i)
+    lines += i % 37 == 18 ? QString("===================== TITOLO ====").leftJustified(72, '=')
+                          : QString("riga %1").arg(i);
+  for (int perPage = 1; perPage < 80; ++perPage) {
+    QStringList all;
+    const auto pages = BreakIntoPages(lines, perPage);
+    for (const QStringList& page : pages) {
+      EXPECT_LE(page.size(), perPage);
+      const bool mayEndInTitle = perPage <= 2 || &page == &pages.back();
+      EXPECT_TRUE(mayEndInTitle || !page.last().startsWith("=====")) << perPage;
+      all += page;
+    }
+    EXPECT_EQ(all, lines);
+  }
+}
+
+TEST_F(ViewerTest, PdfKeepsTheColumns) {
+  std::string text = DecodeText(kReport).text;
+  for (int i = 0; i < 80; ++i) text += "riga\n";
+  WorkFolder(folder_.path().toStdString())
+      .Replace("a.pdf", PdfOf(QString::fromStdString(text), "A.DOC"));
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", QString::fromStdString(PathOf("a.pdf")), "-"});
+  if (!reader.waitForFinished()) GTEST_SKIP() << "pdftotext is not installed";
+  const QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split('\f');
+  ASSERT_EQ(pages.size(), 3);  // two, and what follows the last page's end
+  const QStringList lines = pages[0].split('\n');
+  const auto find = [&lines](const QString& start) {
+    for (const QString& line : lines)
+      if (line.startsWith(start)) return line;
+    return QString();
+  };
+  EXPECT_EQ(find("TOTALE"),
+            "TOTALE (Onorari e Compensi)                            L.      2.587.000");
+  EXPECT_EQ(find(" n°").size(), 72);
+  EXPECT_EQ(find("Totale onere").indexOf("€"), 55);
+  EXPECT_EQ(find("=====").size(), 72);
+  EXPECT_TRUE(pages[0].contains("Pagina 1 di 2"));
+  EXPECT_TRUE(pages[1].contains("Pagina 2 di 2"));
+}
+
+TEST(ViewerZip, ChecksumIsTheCommonOne) {
+  EXPECT_EQ(Crc32("123456789"), 0xCBF43926U);  // the check value of this checksum
+}
+
+TEST_F(ViewerTest, OdtHoldsEveryLineWithItsBlanks) {
+  const std::string odt = OdtOf(QString("  a   b <c> & d\n\nfine"));
+  EXPECT_EQ(odt.substr(30, 8), "mimetype");
+  EXPECT_NE(odt.find("<text:s text:c=\"2\"/>a <text:s text:c=\"2\"/>b &lt;c&gt; &amp; d<"),
+            std::string::npos);
+  EXPECT_NE(odt.find("fo:page-width=\"210mm\""), std::string::npos);
+  WorkFolder(folder_.path().toStdString()).Replace("a.odt", odt);
+  QProcess unzip;
+  unzip.start("unzip", {"-tq", QString::fromStdString(PathOf("a.odt"))});
+  if (!unzip.waitForFinished()) GTEST_SKIP() << "unzip is not installed";
+  EXPECT_EQ(unzip.exitCode(), 0);
+}
+
+TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.FitToSheet();
+  window.show();
+  EXPECT_LE(window.width(), 1024);
+  EXPECT_GT(window.Page().viewport()->width(), 0);
+  EXPECT_EQ(window.Page().horizontalScrollBar()->maximum(), 0);
+  const int before = window.Page().SheetWidth();
+  window.findChild<QAction*>("larger")->trigger();
+  EXPECT_GT(window.Page().SheetWidth(), before);
+  EXPECT_FALSE(window.isWindowModified());  // looking closer is no edit
+  EXPECT_FALSE(window.Page().document()->isUndoAvailable());
+  window.findChild<QAction*>("normal")->trigger();
+  EXPECT_EQ(window.Page().SheetWidth(), before);
+}
+
+TEST(ViewerItalian, OwnCaptionsReplaceThoseOfTheToolkit) {
+  const ItalianCaptions captions;
+  EXPECT_EQ(captions.translate("QPlatformTheme", "Cancel", nullptr, -1), "Annulla");
+  EXPECT_TRUE(captions.translate("QPlatformTheme", "unknown", nullptr, -1).isNull());
+}
+
+}  // namespace
+}  // namespace orm
