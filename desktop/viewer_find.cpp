@@ -66,7 +66,7 @@ FindBar::FindBar(ViewerPage& page, QWidget* parent)
   connect(previous, &QToolButton::clicked, this, [this] { Previous(); });
   connect(next, &QToolButton::clicked, this, [this] { Next(); });
   connect(close, &QToolButton::clicked, this, [this] { Close(); });
-  auto* escape = new QShortcut(Qt::Key_Escape, &page_, Qt::WidgetShortcut);
+  auto* escape = new QShortcut(Qt::Key_Escape, &page_, nullptr, nullptr, Qt::WidgetShortcut);
   connect(escape, &QShortcut::activated, this, [this] { Close(); });
   connect(page_.document(), &QTextDocument::contentsChanged, this, [this] {
     if (isVisible()) MarkMatches(), ShowCount();
