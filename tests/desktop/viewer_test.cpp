@@ -237,6 +237,12 @@ TEST_F(ViewerTest, ShowsANewCalculationAtOnce) {
         QTest::qWaitFor([&] { return window.Page().Text().starts_with(line.substr(0, 5)); }, 3000))
         << line;
   }
+  // An editor that writes in place gives the folder no sign: the new file itself is watched too.
+  QFile inPlace(folder_.filePath("A.DOC"));
+  ASSERT_TRUE(inPlace.open(QIODevice::ReadWrite));
+  inPlace.write("Terzo!");
+  inPlace.close();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.Page().Text().starts_with("Terzo!"); }, 3000));
   EXPECT_FALSE(window.isWindowModified());
 }
 
