@@ -8,6 +8,15 @@
 #include "tariff/user_data.h"
 
 namespace orm {
+namespace {
+
+// The text of a fee, which is cut to it.
+std::string ImportoOnorario(const RunState& stato, double& valore) {
+  return StringaImporto(FormattaNumero(valore, stato.DecimaliValuta()), TipoImporto::Onorari,
+                        stato.ModoLire);
+}
+
+}  // namespace
 
 std::string StringaImporto(std::string_view testo, TipoImporto tipo, bool modoLire) {
   const std::size_t larghezza = tipo == TipoImporto::Lavori ? 16 : 14;
@@ -20,8 +29,7 @@ std::string StringaImporto(std::string_view testo, TipoImporto tipo, bool modoLi
 
 void StampaRigaOnorario(RunState& stato, int tab, std::string& etichetta, double& valore) {
   constexpr std::size_t lunga = 54;
-  const std::string importo = StringaImporto(FormattaNumero(valore, stato.DecimaliValuta()),
-                                             TipoImporto::Onorari, stato.ModoLire);
+  const std::string importo = ImportoOnorario(stato, valore);
   if (Characters(etichetta) >= lunga) {
     const auto rientro = std::min(etichetta.find_first_not_of(' '), etichetta.size());
     etichetta = Blanks(rientro) + TogliSpazi(etichetta);
@@ -35,6 +43,17 @@ void StampaRigaOnorario(RunState& stato, int tab, std::string& etichetta, double
 
 void StampaRigaOnorario(RunState& stato, int tab, std::string&& etichetta, double& valore) {
   StampaRigaOnorario(stato, tab, etichetta, valore);
+}
+
+void StampaFormula(RunState& stato, std::string_view formula, double& valore) {
+  constexpr std::size_t lunga = 44;
+  const std::string importo = ImportoOnorario(stato, valore);
+  ReportPrinter& stampa = stato.NumFileUscita;
+  stampa.Text(formula);
+  if (Characters(formula) < lunga)
+    stampa.Tab(kColonnaImporto).Line(importo);
+  else
+    stampa.Line(" " + importo);
 }
 
 void StampaAllineataVirgola(RunState& stato, std::string_view testo, int colonna) {

@@ -64,6 +64,10 @@ std::string StringaImporto(std::string_view testo, TipoImporto tipo, bool modoLi
 void StampaRigaOnorario(RunState& stato, int tab, std::string& etichetta, double& valore);
 void StampaRigaOnorario(RunState& stato, int tab, std::string&& etichetta, double& valore);
 
+// One line with a formula and what it comes to: the amount from column 56, or after one blank where
+// the formula has 44 characters or more. `valore` is cut to what is printed.
+void StampaFormula(RunState& stato, std::string_view formula, double& valore);
+
 // One line with the text before `colonna`, or with its comma at `colonna`.
 void StampaAllineataVirgola(RunState& stato, std::string_view testo, int colonna);
 

@@ -50,6 +50,17 @@ Onorarioperlacontabilitàelemisuredeilavoriàcorpo:      €         10,00|
 )"));
 }
 
+TEST_F(ReportFrame, Formulas) {
+  double valore = 10.7;
+  StampaFormula(stato, std::string(43, 'x'), valore);
+  StampaFormula(stato, std::string(44, 'x'), valore);
+  EXPECT_EQ(Report(), Page(R"(
+xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx            L.             10|
+xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.             10|
+)"));
+  EXPECT_EQ(valore, 10);
+}
+
 TEST_F(ReportFrame, TextsAlignedOnTheirComma) {
   StampaAllineataVirgola(stato, "1.234,5", 20);
   StampaAllineataVirgola(stato, "7", 20);
