@@ -9,6 +9,8 @@ namespace orm {
 
 namespace {
 
+constexpr auto kCompensiETabelle = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
+
 void CalcoloSoloPpe(RunState& stato) {
   double totale = 0;
   CalcoloPpe(stato, totale);
@@ -20,7 +22,7 @@ const std::vector<FeeCase>& FeeCases() {
   // clang-format off
   static const std::vector<FeeCase> kCases = {
       {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kAllCriteria, nullptr, nullptr},
-      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kAllCriteria, InputCoa, CalcoloCoa},
+      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcoloCoa},
       {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kAllCriteria, nullptr, nullptr},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
       {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
