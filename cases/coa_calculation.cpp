@@ -128,7 +128,7 @@ void NotaCoa::DueScaglioni() {
   StampaPercentuale(P1, lire ? kLimiteScaglione : EuroInLire(kLimiteScaglione));
   StampaPercentuale(P2, lire ? base2 : EuroInLire(base2));
   StampaTitoloOnorario();
-  double Onorario1, Onorario2;
+  double Onorario1 = 0, Onorario2 = 0;
   if (lire) {
     Onorario1 = Int(P1.valore * base1 * Coefficiente / 100);
     Onorario2 = Int(base2 * P2.valore * Coefficiente) / 100;
