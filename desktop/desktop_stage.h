@@ -11,4 +11,7 @@ namespace orm {
 // `pictures`: the folder for the pictures that scripts ask for; empty: none are made.
 StageBuilder DesktopStage(std::string pictures);
 
+// Keeps the platform without a screen from telling at each window what it lacks.
+void QuietOffscreen();
+
 }  // namespace orm
