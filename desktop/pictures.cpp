@@ -4,15 +4,20 @@
 #include <QPainter>
 #include <QPainterPath>
 
+// The pictures lie in a static library, from which only what is called for is linked.
+static void LoadPictures() { Q_INIT_RESOURCE(pictures); }
+
 namespace orm {
 
 QIcon ProgramIcon() {
+  LoadPictures();
   QIcon icon;
   for (const int side : {16, 32, 48, 128}) icon.addFile(QStringLiteral(":/icona-%1.png").arg(side));
   return icon;
 }
 
 QPixmap MainPicture(double pixelRatio) {
+  LoadPictures();
   // Twice as many points serve every greater ratio.
   QPixmap picture(pixelRatio > 1 ? ":/immagine-2.png" : ":/immagine-1.png");
   if (pixelRatio > 1) picture.setDevicePixelRatio(2);

@@ -32,7 +32,7 @@ TEST(ReadNumber, SaysWhyNot) {
   EXPECT_EQ(ReadNumber("abc", kLire).objection, "Non è un numero.");
   EXPECT_EQ(ReadNumber("1.50.000", kEuro).objection,
             "I punti delle migliaia non sono al loro posto.");
-  EXPECT_EQ(ReadNumber("1,005", kEuro).objection, "Il numero ha più di 2 decimali.");
+  EXPECT_EQ(ReadNumber("1,005", kEuro).objection, "Il numero può avere al massimo 2 decimali.");
   EXPECT_EQ(ReadNumber("10000000000", kLire).objection,
             "Il numero deve essere fra 0 e 9.999.999.999.");
   EXPECT_EQ(ReadNumber("-5", kEuro).objection, "Il numero deve essere fra 0 e 99.999.999,99.");
