@@ -24,13 +24,6 @@ Range RangeOf(double x, const SezioneT& z) {
   return Range::LowerFlange;
 }
 
-SezioneT ReadSection(const DatiSezione& dati) {
-  SezioneT z{dati[1], dati[2], dati[3], dati[4], dati[5], dati[6], {}};
-  for (std::size_t i = 0; i < z.strati.size(); ++i)
-    if (const double A = dati[7 + 2 * i]; A != 0) z.strati[i] = {A, dati[8 + 2 * i]};
-  return z;
-}
-
 bool AllFinite(const SezioneT& z, double M) {
   const double measures[] = {z.B, z.b, z.Bi, z.H, z.s, z.si, M};
   return std::all_of(std::begin(measures), std::end(measures),
@@ -65,6 +58,13 @@ void TurnOver(SezioneT& z) {
 
 }  // namespace
 
+SezioneT LeggiSezioneT(const DatiSezione& dati) {
+  SezioneT z{dati[1], dati[2], dati[3], dati[4], dati[5], dati[6], {}};
+  for (std::size_t i = 0; i < z.strati.size(); ++i)
+    if (const double A = dati[7 + 2 * i]; A != 0) z.strati[i] = {A, dati[8 + 2 * i]};
+  return z;
+}
+
 double MomentoStaticoT(double x, const SezioneT& z) {
   const Range range = RangeOf(x, z);
   double C = 0;
@@ -93,7 +93,7 @@ double MomentoInerziaT(double x, const SezioneT& z) {
 }
 
 void VerificaSezioneT(const DatiSezione& dati, RisultatiSezione& risultati) {
-  SezioneT z = ReadSection(dati);
+  SezioneT z = LeggiSezioneT(dati);
   double M = dati[23];
   const EsitoT esito = Check(z, M);
   risultati[0] = static_cast<double>(esito);

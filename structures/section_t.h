@@ -39,6 +39,9 @@ struct SezioneT {
   std::array<StratoT, 8> strati;
 };
 
+// The measures without the moment; a layer without area has distance 0, whatever was given.
+SezioneT LeggiSezioneT(const DatiSezione& dati);
+
 // First and second moment of the transformed section about the line at depth x. The neutral axis
 // is where the first one is 0. A depth between s and s + 1e-9 falls into the third range of the
 // formulas, that of an axis in the lower flange.
