@@ -27,8 +27,9 @@ constexpr double kPatch = 0.17;                        // half the height of the
 constexpr double kHatchStep = 0.2;
 constexpr double kLine = 0.48;  // units that a line of small text takes
 
-double TextWidth(const std::string& text, const Lavagna& lavagna) {
-  const double pixels = static_cast<double>(Characters(text)) * kSmall * (96.0 / 72) * 0.57;
+double TextWidth(const std::string& text, bool bold, const Lavagna& lavagna) {
+  const double em = bold ? 0.64 : 0.57;  // of a usual letter
+  const double pixels = static_cast<double>(Characters(text)) * kSmall * (96.0 / 72) * em;
   return pixels * (kRight - kLeft) / lavagna.PixelsWide();
 }
 
@@ -224,16 +225,17 @@ void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tens
   const auto labels = QuoteEtichette(heights, kLine, versoAlto, 0.9, 9);
   for (std::size_t i = 0; i < shown.size(); ++i) {
     const std::string text = FormatPattern(shown[i].valore, "####.0") + " kg/cmq.";
-    const double x = compresse ? kBase + 0.6 : kBase - 0.6 - TextWidth(text, lavagna_);
+    const bool over = ReachOf(shown[i], ammesse).over;
+    const double x = compresse ? kBase + 0.6 : kBase - 0.6 - TextWidth(text, over, lavagna_);
     Leader(lavagna_, kBase, heights[i], compresse ? kBase + 0.5 : kBase - 0.5, labels[i]);
-    Etichetta(x, labels[i] + kLine / 2, text, kBlack, ReachOf(shown[i], ammesse).over);
+    Etichetta(x, labels[i] + kLine / 2, text, kBlack, over);
   }
 }
 
 // Text on a patch of the background, so that it can be read on hatching and outlines.
 void DisegnoFlessione::Etichetta(double x, double y, const std::string& testo, Colour colore,
                                  bool grassetto) {
-  const double right = x + TextWidth(testo, lavagna_), middle = y - kLine / 2;
+  const double right = x + TextWidth(testo, grassetto, lavagna_), middle = y - kLine / 2;
   lavagna_.SetColour(lavagna_.Background());
   lavagna_.SetStroke(Stroke::Solid);
   lavagna_.SetWidth(1);
