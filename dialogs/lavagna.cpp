@@ -71,10 +71,11 @@ const char* NameOf(DrawOperation::Stroke stroke) {
 
 }  // namespace
 
-Lavagna::Lavagna(Form& form, std::string name, double width, double height)
+Lavagna::Lavagna(Form& form, std::string name, double width, double height, int pixelsWide)
     : Control(form, Kind::Drawing, std::move(name), {}),
       homeWidth_(width),
       homeHeight_(height),
+      pixelsWide_(pixelsWide),
       right_(width),
       top_(height) {}
 
@@ -165,6 +166,7 @@ std::string Lavagna::AsText() const {
 }
 
 std::string Lavagna::AsSvg(int pixelsWide) const {
+  if (pixelsWide == 0) pixelsWide = pixelsWide_;
   const double scale = pixelsWide / (right_ - left_);
   const double height = (top_ - bottom_) * scale;
   const auto px = [&](const Point& p) { return Shown((p.x - left_) * scale); };

@@ -36,8 +36,10 @@ struct DrawOperation {
 
 class Lavagna : public Control {
  public:
-  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward.
-  Lavagna(Form& form, std::string name, double width, double height);
+  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward. Widths of
+  // lines and sizes of fonts are told for a panel that is `pixelsWide` wide (100 %); a larger or
+  // smaller picture takes them along.
+  Lavagna(Form& form, std::string name, double width, double height, int pixelsWide = 900);
 
   // Empties the panel and sets pen, font and background to their beginnings.
   void Clear();
@@ -59,9 +61,10 @@ class Lavagna : public Control {
   double BottomEdge() const { return bottom_; }
   double RightEdge() const { return right_; }
   double TopEdge() const { return top_; }
+  int PixelsWide() const { return pixelsWide_; }
 
   std::string AsText() const;
-  std::string AsSvg(int pixelsWide = 900) const;
+  std::string AsSvg(int pixelsWide = 0) const;  // 0: at 100 %
 
   bool TakesFocus() const override { return false; }
   std::string ShownText() const override { return AsText(); }
@@ -71,6 +74,7 @@ class Lavagna : public Control {
   DrawOperation Pen(DrawOperation::Kind kind) const;
   void Add(DrawOperation operation);
   double homeWidth_, homeHeight_;
+  int pixelsWide_;
   double left_ = 0, bottom_ = 0, right_, top_;
   Colour background_{255, 255, 255};
   DrawOperation pen_;
