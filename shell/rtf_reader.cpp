@@ -45,6 +45,7 @@ class RtfReader {
   void Byte(unsigned char byte);
   void Text(std::string_view text);
   void EndParagraph();
+  void EndRow();
   void EndDocument();
   void Lose(const char* what);
   void LoseByWord(std::string_view word, bool on);
@@ -215,7 +216,9 @@ void RtfReader::TakeFont(int index) {
 bool RtfReader::ParagraphWord(std::string_view word, int number) {
   RichSetting& setting = Top().setting;
   const int measure = std::clamp(number, -kFarthest, kFarthest);
-  if (word == "par" || word == "row" || word == "page" || word == "sect") {
+  if (word == "row") {
+    EndRow();
+  } else if (word == "par" || word == "page" || word == "sect") {
     EndParagraph();
   } else if (word == "pard") {
     setting = {};
@@ -358,6 +361,16 @@ void RtfReader::EndParagraph() {
   }
   listText_.clear();
   out_.document.paragraphs.push_back(std::exchange(paragraph_, {}));
+}
+
+// Cells of a table end; the tabs that stand for them part.
+void RtfReader::EndRow() {
+  if (!paragraph_.runs.empty()) {
+    std::string& text = paragraph_.runs.back().text;
+    if (text.ends_with('\t')) text.pop_back();
+    if (text.empty()) paragraph_.runs.pop_back();
+  }
+  EndParagraph();
 }
 
 // The last end of paragraph closes the text and begins no new one.
