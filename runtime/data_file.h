@@ -53,6 +53,8 @@ class DataReader {
   }
 
   bool AtEnd();  // nothing but blanks and line ends is left
+  // Refuses the value of the field read last, with its place.
+  [[noreturn]] void Fail(const char* field, std::string reason) const;
   // A failure when the file goes on: data that nobody would read must not be lost at the next save.
   void ExpectEnd();
 
@@ -65,7 +67,6 @@ class DataReader {
   Raw Next(const char* field);
   template <class T>
   T Whole(const char* field);
-  [[noreturn]] void Fail(const char* field, std::string reason) const;
   void SkipBlanks();
 
   std::string name_;

@@ -54,6 +54,12 @@ long DayNumber(const Date& d) {
   return std::chrono::sys_days(Calendar(d)).time_since_epoch().count();
 }
 
+Date DateOfDay(long dayNumber) {
+  const std::chrono::year_month_day day{std::chrono::sys_days(std::chrono::days(dayNumber))};
+  return {static_cast<int>(day.year()), static_cast<int>(static_cast<unsigned>(day.month())),
+          static_cast<int>(static_cast<unsigned>(day.day()))};
+}
+
 Date SystemDate() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};

@@ -21,6 +21,7 @@ std::string ShortDate(const Date& date);  // "15/03/2002"
 std::optional<Date> ParseDate(std::string_view text);
 // Days from 1 January 1970, for differences.
 long DayNumber(const Date& date);
+Date DateOfDay(long dayNumber);  // the other way round
 Date SystemDate();
 
 }  // namespace orm

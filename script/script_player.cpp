@@ -223,11 +223,8 @@ void ScriptPlayer::MeetForm(Form& form, FormHand& hand) {
     }
     const Statement statement = *Next();
     ++at_;
-    try {
-      PlayInForm(statement, form, hand);
-    } catch (const RuntimeFailure& failure) {
-      Fail(statement.line, failure.Text());
-    }
+    // A failure that an event of the form ends in is the program's own, and goes on to its menu.
+    PlayInForm(statement, form, hand);
   }
   if (mismatch_) {
     form.Close();
@@ -241,7 +238,11 @@ void ScriptPlayer::MeetForm(Form& form, FormHand& hand) {
 
 void ScriptPlayer::PlayInForm(const Statement& s, Form& form, FormHand& hand) {
   const std::string& verb = s.Verb();
-  if (PlayAnywhere(s)) return;
+  try {
+    if (PlayAnywhere(s)) return;
+  } catch (const RuntimeFailure& failure) {
+    return Fail(s.line, failure.Text());
+  }
   if (verb == "set") return Set(s, form, hand);
   if (verb == "press") return Press(s, form, hand);
   if (verb == "expect") return Expect(s, form, hand);

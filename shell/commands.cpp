@@ -7,9 +7,14 @@
 #include "shell/dispatch.h"
 #include "shell/form_criteria.h"
 #include "shell/form_editor.h"
+#include "shell/form_letter.h"
+#include "shell/form_memo.h"
 #include "shell/form_title.h"
 #include "shell/form_user.h"
 #include "shell/shell_boxes.h"
+#include "shell/technical_notes.h"
+#include "utilities/form_interest.h"
+#include "utilities/form_pension.h"
 
 namespace orm {
 namespace {
@@ -54,9 +59,14 @@ constexpr std::array kCommands = {
     Command{"CONFIG_GEO", EditConfiguration<kGeo>},
     Command{"PERS_UTENTE", Show<FrmPerUtente>},
     Command{"PERS_CRITERI", ShowCriteria},
-    Command{
-        "PERS_EDITMEMO",
-        [](RunState& stato) { stato.player.StartProgram(stato.editors.EditorTesti, "MEMO.RTF"); }},
+    Command{"PERS_EDITMEMO", EditaMemo},
+    Command{"UTIL_LETTERA_ID", Show<FrmGenLettera>},
+    Command{"UTIL_LETTERA_VS", VisualizzaLettera},
+    Command{"UTIL_MORA", MostraInteressiMora},
+    Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
+    Command{"INFORMA_Note", MostraMemo},
+    Command{"INFORMA_BALCONI", MostraNotaBalconi},
+    Command{"INFORMA_SOLAIT", MostraNotaSolai},
     Command{"Informa_Informazioni", ShowInformation},
 };
 

@@ -39,16 +39,6 @@ void ScriviCriteri(const RunState& stato) {
   file.Replace(stato.folder, kFileCriteri);
 }
 
-void ScriviRedditiIniziali(const WorkFolder& folder) {
-  DataWriter file;
-  std::string nascita = "01/01/1940";
-  std::string iscrizione = "01/01/1979";
-  std::string sesso = "M";
-  std::int16_t zero = 0;
-  file.Line(Field("data di nascita", nascita), Field("data di iscrizione", iscrizione),
-            Field("sesso", sesso), Field("condizione", zero));
-  for (int i = 0; i < 17; ++i) file.Line(Field("reddito", zero));
-  file.Replace(folder, kFileRedditi);
-}
+void ScriviRedditiIniziali(const WorkFolder& folder) { ScriviRedditi(folder, RedditiIniziali()); }
 
 }  // namespace orm

@@ -4,6 +4,7 @@
 
 #include "runtime/data_file.h"
 #include "shell/run_state.h"
+#include "utilities/pension_file.h"
 
 namespace orm {
 
@@ -38,7 +39,6 @@ void CampiEditors(Archive& file, Editors& e) {
 
 inline constexpr const char* kFileCriteri = "CRITERI.PER";
 inline constexpr const char* kFileEditor = "EDITOR.PER";
-inline constexpr const char* kFileRedditi = "REDDITI.PER";
 
 // The file's values, or the defaults where there is no file. A damaged file is a RuntimeFailure and
 // leaves the values of the run state as they were.

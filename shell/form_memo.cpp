@@ -1,0 +1,78 @@
+// The memo.
+#include "shell/form_memo.h"
+
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "shell/rtf.h"
+
+namespace orm {
+
+void MostraMemo(RunState& run) {
+  FrmGenVisualizzaRtf form(run);
+  form.NomeFile = kFileMemo;
+  run.player.Show(form);
+}
+
+void EditaMemo(RunState& run) { run.player.StartProgram(run.editors.EditorTesti, kFileMemo); }
+
+FrmGenVisualizzaRtf::FrmGenVisualizzaRtf(RunState& run)
+    : Form("frmGEN_VisualizzaRTF", "MEMO"), run_(run) {
+  SetContent(Column({RichTextBox1}));
+}
+
+void FrmGenVisualizzaRtf::OnOpen() {
+  if (!run_.folder.Exists(NomeFile)) {
+    RichTextBox1.SetDocument(PlainDocument("NON ESISTE UN FILE MEMO :\nLO SI PUÓ CREARE ADESSO"));
+    return;
+  }
+  letto_ = run_.folder.Read(NomeFile);
+  try {
+    RtfReading lettura = ReadRtf(letto_);
+    perdite_ = std::move(lettura.losses);
+    RichTextBox1.SetDocument(std::move(lettura.document));
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtFile(NomeFile);
+  }
+}
+
+std::vector<std::string> FrmGenVisualizzaRtf::Rischi() const {
+  std::vector<std::string> rischi = perdite_;
+  if (run_.folder.Exists(NomeFile) && run_.folder.Read(NomeFile) != letto_)
+    rischi.emplace_back("modifiche fatte nel frattempo da un altro programma");
+  return rischi;
+}
+
+// A name that no file has yet, so that nothing that was put aside before is lost.
+std::string FrmGenVisualizzaRtf::NomeDelPrecedente() const {
+  const std::string radice = NomeFile.substr(0, NomeFile.find_last_of('.')) + "_ORIGINALE";
+  std::string nome = radice + ".RTF";
+  for (int n = 2; run_.folder.Exists(nome); ++n) nome = radice + NumberText(n) + ".RTF";
+  return nome;
+}
+
+void FrmGenVisualizzaRtf::Salva() {
+  run_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
+}
+
+void FrmGenVisualizzaRtf::OnWindowClose() {
+  if (!RichTextBox1.Edited()) return Close();
+  const std::vector<std::string> rischi = Rischi();
+  if (!rischi.empty()) {
+    const std::string precedente = NomeDelPrecedente();
+    std::string testo =
+        "Il file " + NomeFile + " contiene elementi che questa finestra non conserva :\n";
+    for (const std::string& rischio : rischi) testo += " - " + rischio + "\n";
+    testo += "\nSalvando, il file di prima resta con il nome " + precedente +
+             ".\nSALVARE LE MODIFICHE ?";
+    const Answer risposta =
+        run_.player.Ask({"  ATTENZIONE !! ", testo, MessageBox::Icon::Exclamation,
+                         MessageBox::Buttons::YesNoCancel});
+    if (risposta == Answer::Cancel) return;
+    if (risposta == Answer::No) return Close();
+    run_.folder.Replace(precedente, run_.folder.Read(NomeFile));
+  }
+  Salva();
+  Close();
+}
+
+}  // namespace orm

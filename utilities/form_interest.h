@@ -1,0 +1,38 @@
+// The dialog of interest on late payment.
+#pragma once
+
+#include "dialogs/form.h"
+#include "shell/run_state.h"
+#include "utilities/interest_rates.h"
+
+namespace orm {
+
+// Reads the table of rates, then shows the dialog; nothing is saved.
+void MostraInteressiMora(RunState& run);
+
+class FrmUtiIntereMora : public Form {
+ public:
+  FrmUtiIntereMora(RunState& run, TabellaTus tabella);
+
+  InterBox casellainteri1{*this, "casellainteri1", "ONORARIO"};
+  DatePicker DTPicker1;
+  DatePicker DTPicker2;
+  Frame fraInteresse{*this, "fraInteresse", "INTERESSE"};
+  OptionGroup interesse;
+  OptionButton Option1{*this, "Option1", "SEMPLICE", interesse};
+  OptionButton Option2{*this, "Option2", "COMPOSTO", interesse};
+  TestoBox Text3{*this, "Text3", "GIORNI di RITARDO", {.readOnly = true, .width = 20}};
+  TestoBox Text4{*this, "Text4", "TASSO", {.readOnly = true, .width = 20, .unit = "%"}};
+  TestoBox Text5{*this, "Text5", "INTERESSI DI MORA", {.readOnly = true, .width = 20}};
+  Button Command1{*this, "Command1", "CALCOLA", Button::Role::Default};
+  Button Command2{*this, "Command2", "ESCI", Button::Role::Close};
+
+ private:
+  void Calcola();
+  void SvuotaRisultati();
+
+  RunState& run_;
+  TabellaTus tabella_;
+};
+
+}  // namespace orm

@@ -1,0 +1,19 @@
+// Estimate of the yearly INARCASSA pension matured in 2001. Whole Lire.
+#pragma once
+
+#include <array>
+
+#include "utilities/pension_rules.h"
+
+namespace orm {
+
+using RedditiAnnui = std::array<double, kAnniReddito>;  // 1984 first, as declared
+
+// Mean of the capped and revalued incomes that count for `Anni` (at least 1) of contribution.
+double RedditoMedio(const RedditiAnnui& redditi, int Anni);
+
+// The pension of a mean income, each band's part cut to the Lira. A mean that falls in none of the
+// ranges (above the last, or with a fraction between two of them) leaves `Pensione` as it was.
+void PensioneDelReddito(double medio, int Anni, int Giorni, double& Pensione);
+
+}  // namespace orm
