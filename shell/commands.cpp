@@ -8,10 +8,16 @@
 #include "shell/form_criteria.h"
 #include "shell/form_editor.h"
 #include "shell/form_letter.h"
+#include "shell/form_letter.h"
 #include "shell/form_memo.h"
 #include "shell/form_title.h"
 #include "shell/form_user.h"
+#include "shell/letter.h"
 #include "shell/shell_boxes.h"
+#include "structures/form_ver_fless_c1.h"
+#include "structures/form_ver_fless_t1.h"
+#include "utilities/form_interest.h"
+#include "utilities/form_pension.h"
 #include "shell/technical_notes.h"
 #include "utilities/form_interest.h"
 #include "utilities/form_pension.h"
@@ -67,6 +73,12 @@ constexpr std::array kCommands = {
     Command{"INFORMA_Note", MostraMemo},
     Command{"INFORMA_BALCONI", MostraNotaBalconi},
     Command{"INFORMA_SOLAIT", MostraNotaSolai},
+    Command{"UTIL_LETTERA_ID", Show<FrmGenLettera>},
+    Command{"UTIL_LETTERA_VS", VisualizzaLettera},
+    Command{"UTIL_MORA", MostraInteressiMora},
+    Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
+    Command{"VER_ST1", MostraVerFlessT1},
+    Command{"ver_SC1", MostraVerFlessC1},
     Command{"Informa_Informazioni", ShowInformation},
 };
 
