@@ -8,7 +8,6 @@
 #include "shell/form_criteria.h"
 #include "shell/form_editor.h"
 #include "shell/form_letter.h"
-#include "shell/form_letter.h"
 #include "shell/form_memo.h"
 #include "shell/form_title.h"
 #include "shell/form_user.h"
@@ -19,8 +18,6 @@
 #include "utilities/form_interest.h"
 #include "utilities/form_pension.h"
 #include "shell/technical_notes.h"
-#include "utilities/form_interest.h"
-#include "utilities/form_pension.h"
 
 namespace orm {
 namespace {
@@ -73,10 +70,6 @@ constexpr std::array kCommands = {
     Command{"INFORMA_Note", MostraMemo},
     Command{"INFORMA_BALCONI", MostraNotaBalconi},
     Command{"INFORMA_SOLAIT", MostraNotaSolai},
-    Command{"UTIL_LETTERA_ID", Show<FrmGenLettera>},
-    Command{"UTIL_LETTERA_VS", VisualizzaLettera},
-    Command{"UTIL_MORA", MostraInteressiMora},
-    Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
     Command{"VER_ST1", MostraVerFlessT1},
     Command{"ver_SC1", MostraVerFlessC1},
     Command{"Informa_Informazioni", ShowInformation},
