@@ -17,12 +17,15 @@ namespace {
 class NoteFolder {
  public:
   NoteFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "orm2002-bench-XXXXXX").string();
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "orm2002-bench-XXXXXX").string();
     if (::mkdtemp(pattern.data()) == nullptr) std::abort();
     folder = WorkFolder(pattern);
-    folder.Replace("UTENTE.DAG",
-                   "\"Mario Rossi\"\r\n\"Via\"\r\n\"88100\"\r\n\"Catanzaro\"\r\n\"CZ\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
-                   "\"\"\r\n\"\"\r\n\"Catanzaro\"\r\n\"1\"\r\n\"1990\"\r\n\"Ingegnere\"\r\n");
+    folder.Replace(
+        "UTENTE.DAG",
+        "\"Mario "
+        "Rossi\"\r\n\"Via\"\r\n\"88100\"\r\n\"Catanzaro\"\r\n\"CZ\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
+        "\"\"\r\n\"\"\r\n\"Catanzaro\"\r\n\"1\"\r\n\"1990\"\r\n\"Ingegnere\"\r\n");
     folder.Replace("INT_PPE.DAP", "\"Provincia\"\r\n\"Strada\"\r\n\"\"\r\n\"\"\r\n");
     folder.Replace("INP_PPE.DAP", "2,5,3,1,1\r\n20,1000000,\"\",1\r\n");
   }
