@@ -16,7 +16,6 @@ class BarsView : public EntryView {
     UseField(&Line());
     AddBehind(area_);
     area_->setMinimumWidth(area_->fontMetrics().horizontalAdvance("9999,99 cmq"));
-    area_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     area_->setAccessibleName("Area");
   }
   void Refresh() override {

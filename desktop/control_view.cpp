@@ -44,13 +44,16 @@ void ControlView::UseField(QWidget* field) {
   unit_ = new QLabel(whole_);
   unit_->setTextFormat(Qt::PlainText);
   line_->addWidget(unit_);
-  if (field->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) line_->addStretch();
   caption_ = new QLabel(host_.Window());
   caption_->setTextFormat(Qt::PlainText);
   caption_->setBuddy(field);
 }
 
 void ControlView::AddBehind(QWidget* widget) { line_->insertWidget(line_->indexOf(unit_), widget); }
+
+bool ControlView::KeepsWidth() const {
+  return field_->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+}
 
 void ControlView::NameForAccess() {
   std::string name = control_.Caption();

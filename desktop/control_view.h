@@ -40,6 +40,7 @@ class ControlView : public QObject {
   virtual std::string Shown() const = 0;  // what a person reads
   // Gives more room a use: several lines, a list, a drawing.
   virtual bool Grows() const { return false; }
+  bool KeepsWidth() const;  // more width is of no use
 
   // Why what stands in the field is not taken; empty when it is.
   virtual std::string Objection() const { return {}; }

@@ -80,8 +80,7 @@ int main(int argc, char** argv) {
       ->check(CLI::ExistingFile);
   CLI11_PARSE(app, argc, argv);
   if (!options.desktop) return PlayAll(options);
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  orm::QuietOffscreen();
+  orm::UseNoScreen();
   QApplication application(argc, argv);
   orm::DressApplication(application);
   return PlayAll(options);

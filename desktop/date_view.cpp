@@ -41,7 +41,7 @@ class DateView : public EntryView {
     return text.size() > 10 ? "La data si scrive gg/mm/aaaa." : "";
   }
   Verdict Take(const std::string& text) override {
-    return {picker_.Enter(text), ParseDate(text).has_value() && text.size() == 10};
+    return {picker_.Enter(text), text.size() == 10};
   }
   void TakeBack() override { picker_.SetValue(before_); }
   void Keep() override { before_ = picker_.Value(); }

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include "desktop/desktop_player.h"
@@ -97,12 +98,26 @@ class WidgetStage : public Stage {
 
 }  // namespace
 
-void QuietOffscreen() {
-  // What a display without a screen cannot do is said at each window; everything else goes out.
+void UseNoScreen() {
+  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+  // The scale that the user asks for makes the screen finer, not smaller.
+  const double scale = std::max(1.0, qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
+  static QTemporaryFile screen;
+  if (screen.open()) {
+    screen.write(QString(R"({"screens": [{"name": "", "x": 0, "y": 0, "width": %1, "height": %2,
+      "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                     .arg(qRound(1280 * scale))
+                     .arg(qRound(1024 * scale))
+                     .toUtf8());
+    screen.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
+  }
+  // What a platform without a screen cannot do is told at each window; all else goes out.
   static QtMessageHandler before = nullptr;
-  before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& place, const QString& text) {
-    if (!text.startsWith("This plugin does not support")) before(type, place, text);
-  });
+  before = qInstallMessageHandler(
+      [](QtMsgType type, const QMessageLogContext& place, const QString& text) {
+        if (!text.startsWith("This plugin does not support")) before(type, place, text);
+      });
 }
 
 StageBuilder DesktopStage(std::string pictures) {

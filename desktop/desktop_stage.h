@@ -11,7 +11,8 @@ namespace orm {
 // `pictures`: the folder for the pictures that scripts ask for; empty: none are made.
 StageBuilder DesktopStage(std::string pictures);
 
-// Keeps the platform without a screen from telling at each window what it lacks.
-void QuietOffscreen();
+// To be called before the application: windows are drawn in memory, on a screen of the usual size,
+// unless the user has chosen a platform.
+void UseNoScreen();
 
 }  // namespace orm

@@ -31,6 +31,7 @@ class EntryValidator : public QValidator {
  public:
   explicit EntryValidator(EntryView& view, QObject* parent) : QValidator(parent), view_(view) {}
   State validate(QString& text, int& position) const override {
+    if (view_.writing_) return Acceptable;
     const bool inserted = InsertedLength(view_.lastText_, text) > 1;
     const qsizetype length = text.size();
     std::string why = view_.Admit(text, inserted);
@@ -101,7 +102,9 @@ void EntryView::BeginEditing() {
 }
 
 void EntryView::WriteText() {
+  writing_ = true;
   line_->setText(ToQt(editing_ ? DraftText() : RestingText()));
+  writing_ = false;
   lastText_ = line_->text();
 }
 

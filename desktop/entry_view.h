@@ -71,7 +71,8 @@ class EntryView : public ControlView {
   EntryLine* line_;
   QAction* mark_ = nullptr;
   bool editing_ = false;
-  bool taking_ = false;
+  bool taking_ = false;   // what is typed goes to the control
+  bool writing_ = false;  // what the control holds goes to the line
   Verdict verdict_;
   std::string refusal_;
   std::string lastResting_;

@@ -3,11 +3,15 @@
 #include <QGroupBox>
 #include <QStyle>
 #include <algorithm>
+#include <functional>
 #include <map>
+#include <utility>
 
 namespace orm {
 namespace {
 
+constexpr int kAboveTitle = 6;     // pixels between a group and the title below it
+constexpr int kBeside = 10;        // pixels between what stands on one line
 constexpr int kAsideAtMost = 150;  // pixels that a label column gives up for the common line
 
 using Kind = Control::Kind;
@@ -17,10 +21,29 @@ bool IsField(Kind kind) {
          kind == Kind::Combo || kind == Kind::List || kind == Kind::Date || kind == Kind::Slider;
 }
 
+bool HasTitle(const Layout& part) {
+  if (part.kind == Layout::Kind::Group) return !part.control->Caption().empty();
+  const bool holds = part.kind == Layout::Kind::Row || part.kind == Layout::Kind::Column;
+  return holds && !part.children.empty() && HasTitle(part.children[0]);
+}
+
 bool IsFieldItem(const Layout& part) {
   return part.kind == Layout::Kind::Item &&
          (IsField(part.control->GetKind()) ||
           (part.control->GetKind() == Kind::Label && !part.control->Caption().empty()));
+}
+
+// A Row that stands with others of its kind like the lines of a table: a box or a field, and what
+// belongs to it.
+bool IsLine(const Layout& part) {
+  if (part.kind != Layout::Kind::Row || part.children.size() < 2) return false;
+  const bool items = std::all_of(part.children.begin(), part.children.end(),
+                                 [](const Layout& p) { return p.kind == Layout::Kind::Item; });
+  if (!items) return false;
+  const Kind first = part.children[0].control->GetKind();
+  const Kind second = part.children[1].control->GetKind();
+  const bool box = first == Kind::Check || first == Kind::Option;
+  return box ? second != first : IsField(first);
 }
 
 const Layout& FirstOf(const Layout& line) {
@@ -33,6 +56,18 @@ Qt::Alignment LabelAlignment(const ControlView& view) {
   return (sideways & Qt::AlignHorizontal_Mask) | (view.Grows() ? Qt::AlignTop : Qt::AlignVCenter);
 }
 
+// The width of the labels before the fields of a grid; boxes in their column are no labels.
+int LabelWidth(const QGridLayout& grid) {
+  int widest = 0;
+  for (int row = 0; row < grid.rowCount(); ++row) {
+    const QLayoutItem* item = grid.itemAtPosition(row, 0);
+    const auto* label = item == nullptr ? nullptr : dynamic_cast<QLabel*>(item->widget());
+    if (label != nullptr && !label->isHidden())
+      widest = std::max(widest, label->sizeHint().width());
+  }
+  return widest;
+}
+
 }  // namespace
 
 bool FormBuilder::Grows(const Layout& part) const {
@@ -42,13 +77,16 @@ bool FormBuilder::Grows(const Layout& part) const {
 }
 
 void FormBuilder::AddColumn(const std::vector<Layout>& parts, QBoxLayout* into) {
+  const auto joins = [](const Layout& part) { return IsFieldItem(part) || IsLine(part); };
   for (std::size_t i = 0; i < parts.size();) {
-    std::vector<Layout> fields;
-    while (i < parts.size() && IsFieldItem(parts[i])) fields.push_back(parts[i++]);
-    if (!fields.empty())
-      AddFields(fields, into);
-    else
-      AddPart(parts[i++], into);
+    std::vector<Layout> lines;
+    while (i < parts.size() && joins(parts[i])) lines.push_back(parts[i++]);
+    if (!lines.empty()) {
+      AddFields(lines, into);
+      continue;
+    }
+    if (i > 0 && HasTitle(parts[i])) into->addSpacing(kAboveTitle);
+    AddPart(parts[i++], into);
   }
 }
 
@@ -74,36 +112,41 @@ void FormBuilder::AddPart(const Layout& part, QBoxLayout* into) {
 
 void FormBuilder::AddItem(Control& control, QBoxLayout* into) {
   ControlView& view = viewOf_(control);
-  const bool down = into->direction() == QBoxLayout::TopToBottom;
   if (view.Caption() != nullptr) into->addWidget(view.Caption());
-  // Buttons and pictures keep their size; texts and fields take the line.
-  const bool keeps = control.GetKind() == Kind::Button || control.GetKind() == Kind::Image;
-  into->addWidget(view.Whole(), view.Grows() ? 1 : 0,
-                  keeps && down ? Qt::AlignLeft : Qt::Alignment());
+  // Buttons, pictures and numbers keep their size; texts take the line.
+  const bool keeps = view.KeepsWidth();
+  const bool down = into->direction() == QBoxLayout::TopToBottom;
+  Qt::Alignment alignment;
+  if (keeps && down) alignment = Qt::AlignLeft;
+  if (!down && !view.Grows()) alignment = Qt::AlignVCenter;
+  into->addWidget(view.Whole(), view.Grows() ? 1 : 0, alignment);
 }
 
 void FormBuilder::AddRow(const std::vector<Layout>& parts, QBoxLayout* into) {
   auto* row = new QHBoxLayout;
-  const bool items = std::all_of(parts.begin(), parts.end(),
-                                 [](const Layout& p) { return p.kind == Layout::Kind::Item; });
+  const auto holds = [&](Layout::Kind kind) {
+    return std::any_of(parts.begin(), parts.end(),
+                       [kind](const Layout& p) { return p.kind == kind; });
+  };
+  // Blocks beside each other begin on one line; a block beside a button stands in its middle.
+  const bool onTop = holds(Layout::Kind::Group) || holds(Layout::Kind::Column);
   bool grows = false;
   for (const Layout& part : parts) {
-    const int outer = stack_;
-    stack_ = ++stacks_;
-    if (items || part.kind == Layout::Kind::Group) {
+    const int outer = std::exchange(stack_, ++stacks_);
+    if (part.kind == Layout::Kind::Item || part.kind == Layout::Kind::Group) {
       AddPart(part, row);
+      if (part.kind == Layout::Kind::Group && !Grows(part)) row->setStretch(row->count() - 1, 1);
     } else {
       auto* column = new QVBoxLayout;
-      row->addLayout(column, Grows(part) ? 1 : 0);
+      row->addLayout(column, Grows(part) || onTop ? 1 : 0);
+      if (!Grows(part) && !onTop) column->addStretch();
       AddPart(part, column);
       if (!Grows(part)) column->addStretch();
     }
     stack_ = outer;
     grows = grows || Grows(part);
   }
-  const bool framed = std::any_of(parts.begin(), parts.end(),
-                                  [](const Layout& p) { return p.kind == Layout::Kind::Group; });
-  if (!grows && !framed) row->addStretch();
+  if (!grows && !onTop) row->addStretch();
   into->addLayout(row, grows ? 1 : 0);
 }
 
@@ -132,7 +175,7 @@ void FormBuilder::AddFields(const std::vector<Layout>& lines, QBoxLayout* into) 
     AddLine(line, grid, row++, captions);
   }
   grid->setColumnStretch(1, 1);
-  grid->setHorizontalSpacing(10);
+  grid->setHorizontalSpacing(kBeside);
   into->addLayout(grid, grows ? 1 : 0);
   grids_.push_back({grid, stack_, depth_});
 }
@@ -140,19 +183,19 @@ void FormBuilder::AddFields(const std::vector<Layout>& lines, QBoxLayout* into) 
 void FormBuilder::AddLine(const Layout& line, QGridLayout* grid, int row, bool captions) {
   const Layout& first = FirstOf(line);
   auto* fields = new QHBoxLayout;
-  std::size_t next = 1;  // of the parts of a Row: the first one that is still to place
+  fields->setSpacing(kBeside);
   if (first.kind != Layout::Kind::Item) {
     grid->addLayout(fields, row, 0, 1, 2);
     return AddPart(line, fields);
   }
   ControlView& view = viewOf_(*first.control);
-  const bool row2 = line.kind == Layout::Kind::Row && line.children.size() > 1;
+  const bool severals = line.kind == Layout::Kind::Row && line.children.size() > 1;
   if (view.Caption() != nullptr && (IsFieldItem(first) || IsField(first.control->GetKind()))) {
     view.Caption()->setAlignment(LabelAlignment(view) & Qt::AlignHorizontal_Mask);
     grid->addWidget(view.Caption(), row, 0, LabelAlignment(view));
-    fields->addWidget(view.Whole(), view.Grows() || line.kind == Layout::Kind::Item ? 1 : 0);
+    fields->addWidget(view.Whole());
     grid->addLayout(fields, row, 1);
-  } else if (row2) {
+  } else if (severals) {
     grid->addWidget(view.Whole(), row, 0);
     grid->addLayout(fields, row, 1);
   } else {
@@ -160,9 +203,9 @@ void FormBuilder::AddLine(const Layout& line, QGridLayout* grid, int row, bool c
     fields->addWidget(view.Whole());
     grid->addLayout(fields, row, inFieldColumn ? 1 : 0, 1, inFieldColumn ? 1 : 2);
   }
-  if (!row2) return;
-  for (; next < line.children.size(); ++next) AddPart(line.children[next], fields);
-  if (!Grows(line)) fields->addStretch();
+  for (std::size_t i = 1; severals && i < line.children.size(); ++i)
+    AddPart(line.children[i], fields);
+  if (view.KeepsWidth() && !Grows(line)) fields->addStretch(1);
 }
 
 void FormBuilder::AddButtons(const std::vector<Layout>& buttons, QBoxLayout* into) {
@@ -173,25 +216,16 @@ void FormBuilder::AddButtons(const std::vector<Layout>& buttons, QBoxLayout* int
 }
 
 void FormBuilder::AlignLabels() {
-  std::map<std::pair<int, int>, int> widest;
-  const auto width = [](const QGridLayout* grid) {
-    int most = 0;
-    for (int row = 0; row < grid->rowCount(); ++row) {
-      QLayoutItem* item = grid->itemAtPosition(row, 0);
-      if (item == nullptr || item == grid->itemAtPosition(row, 1)) continue;
-      if (item->widget() != nullptr && !item->widget()->isHidden())
-        most = std::max(most, item->widget()->sizeHint().width());
+  std::map<std::pair<int, int>, std::multimap<int, QGridLayout*, std::greater<>>> stacks;
+  for (const Grid& g : grids_)
+    if (const int width = LabelWidth(*g.grid); width > 0)
+      stacks[{g.stack, g.depth}].emplace(width, g.grid);
+  for (auto& [place, grids] : stacks) {
+    int common = 0;
+    for (const auto& [width, grid] : grids) {
+      if (common == 0 || common - width > kAsideAtMost) common = width;
+      grid->setColumnMinimumWidth(0, common);
     }
-    return most;
-  };
-  for (const Grid& g : grids_) {
-    int& most = widest[{g.stack, g.depth}];
-    most = std::max(most, width(g.grid));
-  }
-  for (const Grid& g : grids_) {
-    const int own = width(g.grid);
-    const int common = widest[{g.stack, g.depth}];
-    if (own > 0 && common - own <= kAsideAtMost) g.grid->setColumnMinimumWidth(0, common);
   }
 }
 

@@ -15,7 +15,7 @@
 namespace orm {
 namespace {
 
-constexpr QSize kWindowFrame(16, 48);  // room that borders and title bar take from the screen
+constexpr int kTitleButtons = 120;  // room in the title bar beside the title
 
 // As great as its content wherever the screen lets it; bars appear only beyond that.
 class ContentArea : public QScrollArea {
@@ -26,7 +26,7 @@ class ContentArea : public QScrollArea {
     setFocusPolicy(Qt::NoFocus);
   }
   QSize sizeHint() const override { return widget()->layout()->totalSizeHint(); }
-  QSize minimumSizeHint() const override { return {120, 80}; }
+  QSize minimumSizeHint() const override { return sizeHint().boundedTo({120, 80}); }
 };
 
 }  // namespace
@@ -99,7 +99,7 @@ void FormDialog::ChainFocus() {
   }
 }
 
-QSize FormDialog::Room() const { return screen()->availableSize() - kWindowFrame; }
+QSize FormDialog::Room() const { return screen()->availableSize() - kFrame; }
 
 void FormDialog::Refit() {
   refit_ = false;
@@ -107,12 +107,16 @@ void FormDialog::Refit() {
   QSize wanted = layout()->totalSizeHint();
   if (wanted.height() > Room().height())
     wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
+  const int title = fontMetrics().horizontalAdvance(windowTitle()) + kTitleButtons;
+  wanted.setWidth(std::max(wanted.width(), title));
+  const QLayout& content = *scroll_->widget()->layout();
+  least_ = wanted - content.totalSizeHint() + content.totalMinimumSize();
   if (wanted == fitted_) return;
   const bool first = !fitted_.isValid();
   const QSize size = grows_ && !first ? this->size() + wanted - fitted_ : wanted;
   fitted_ = wanted;
   if (grows_) {
-    setMinimumSize(wanted.boundedTo(Room()));
+    setMinimumSize(least_.boundedTo(Room()));
     resize(size.boundedTo(Room()));
   } else {
     setFixedSize(size.boundedTo(Room()));
@@ -121,7 +125,7 @@ void FormDialog::Refit() {
 
 void FormDialog::Centre() {
   const QRect area = screen()->availableGeometry();
-  move(area.center() - QPoint(width() / 2, height() / 2 + kWindowFrame.height() / 4));
+  move(area.center() - QPoint(width() / 2, height() / 2 + kFrame.height() / 4));
 }
 
 void FormDialog::showEvent(QShowEvent* event) {

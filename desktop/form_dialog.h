@@ -21,6 +21,9 @@ class FormDialog : public QDialog, public FormView, public FormHost {
 
   Form& Model() const { return form_; }
   ControlView& ViewOf(const Control& control) const { return *views_.at(&control); }
+  // The least size without scrolling, and what a window's borders and title bar add to it.
+  QSize LeastSize() const { return least_; }
+  static constexpr QSize kFrame{16, 48};
   // A failure within an event of the form ended it: goes on to the caller of the form.
   void RethrowFailure();
 
@@ -53,6 +56,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   bool refit_ = false;
   bool shown_ = false;
   QSize fitted_;  // the size that the content wanted last
+  QSize least_;
   int depth_ = 0;
   std::exception_ptr failure_;
 };

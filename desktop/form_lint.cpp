@@ -120,8 +120,10 @@ void LintRoom(const FormDialog& dialog, Faults& faults) {
     if (!parent->rect().contains(widget->geometry()))
       faults.push_back(name + ": esce dal suo riquadro");
   }
-  if (dialog.width() > kLeastScreen.width() || dialog.height() > kLeastScreen.height())
-    faults.push_back("la finestra non sta nello schermo più piccolo");
+  const QSize whole = dialog.LeastSize() + FormDialog::kFrame;
+  if (whole.boundedTo(kLeastScreen) != whole)
+    faults.push_back("la finestra non sta nello schermo più piccolo: " +
+                     FromQt(QString("%1x%2").arg(whole.width()).arg(whole.height())));
 }
 
 }  // namespace

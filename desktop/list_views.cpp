@@ -58,12 +58,19 @@ class ComboView : public ControlView {
   bool refreshing_ = false;
 };
 
+class ListWidget : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  QSize sizeHint() const override { return minimumSize(); }
+};
+
 class ListView : public ControlView {
  public:
   ListView(ListBox& list, FormHost& host)
-      : ControlView(list, host), list_(list), box_(new QListWidget(host.Window())) {
+      : ControlView(list, host), list_(list), box_(new ListWidget(host.Window())) {
     box_->setSelectionMode(QAbstractItemView::SingleSelection);
     box_->setUniformItemSizes(true);
+    box_->setSpacing(1);
     box_->setTextElideMode(Qt::ElideRight);
     box_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -95,7 +102,7 @@ class ListView : public ControlView {
     const int rows = std::clamp(static_cast<int>(items_.size()), 3, kMostRows);
     const int rowHeight = std::max(box_->sizeHintForRow(0), box_->fontMetrics().height());
     box_->setMinimumHeight(
-        std::max(box_->minimumHeight(), rows * rowHeight + 2 * box_->frameWidth()));
+        std::max(box_->minimumHeight(), rows * (rowHeight + 2) + 2 * box_->frameWidth()));
     box_->setMinimumWidth(
         std::max(box_->minimumWidth(), CharactersWide(*box_, Characters(items_)) + 30));
   }

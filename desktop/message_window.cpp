@@ -1,9 +1,10 @@
 #include "desktop/message_window.h"
 
-#include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <vector>
 
+#include "desktop/pictures.h"
 #include "desktop/qt_text.h"
 
 namespace orm {
@@ -35,20 +36,25 @@ std::vector<Choice> ChoicesOf(MessageBox::Buttons buttons) {
   return {kOk};
 }
 
-QMessageBox::Icon IconOf(MessageBox::Icon icon) {
+// The icon gives the box its sound and its role for screen readers, the mark its look.
+void SetIcon(QMessageBox& shown, MessageBox::Icon icon) {
+  const auto set = [&](QMessageBox::Icon meaning, Mark mark) {
+    shown.setIcon(meaning);
+    const int side = shown.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &shown);
+    shown.setIconPixmap(MessageMark(mark, side, shown.devicePixelRatioF()));
+  };
   switch (icon) {
     case MessageBox::Icon::None:
-      return QMessageBox::NoIcon;
+      return;
     case MessageBox::Icon::Information:
-      return QMessageBox::Information;
+      return set(QMessageBox::Information, Mark::Information);
     case MessageBox::Icon::Exclamation:
-      return QMessageBox::Warning;
+      return set(QMessageBox::Warning, Mark::Warning);
     case MessageBox::Icon::Critical:
-      return QMessageBox::Critical;
+      return set(QMessageBox::Critical, Mark::Critical);
     case MessageBox::Icon::Question:
-      return QMessageBox::Question;
+      return set(QMessageBox::Question, Mark::Question);
   }
-  return QMessageBox::NoIcon;
 }
 
 }  // namespace
@@ -58,7 +64,7 @@ std::unique_ptr<QMessageBox> BuildMessageWindow(const MessageBox& box, QWidget* 
   shown->setWindowTitle(ToQt(box.title).trimmed());
   shown->setTextFormat(Qt::PlainText);
   shown->setText(ToQt(box.text));
-  shown->setIcon(IconOf(box.icon));
+  SetIcon(*shown, box.icon);
   const std::vector<Choice> choices = ChoicesOf(box.buttons);
   for (const Choice& choice : choices) {
     // One role for all, so that no platform puts them into another order.

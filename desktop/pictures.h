@@ -14,4 +14,8 @@ QPixmap MainPicture(double pixelRatio);
 // The Euro mark in a square of `side`, at the origin.
 void PaintEuro(QPainter& painter, double side);
 
+// The mark of a message: what it is, by form as well as by colour.
+enum class Mark { Information, Question, Warning, Critical };
+QPixmap MessageMark(Mark mark, int side, double pixelRatio);
+
 }  // namespace orm

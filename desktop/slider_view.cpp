@@ -23,8 +23,7 @@ class SliderView : public ControlView {
     bar_->setMinimumWidth(CharactersWide(*bar_, 24));
     UseField(bar_);
     AddBehind(value_);
-    value_->setMinimumWidth(CharactersWide(*value_, 9));
-    value_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value_->setMinimumWidth(CharactersWide(*value_, 7));
     bar_->setToolTip(ToQt("Da " + FormatPattern(slider.Least(), "0.##") + " a " +
                           FormatPattern(slider.Most(), "0.##")));
     connect(bar_, &QSlider::valueChanged, this, [this](int position) {

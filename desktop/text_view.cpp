@@ -56,6 +56,7 @@ class TextArea : public QPlainTextEdit {
       : QPlainTextEdit(parent), objection_(std::move(objection)) {
     setTabChangesFocus(true);
   }
+  QSize sizeHint() const override { return minimumSize(); }
   std::string refusal;
 
  protected:
