@@ -11,7 +11,7 @@
 namespace orm {
 namespace {
 
-constexpr double kWidest = 520, kHighest = 420;
+constexpr double kHighest = 420;  // pixels of a drawing at 100 %
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
@@ -48,7 +48,7 @@ void PaintArc(QPainter& painter, const QPointF& centre, double radius, const Dra
 QSizeF DrawingSize(const Lavagna& lavagna) {
   const QSizeF world(lavagna.RightEdge() - lavagna.LeftEdge(),
                      lavagna.TopEdge() - lavagna.BottomEdge());
-  return world.scaled(kWidest, kHighest, Qt::KeepAspectRatio);
+  return world.scaled(lavagna.PixelsWide(), kHighest, Qt::KeepAspectRatio);
 }
 
 void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room) {
