@@ -98,7 +98,6 @@ std::string WidgetHand::Type(Control& control, std::string_view text) {
   if (objection.empty()) objection = view.Objection();
   // Who sees that it is not taken writes again what was there.
   if (!objection.empty()) Retype(field, ToQt(before));
-  if (dialog_.Model().IsOpen()) QTest::keyClick(field, Qt::Key_Tab);
   return objection;
 }
 
