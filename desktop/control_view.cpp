@@ -35,6 +35,11 @@ void ControlView::UseBare(QWidget* widget) {
   widget->installEventFilter(this);
 }
 
+void ControlView::UseWithin(QWidget* field, QWidget* whole) {
+  UseBare(field);
+  whole_ = whole;
+}
+
 void ControlView::UseField(QWidget* field) {
   UseBare(field);
   whole_ = new QWidget(host_.Window());

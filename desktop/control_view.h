@@ -53,6 +53,8 @@ class ControlView : public QObject {
   // A field with a caption before it and a unit behind, or a widget that carries its own text.
   void UseField(QWidget* field);
   void UseBare(QWidget* widget);
+  // A field with tools of its own around it.
+  void UseWithin(QWidget* field, QWidget* whole);
   void AddBehind(QWidget* widget);  // between the field and its unit
   void NameForAccess();
 

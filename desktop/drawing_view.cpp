@@ -17,6 +17,7 @@
 namespace orm {
 namespace {
 
+constexpr QSizeF kUsualRoom(560, 440), kLeastRoom(320, 240);
 constexpr int kPictureWidth = 1800;  // pixels of a saved PNG
 
 class DrawingWidget : public QWidget {
@@ -24,11 +25,11 @@ class DrawingWidget : public QWidget {
   DrawingWidget(Lavagna& lavagna, QWidget* parent) : QWidget(parent), lavagna_(lavagna) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setMinimumSize((DrawingSize(lavagna) * 0.6).toSize());
+    setMinimumSize(Fitted(kLeastRoom));
     setAccessibleName("Disegno");
     setToolTip("Il menù del tasto destro salva o stampa il disegno");
   }
-  QSize sizeHint() const override { return DrawingSize(lavagna_).toSize(); }
+  QSize sizeHint() const override { return Fitted(kUsualRoom); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -47,6 +48,12 @@ class DrawingWidget : public QWidget {
   }
 
  private:
+  // At most its size at 100 %.
+  QSize Fitted(const QSizeF& room) const {
+    const QSizeF size = DrawingSize(lavagna_);
+    const bool fits = size.width() <= room.width() && size.height() <= room.height();
+    return (fits ? size : size.scaled(room, Qt::KeepAspectRatio)).toSize();
+  }
   // The chosen path with its ending; empty when the person gave up.
   QString AskPath(const QString& ending) {
     QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
@@ -60,7 +67,7 @@ class DrawingWidget : public QWidget {
   void SaveSvg() {
     const QString path = AskPath("svg");
     if (path.isEmpty()) return;
-    const std::string svg = lavagna_.AsSvg(static_cast<int>(DrawingSize(lavagna_).width()));
+    const std::string svg = lavagna_.AsSvg();
     QFile file(path);
     const auto length = static_cast<qint64>(svg.size());
     if (!file.open(QIODevice::WriteOnly) || file.write(svg.data(), length) != length ||

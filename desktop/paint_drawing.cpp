@@ -11,7 +11,6 @@
 namespace orm {
 namespace {
 
-constexpr double kHighest = 420;  // pixels of a drawing at 100 %
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
@@ -46,9 +45,9 @@ void PaintArc(QPainter& painter, const QPointF& centre, double radius, const Dra
 }  // namespace
 
 QSizeF DrawingSize(const Lavagna& lavagna) {
-  const QSizeF world(lavagna.RightEdge() - lavagna.LeftEdge(),
-                     lavagna.TopEdge() - lavagna.BottomEdge());
-  return world.scaled(lavagna.PixelsWide(), kHighest, Qt::KeepAspectRatio);
+  const double width = lavagna.PixelsWide();
+  return {width, width * (lavagna.TopEdge() - lavagna.BottomEdge()) /
+                     (lavagna.RightEdge() - lavagna.LeftEdge())};
 }
 
 void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room) {

@@ -66,6 +66,7 @@ std::string WidgetHand::Set(Control& control, std::string_view text) {
     case Control::Kind::NumberBox:
     case Control::Kind::BarsBox:
     case Control::Kind::Date:
+    case Control::Kind::RichText:
       objection = Type(control, text);
       break;
     case Control::Kind::Option:
@@ -98,7 +99,6 @@ std::string WidgetHand::Type(Control& control, std::string_view text) {
   if (objection.empty()) objection = view.Objection();
   // Who sees that it is not taken writes again what was there.
   if (!objection.empty()) Retype(field, ToQt(before));
-  if (dialog_.Model().IsOpen()) QTest::keyClick(field, Qt::Key_Tab);
   return objection;
 }
 

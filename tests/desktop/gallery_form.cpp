@@ -93,7 +93,7 @@ GalleryForm::GalleryForm()
       fraNascosto(*this, "fraNascosto", "Solo a volte"),
       cdNascosto(*this, "cdNascosto", "Valore"),
       Image1(*this, "Image1", Image::Subject::Euro),
-      disegno(*this, "disegno", 200, 150),
+      disegno(*this, "disegno", 200, 150, 520),
       cmdOK(*this, "cmdOK", "&O.K.", Button::Role::Default),
       cmdAnnulla(*this, "cmdAnnulla", "&FINE", Button::Role::Close) {
   SetContent(Column(
