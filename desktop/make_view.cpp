@@ -36,7 +36,7 @@ std::unique_ptr<ControlView> MakeView(Control& control, FormHost& host) {
     case Control::Kind::Drawing:
       return MakeDrawingView(static_cast<Lavagna&>(control), host);
     case Control::Kind::RichText:
-      break;
+      return MakeRichTextView(static_cast<RichTextBox&>(control), host);
   }
   throw std::logic_error("a kind of control without a view: " + control.Name());
 }

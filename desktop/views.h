@@ -5,6 +5,7 @@
 
 #include "desktop/control_view.h"
 #include "dialogs/lavagna.h"
+#include "dialogs/rich_text.h"
 
 namespace orm {
 
@@ -23,6 +24,7 @@ ViewPointer MakeLabelView(Label& label, FormHost& host);
 ViewPointer MakeFrameView(Frame& frame, FormHost& host);
 ViewPointer MakeButtonView(Button& button, FormHost& host);
 ViewPointer MakeImageView(Image& image, FormHost& host);
+ViewPointer MakeRichTextView(RichTextBox& box, FormHost& host);
 ViewPointer MakeDrawingView(Lavagna& lavagna, FormHost& host);
 
 }  // namespace orm
