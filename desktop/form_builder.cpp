@@ -159,6 +159,9 @@ void FormBuilder::AddGroup(const Layout& group, QBoxLayout* into) {
   AddColumn(group.children, column);
   depth_ -= bare ? 0 : 1;
   if (!Grows(group)) column->addStretch();
+  // Below others a group is as high as its content; beside others all are as high as the highest.
+  if (!Grows(group) && into->direction() == QBoxLayout::TopToBottom)
+    frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   into->addWidget(frame, Grows(group) ? 1 : 0);
 }
 

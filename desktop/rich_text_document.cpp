@@ -151,8 +151,7 @@ RichDocument ReadDocument(const QTextDocument& shown, const RichDocument& before
       const QTextFragment fragment = at.fragment();
       QString text = fragment.text();
       text.replace(QChar::LineSeparator, '\n').remove(QChar::ObjectReplacementCharacter);
-      if (!text.isEmpty())
-        paragraph.Append(orm::FromQt(text), StyleOf(fragment.charFormat()));
+      if (!text.isEmpty()) paragraph.Append(orm::FromQt(text), StyleOf(fragment.charFormat()));
     }
     document.paragraphs.push_back(std::move(paragraph));
   }

@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
@@ -55,7 +56,7 @@ class RichTextView : public ControlView {
 
  private:
   QAction* AddSwitch(const QString& letter, const QString& tip, const QKeySequence& key,
-                     void (QFont::*look)(bool), void (QTextEdit::*apply)(bool)) {
+                     void (QFont::*look)(bool), const std::function<void(bool)>& apply) {
     auto* action = bar_->addAction(letter);
     action->setCheckable(true);
     action->setShortcut(key);
@@ -80,13 +81,13 @@ class RichTextView : public ControlView {
     });
     bar_->addWidget(size_);
     bold_ = AddSwitch(QStringLiteral("G"), QStringLiteral("Grassetto"), Qt::CTRL | Qt::Key_G,
-                      &QFont::setBold, nullptr);
-    connect(bold_, &QAction::triggered, edit_,
-            [this](bool on) { edit_->setFontWeight(on ? QFont::Bold : QFont::Normal); });
+                      &QFont::setBold,
+                      [this](bool on) { edit_->setFontWeight(on ? QFont::Bold : QFont::Normal); });
     italic_ = AddSwitch(QStringLiteral("C"), QStringLiteral("Corsivo"), Qt::CTRL | Qt::Key_I,
-                        &QFont::setItalic, &QTextEdit::setFontItalic);
-    underline_ = AddSwitch(QStringLiteral("S"), QStringLiteral("Sottolineato"), Qt::CTRL | Qt::Key_U,
-                           &QFont::setUnderline, &QTextEdit::setFontUnderline);
+                        &QFont::setItalic, [this](bool on) { edit_->setFontItalic(on); });
+    underline_ =
+        AddSwitch(QStringLiteral("S"), QStringLiteral("Sottolineato"), Qt::CTRL | Qt::Key_U,
+                  &QFont::setUnderline, [this](bool on) { edit_->setFontUnderline(on); });
     AddColours();
     bar_->addSeparator();
     auto* group = new QActionGroup(bar_);
@@ -147,7 +148,8 @@ class RichTextView : public ControlView {
     underline_->setChecked(format.fontUnderline());
     size_->setCurrentIndex(size_->findData(static_cast<int>(format.fontPointSize())));
     for (QAction* action : alignments_)
-      action->setChecked((edit_->alignment() & Qt::AlignHorizontal_Mask) == action->data().toInt());
+      action->setChecked(
+          edit_->alignment().testFlag(static_cast<Qt::AlignmentFlag>(action->data().toInt())));
     bullet_->setChecked(edit_->textCursor().currentList() != nullptr);
   }
 

@@ -59,14 +59,22 @@ void WidgetHand::Settle() {
   dialog_.RethrowFailure();
 }
 
+// A window that was shown over the form has gone: the keys are the form's again.
+void WidgetHand::ComeForward() {
+  if (dialog_.isActiveWindow()) return;
+  dialog_.activateWindow();
+  QCoreApplication::processEvents();
+}
+
 std::string WidgetHand::Set(Control& control, std::string_view text) {
+  ComeForward();
   std::string objection;
   switch (control.GetKind()) {
     case Control::Kind::TextBox:
     case Control::Kind::NumberBox:
     case Control::Kind::BarsBox:
-    case Control::Kind::Date:
     case Control::Kind::RichText:
+    case Control::Kind::Date:
       objection = Type(control, text);
       break;
     case Control::Kind::Option:
@@ -148,6 +156,7 @@ std::string WidgetHand::Slide(Slider& slider, std::string_view text) {
 }
 
 std::string WidgetHand::Press(Button& button) {
+  ComeForward();
   QTest::mouseClick(WidgetOf(button), Qt::LeftButton);
   Settle();
   return {};

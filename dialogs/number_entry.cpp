@@ -43,7 +43,7 @@ bool GroupedInThrees(std::string_view whole, char mark) {
 std::string TooManyDecimals(const NumberLimits& limits) {
   return limits.decimals == 0
              ? "Il numero deve essere intero."
-             : "Il numero ha più di " + NumberText(limits.decimals) + " decimali.";
+             : "Il numero può avere al massimo " + NumberText(limits.decimals) + " decimali.";
 }
 
 std::string OutOfLimits(const NumberLimits& limits) {

@@ -153,7 +153,7 @@ TEST_F(EntryWidgets, WrongKeysAreToldAndLeaveTheDraft) {
     EXPECT_EQ(Balloon(), "");
     QTest::keyClicks(line, "6");
     EXPECT_EQ(Text(form_.cdImporto), "1,25");
-    EXPECT_EQ(Balloon(), "Il numero ha più di 2 decimali.");
+    EXPECT_EQ(Balloon(), "Il numero può avere al massimo 2 decimali.");
     QTest::keyClick(line, Qt::Key_Up);
     QTest::keyClick(line, Qt::Key_Down);
     EXPECT_EQ(Text(form_.cdImporto), "1,25");
