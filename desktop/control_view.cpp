@@ -24,7 +24,7 @@ void SetCaptionText(QLabel& label, const QString& text) {
 std::string InheritedCaption(const Control& control) {
   for (const Frame* frame = control.Parent(); frame != nullptr; frame = frame->Parent())
     if (!frame->Caption().empty()) return frame->Caption();
-  return control.Hint();
+  return control.Hint().empty() ? control.Owner().Title() : control.Hint();
 }
 
 }  // namespace

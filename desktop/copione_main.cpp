@@ -39,7 +39,8 @@ class FreshFolder {
   std::string path_;
 };
 
-std::optional<orm::Mismatch> Play(const std::string& script, const Options& options) {
+std::optional<orm::Mismatch> Play(const std::string& script, const Options& options,
+                                  std::set<std::string>& faults) {
   const std::filesystem::path path = std::filesystem::absolute(script);
   const orm::WorkFolder scriptFolder(path.parent_path().string());
   try {
@@ -47,7 +48,7 @@ std::optional<orm::Mismatch> Play(const std::string& script, const Options& opti
     orm::ScriptPlayer player(orm::ParseScript(scriptFolder.Read(path.filename().string())),
                              scriptFolder, orm::WorkFolder(fresh.Path()),
                              {options.update, &std::cout});
-    return player.Play(options.desktop ? orm::DesktopStage(options.pictures)
+    return player.Play(options.desktop ? orm::DesktopStage({options.pictures, &faults})
                                        : orm::BuildPlainStage);
   } catch (const orm::Mismatch& mismatch) {
     return mismatch;
@@ -58,13 +59,15 @@ std::optional<orm::Mismatch> Play(const std::string& script, const Options& opti
 
 int PlayAll(const Options& options) {
   int failed = 0;
+  std::set<std::string> faults;
   for (const std::string& script : options.scripts) {
-    const auto mismatch = Play(script, options);
+    const auto mismatch = Play(script, options, faults);
     if (!mismatch) continue;
     ++failed;
     std::cerr << script << ":" << mismatch->line << ": " << mismatch->text << std::endl;
   }
-  return failed == 0 ? 0 : 1;
+  for (const std::string& fault : faults) std::cerr << fault << std::endl;
+  return failed == 0 && faults.empty() ? 0 : 1;
 }
 
 }  // namespace

@@ -18,11 +18,11 @@ namespace {
 // The player of the desktop with a script in the person's place.
 class ScriptedPlayer : public DesktopPlayer {
  public:
-  ScriptedPlayer(Actor& actor, const WorkFolder& folder, std::string pictures)
+  ScriptedPlayer(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
       : DesktopPlayer(folder.Path()),
         actor_(actor),
         folder_(folder),
-        pictures_(std::move(pictures)) {}
+        options_(std::move(options)) {}
 
   std::optional<std::string> ChooseFile(const FileChoice& choice) override {
     return actor_.MeetFileChoice(choice);
@@ -41,7 +41,8 @@ class ScriptedPlayer : public DesktopPlayer {
   void Run(FormDialog& dialog) override {
     dialog.open();
     QCoreApplication::processEvents();
-    WidgetHand hand(dialog, pictures_);
+    WidgetHand hand(dialog, options_);
+    hand.Look();
     actor_.MeetForm(dialog.Model(), hand);
     dialog.hide();
   }
@@ -54,7 +55,7 @@ class ScriptedPlayer : public DesktopPlayer {
  private:
   Actor& actor_;
   const WorkFolder& folder_;
-  std::string pictures_;
+  DesktopStageOptions options_;
 };
 
 void ClickIn(QMenu& menu, QAction* action) {
@@ -63,8 +64,8 @@ void ClickIn(QMenu& menu, QAction* action) {
 
 class WidgetStage : public Stage {
  public:
-  WidgetStage(Actor& actor, const WorkFolder& folder, std::string pictures)
-      : player_(actor, folder, std::move(pictures)) {}
+  WidgetStage(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
+      : player_(actor, folder, std::move(options)) {}
 
   Player& People() override { return player_; }
 
@@ -120,9 +121,9 @@ void UseNoScreen() {
       });
 }
 
-StageBuilder DesktopStage(std::string pictures) {
-  return [pictures](Actor& actor, const WorkFolder& folder) {
-    return std::make_unique<WidgetStage>(actor, folder, pictures);
+StageBuilder DesktopStage(DesktopStageOptions options) {
+  return [options](Actor& actor, const WorkFolder& folder) {
+    return std::make_unique<WidgetStage>(actor, folder, options);
   };
 }
 

@@ -2,14 +2,18 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 
 #include "script/stage.h"
 
 namespace orm {
 
-// `pictures`: the folder for the pictures that scripts ask for; empty: none are made.
-StageBuilder DesktopStage(std::string pictures);
+struct DesktopStageOptions {
+  std::string pictures;           // folder for the pictures that scripts ask for; empty: none
+  std::set<std::string>* faults;  // of forms against the rules of form_lint.h; nullptr: not sought
+};
+StageBuilder DesktopStage(DesktopStageOptions options);
 
 // To be called before the application: windows are drawn in memory, on a screen of the usual size,
 // unless the user has chosen a platform.

@@ -132,7 +132,8 @@ void FormBuilder::AddRow(const std::vector<Layout>& parts, QBoxLayout* into) {
   const bool onTop = holds(Layout::Kind::Group) || holds(Layout::Kind::Column);
   bool grows = false;
   for (const Layout& part : parts) {
-    const int outer = std::exchange(stack_, ++stacks_);
+    // The first part stands on the left edge of what is above and below the row.
+    const int outer = std::exchange(stack_, &part == &parts.front() ? stack_ : ++stacks_);
     if (part.kind == Layout::Kind::Item || part.kind == Layout::Kind::Group) {
       AddPart(part, row);
       if (part.kind == Layout::Kind::Group && !Grows(part)) row->setStretch(row->count() - 1, 1);

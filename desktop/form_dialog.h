@@ -5,6 +5,7 @@
 #include <exception>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "desktop/control_view.h"
 #include "dialogs/form.h"
@@ -24,6 +25,8 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   // The least size without scrolling, and what a window's borders and title bar add to it.
   QSize LeastSize() const { return least_; }
   static constexpr QSize kFrame{16, 48};
+  // The controls that stand in the layout, in the order in which they are read.
+  const std::vector<Control*>& ReadingOrder() const { return reading_; }
   // A failure within an event of the form ended it: goes on to the caller of the form.
   void RethrowFailure();
 
@@ -51,6 +54,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
 
   Form& form_;
   std::map<const Control*, std::unique_ptr<ControlView>> views_;
+  std::vector<Control*> reading_;
   QScrollArea* scroll_ = nullptr;
   bool grows_ = false;
   bool refit_ = false;

@@ -26,12 +26,6 @@ QRect PlaceOf(const QWidget& widget, const QWidget& window) {
   return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
-bool Holds(const Layout& layout, const Control& control) {
-  return layout.control == &control ||
-         std::any_of(layout.children.begin(), layout.children.end(),
-                     [&](const Layout& child) { return Holds(child, control); });
-}
-
 void LintNames(const FormDialog& dialog, Faults& faults) {
   std::set<std::string> seen;
   for (const Control* control : dialog.Model().Controls()) {
@@ -39,7 +33,8 @@ void LintNames(const FormDialog& dialog, Faults& faults) {
     if (name.empty()) faults.push_back("un controllo senza nome");
     if (!seen.insert(name).second) faults.push_back(name + ": nome doppio");
     const QWidget* field = dialog.ViewOf(*control).Field();
-    if (!Holds(dialog.Model().Content(), *control))
+    const auto& placed = dialog.ReadingOrder();
+    if (std::find(placed.begin(), placed.end(), control) == placed.end())
       faults.push_back(name + ": non ha posto nella finestra");
     if (control->TakesFocus() && field->isVisible() && field->accessibleName().isEmpty())
       faults.push_back(name + ": senza etichetta");
@@ -48,7 +43,7 @@ void LintNames(const FormDialog& dialog, Faults& faults) {
 
 void LintOrder(const FormDialog& dialog, Faults& faults) {
   const Control* before = nullptr;
-  for (const Control* control : dialog.Model().Controls()) {
+  for (const Control* control : dialog.ReadingOrder()) {
     const QWidget* field = dialog.ViewOf(*control).Field();
     if (!control->TakesFocus() || !field->isVisible()) continue;
     if (before != nullptr) {

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <algorithm>
 
+#include "desktop/form_lint.h"
 #include "desktop/qt_text.h"
 
 namespace orm {
@@ -46,8 +47,8 @@ int PlaceOf(const ListControl& list, std::string_view text) {
 
 }  // namespace
 
-WidgetHand::WidgetHand(FormDialog& dialog, std::string pictures)
-    : dialog_(dialog), pictures_(std::move(pictures)) {}
+WidgetHand::WidgetHand(FormDialog& dialog, DesktopStageOptions options)
+    : dialog_(dialog), options_(std::move(options)) {}
 
 // By the name alone, as a person's eye finds it on the screen.
 QWidget* WidgetHand::WidgetOf(const Control& control) const {
@@ -57,6 +58,13 @@ QWidget* WidgetHand::WidgetOf(const Control& control) const {
 void WidgetHand::Settle() {
   QCoreApplication::processEvents();
   dialog_.RethrowFailure();
+  if (dialog_.Model().IsOpen()) Look();
+}
+
+void WidgetHand::Look() {
+  if (options_.faults == nullptr) return;
+  for (const std::string& fault : LintForm(dialog_))
+    options_.faults->insert(dialog_.Model().Name() + ": " + fault);
 }
 
 // A window that was shown over the form has gone: the keys are the form's again.
@@ -173,9 +181,9 @@ bool WidgetHand::IsEnabled(Control& control) { return WidgetOf(control)->isEnabl
 std::string WidgetHand::Title() { return dialog_.Model().Title(); }
 
 void WidgetHand::Picture(const std::string& name) {
-  if (pictures_.empty()) return;
+  if (options_.pictures.empty()) return;
   QCoreApplication::processEvents();
-  dialog_.grab().save(ToQt(pictures_ + "/" + name + ".png"));
+  dialog_.grab().save(ToQt(options_.pictures + "/" + name + ".png"));
 }
 
 }  // namespace orm

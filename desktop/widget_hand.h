@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "desktop/desktop_stage.h"
 #include "desktop/form_dialog.h"
 #include "script/hand.h"
 
@@ -10,8 +11,9 @@ namespace orm {
 
 class WidgetHand : public FormHand {
  public:
-  // `pictures`: the folder for pictures of the form; empty: none are made.
-  WidgetHand(FormDialog& dialog, std::string pictures);
+  WidgetHand(FormDialog& dialog, DesktopStageOptions options);
+
+  void Look();  // at the form as a whole, for faults
 
   std::string Set(Control& control, std::string_view text) override;
   std::string Press(Button& button) override;
@@ -32,7 +34,7 @@ class WidgetHand : public FormHand {
   void Settle();  // what the last event left to do is done
 
   FormDialog& dialog_;
-  std::string pictures_;
+  DesktopStageOptions options_;
 };
 
 }  // namespace orm
