@@ -36,6 +36,7 @@ check_error() {
   grep -q 'disco\|Errore' "$work/told" || breaks "$where: il messaggio non dice la ragione"
   grep -q 'I dati sono scritti' "$work/told" && return
   named=$(sed -n 's/^File : //p' "$work/told" | head -1)
+  [ -n "$named" ] || return
   if [ -e "$new/$named" ] && ! cmp -s "$old/$named" "$new/$named" && cmp -s "$new/$named" "$at/$named"; then
     breaks "$where: $named è nuovo malgrado il messaggio"
   fi
