@@ -15,6 +15,11 @@ void AdoptInto(Frame* parent, const Layout& layout) {
   for (const Layout& part : layout.children) AdoptInto(inner, part);
 }
 
+void CollectControls(const Layout& layout, std::vector<Control*>& controls) {
+  if (layout.control != nullptr) controls.push_back(layout.control);
+  for (const Layout& part : layout.children) CollectControls(part, controls);
+}
+
 }  // namespace
 
 Layout Column(std::vector<Layout> parts) {
@@ -50,6 +55,14 @@ Control* Form::Find(std::string_view name) const {
 void Form::SetContent(Layout content) {
   content_ = std::move(content);
   AdoptInto(nullptr, content_);
+  // Members are built in an order of their own; a person goes through the form as it is laid out.
+  std::vector<Control*> reading;
+  CollectControls(content_, reading);
+  const auto place = [&reading](const Control* control) {
+    return std::find(reading.begin(), reading.end(), control) - reading.begin();
+  };
+  std::stable_sort(controls_.begin(), controls_.end(),
+                   [&](const Control* a, const Control* b) { return place(a) < place(b); });
 }
 
 Control* Form::FirstFocus() const {

@@ -58,8 +58,7 @@ class Form {
   const std::string& Title() const { return title_; }
   void SetTitle(std::string title);
 
-  // All controls in the order of building. The Tab key goes in the order of the layout, in which
-  // the form is read.
+  // All controls in reading order, which is the tab order: as the layout names them.
   const std::vector<Control*>& Controls() const { return controls_; }
   Control* Find(std::string_view name) const;  // nullptr when there is none
 

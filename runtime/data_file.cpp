@@ -36,8 +36,17 @@ void DataReader::ExpectEnd() {
     Fail("(fine del file)", "Il file contiene altri dati dopo l'ultimo campo previsto.");
 }
 
+// The marks that other programs put before a text that is not in Windows-1252.
+void DataReader::RefuseByteOrderMark(const char* field) const {
+  if (bytes_.starts_with("\xEF\xBB\xBF"))
+    Fail(field, "Il testo non è in codifica Windows-1252 ma in UTF-8.");
+  if (bytes_.starts_with("\xFF\xFE") || bytes_.starts_with("\xFE\xFF"))
+    Fail(field, "Il testo non è in codifica Windows-1252 ma in UTF-16.");
+}
+
 // A field ends at a comma or at a line end; a line end is a separator like any other.
 DataReader::Raw DataReader::Next(const char* field) {
+  if (at_ == 0) RefuseByteOrderMark(field);
   SkipBlanks();
   fieldLine_ = line_;
   if (at_ >= bytes_.size()) Fail(field, "Il file finisce prima di questo campo.");
@@ -53,8 +62,10 @@ DataReader::Raw DataReader::Next(const char* field) {
         ++at_;
       }
       if (c == '\r' && at_ + 1 < bytes_.size() && bytes_[at_ + 1] == '\n') continue;
-      if (c == '\n') ++line_;
-      raw.text += c;
+      // A carriage return alone ends a line here as it does between fields.
+      const bool endsLine = c == '\n' || c == '\r';
+      if (endsLine) ++line_;
+      raw.text += endsLine ? '\n' : c;
     }
     ++at_;
     SkipBlanks();
@@ -130,11 +141,15 @@ void DataWriter::Write(Field<std::string> field) {
     throw failure.AtField(field.name);
   }
   bytes_ += '"';
-  for (const char c : bytes) {
-    if (c == '"') bytes_ += '"';
-    if (c == '\r') continue;
-    if (c == '\n') bytes_ += '\r';
-    bytes_ += c;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const char c = bytes[i];
+    if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') continue;
+    if (c == '"')
+      bytes_ += "\"\"";
+    else if (c == '\n' || c == '\r')
+      bytes_ += "\r\n";
+    else
+      bytes_ += c;
   }
   bytes_ += '"';
 }

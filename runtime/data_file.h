@@ -68,6 +68,7 @@ class DataReader {
   template <class T>
   T Whole(const char* field);
   void SkipBlanks();
+  void RefuseByteOrderMark(const char* field) const;
 
   std::string name_;
   std::string bytes_;

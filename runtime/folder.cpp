@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <memory>
+#include <optional>
 #include <utility>
 
 #include "runtime/failure.h"
@@ -33,6 +35,8 @@ std::string ReasonOf(int error) {
       return "Al posto del file c'è una cartella.";
     case EIO:
       return "Errore di lettura o scrittura del disco.";
+    case ELOOP:
+      return "Al posto del file c'è un collegamento che non porta a un file.";
     case EMFILE:
     case ENFILE:
       return "Troppi file aperti.";
@@ -81,10 +85,21 @@ int WriteAll(int fd, std::string_view bytes) {
   return 0;
 }
 
+// What stands under the path, nothing where there is nothing. A path that cannot be looked at is a
+// failure: taken for an absent file, it would be replaced by the file of a new installation.
+std::optional<struct stat> Look(const std::string& path, std::string_view name) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) == 0) return status;
+  if (errno != ENOENT && errno != ENOTDIR) Fail(name, errno);
+  return std::nullopt;
+}
+
+// `mode`: the rights of the file to be replaced, which the new one keeps: a folder may be shared.
 int WriteWhole(const std::string& path, std::string_view bytes, Durability durability,
-               mode_t mode) {
-  Descriptor file(OpenRetrying(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, mode));
+               std::optional<mode_t> mode) {
+  Descriptor file(OpenRetrying(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, 0666));
   if (!file.IsOpen()) return errno;
+  if (mode && ::fchmod(file.Get(), *mode) != 0) return errno;
   if (const int error = WriteAll(file.Get(), bytes)) return error;
   if (durability == Durability::Flushed && ::fsync(file.Get()) != 0) return errno;
   struct stat status {};
@@ -102,16 +117,20 @@ std::string WorkFolder::PathOf(std::string_view name) const {
 }
 
 bool WorkFolder::Exists(std::string_view name) const {
-  struct stat status {};
-  return !name.empty() && ::stat(PathOf(name).c_str(), &status) == 0;
+  return !name.empty() && Look(PathOf(name), name).has_value();
 }
 
 std::vector<std::string> WorkFolder::Names() const {
   std::vector<std::string> names;
-  if (DIR* folder = ::opendir(path_.c_str())) {
-    while (const dirent* entry = ::readdir(folder)) names.emplace_back(entry->d_name);
-    ::closedir(folder);
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path_.c_str()), ::closedir);
+  if (folder == nullptr) Fail(path_, errno);
+  for (;;) {
+    errno = 0;
+    const dirent* entry = ::readdir(folder.get());
+    if (entry == nullptr) break;
+    names.emplace_back(entry->d_name);
   }
+  if (errno != 0) Fail(path_, errno);
   std::erase_if(names, [](const std::string& name) { return name == "." || name == ".."; });
   std::sort(names.begin(), names.end());
   return names;
@@ -147,11 +166,16 @@ void WorkFolder::Replace(std::string_view name, std::string_view bytes,
   // One name beside each file: a leftover of a killed program is overwritten by the next save.
   const std::string beside = target + ".tmp";
 
-  struct stat status {};
-  const bool existed = ::stat(target.c_str(), &status) == 0;
-  if (existed && S_ISDIR(status.st_mode)) Fail(name, EISDIR);
-  if (existed && ::access(target.c_str(), W_OK) != 0) Fail(name, errno);
-  const mode_t mode = existed ? status.st_mode & 0777 : 0666;
+  std::optional<mode_t> mode;
+  if (const auto old = Look(target, name)) {
+    if (S_ISDIR(old->st_mode)) Fail(name, EISDIR);
+    if (::access(target.c_str(), W_OK) != 0) Fail(name, errno);
+    mode = old->st_mode & 0777;
+  }
+  // Opened before anything is written, so that its own errors come while the old file is there.
+  const bool flushed = durability == Durability::Flushed;
+  const Descriptor folder(flushed ? OpenRetrying(path_.c_str(), O_RDONLY | O_DIRECTORY) : -1);
+  if (flushed && !folder.IsOpen()) Fail(name, errno);
 
   int error = WriteWhole(beside, bytes, durability, mode);
   if (error == 0 && ::rename(beside.c_str(), target.c_str()) != 0) error = errno;
@@ -159,12 +183,12 @@ void WorkFolder::Replace(std::string_view name, std::string_view bytes,
     ::unlink(beside.c_str());
     Fail(name, error);
   }
-  if (durability == Durability::Flushed) {
-    // The new contents are in place; without this flush a power cut could bring the old name back,
-    // which is whole too.
-    const Descriptor folder(OpenRetrying(path_.c_str(), O_RDONLY | O_DIRECTORY));
-    if (folder.IsOpen()) ::fsync(folder.Get());
-  }
+  // The new contents are in place; without this flush a power cut could bring the old ones back,
+  // whole too. A file system that cannot flush a folder (EINVAL) does without.
+  if (flushed && ::fsync(folder.Get()) != 0 && errno != EINVAL)
+    throw RuntimeFailure("I dati sono scritti, ma il disco non ne conferma la registrazione. " +
+                         ReasonOf(errno))
+        .AtFile(std::string(name));
 }
 
 void WorkFolder::Remove(std::string_view name) const {

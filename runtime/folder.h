@@ -24,6 +24,7 @@ class WorkFolder {
   const std::string& Path() const { return path_; }
   std::string PathOf(std::string_view name) const;
 
+  // A name that cannot be looked at (a disk error) is a RuntimeFailure, not an absent file.
   bool Exists(std::string_view name) const;
   std::vector<std::string> Names() const;  // sorted
 
@@ -32,8 +33,10 @@ class WorkFolder {
   std::string Read(std::string_view name) const;
 
   // Replaces a file or creates it: the bytes are written beside it, checked, flushed and renamed
-  // into place. Whatever happens, the name holds the old contents or the new ones, whole. Any
-  // error is a RuntimeFailure that names the file, and nothing is left beside it.
+  // into place, with the rights of the old file. Whatever happens, the name holds the old contents
+  // or the new ones, whole. Any error is a RuntimeFailure that names the file, and nothing is left
+  // beside it; the old contents stay, but for the very last step, the flush of the folder, which
+  // fails with the new ones in place and says so.
   void Replace(std::string_view name, std::string_view bytes,
                Durability durability = Durability::Flushed) const;
 

@@ -63,9 +63,14 @@ Rounded RoundDigits(double value, int decimals) {
   return out;
 }
 
+// The greatest number of 15 digits. Rounded up to its digits, one still greater would be a text
+// that nobody can read back.
+constexpr double kGreatest = 1.79769313486231E+308;
+
+bool IsNumber(double value) { return std::fabs(value) <= kGreatest; }
+
 void RequireFinite(double value) {
-  if (!std::isfinite(value))
-    throw RuntimeFailure("Il risultato non è un numero finito (overflow).");
+  if (!IsNumber(value)) throw RuntimeFailure("Il risultato non è un numero finito (overflow).");
 }
 
 [[noreturn]] void Overflow(int bits) {
@@ -111,11 +116,11 @@ std::optional<double> ParseNumber(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   const bool whole = end == text.data() + text.size();
   // Below the least double the text is still a number, and counts as zero.
-  if (error == std::errc::result_out_of_range && whole &&
-      text.find_first_of("eE") != std::string_view::npos &&
-      text.find("E-") != std::string_view::npos)
+  const auto exponent = text.find_first_of("eE");
+  if (error == std::errc::result_out_of_range && whole && exponent != std::string_view::npos &&
+      text.substr(exponent + 1).starts_with('-'))
     return 0.0;
-  if (error != std::errc() || !whole || !std::isfinite(value)) return std::nullopt;
+  if (error != std::errc() || !whole || !IsNumber(value)) return std::nullopt;
   return value;
 }
 

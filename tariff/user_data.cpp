@@ -9,6 +9,7 @@ Dati Leggi(const WorkFolder& folder, const std::string& nomeFile) {
   DataReader file(folder, nomeFile);
   Dati dati;
   Campi(file, dati);
+  file.ExpectEnd();
   return dati;
 }
 

@@ -62,6 +62,28 @@ TEST(DataReader, NamesFileLineFieldAndReason) {
             "1\nCampo : NumPartite");
 }
 
+TEST(DataReader, RefusesTheMarksOfOtherEncodings) {
+  EXPECT_EQ(FailureOf([] { Over("\xEF\xBB\xBF\"Rossi\"").Text("Nome"); }),
+            "Il testo non è in codifica Windows-1252 ma in UTF-8.\nFile : INP_PPE.DAP\nRiga : "
+            "1\nCampo : Nome");
+  EXPECT_EQ(FailureOf([] { Over("\xFF\xFER").Text("Nome"); }),
+            "Il testo non è in codifica Windows-1252 ma in UTF-16.\nFile : INP_PPE.DAP\nRiga : "
+            "1\nCampo : Nome");
+}
+
+// A carriage return alone, as some old systems end their lines, is not lost at the next save.
+TEST(DataReader, KeepsLoneCarriageReturnsAsLineEnds) {
+  std::string text = Over("\"a\rb\r\r\nc\"").Text("NOTE");
+  EXPECT_EQ(text, "a\nb\n\nc");
+  DataWriter writer;
+  writer.Line(Field("NOTE", text));
+  EXPECT_EQ(writer.Bytes(), "\"a\r\nb\r\n\r\nc\"\r\n");
+  text = "a\rb\r\nc";
+  DataWriter same;
+  same.Line(Field("NOTE", text));
+  EXPECT_EQ(same.Bytes(), "\"a\r\nb\r\nc\"\r\n");
+}
+
 TEST(DataReader, RefusesWhatIsNotItsText) {
   EXPECT_THROW(Over("1.5").Integer("a"), RuntimeFailure);
   EXPECT_THROW(Over("\"1\"").Number("a"), RuntimeFailure);

@@ -84,7 +84,7 @@ TEST(Dates, AreRealDays) {
 // A form with one of each, to try their rules without a player.
 struct Sample : Form {
   Sample() : Form("frmProva", "") {
-    SetContent(Column({Group(frame, {Fields({text, whole})}), combo}));
+    SetContent(Column({Group(frame, {Fields({text, whole})}), one, two, combo, day, slider}));
   }
   Frame frame{*this, "frame"};
   TestoBox text{*this, "text", "Testo", {.longest = 5}};

@@ -42,6 +42,16 @@ TEST(NumberText, ReadsBackWithinItsDigits) {
   }
 }
 
+// Its 15 digits round up to a number that does not exist: taken, it could not be read back.
+TEST(NumberText, EndsWhereItsTextEnds) {
+  const double greatest = std::numeric_limits<double>::max();
+  EXPECT_THROW(NumberText(greatest), RuntimeFailure);
+  EXPECT_FALSE(ParseNumber("1.7976931348623157E+308"));
+  EXPECT_EQ(NumberText(1.79769313486231E+308), "1.79769313486231E+308");
+  EXPECT_EQ(ParseNumber("1e-400"), 0.0);
+  EXPECT_EQ(ParseNumber("-1E-400"), 0.0);
+}
+
 TEST(BareNumber, HasSignPlaceAndTrailingBlank) {
   EXPECT_EQ(BareNumber(5), " 5 ");
   EXPECT_EQ(BareNumber(-5), "-5 ");

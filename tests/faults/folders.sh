@@ -1,0 +1,77 @@
+#!/bin/bash
+# Folders that cannot be written, disks without space, and two programs on one folder.
+source "$(dirname "$0")/lib.sh"
+readonly at=$work/at commands="PERS_CRITERI PERS_UTENTE CONF_EDITOR PARCELLE_PPE_ID"
+chmod 755 "$work"
+
+# refused REASON WHERE COMMAND...: a run-time failure with that reason, and the folder as it was.
+refused() {
+  local reason=$1 where=$2 before told code
+  shift 2
+  before=$(picture "$at")
+  tried=$((tried + 1))
+  told=$("$@" 2>&1 >/dev/null)
+  code=$?
+  [ $code = 2 ] || breaks "$where: esce con $code: $told"
+  grep -q "$reason" <<<"$told" || breaks "$where: il messaggio non dice la ragione: $told"
+  grep -q '^File : ' <<<"$told" || breaks "$where: il messaggio non nomina il file: $told"
+  [ "$before" = "$(picture "$at")" ] || breaks "$where: la cartella è cambiata"
+}
+
+refuses_all() {
+  local command
+  refused "$1" "$2, calcolo" "${as[@]}" "$calcolo" PPE --cartella "$at"
+  for command in $commands; do refused "$1" "$2, $command" "${as[@]}" "$saver" "$at" "$command"; done
+}
+
+# For root no right counts: the programs run as somebody else.
+as=()
+if [ "$(id -u)" = 0 ]; then as=(setpriv --reuid=65534 --regid=65534 --clear-groups); fi
+sample_folder "$at"
+chmod 755 "$at" && chmod 644 "$at"/*
+if "${as[@]}" "$calcolo" --help >/dev/null 2>&1; then
+  [ "$(id -u)" = 0 ] || chmod a-w "$at"
+  refuses_all 'permesso' "cartella senza permesso"
+  chmod 777 "$at" && chmod 666 "$at"/* && chmod 444 "$at/OUT_PPE.DOC"
+  refused 'permesso' "parcella protetta" "${as[@]}" "$calcolo" PPE --cartella "$at"
+  chmod 000 "$at/UTENTE.DAG"
+  refused 'permesso' "file illeggibile" "${as[@]}" "$calcolo" PPE --cartella "$at"
+else
+  echo "SALTATO (in parte): i programmi non si possono eseguire come un altro utente"
+fi
+
+# A small disk, filled to its end.
+as=()
+rm -rf "$at" && mkdir "$at"
+if mount -t tmpfs -o size=64k,mode=755 orm2002-prova "$at" 2>/dev/null; then
+  trap 'umount "$at" 2>/dev/null; rm -rf "$work"' EXIT
+  sample_folder "$work/sample"
+  cp "$work/sample"/* "$at"
+  dd if=/dev/zero of="$at/zzz" bs=1k 2>/dev/null
+  refuses_all 'spazio' "disco pieno"
+  rm "$at/zzz"
+  "$calcolo" PPE --cartella "$at" 2>/dev/null >&2 || breaks "disco di nuovo libero: non calcola"
+  umount "$at"
+else
+  echo "SALTATO (in parte): non è permesso montare un disco; il disco pieno è provato in saves.sh"
+fi
+
+# Two programs on one folder; the lock goes with its process, however it ends.
+sample_folder "$at"
+mkfifo "$work/ready"
+"$saver" "$at" --tiene >"$work/ready" &
+holder=$!
+read -r _ <"$work/ready"
+before=$(picture "$at")
+told=$("$calcolo" PPE --cartella "$at" 2>&1)
+code=$?
+[ $code = 1 ] || breaks "secondo programma: esce con $code"
+grep -q 'GIÀ IN USO' <<<"$told" || breaks "secondo programma: $told"
+[ "$before" = "$(picture "$at")" ] || breaks "secondo programma: la cartella è cambiata"
+{
+  kill -9 $holder
+  wait $holder
+} 2>/dev/null
+"$calcolo" PPE --cartella "$at" >/dev/null 2>&1 || breaks "il blocco resta dopo la fine del programma"
+tried=$((tried + 2))
+finish

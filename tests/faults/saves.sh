@@ -1,0 +1,115 @@
+#!/bin/bash
+# Fault loops: every file-system call of every command that writes is made to fail, or the program
+# is killed at it, the first time, the second time... until the call is no longer reached. After a
+# kill each file is the old one or the new one, whole, and the same command then works. After an
+# error there is the message with its reason, the file that it names is the old one, and nothing is
+# left beside.
+source "$(dirname "$0")/lib.sh"
+command -v strace >/dev/null || skip "manca strace"
+strace -o /dev/null true 2>/dev/null || skip "non è permesso seguire un processo (ptrace)"
+
+readonly old=$work/old new=$work/new at=$work/at errors="ENOSPC EIO EROFS"
+
+# File by file: old, new, or another whole state that the command may leave.
+check_whole() {
+  local file state
+  for file in $(ls "$old" "$new" "$at" | grep -v -e : -e '\.tmp$' | sort -u); do
+    for state in "$old" "$new" "$work"/state-*; do
+      if [ ! -e "$state/$file" ] && [ ! -e "$at/$file" ]; then continue 2; fi
+      cmp -s "$state/$file" "$at/$file" 2>/dev/null && continue 2
+    done
+    breaks "$1: $file non è intero"
+  done
+}
+
+check_error() {
+  local code=$1 where=$2 named
+  check_whole "$where"
+  if ls "$at"/*.tmp >/dev/null 2>&1; then breaks "$where: resta un file .tmp"; fi
+  if [ "$code" = 0 ]; then
+    [ -s "$work/told" ] && return  # told before the command, which went on
+    diff -rq "$new" "$at" >/dev/null || breaks "$where: nessun messaggio, ma i file non sono i nuovi"
+    return
+  fi
+  [ "$code" = 2 ] || breaks "$where: esce con $code"
+  grep -q '^File : ' "$work/told" || breaks "$where: il messaggio non nomina il file"
+  grep -q 'disco\|Errore' "$work/told" || breaks "$where: il messaggio non dice la ragione"
+  grep -q 'I dati sono scritti' "$work/told" && return
+  named=$(sed -n 's/^File : //p' "$work/told" | head -1)
+  [ -n "$named" ] || return
+  if [ -e "$new/$named" ] && ! cmp -s "$old/$named" "$new/$named" && cmp -s "$new/$named" "$at/$named"; then
+    breaks "$where: $named è nuovo malgrado il messaggio"
+  fi
+}
+
+# What is done to the call, with strace's words for it; false when the call was not reached.
+run_with() {
+  local call=$1 fault=$2 n=$3
+  rm -rf "$at" && cp -r "$old" "$at"
+  tried=$((tried + 1))
+  # The braces keep bash from telling of every program that was killed.
+  {
+    strace -f -o "$work/trace" -e trace="$call" -e inject="$call:$fault:when=$n" "${run[@]}" \
+      >/dev/null 2>"$work/told"
+    code=$?
+  } 2>/dev/null
+  grep -q 'INJECTED\|killed by SIGKILL' "$work/trace"
+}
+
+loop() {
+  local title=$1 call n error
+  shift
+  run=("$@")
+  rm -rf "$new" && cp -r "$old" "$new" && rm -rf "$at" && cp -r "$old" "$at"
+  # The calls that a run without faults makes; memory and the start of the program are no saves.
+  strace -f -o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod "${run[@]}" \
+    >/dev/null 2>"$work/told" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
+  rm -rf "$new" && cp -r "$at" "$new"
+  local calls
+  calls=$(grep -o '^[0-9]* *[a-z0-9_]*(' "$work/trace" | grep -o '[a-z_][a-z0-9_]*' | sort -u |
+    grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat)
+  for call in $calls; do
+    for ((n = 1; ; n++)); do
+      run_with "$call" signal=KILL $n || break
+      check_whole "$title, interrotto a $call $n"
+      "${run[@]}" >/dev/null 2>&1 || breaks "$title, dopo l'interruzione a $call $n: esce con $?"
+      diff -rq "$new" "$at" >/dev/null || breaks "$title, dopo l'interruzione a $call $n: non riparte"
+    done
+    for error in $errors; do
+      for ((n = 1; ; n++)); do
+        run_with "$call" "error=$error" $n || break
+        check_error $code "$title, $error a $call $n"
+      done
+    done
+    reached="$reached$call "
+  done
+}
+
+reached=""
+sample_folder "$old"
+loop "calcolo in Lire" "$calcolo" PPE --cartella "$at" --data 15/03/2002
+loop "dati del professionista" "$saver" "$at" PERS_UTENTE
+loop "programmi esterni" "$saver" "$at" CONF_EDITOR
+
+# Criteria that could not be read at the start are told; those in force are then the first ones, and
+# it is these that a person confirms.
+cp -r "$old" "$work/state-criteri"
+rm "$work/state-criteri/CRITERI.PER"
+"$saver" "$work/state-criteri" PERS_CRITERI
+loop "criteri" "$saver" "$at" PERS_CRITERI
+
+# The input of a note writes its data file twice: with the agreements of before, and with the new.
+cp -r "$old" "$work/state-acconti"
+"$saver" "$work/state-acconti" PARCELLE_PPE_ID frmGEN_Acconti
+loop "input di una parcella" "$saver" "$at" PARCELLE_PPE_ID
+
+rm -rf "$old" "$work"/state-* && mkdir "$old"
+loop "avvio in una cartella nuova" "$saver" "$at" --avvio
+
+# Files that an error hides are not files that are not there.
+sample_folder "$old"
+printf '"01/01/1940","01/01/1979","M",0\r\n' >"$old/REDDITI.PER"
+loop "avvio con i propri file" "$saver" "$at" --avvio
+
+echo "chiamate: $(echo "$reached" | tr ' ' '\n' | sort -u | tr '\n' ' ')"
+finish

@@ -1,0 +1,20 @@
+// CRITERI.PER, the criteria of calculation.
+#include "shell/settings.h"
+#include "tests/fuzz/file_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace orm;
+  static const fuzz::FuzzFolder place;
+  static fuzz::Nobody nobody;
+  RunState stato(nobody, place.Folder());
+  fuzz::CheckFile(
+      place, kFileCriteri, fuzz::Text(data, size),
+      [&] {
+        LeggiCriteri(stato);
+        fuzz::Values values;
+        CampiCriteri(values, stato.criteri);
+        return values;
+      },
+      [&] { ScriviCriteri(stato); });
+  return 0;
+}
