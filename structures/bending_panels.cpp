@@ -13,6 +13,13 @@ std::string Indexed(const char* name, int index) {
   return std::string(name) + "(" + NumberText(index) + ")";
 }
 
+// A long heading stands in two lines.
+std::string Heading(std::string text) {
+  constexpr std::size_t kLongest = 20;
+  if (text.size() > kLongest) text[text.rfind(' ', kLongest)] = '\n';
+  return text;
+}
+
 NumberLimits AnyNumber() { return {.least = -1e12, .most = 1e12, .decimals = 2}; }
 
 }  // namespace
@@ -45,7 +52,12 @@ PannelloForme::PannelloForme(Form& form, std::initializer_list<const char*> nomi
                         gruppo);
 }
 
-Layout PannelloForme::Contents() { return Group(fraTipo, {Option.begin(), Option.end()}); }
+Layout PannelloForme::Contents() {
+  std::vector<Layout> lines;
+  for (std::size_t i = 0; i + 1 < Option.size(); i += 2)
+    lines.push_back(Row({Option[i], Option[i + 1]}));
+  return Group(fraTipo, std::move(lines));
+}
 
 void PannelloCarichi::ScriviEsempio(double momento) {
   CD_12.SetValue(TensioneAcciaioEsempio);
@@ -55,15 +67,13 @@ void PannelloCarichi::ScriviEsempio(double momento) {
 
 RigaArmatura::RigaArmatura(Form& form, int indice, const std::string& riga, const char* distanza)
     : CasellaFerri(form, Indexed("CasellaFerri", indice), riga),
-      Distanza(form, Indexed("Distanza", indice), "", LimitiLunghezza()) {
-  Distanza.SetHint(distanza);
-}
+      Distanza(form, Indexed("Distanza", indice), distanza, LimitiLunghezza()) {}
 
 PannelloArmature::PannelloArmature(Form& form, int primo, int quante, const char* riga,
                                    const char* distanza)
     : lblRiga(form, Indexed("lblRiga", primo), riga),
       lblFerri(form, Indexed("lblFerri", primo), "Ferri"),
-      lblDistanza(form, Indexed("lblDistanza", primo), distanza) {
+      lblDistanza(form, Indexed("lblDistanza", primo), Heading(distanza)) {
   for (int i = 0; i < quante; ++i) righe.emplace_back(form, primo + i, NumberText(i + 1), distanza);
 }
 

@@ -77,12 +77,14 @@ FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
 }
 
 void FrmVerFlessC1::Arrange() {
-  SetContent(Column({Row({Column({forme.Contents(), carichi.Contents(),
-                                  Group(fraGeometria, {Fields({CD_02, CD_03})})}),
-                          Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
-                                              Group(fraConcentrata, {gruppi.Contents()})}),
-                          risultati.Contents()}),
-                     Lavagna, Buttons({ComCalcola, ComEsci})}));
+  SetContent(
+      Column({Row({Column({forme.Contents(), carichi.Contents(),
+                           Group(fraGeometria, {Fields({CD_02, CD_03})})}),
+                   Column({Row({Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
+                                                    Group(fraConcentrata, {gruppi.Contents()})}),
+                                risultati.Contents()}),
+                           Lavagna})}),
+              Buttons({ComCalcola, ComEsci})}));
 }
 
 void FrmVerFlessC1::TieEvents() {
