@@ -20,7 +20,8 @@ std::string Heading(std::string text) {
   return text;
 }
 
-NumberLimits AnyNumber() { return {.least = -1e12, .most = 1e12, .decimals = 2}; }
+// Room for any result that a section in use gives.
+NumberLimits ResultLimits() { return {.least = -99999.99, .most = 99999.99, .decimals = 2}; }
 
 }  // namespace
 
@@ -30,7 +31,7 @@ MessageBox AvvisoSezione(std::string testo) {
 }
 
 NumberLimits LimitiLunghezza() { return {.most = 99999.99, .decimals = 2}; }
-NumberLimits LimitiMomento() { return {.least = -999999999, .most = 999999999, .decimals = 2}; }
+NumberLimits LimitiMomento() { return {.least = -99999999.99, .most = 99999999.99, .decimals = 2}; }
 NumberLimits LimitiTensione() { return {.most = 99999.99, .decimals = 2}; }
 
 PannelloCarichi::PannelloCarichi(Form& form)
@@ -85,20 +86,21 @@ Layout PannelloArmature::Contents() {
 
 PannelloRisultati::PannelloRisultati(Form& form)
     : fraRisultati(form, "fraRisultati", "RISULTATI"),
-      cdOUT{{{form, "cdOUT(1)", "Distanza Asse neutro da bordo superiore [cm.]", AnyNumber()},
-             {form, "cdOUT(2)", "Tens. cls.  bordo superiore [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(3)", "Tens. cls.  bordo inferiore [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(4)", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(5)", "Tens. acciaio più vicino bordo inf.  [kg/cmq]", AnyNumber()}}},
+      cdOUT{{{form, "cdOUT(1)", "Distanza Asse neutro da bordo superiore [cm.]", ResultLimits()},
+             {form, "cdOUT(2)", "Tens. cls.  bordo superiore [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(3)", "Tens. cls.  bordo inferiore [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(4)", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(5)", "Tens. acciaio più vicino bordo inf.  [kg/cmq]", ResultLimits()}}},
       fraNote(form, "fraNote", "NOTE"),
       Label_NOTA(form, "Label_NOTA", "", Label::Style::Note) {
   for (FloatBox& box : cdOUT) box.SetReadOnly(true);
 }
 
-Layout PannelloRisultati::Contents() {
-  return Column({Group(fraRisultati, {Fields({cdOUT[0], cdOUT[1], cdOUT[2], cdOUT[3], cdOUT[4]})}),
-                 Group(fraNote, {Label_NOTA})});
+Layout PannelloRisultati::Valori() {
+  return Group(fraRisultati, {Fields({cdOUT[0], cdOUT[1], cdOUT[2], cdOUT[3], cdOUT[4]})});
 }
+
+Layout PannelloRisultati::Note() { return Group(fraNote, {Label_NOTA}); }
 
 void PannelloRisultati::Mostra(const std::array<double, 5>& valori) {
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {

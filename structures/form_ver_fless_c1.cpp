@@ -79,11 +79,10 @@ FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
 void FrmVerFlessC1::Arrange() {
   SetContent(
       Column({Row({Column({forme.Contents(), carichi.Contents(),
-                           Group(fraGeometria, {Fields({CD_02, CD_03})})}),
-                   Column({Row({Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
-                                                    Group(fraConcentrata, {gruppi.Contents()})}),
-                                risultati.Contents()}),
-                           Lavagna})}),
+                           Group(fraGeometria, {Fields({CD_02, CD_03})}), risultati.Valori()}),
+                   Column({Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
+                                               Group(fraConcentrata, {gruppi.Contents()})}),
+                           risultati.Note(), Lavagna})}),
               Buttons({ComCalcola, ComEsci})}));
 }
 
