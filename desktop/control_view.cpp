@@ -68,6 +68,11 @@ void ControlView::NameForAccess() {
   field_->setAccessibleName(text);
 }
 
+void ControlView::LeaveCaptionOut() {
+  captionLeftOut_ = true;
+  if (caption_ != nullptr) caption_->hide();
+}
+
 void ControlView::Refresh() {
   whole_->setVisible(control_.OwnVisible());
   whole_->setEnabled(control_.OwnEnabled());
@@ -76,7 +81,7 @@ void ControlView::Refresh() {
   NameForAccess();
   const QString text = ToQt(control_.Caption()).trimmed();
   SetCaptionText(*caption_, text);
-  caption_->setVisible(control_.OwnVisible() && !text.isEmpty());
+  caption_->setVisible(control_.OwnVisible() && !text.isEmpty() && !captionLeftOut_);
   caption_->setEnabled(control_.OwnEnabled());
   unit_->setText(ToQt(control_.Unit()));
   unit_->setVisible(!control_.Unit().empty());

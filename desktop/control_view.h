@@ -36,6 +36,9 @@ class ControlView : public QObject {
   QWidget* Whole() const { return whole_; }  // the field with what stands behind it
   QLabel* Caption() const { return caption_; }  // nullptr where the widget has its own
 
+  // The caption is told elsewhere, by the heading of a table: it only names the field.
+  void LeaveCaptionOut();
+
   virtual void Refresh();                 // value and looks
   virtual std::string Shown() const = 0;  // what a person reads
   // Gives more room a use: several lines, a list, a drawing.
@@ -69,6 +72,7 @@ class ControlView : public QObject {
   QWidget* field_ = nullptr;
   QWidget* whole_ = nullptr;
   QLabel* caption_ = nullptr;
+  bool captionLeftOut_ = false;
   QLabel* unit_ = nullptr;
   QHBoxLayout* line_ = nullptr;
 };

@@ -50,6 +50,14 @@ const Layout& FirstOf(const Layout& line) {
   return line.kind == Layout::Kind::Row && !line.children.empty() ? line.children[0] : line;
 }
 
+// Lines of several fields below a line of labels alone.
+bool IsTable(const std::vector<Layout>& lines) {
+  return lines.size() > 1 && lines[0].kind == Layout::Kind::Row &&
+         std::all_of(lines[0].children.begin(), lines[0].children.end(), [](const Layout& part) {
+           return part.kind == Layout::Kind::Item && part.control->GetKind() == Kind::Label;
+         });
+}
+
 Qt::Alignment LabelAlignment(const ControlView& view) {
   const auto sideways = static_cast<Qt::Alignment>(
       view.Whole()->style()->styleHint(QStyle::SH_FormLayoutLabelAlignment));
@@ -166,7 +174,27 @@ void FormBuilder::AddGroup(const Layout& group, QBoxLayout* into) {
   into->addWidget(frame, Grows(group) ? 1 : 0);
 }
 
+// Below headings, the caption of a line's first field and then its fields, each in its column.
+void FormBuilder::AddTable(const std::vector<Layout>& lines, QBoxLayout* into) {
+  auto* grid = new QGridLayout;
+  for (int row = 0; row < static_cast<int>(lines.size()); ++row) {
+    int column = row == 0 ? 0 : 1;
+    for (const Layout& cell : lines[static_cast<std::size_t>(row)].children) {
+      ControlView& view = viewOf_(*cell.control);
+      if (column == 1 && row > 0)
+        grid->addWidget(view.Caption(), row, 0);
+      else if (row > 0)
+        view.LeaveCaptionOut();
+      grid->addWidget(view.Whole(), row, column++, row == 0 ? Qt::AlignBottom : Qt::Alignment());
+    }
+  }
+  grid->setColumnStretch(grid->columnCount() - 1, 1);
+  grid->setHorizontalSpacing(10);
+  into->addLayout(grid);
+}
+
 void FormBuilder::AddFields(const std::vector<Layout>& lines, QBoxLayout* into) {
+  if (IsTable(lines)) return AddTable(lines, into);
   auto* grid = new QGridLayout;
   const bool captions = std::any_of(lines.begin(), lines.end(), [](const Layout& line) {
     return IsFieldItem(FirstOf(line)) && !FirstOf(line).control->Caption().empty();

@@ -30,6 +30,7 @@ class FormBuilder {
   void AddRow(const std::vector<Layout>& parts, QBoxLayout* into);
   void AddGroup(const Layout& group, QBoxLayout* into);
   void AddFields(const std::vector<Layout>& lines, QBoxLayout* into);
+  void AddTable(const std::vector<Layout>& lines, QBoxLayout* into);
   void AddLine(const Layout& line, QGridLayout* grid, int row, bool captions);
   void AddButtons(const std::vector<Layout>& buttons, QBoxLayout* into);
 

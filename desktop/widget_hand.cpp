@@ -57,6 +57,11 @@ QWidget* WidgetHand::WidgetOf(const Control& control) const {
 
 void WidgetHand::Settle() {
   QCoreApplication::processEvents();
+  // Without a screen nobody gives the focus back when a message box has gone.
+  if (dialog_.isVisible() && !dialog_.isActiveWindow()) {
+    dialog_.activateWindow();
+    QCoreApplication::processEvents();
+  }
   dialog_.RethrowFailure();
   if (dialog_.Model().IsOpen()) Look();
 }

@@ -17,7 +17,8 @@ struct Layout {
     Column,   // children one below the other
     Row,      // children side by side
     Group,    // a frame around a column of children
-    Fields,   // labels in one column, fields in the next, units behind; a Row in it is one line
+    Fields,   // labels in one column, fields in the next, units behind; lines below a row of
+              // labels alone are a table with these headings; a Row in it is one line
     Buttons,  // a line of buttons at the right, in the order given
     Item      // one control
   };

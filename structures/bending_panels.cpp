@@ -13,7 +13,15 @@ std::string Indexed(const char* name, int index) {
   return std::string(name) + "(" + NumberText(index) + ")";
 }
 
-NumberLimits AnyNumber() { return {.least = -1e12, .most = 1e12, .decimals = 2}; }
+// A long heading stands in two lines.
+std::string Heading(std::string text) {
+  constexpr std::size_t kLongest = 20;
+  if (text.size() > kLongest) text[text.rfind(' ', kLongest)] = '\n';
+  return text;
+}
+
+// Room for any result that a section in use gives.
+NumberLimits ResultLimits() { return {.least = -99999.99, .most = 99999.99, .decimals = 2}; }
 
 }  // namespace
 
@@ -23,7 +31,7 @@ MessageBox AvvisoSezione(std::string testo) {
 }
 
 NumberLimits LimitiLunghezza() { return {.most = 99999.99, .decimals = 2}; }
-NumberLimits LimitiMomento() { return {.least = -999999999, .most = 999999999, .decimals = 2}; }
+NumberLimits LimitiMomento() { return {.least = -99999999.99, .most = 99999999.99, .decimals = 2}; }
 NumberLimits LimitiTensione() { return {.most = 99999.99, .decimals = 2}; }
 
 PannelloCarichi::PannelloCarichi(Form& form)
@@ -45,7 +53,12 @@ PannelloForme::PannelloForme(Form& form, std::initializer_list<const char*> nomi
                         gruppo);
 }
 
-Layout PannelloForme::Contents() { return Group(fraTipo, {Option.begin(), Option.end()}); }
+Layout PannelloForme::Contents() {
+  std::vector<Layout> lines;
+  for (std::size_t i = 0; i + 1 < Option.size(); i += 2)
+    lines.push_back(Row({Option[i], Option[i + 1]}));
+  return Group(fraTipo, std::move(lines));
+}
 
 void PannelloCarichi::ScriviEsempio(double momento) {
   CD_12.SetValue(TensioneAcciaioEsempio);
@@ -55,15 +68,13 @@ void PannelloCarichi::ScriviEsempio(double momento) {
 
 RigaArmatura::RigaArmatura(Form& form, int indice, const std::string& riga, const char* distanza)
     : CasellaFerri(form, Indexed("CasellaFerri", indice), riga),
-      Distanza(form, Indexed("Distanza", indice), "", LimitiLunghezza()) {
-  Distanza.SetHint(distanza);
-}
+      Distanza(form, Indexed("Distanza", indice), distanza, LimitiLunghezza()) {}
 
 PannelloArmature::PannelloArmature(Form& form, int primo, int quante, const char* riga,
                                    const char* distanza)
     : lblRiga(form, Indexed("lblRiga", primo), riga),
       lblFerri(form, Indexed("lblFerri", primo), "Ferri"),
-      lblDistanza(form, Indexed("lblDistanza", primo), distanza) {
+      lblDistanza(form, Indexed("lblDistanza", primo), Heading(distanza)) {
   for (int i = 0; i < quante; ++i) righe.emplace_back(form, primo + i, NumberText(i + 1), distanza);
 }
 
@@ -75,20 +86,21 @@ Layout PannelloArmature::Contents() {
 
 PannelloRisultati::PannelloRisultati(Form& form)
     : fraRisultati(form, "fraRisultati", "RISULTATI"),
-      cdOUT{{{form, "cdOUT(1)", "Distanza Asse neutro da bordo superiore [cm.]", AnyNumber()},
-             {form, "cdOUT(2)", "Tens. cls.  bordo superiore [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(3)", "Tens. cls.  bordo inferiore [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(4)", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]", AnyNumber()},
-             {form, "cdOUT(5)", "Tens. acciaio più vicino bordo inf.  [kg/cmq]", AnyNumber()}}},
+      cdOUT{{{form, "cdOUT(1)", "Distanza Asse neutro da bordo superiore [cm.]", ResultLimits()},
+             {form, "cdOUT(2)", "Tens. cls.  bordo superiore [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(3)", "Tens. cls.  bordo inferiore [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(4)", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]", ResultLimits()},
+             {form, "cdOUT(5)", "Tens. acciaio più vicino bordo inf.  [kg/cmq]", ResultLimits()}}},
       fraNote(form, "fraNote", "NOTE"),
       Label_NOTA(form, "Label_NOTA", "", Label::Style::Note) {
   for (FloatBox& box : cdOUT) box.SetReadOnly(true);
 }
 
-Layout PannelloRisultati::Contents() {
-  return Column({Group(fraRisultati, {Fields({cdOUT[0], cdOUT[1], cdOUT[2], cdOUT[3], cdOUT[4]})}),
-                 Group(fraNote, {Label_NOTA})});
+Layout PannelloRisultati::Valori() {
+  return Group(fraRisultati, {Fields({cdOUT[0], cdOUT[1], cdOUT[2], cdOUT[3], cdOUT[4]})});
 }
+
+Layout PannelloRisultati::Note() { return Group(fraNote, {Label_NOTA}); }
 
 void PannelloRisultati::Mostra(const std::array<double, 5>& valori) {
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {

@@ -67,7 +67,8 @@ struct PannelloArmature {
 // "RISULTATI" and "NOTE".
 struct PannelloRisultati {
   explicit PannelloRisultati(Form& form);
-  Layout Contents();
+  Layout Valori();
+  Layout Note();
   // Distance of the axis, stress of concrete at both edges, the two stresses of steel.
   void Mostra(const std::array<double, 5>& valori);
   void Azzera();

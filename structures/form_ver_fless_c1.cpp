@@ -77,12 +77,13 @@ FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
 }
 
 void FrmVerFlessC1::Arrange() {
-  SetContent(Column({Row({Column({forme.Contents(), carichi.Contents(),
-                                  Group(fraGeometria, {Fields({CD_02, CD_03})})}),
-                          Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
-                                              Group(fraConcentrata, {gruppi.Contents()})}),
-                          risultati.Contents()}),
-                     Lavagna, Buttons({ComCalcola, ComEsci})}));
+  SetContent(
+      Column({Row({Column({forme.Contents(), carichi.Contents(),
+                           Group(fraGeometria, {Fields({CD_02, CD_03})}), risultati.Valori()}),
+                   Column({Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
+                                               Group(fraConcentrata, {gruppi.Contents()})}),
+                           risultati.Note(), Lavagna})}),
+              Buttons({ComCalcola, ComEsci})}));
 }
 
 void FrmVerFlessC1::TieEvents() {

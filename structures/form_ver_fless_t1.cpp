@@ -60,10 +60,11 @@ FrmVerFlessT1::FrmVerFlessT1(RunState& stato)
 
 void FrmVerFlessT1::Arrange() {
   SetContent(Column(
-      {Row({Column({forme.Contents(), carichi.Contents()}),
-            Column({Group(fraGeometria, {Fields({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07})})}),
-            Group(fraArmature, {strati.Contents()}), risultati.Contents()}),
-       Lavagna, Buttons({ComCalcola, ComEsci})}));
+      {Row({Column({forme.Contents(), carichi.Contents(),
+                    Group(fraGeometria, {Fields({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07})}),
+                    risultati.Valori()}),
+            Column({Group(fraArmature, {strati.Contents()}), risultati.Note(), Lavagna})}),
+       Buttons({ComCalcola, ComEsci})}));
 }
 
 void FrmVerFlessT1::TieEvents() {
