@@ -1,6 +1,6 @@
 // Table E: measurement and accounting of works.
 //
-// Source: art. 19/e of Legge 2-3-1949 n. 143, rates of D.M. 25-2-1965 in percent; the later decrees
+// Source: Table E of Legge 2-3-1949 n. 143, rates of D.M. 25-2-1965 in percent; the later decrees
 // multiply them. The limits of the bands in Euro are those in Lire at 1936.27, rounded to the cent.
 // Oddity: beyond the last limit the factor of the last period is that of the one before it.
 #pragma once
