@@ -21,7 +21,7 @@ class FrmUtiContabilita : public Form {
   TestoBox Text1{*this,
                  "Text1",
                  "ONORARIO PER SCAGLIONI",
-                 {.longest = 2000, .lines = 8, .readOnly = true, .width = 68}};
+                 {.longest = 2000, .lines = 8, .readOnly = true, .width = 68, .columns = true}};
   TestoBox Text2{*this, "Text2", "ONORARIO", {.readOnly = true, .width = 20}};
   Button cmdCALCOLA{*this, "cmdCALCOLA", "&CALCOLA", Button::Role::Default};
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Close};

@@ -23,7 +23,7 @@ FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& run)
       ciLire(*this, "ciLire", "Lire", kWorksLire),
       cdEuro(*this, "cdEuro", "Euro", kWorksEuro),
       Text1(*this, "Text1", "Nastro",
-            {.longest = 100000, .lines = 10, .readOnly = true, .width = 40}),
+            {.longest = 100000, .lines = 10, .readOnly = true, .width = 40, .columns = true}),
       run_(run) {
   cmdPiu.onPress = [this] { Premi('+'); };
   cmdMeno.onPress = [this] { Premi('-'); };

@@ -13,10 +13,10 @@ class FrmUtiCalcolatrice : public Form {
 
   Frame fraCalcolatrice{*this, "fraCalcolatrice", "CALCOLATRICE"};
   FloatBox cdNumero;
-  Button cmdPiu{*this, "cmdPiu", "&+"};
-  Button cmdMeno{*this, "cmdMeno", "&-"};
-  Button cmdPer{*this, "cmdPer", "&x"};
-  Button cmdDiviso{*this, "cmdDiviso", "&:"};
+  Button cmdPiu{*this, "cmdPiu", "+"};
+  Button cmdMeno{*this, "cmdMeno", "-"};
+  Button cmdPer{*this, "cmdPer", "x"};
+  Button cmdDiviso{*this, "cmdDiviso", ":"};
   Button cmdUguale{*this, "cmdUguale", "=", Button::Role::Default};
   Button cmdAzzera{*this, "cmdAzzera", "&C"};
   Frame fraConvertitore{*this, "fraConvertitore", "CONVERTITORE  (1 Euro = 1936,27 Lire)"};
