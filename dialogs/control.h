@@ -117,6 +117,7 @@ struct TextOptions {
   int lines = 1;      // above 1 the text may hold line ends
   bool readOnly = false;
   int width = 30;  // usual width in characters
+  bool columns = false;  // in letters of one width, so that columns stand below each other
   std::string unit = {};
   std::string hint = {};
 };

@@ -15,8 +15,11 @@
 #include "shell/shell_boxes.h"
 #include "structures/form_ver_fless_c1.h"
 #include "structures/form_ver_fless_t1.h"
+#include "utilities/form_accounting_fee.h"
+#include "utilities/form_calculator.h"
 #include "utilities/form_interest.h"
 #include "utilities/form_pension.h"
+#include "utilities/form_percentages.h"
 #include "shell/technical_notes.h"
 
 namespace orm {
@@ -66,6 +69,9 @@ constexpr std::array kCommands = {
     Command{"UTIL_LETTERA_ID", Show<FrmGenLettera>},
     Command{"UTIL_LETTERA_VS", VisualizzaLettera},
     Command{"UTIL_MORA", MostraInteressiMora},
+    Command{"UTIL_PERC_COMBO", MostraPercentuali},
+    Command{"UTIL_OV_CL_COMBO", MostraContabilita},
+    Command{"UTIL_CALCOLATRICE", MostraCalcolatrice},
     Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
     Command{"INFORMA_Note", MostraMemo},
     Command{"INFORMA_BALCONI", MostraNotaBalconi},

@@ -1,0 +1,41 @@
+// Measurement and accounting of works: the progressive scale of Table E.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orm {
+
+// Works with the same tariff period and coefficient.
+struct RigaContabilita {
+  int periodo = 5;  // 1 to 5; any other counts as 5
+  double coefficiente = 1;
+  double importo = 0;  // in the currency of the note
+};
+
+// The part of a row's amount that lies in one band, and its fee.
+struct FasciaContabilita {
+  double aliquota = 0;  // percent, of the row's period
+  double coefficiente = 1;
+  double parte = 0;
+  double onorario = 0;  // neither cut nor rounded
+};
+
+struct OnorarioContabilita {
+  double importo = 0, onorario = 0;  // sums over the rows; the fee is not rounded
+  std::vector<FasciaContabilita> fasce;
+};
+
+// The scale runs over the sum of all rows in their order: a row goes on in the band where the one
+// before has stopped. A row of zero or below counts with its sign in the sum.
+OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita>& righe,
+                                               bool modoLire);
+
+// "1,83966% x 1,00 x       5.000.000 =          91.983", without line end.
+std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire);
+
+// A number right-justified in 15 characters, with the decimals of the currency. A longer one stands
+// as it is. The value is not cut.
+std::string NumeroContabilita(double valore, bool modoLire);
+
+}  // namespace orm

@@ -1,0 +1,37 @@
+// The accounting fee on screen: Table E for an amount of works.
+#pragma once
+
+#include "dialogs/form.h"
+#include "shell/run_state.h"
+
+namespace orm {
+
+class FrmUtiContabilita : public Form {
+ public:
+  explicit FrmUtiContabilita(RunState& run);
+
+  Frame fraValuta{*this, "fraValuta", "Valuta"};
+  OptionGroup valuta;
+  OptionButton optValuta1{*this, "optValuta1", "Lire", valuta};
+  OptionButton optValuta2{*this, "optValuta2", "Euro", valuta};
+  InterBox ciImporto;
+  FloatBox cdImporto;
+  ComboBox comPeriodo{*this, "comPeriodo", "TARIFFA"};
+  ComboBox comCoefficiente{*this, "comCoefficiente", "COEFFICIENTE"};
+  TestoBox Text1{*this,
+                 "Text1",
+                 "ONORARIO PER SCAGLIONI",
+                 {.longest = 2000, .lines = 8, .readOnly = true, .width = 68, .columns = true}};
+  TestoBox Text2{*this, "Text2", "ONORARIO", {.readOnly = true, .width = 20}};
+  Button cmdCALCOLA{*this, "cmdCALCOLA", "&CALCOLA", Button::Role::Default};
+  Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Close};
+
+ private:
+  void ScegliValuta();
+  void Calcola();
+  void SvuotaRisultati();
+};
+
+void MostraContabilita(RunState& run);
+
+}  // namespace orm

@@ -1,0 +1,71 @@
+// The calculator and converter.
+#include "utilities/form_calculator.h"
+
+#include "runtime/failure.h"
+#include "tariff/amount_limits.h"
+#include "tariff/message_boxes.h"
+
+namespace orm {
+namespace {
+
+constexpr double kMassimo = 999999999999999.0;
+
+}  // namespace
+
+void MostraCalcolatrice(RunState& run) {
+  FrmUtiCalcolatrice form(run);
+  run.player.Show(form);
+}
+
+FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& run)
+    : Form("frmUTI_CALCOLATRICE", "CALCOLATRICE - CONVERTITORE"),
+      cdNumero(*this, "cdNumero", "Numero", {.least = -kMassimo, .most = kMassimo, .decimals = 10}),
+      ciLire(*this, "ciLire", "Lire", kWorksLire),
+      cdEuro(*this, "cdEuro", "Euro", kWorksEuro),
+      Text1(*this, "Text1", "Nastro",
+            {.longest = 100000, .lines = 10, .readOnly = true, .width = 40, .columns = true}),
+      run_(run) {
+  cmdPiu.onPress = [this] { Premi('+'); };
+  cmdMeno.onPress = [this] { Premi('-'); };
+  cmdPer.onPress = [this] { Premi('x'); };
+  cmdDiviso.onPress = [this] { Premi(':'); };
+  cmdUguale.onPress = [this] { Premi('='); };
+  cmdAzzera.onPress = [this] {
+    calcolatrice_.Azzera();
+    cdNumero.SetValue(0);
+    MoveFocus(cdNumero);
+  };
+  cmdInEuro.onPress = [this] {
+    cdEuro.SetValue(calcolatrice_.LireInEuroSulNastro(ciLire.Value()));
+    MostraNastro();
+  };
+  cmdInLire.onPress = [this] {
+    ciLire.SetValue(calcolatrice_.EuroInLireSulNastro(cdEuro.Value()));
+    MostraNastro();
+  };
+  cmdNastro.onPress = [this] {
+    calcolatrice_.StrappaNastro();
+    MostraNastro();
+  };
+  cmdESCI.onPress = [this] { Close(); };
+  SetContent(Column(
+      {Group(fraCalcolatrice,
+             {Fields({cdNumero}), Row({cmdPiu, cmdMeno, cmdPer, cmdDiviso, cmdUguale, cmdAzzera})}),
+       Group(fraConvertitore,
+             {Row({Fields({ciLire}), cmdInEuro}), Row({Fields({cdEuro}), cmdInLire})}),
+       Fields({Text1}), Buttons({cmdNastro, cmdESCI})}));
+}
+
+void FrmUtiCalcolatrice::Premi(char operazione) {
+  try {
+    cdNumero.SetValue(calcolatrice_.Premi(cdNumero.Value(), operazione));
+    MostraNastro();
+  } catch (const RuntimeFailure& rifiuto) {
+    run_.player.Ask(Avviso(rifiuto.Reason()));
+  }
+  MoveFocus(cdNumero);
+}
+
+void FrmUtiCalcolatrice::MostraNastro() { Text1.SetText(calcolatrice_.Nastro()); }
+
+}  // namespace orm

@@ -1,0 +1,41 @@
+// The percentages of the tariff on screen, with their curve.
+#pragma once
+
+#include "dialogs/form.h"
+#include "dialogs/lavagna.h"
+#include "shell/run_state.h"
+#include "utilities/percentages.h"
+
+namespace orm {
+
+class FrmUtiPercentuali : public Form {
+ public:
+  explicit FrmUtiPercentuali(RunState& run);
+
+  ComboBox comClasse{*this, "comClasse", "CLASSE"};
+  ComboBox comCategoria{*this, "comCategoria", "CATEGORIA"};
+  ComboBox comPeriodo{*this, "comPeriodo", "TARIFFA"};
+  Frame fraValuta{*this, "fraValuta", "Valuta"};
+  OptionGroup valuta;
+  OptionButton optValuta1{*this, "optValuta1", "Lire", valuta};
+  OptionButton optValuta2{*this, "optValuta2", "Euro", valuta};
+  InterBox ciImporto;
+  FloatBox cdImporto;
+  TestoBox Text1{*this, "Text1", "Tabella A", {.readOnly = true, .width = 16}};
+  TestoBox Text2{*this, "Text2", "Tabella C", {.readOnly = true, .width = 16}};
+  TestoBox Text3{*this, "Text3", "D.M. 4-4-2001", {.readOnly = true, .width = 16}};
+  Lavagna picCurva;
+  Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Default};
+
+ private:
+  RichiestaPercentuali Richiesta() const;
+  void MostraCategorie();
+  void Aggiorna();
+  Layout Disposizione();
+
+  RunState& run_;
+};
+
+void MostraPercentuali(RunState& run);
+
+}  // namespace orm

@@ -1,0 +1,56 @@
+// Percentages of the tariff.
+#include "utilities/percentages.h"
+
+#include "tariff/money.h"
+#include "tariff/tariff_tables.h"
+
+namespace orm {
+namespace {
+
+constexpr int kPeriodoNuova = 6;
+
+std::string Testo(double percentuale, double importoLire, const Criteri& criteri) {
+  int decimali = 0;
+  DecimaliPercentuale(importoLire, decimali, criteri.DecimaliTabelle);
+  return FormattaCopia(percentuale, decimali) + "%";
+}
+
+}  // namespace
+
+Percentuali CalcolaPercentuali(const RichiestaPercentuali& r, const Criteri& criteri) {
+  const bool nuova = r.periodo == kPeriodoNuova;
+  if (r.importo == 0) return nuova ? Percentuali{"", "", "0%"} : Percentuali{"0%", "0%", ""};
+  // Tables A and of 2001 take whole Lire as a number without decimals, Table C by the conversion.
+  double lire = r.lire ? r.importo : EuroInLire(r.importo);
+  const double mostrato = lire;
+
+  Percentuali esito;
+  double percentuale = 0;
+  if (nuova) {
+    if (r.lire)
+      PercentualeTabellaNuova(lire, r.classe, r.categoria, percentuale);
+    else
+      PercentualeTabellaNuovaDaEuro(r.importo, r.classe, r.categoria, percentuale);
+    esito.nuova = Testo(percentuale, mostrato, criteri);
+    return esito;
+  }
+  if (r.lire)
+    PercentualeTabellaA(lire, r.periodo, r.classe, r.categoria, percentuale);
+  else
+    PercentualeTabellaADaEuro(r.importo, r.periodo, r.classe, r.categoria, percentuale);
+  esito.tabellaA = Testo(percentuale, mostrato, criteri);
+  PercentualeTabellaContabilita(r.periodo, mostrato, percentuale);
+  esito.tabellaC = Testo(percentuale, mostrato, criteri);
+  return esito;
+}
+
+double PercentualeDiCurva(double importoLire, const RichiestaPercentuali& r) {
+  double percentuale = 0;
+  if (r.periodo == kPeriodoNuova)
+    PercentualeTabellaNuova(importoLire, r.classe, r.categoria, percentuale);
+  else
+    PercentualeTabellaA(importoLire, r.periodo, r.classe, r.categoria, percentuale);
+  return percentuale;
+}
+
+}  // namespace orm
