@@ -72,6 +72,14 @@ void FrmGenClasse::Confirm() {
     stato_.player.Ask(Avviso(Rifiuto));
     return;
   }
+  const bool manca =
+      comClasse.Index() < 0 || (!comCategoria.Items().empty() && comCategoria.Index() < 0);
+  if (manca) {
+    stato_.player.Ask(Avviso(
+        "SCEGLIERE LA CLASSE E LA CATEGORIA.\nPer finire l'introduzione dati occorre premere\n" +
+        cmdFINE.ShownText()));
+    return;
+  }
   if (chiedeImporto_) {
     const double importo = stato_.ModoLire ? ciImporto.Value() : cdImporto.Value();
     if (importo == 0) {
