@@ -133,14 +133,11 @@ void InputEsl(RunState& stato) {
   if (!ChiediTipologia(stato, dati.TipoParcella)) return;
   CatenaEsl catena(stato, dati.Lotti);
   catena.Chiedi();
-  if (catena.ConDirezione) {
-    FrmGenSiNo domanda("ULTERIORI PRESTAZIONI", "COLLAUDO o CERTIFICATO REGOLARE ESECUZIONE ?", "",
-                       dati.CertificatoRegolare);
-    stato.player.Show(domanda);
-    dati.CertificatoRegolare = domanda.Risposta;
-  } else {
-    dati.CertificatoRegolare = "NO";
-  }
+  dati.CertificatoRegolare =
+      catena.ConDirezione
+          ? ChiediSiNo(stato.player, "ULTERIORI PRESTAZIONI",
+                       "COLLAUDO o CERTIFICATO REGOLARE ESECUZIONE ?", "", dati.CertificatoRegolare)
+          : "NO";
   ConcludiInput(stato, dati);
 }
 

@@ -4,6 +4,7 @@
 
 #include "cases/coa.h"
 #include "cases/esl.h"
+#include "cases/pdl.h"
 #include "cases/ppe.h"
 
 namespace orm {
@@ -32,7 +33,7 @@ const std::vector<FeeCase>& FeeCases() {
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
       {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr},
-      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, nullptr, nullptr},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl},
       {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kTabelleECompensi, InputEsl, SenzaTotale<CalcoloEsl>},
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr},
       {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr},
