@@ -9,7 +9,7 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "tariff/accounting_fee.h"
+#include "tariff/accounting_block.h"
 #include "tariff/closing_line.h"
 #include "tariff/final_account.h"
 #include "tariff/lot_lines.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "runtime/numbers.h"
-#include "tariff/accounting_fee.h"
+#include "tariff/accounting_block.h"
 #include "tariff/lot_chain.h"
 #include "tariff/message_boxes.h"
 

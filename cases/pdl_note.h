@@ -4,7 +4,7 @@
 #include <array>
 
 #include "cases/pdl_rules.h"
-#include "tariff/accounting_fee.h"
+#include "tariff/accounting_block.h"
 
 namespace orm {
 
