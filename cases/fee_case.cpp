@@ -20,8 +20,6 @@ void SenzaTotale(RunState& stato) {
   calcolo(stato, totale);
 }
 
-constexpr auto kTabelleECompensi = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
-
 }  // namespace
 
 const std::vector<FeeCase>& FeeCases() {
@@ -34,7 +32,7 @@ const std::vector<FeeCase>& FeeCases() {
       {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr},
       {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl},
-      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kTabelleECompensi, InputEsl, SenzaTotale<CalcoloEsl>},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>},
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr},
       {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr},
       {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr},
