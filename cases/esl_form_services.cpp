@@ -81,13 +81,16 @@ std::vector<Layout> FrmEslPrestazioni::ChecksOf(FaseEsl fase) {
   return checks;
 }
 
-Layout FrmEslPrestazioni::Contenuto(std::vector<Layout> ancoraDirezione, Button& conferma) {
+std::vector<Layout> FrmEslPrestazioni::GruppiProgetto() {
+  return {Group(fraPreliminare, ChecksOf(FaseEsl::Preliminare)),
+          Group(fraDefinitivo, ChecksOf(FaseEsl::Definitivo))};
+}
+
+Layout FrmEslPrestazioni::GruppiFinali(std::vector<Layout> ancoraDirezione) {
   std::vector<Layout> direzione = ChecksOf(FaseEsl::Direzione);
   for (Layout& parte : ancoraDirezione) direzione.push_back(std::move(parte));
-  return Column({lblLotto, Group(fraPreliminare, ChecksOf(FaseEsl::Preliminare)),
-                 Group(fraDefinitivo, ChecksOf(FaseEsl::Definitivo)),
-                 Group(fraEsecutivo, ChecksOf(FaseEsl::Esecutivo)),
-                 Group(fraDirezione, std::move(direzione)), Buttons({conferma})});
+  return Column({Group(fraEsecutivo, ChecksOf(FaseEsl::Esecutivo)),
+                 Group(fraDirezione, std::move(direzione))});
 }
 
 // Checks of a hidden frame count as they stand.
@@ -108,7 +111,7 @@ FrmEslPrestazioniBase::FrmEslPrestazioniBase(std::string dove, const LottoEsl& l
                         std::move(dove), lotto, lotto.PrestazioniBase, kTabellaBEsl,
                         kDidascalieBase),
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  SetContent(Contenuto({}, Command1));
+  SetContent(Column({lblLotto, Column(GruppiProgetto()), GruppiFinali({}), Buttons({Command1})}));
   Command1.onPress = [this] { Confirm(); };
 }
 
@@ -119,7 +122,9 @@ FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, con
       NumeroAddetti(lotto.NumeroAddetti),
       numeroaddetti(*this, "numeroaddetti", "Numero addetti", kAddetti),
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  SetContent(Contenuto({Fields({numeroaddetti})}, Command1));
+  // One column of seventeen services would be higher than the least screen.
+  SetContent(Column({lblLotto, Row(GruppiProgetto()), GruppiFinali({Fields({numeroaddetti})}),
+                     Buttons({Command1})}));
   CheckBox& l4 = servizi.back();
   numeroaddetti.SetValue(NumeroAddetti);
   numeroaddetti.SetVisible(l4.Value());

@@ -24,7 +24,10 @@ class FrmEslPrestazioni : public Form {
   FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove, const LottoEsl& lotto,
                     std::string stringa, std::span<const ServizioEsl> tabella,
                     std::span<const char* const> didascalie);
-  Layout Contenuto(std::vector<Layout> ancoraDirezione, Button& conferma);
+  // The groups of services: preliminary and definitive design; executive design and supervision,
+  // with what else belongs to supervision.
+  std::vector<Layout> GruppiProgetto();
+  Layout GruppiFinali(std::vector<Layout> ancoraDirezione);
   void Confirm();
 
  private:

@@ -124,7 +124,7 @@ ImportiPerizia CatenaRiga::AltrePerizie(std::size_t j) const {
 }
 
 void CatenaRiga::ChiediPerizia(std::size_t j) {
-  const std::string quale = dove + "   PERIZIA n° " + NumberText(static_cast<double>(j + 1)) +
+  const std::string quale = dove + "\nPERIZIA n° " + NumberText(static_cast<double>(j + 1)) +
                             " di " + NumberText(riga.NumeroPerizie);
   FrmPdlImpPer importi(stato, quale, riga.Perizie[j], AltrePerizie(j));
   stato.player.Show(importi);
