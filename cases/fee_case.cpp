@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "cases/coa.h"
+#include "cases/esl.h"
+#include "cases/pdl.h"
 #include "cases/ppe.h"
 
 namespace orm {
@@ -11,9 +13,11 @@ namespace {
 
 constexpr auto kCompensiETabelle = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
 
-void CalcoloSoloPpe(RunState& stato) {
+// The sum of the fees, which some cases hand out, has no use here.
+template <void (*calcolo)(RunState&, double&)>
+void SenzaTotale(RunState& stato) {
   double totale = 0;
-  CalcoloPpe(stato, totale);
+  calcolo(stato, totale);
 }
 
 }  // namespace
@@ -27,13 +31,13 @@ const std::vector<FeeCase>& FeeCases() {
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
       {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr},
-      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, nullptr, nullptr},
-      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kAllCriteria, nullptr, nullptr},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>},
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr},
       {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr},
       {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr},
       {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr},
-      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcoloSoloPpe},
+      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, SenzaTotale<CalcoloPpe>},
       {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kAllCriteria, nullptr, nullptr},
       {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr},
       {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr},

@@ -24,6 +24,13 @@ struct Field {
   T& value;
 };
 
+// A count of records that follow, from 0 to `most`: the reader refuses any other.
+struct CountField : Field<std::int16_t> {
+  CountField(const char* fieldName, std::int16_t& fieldValue, int mostRecords)
+      : Field(fieldName, fieldValue), most(mostRecords) {}
+  int most;
+};
+
 class DataReader {
  public:
   // Reads the whole file. Every failure of this class names the file, the line and the field.
@@ -44,11 +51,12 @@ class DataReader {
   void Read(Field<std::string> field) { field.value = Text(field.name); }
   void Read(Field<double> field) { field.value = Number(field.name); }
   void Read(Field<std::int16_t> field) { field.value = Integer(field.name); }
+  void Read(CountField field) { field.value = Count(field.name, field.most); }
   void Read(Field<std::uint8_t> field) { field.value = Byte(field.name); }
   void Read(Field<bool> field) { field.value = Boolean(field.name); }
 
-  template <class... T>
-  void Line(Field<T>... fields) {
+  template <class... F>
+  void Line(F... fields) {
     (Read(fields), ...);
   }
 
@@ -85,8 +93,8 @@ class DataWriter {
   void Write(Field<std::uint8_t> field);
   void Write(Field<bool> field);
 
-  template <class... T>
-  void Line(Field<T>... fields) {
+  template <class... F>
+  void Line(F... fields) {
     (Write(fields), ...);
     bytes_ += "\r\n";
     lineStarts_ = true;

@@ -12,6 +12,12 @@ inline const NumberLimits kWorksLire{.least = 0, .most = 99999999999.0, .decimal
 inline const NumberLimits kWorksEuro{
     .least = 0, .most = 99999999.99, .decimals = 2, .trailingZeros = true};
 
+// The same where a negative amount has a meaning of its own.
+inline const NumberLimits kSignedWorksLire{
+    .least = -99999999999.0, .most = 99999999999.0, .decimals = 0};
+inline const NumberLimits kSignedWorksEuro{
+    .least = -99999999.99, .most = 99999999.99, .decimals = 2, .trailingZeros = true};
+
 // Advances: 14 characters in the column, and a net amount below zero takes one for its sign.
 inline const NumberLimits kAdvancesLire{.least = 0, .most = 9999999999.0, .decimals = 0};
 inline const NumberLimits kAdvancesEuro{

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "runtime/data_file.h"
+#include "runtime/failure.h"
 #include "shell/run_state.h"
 
 namespace orm {
@@ -19,7 +20,11 @@ void CampiChiusura(Archive& file, Chiusura& c) {
 template <class Dati>
 void LeggiParcella(RunState& stato, Dati& dati) {
   DataReader file(stato.folder, stato.FileInp);
-  Campi(file, dati);
+  try {
+    Campi(file, dati);
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtFile(stato.FileInp);  // one of the case's own checks does not know it
+  }
   CampiChiusura(file, stato.chiusura);
   file.ExpectEnd();
 }

@@ -67,22 +67,20 @@ void FrmGenClasse::SetImporto(double importo) {
   ciImporto.SetValue(importo);
 }
 
+// Says why a lot is not taken, and how the input ends.
+void FrmGenClasse::Refuse(const std::string& motivo) {
+  stato_.player.Ask(
+      Avviso(motivo + "\nPer finire l'introduzione dati occorre premere\n" + cmdFINE.ShownText()));
+}
+
 void FrmGenClasse::Confirm() {
-  if (!Rifiuto.empty()) {
-    stato_.player.Ask(Avviso(Rifiuto));
-    return;
-  }
-  if (chiedeImporto_) {
-    const double importo = stato_.ModoLire ? ciImporto.Value() : cdImporto.Value();
-    if (importo == 0) {
-      stato_.player.Ask(
-          Avviso("VALORE NON ACCETTABILE : importo nullo !\nPer finire l'introduzione dati occorre "
-                 "premere\n" +
-                 cmdFINE.ShownText()));
-      return;
-    }
-    Importo = importo;
-  }
+  const bool manca =
+      comClasse.Index() < 0 || (!comCategoria.Items().empty() && comCategoria.Index() < 0);
+  const double importo = stato_.ModoLire ? ciImporto.Value() : cdImporto.Value();
+  if (!Rifiuto.empty()) return Refuse(Rifiuto);
+  if (manca) return Refuse("SCEGLIERE LA CLASSE E LA CATEGORIA.");
+  if (chiedeImporto_ && importo == 0) return Refuse("VALORE NON ACCETTABILE : importo nullo !");
+  if (chiedeImporto_) Importo = importo;
   Classe = std::string(1, static_cast<char>('1' + comClasse.Index()));
   Categoria = comCategoria.Index() < 0
                   ? std::string()

@@ -35,6 +35,7 @@ class FrmGenClasse : public Form {
 
  private:
   void ShowCategories();
+  void Refuse(const std::string& motivo);
   void Confirm();
   void Finish();
   RunState& stato_;

@@ -21,4 +21,11 @@ FrmGenSiNo::FrmGenSiNo(std::string titolo, std::string domanda, std::string avve
   };
 }
 
+std::string ChiediSiNo(Player& player, std::string titolo, std::string domanda,
+                       std::string avvertenza, const std::string& risposta) {
+  FrmGenSiNo form(std::move(titolo), std::move(domanda), std::move(avvertenza), risposta);
+  player.Show(form);
+  return form.Risposta;
+}
+
 }  // namespace orm

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/form.h"
+#include "dialogs/player.h"
 
 namespace orm {
 
@@ -19,5 +20,9 @@ class FrmGenSiNo : public Form {
   Label Avvertenza;
   Button Command1;
 };
+
+// Shows the question; the answer.
+std::string ChiediSiNo(Player& player, std::string titolo, std::string domanda,
+                       std::string avvertenza, const std::string& risposta);
 
 }  // namespace orm

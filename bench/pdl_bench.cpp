@@ -1,0 +1,119 @@
+// A note of twenty rows with all its blocks from file to report text, beside its share of table
+// look-ups and beside formatting and writing as many lines with fixed numbers.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "cases/pdl.h"
+#include "cases/pdl_data.h"
+#include "tariff/closing_line.h"
+#include "tariff/lot_lines.h"
+#include "tariff/user_data.h"
+#include "tests/unit/fake_player.h"
+
+namespace orm {
+namespace {
+
+constexpr int kLottiDellaNota = 4, kRighePerLotto = 5;
+
+PeriziaPdl Perizia() {
+  PeriziaPdl p;
+  p.LavoriSuppletivi = 60000000;
+  p.LavoriVariati = 25000000;
+  return p;
+}
+
+DatiPdl TuttiIBlocchi() {
+  DatiPdl d;
+  d.IncaricoParziale = d.CertificatoRegolare = "SI";
+  d.PeriodoMassimo = "5";
+  for (int i = 0; i < kLottiDellaNota; ++i) {
+    LottoPdl& lotto = d.Lotti.emplace_back();
+    for (int j = 0; j < kRighePerLotto; ++j) {
+      RigaPdl& r = d.Righe.emplace_back();
+      r.Classe = "1";
+      r.Categoria = "c";
+      r.PeriodoTariffario = std::string(1, static_cast<char>('1' + j));
+      r.ImportoProgetto = 1200000000.0 + 10000000 * i;
+      r.ImportoDirezione = 900000000.0 + 10000000 * j;
+      r.FlagSorveglianza = r.FlagRevisione = r.FlagPerizie = "S";
+      r.FlagContabilita = d.Righe.size() <= 10 ? "S" : "N";
+      r.CoefficienteContabilita = 1.1;
+      r.NumeroPerizie = 1;
+      r.Perizie[0] = Perizia();
+      lotto.PeriodoDelLotto.push_back(static_cast<std::int16_t>(j + 1));
+    }
+    lotto.UltimaRiga = static_cast<std::int16_t>(d.Righe.size());
+  }
+  return d;
+}
+
+struct Nota {
+  Nota() {
+    stato.ModoLire = true;
+    stato.FileInt = "INT_PDL.DAP";
+    stato.FileInp = "INP_PDL.DAP";
+    stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
+    ScriviDatiProfessionista(stato.folder, {});
+    ScriviIntestazione(stato.folder, stato.FileInt, {"Comune", "Opera", "", ""});
+    DatiPdl dati = TuttiIBlocchi();
+    DataWriter corpo;
+    Campi(corpo, dati);
+    ScriviParcella(stato.folder, stato.FileInp, corpo, {});
+  }
+  ~Nota() { std::filesystem::remove_all(cartella); }
+
+  static std::string NuovaCartella() {
+    std::string nome = std::filesystem::temp_directory_path() / "orm-bench-XXXXXX";
+    return mkdtemp(nome.data());
+  }
+  std::string cartella = NuovaCartella();
+  FakePlayer player;
+  RunState stato{player, WorkFolder(cartella)};
+};
+
+void NotaPdlIntera(benchmark::State& misura) {
+  Nota nota;
+  for (auto _ : misura) {
+    nota.stato.NumFileUscita = ReportPrinter();
+    CalcoloPdl(nota.stato);
+  }
+  const std::string& report = nota.stato.NumFileUscita.Contents();
+  misura.counters["righe"] = static_cast<double>(std::ranges::count(report, '\n'));
+}
+BENCHMARK(NotaPdlIntera);
+
+// The look-ups of that note: above the limit two for the design and two for the supervision of each
+// row, and one for its report.
+void TabelleDellaNota(benchmark::State& misura) {
+  Nota nota;
+  for (auto _ : misura)
+    for (int i = 0; i < kLottiDellaNota * kRighePerLotto * 5; ++i)
+      benchmark::DoNotOptimize(
+          PercentualeDaTabellaA(nota.stato, 6000000.0 * (i + 1), 1 + i % 5, "1", "c"));
+}
+BENCHMARK(TabelleDellaNota);
+
+// As many lines, each with a label and the fixed figures of a formula.
+void StesseRigheConNumeriFissi(benchmark::State& misura) {
+  Nota nota;
+  nota.stato.NumFileUscita = ReportPrinter();
+  CalcoloPdl(nota.stato);
+  const auto righe = std::ranges::count(nota.stato.NumFileUscita.Contents(), '\n');
+  const Percentuale percentuale{4.7513351, "4,7513351%"};
+  for (auto _ : misura) {
+    nota.stato.NumFileUscita = ReportPrinter();
+    for (auto i = righe; i > 0; --i)
+      StampaOnorario(nota.stato,
+                     {.aliquota = 0.65,
+                      .percentuale = percentuale,
+                      .importo = 665000000,
+                      .StringaCoefficiente = " x 1,4027"},
+                     28808156);
+  }
+}
+BENCHMARK(StesseRigheConNumeriFissi);
+
+}  // namespace
+}  // namespace orm

@@ -1,0 +1,62 @@
+// Tables B and B1: the shares of the services of design and supervision of public works.
+//
+// Source: Tables B and B1 annexed to D.M. 4-4-2001, Gazzetta Ufficiale 26-4-2001 n. 96.
+// Unit: fractions of the whole fee. Columns: class 1 in categories a to d, 1/e, 1/f, 1/g, then
+// classes 2 to 9.
+// Oddities: o4 in class 3 and o5 in 1/e are 0.15, ten times their row, and stay so. The share of q
+// goes with the choice of p.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace orm {
+
+enum class FaseEsl { Preliminare, Definitivo, Esecutivo, Direzione };
+
+inline constexpr std::size_t kColonneTabelleB = 12;
+
+struct ServizioEsl {
+  std::string_view codice;
+  std::string_view scelta;  // the code whose choice counts the share
+  FaseEsl fase;
+  std::array<double, kColonneTabelleB> aliquote;
+};
+
+// clang-format off
+inline constexpr std::array<ServizioEsl, 11> kTabellaBEsl = {{
+    {"a",  "a",  FaseEsl::Preliminare, {0.09, 0.10, 0.07, 0.07, 0.11, 0.11, 0.07, 0.11, 0.08, 0.07, 0.07, 0.10}},
+    {"b",  "b",  FaseEsl::Preliminare, {0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01, 0.01}},
+    {"c",  "c",  FaseEsl::Definitivo,  {0.23, 0.27, 0.16, 0.16, 0.26, 0.16, 0.20, 0.22, 0.22, 0.20, 0.15, 0.24}},
+    {"d",  "d",  FaseEsl::Definitivo,  {0.01, 0.01, 0.01, 0.01, 0.01, 0.02, 0.01, 0.01, 0.01, 0.01, 0.02, 0.01}},
+    {"e",  "e",  FaseEsl::Definitivo,  {0.07, 0.07, 0.04, 0.04, 0.07, 0.08, 0.06, 0.04, 0.06, 0.05, 0.06, 0.06}},
+    {"f",  "f",  FaseEsl::Esecutivo,   {0.05, 0.06, 0.16, 0.16, 0.04, 0.15, 0.04, 0.06, 0.04, 0.04, 0.10, 0.06}},
+    {"g",  "g",  FaseEsl::Esecutivo,   {0.13, 0.15, 0.05, 0.05, 0.10, 0.05, 0.06, 0.10, 0.08, 0.07, 0.05, 0.12}},
+    {"h",  "h",  FaseEsl::Esecutivo,   {0.04, 0.04, 0.04, 0.04, 0.03, 0.05, 0.03, 0.03, 0.03, 0.03, 0.06, 0.03}},
+    {"i",  "i",  FaseEsl::Esecutivo,   {0.02, 0.02, 0.01, 0.01, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.03, 0.02}},
+    {"l",  "l",  FaseEsl::Direzione,   {0.32, 0.24, 0.42, 0.42, 0.32, 0.32, 0.45, 0.38, 0.42, 0.45, 0.42, 0.32}},
+    {"l1", "l1", FaseEsl::Direzione,   {0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.05, 0.02, 0.03, 0.05, 0.03, 0.03}},
+}};
+
+inline constexpr std::array<ServizioEsl, 17> kTabellaB1Esl = {{
+    {"m",  "m",  FaseEsl::Preliminare, {0.03, 0.02, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03}},
+    {"n",  "n",  FaseEsl::Preliminare, {0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07, 0.07}},
+    {"o1", "o1", FaseEsl::Preliminare, {0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03}},
+    {"o2", "o2", FaseEsl::Preliminare, {0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015}},
+    {"o3", "o3", FaseEsl::Preliminare, {0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015}},
+    {"o4", "o4", FaseEsl::Preliminare, {0.015, 0.015, 0.015, 0.015, 0.015, 0.15, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015}},
+    {"o5", "o5", FaseEsl::Preliminare, {0.015, 0.15, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015, 0.015}},
+    {"p",  "p",  FaseEsl::Definitivo,  {0.03, 0.03, 0.03, 0.03, 0.01, 0.01, 0.01, 0.01, 0.03, 0.01, 0.01, 0.03}},
+    {"q",  "p",  FaseEsl::Definitivo,  {0.07, 0.07, 0.07, 0.07, 0.08, 0.08, 0.08, 0.07, 0.07, 0.07, 0.07, 0.07}},
+    {"r1", "r1", FaseEsl::Definitivo,  {0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06, 0.06}},
+    {"r2", "r2", FaseEsl::Definitivo,  {0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03}},
+    {"r3", "r3", FaseEsl::Definitivo,  {0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03}},
+    {"r4", "r4", FaseEsl::Definitivo,  {0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03, 0.03}},
+    {"s",  "s",  FaseEsl::Esecutivo,   {0.02, 0.02, 0.02, 0.02, 0.03, 0.03, 0.02, 0.03, 0.03, 0.02, 0.02, 0.03}},
+    {"l2", "l2", FaseEsl::Direzione,   {0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02}},
+    {"l3", "l3", FaseEsl::Direzione,   {0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02, 0.02}},
+    {"l4", "l4", FaseEsl::Direzione,   {0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10, 0.10}},
+}};
+// clang-format on
+
+}  // namespace orm

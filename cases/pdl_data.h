@@ -1,0 +1,120 @@
+// The data of a note of design and supervision and their file INP_PDL[_E].DAP.
+//
+// A lot is a class and category; under it stands one row for each tariff period. Rows of a lot are
+// consecutive, and all lots share one list of rows.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "runtime/data_file.h"
+#include "runtime/failure.h"
+
+namespace orm {
+
+inline constexpr int kLottiPdlMassimi = 20;
+inline constexpr int kRighePdlMassime = 20;
+inline constexpr int kPerizieMassime = 10;
+inline constexpr int kPeriodiPdl = 5;
+
+// Amounts are in the currency of the note.
+struct PeriziaPdl {
+  double LavoriSuppletivi = 0;
+  double LavoriVariati = 0;
+  double EsproPerizia = 0;
+  std::string TipoPerizia = "1";             // starts with "1" of variation, "2" of settlement
+  std::string TipoPrestazioneVariati = "T";  // "T" complete, "P" partial
+  std::string PrestazioniVariati;
+};
+
+struct RigaPdl {
+  std::string Classe, Categoria;
+  std::string PeriodoTariffario;  // "1" to "5"
+  double ImportoProgetto = 0;     // below 0: counts for the percentage, brings no fee
+  double ImportoEspropri = 0;
+  double ImportoSuppletivi = 0;    // additional works in the variations
+  double ImportoEsproPerizie = 0;  // expropriations in the variations
+  double ImportoDirezione = 0;
+  std::string TipoPrestazione = "T";  // "T" complete, "P" partial
+  std::string Prestazioni;            // with "P", "a+b+c"
+  std::string FlagSorveglianza = "N", FlagContabilita = "N", FlagRevisione = "N", FlagPerizie = "N";
+  double CoefficienteContabilita = 0;
+  std::int16_t NumeroPerizie = kPerizieMassime;  // of a row that nobody confirmed yet
+  std::array<PeriziaPdl, kPerizieMassime> Perizie;
+};
+
+struct LottoPdl {
+  std::int16_t UltimaRiga = 0;                // number of its last row, from 1
+  std::vector<std::int16_t> PeriodoDelLotto;  // tariff periods, one for each of its rows
+};
+
+struct DatiPdl {
+  std::string TipoParcella = "NORMALE";  // "CONSUNTIVA", "INTERROTTA", "SCISSA"
+  std::string IncaricoParziale = "NO";   // "SI": increase of art. 18
+  std::string CertificatoRegolare = "NO";
+  std::string PeriodoMassimo = "1";  // selects the table of the certificate
+  std::vector<LottoPdl> Lotti;
+  std::vector<RigaPdl> Righe;
+};
+
+template <class Archive>
+void CampiRiga(Archive& file, RigaPdl& r) {
+  file.Line(
+      Field("Classe", r.Classe), Field("Categoria", r.Categoria),
+      Field("PeriodoTariffario", r.PeriodoTariffario), Field("ImportoProgetto", r.ImportoProgetto),
+      Field("ImportoEspropri", r.ImportoEspropri), Field("ImportoSuppletivi", r.ImportoSuppletivi),
+      Field("ImportoEsproPerizie", r.ImportoEsproPerizie),
+      Field("ImportoDirezione", r.ImportoDirezione));
+  file.Line(Field("TipoPrestazione", r.TipoPrestazione), Field("Prestazioni", r.Prestazioni));
+  file.Line(Field("FlagSorveglianza", r.FlagSorveglianza),
+            Field("FlagContabilita", r.FlagContabilita), Field("FlagRevisione", r.FlagRevisione),
+            Field("FlagPerizie", r.FlagPerizie));
+  file.Line(Field("CoefficienteContabilita", r.CoefficienteContabilita),
+            CountField("NumeroPerizie", r.NumeroPerizie, kPerizieMassime));
+  for (std::size_t j = 0; j < static_cast<std::size_t>(r.NumeroPerizie); ++j) {
+    PeriziaPdl& p = r.Perizie[j];
+    file.Line(Field("LavoriSuppletivi", p.LavoriSuppletivi),
+              Field("LavoriVariati", p.LavoriVariati), Field("EsproPerizia", p.EsproPerizia),
+              Field("TipoPerizia", p.TipoPerizia),
+              Field("TipoPrestazioneVariati", p.TipoPrestazioneVariati),
+              Field("PrestazioniVariati", p.PrestazioniVariati));
+  }
+}
+
+// The counts must agree: the rows of a lot follow those of the lot before, one for each period.
+template <class Archive>
+void CampiLotti(Archive& file, DatiPdl& d) {
+  std::size_t righe = 0;
+  for (LottoPdl& lotto : d.Lotti) {
+    auto PeriodiDelLotto = static_cast<std::int16_t>(lotto.PeriodoDelLotto.size());
+    file.Line(CountField("PeriodiDelLotto", PeriodiDelLotto, kRighePdlMassime),
+              CountField("UltimaRiga", lotto.UltimaRiga, static_cast<int>(d.Righe.size())));
+    lotto.PeriodoDelLotto.resize(static_cast<std::size_t>(PeriodiDelLotto));
+    righe += lotto.PeriodoDelLotto.size();
+    if (righe != static_cast<std::size_t>(lotto.UltimaRiga))
+      throw RuntimeFailure("Le righe dei lotti non corrispondono ai loro periodi.")
+          .AtField("UltimaRiga");
+  }
+  for (LottoPdl& lotto : d.Lotti)
+    for (std::int16_t& periodo : lotto.PeriodoDelLotto)
+      file.Line(Field("PeriodoDelLotto", periodo));
+}
+
+template <class Archive>
+void Campi(Archive& file, DatiPdl& d) {
+  auto NumeroLottiPdl = static_cast<std::int16_t>(d.Lotti.size());
+  auto NumeroRighePdl = static_cast<std::int16_t>(d.Righe.size());
+  file.Line(Field("TipoParcella", d.TipoParcella), Field("IncaricoParziale", d.IncaricoParziale),
+            CountField("NumeroLottiPdl", NumeroLottiPdl, kLottiPdlMassimi),
+            CountField("NumeroRighePdl", NumeroRighePdl, kRighePdlMassime));
+  d.Lotti.resize(static_cast<std::size_t>(NumeroLottiPdl));
+  d.Righe.resize(static_cast<std::size_t>(NumeroRighePdl));
+  CampiLotti(file, d);
+  file.Line(Field("CertificatoRegolare", d.CertificatoRegolare),
+            Field("PeriodoMassimo", d.PeriodoMassimo));
+  for (RigaPdl& riga : d.Righe) CampiRiga(file, riga);
+}
+
+}  // namespace orm

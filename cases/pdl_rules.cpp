@@ -1,0 +1,93 @@
+#include "cases/pdl_rules.h"
+
+#include <cmath>
+
+#include "runtime/failure.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+constexpr std::string_view kLettere = "abcdefghil";
+
+// Place in the tariff, from 1: there is no j and no k.
+std::size_t IndiceServizio(char lettera) {
+  const int posto = lettera - 'a' + 1;
+  const int indice = posto == 12 ? 10 : posto;
+  if (indice < 1 || indice > 10)
+    throw RuntimeFailure("La prestazione \"" + std::string(1, lettera) + "\" non esiste.");
+  return static_cast<std::size_t>(indice);
+}
+
+}  // namespace
+
+BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella) {
+  BasiLotto basi;
+  double SommaEspropri = 0, SommaSuppletivi = 0, SommaDirezione = 0;
+  for (const RigaPdl& r : righe) {
+    basi.BaseProgetto += std::fabs(r.ImportoProgetto) + r.ImportoEspropri;
+    basi.BaseDirezione += std::fabs(r.ImportoProgetto) + r.ImportoSuppletivi;
+    SommaEspropri += r.ImportoEspropri;
+    SommaSuppletivi += r.ImportoSuppletivi;
+    if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
+  }
+  const bool menoLavori = SommaDirezione < basi.BaseDirezione;
+  const bool piuLavori = SommaDirezione > basi.BaseDirezione;
+  if (piuLavori && SommaSuppletivi == 0 && TipoParcella != "SCISSA") {
+    basi.EccedenzaLavori = SommaDirezione - basi.BaseDirezione;
+    basi.BaseProgetto = SommaDirezione + SommaEspropri;
+  }
+  if (piuLavori || (menoLavori && TipoParcella == "CONSUNTIVA") || TipoParcella == "INTERROTTA" ||
+      TipoParcella == "SCISSA")
+    basi.BaseDirezione = SommaDirezione;
+  return basi;
+}
+
+Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestazioni) {
+  Aliquote fatti{};
+  if (TipoPrestazione == "T") {
+    fatti.fill(1);
+    return fatti;
+  }
+  for (std::size_t i = 0; i < prestazioni.size(); i += 2) fatti[IndiceServizio(prestazioni[i])] = 1;
+  return fatti;
+}
+
+std::string TestoPrestazioni(const Aliquote& fatti, GruppoServiziPdl gruppo) {
+  const bool progetto = gruppo == GruppoServiziPdl::Progetto;
+  std::string testo;
+  for (std::size_t i = progetto ? 1 : 7; i <= (progetto ? 6U : 10U); ++i)
+    if (fatti[i] != 0) testo += (testo.empty() ? "" : "+") + std::string(1, kLettere[i - 1]);
+  return testo;
+}
+
+double LimiteTabellaA(const RunState& stato) {
+  constexpr double lire = 5000000000;
+  return stato.ModoLire ? lire : LireInEuro(lire);
+}
+
+PercentualiTabellaA PercentualiDellaBase(const RunState& stato, double base, int periodo,
+                                         const RigaPdl& riga) {
+  const auto tabella = [&](double importo) {
+    return PercentualeDaTabellaA(stato, importo, periodo, riga.Classe, riga.Categoria);
+  };
+  const double limite = LimiteTabellaA(stato);
+  if (base > limite) return {tabella(limite), tabella(base), true};
+  return {tabella(base), {}, false};
+}
+
+std::vector<QuotaImporto> QuoteDellImporto(const PercentualiTabellaA& percentuali, double importo,
+                                           double limite) {
+  if (!percentuali.divise) return {{importo, percentuali.entro}};
+  return {{limite, percentuali.entro}, {importo - limite, percentuali.oltre}};
+}
+
+std::vector<QuotaImporto> QuoteProgressive(const PercentualiTabellaA& percentuali, double importo,
+                                           double prima, double limite) {
+  if (!percentuali.divise || prima + importo <= limite) return {{importo, percentuali.entro}};
+  if (prima >= limite) return {{importo, percentuali.oltre}};
+  const double entro = limite - prima;
+  return {{entro, percentuali.entro}, {importo - entro, percentuali.oltre}};
+}
+
+}  // namespace orm

@@ -1,0 +1,52 @@
+#include "tariff/accounting_block.h"
+
+#include <algorithm>
+
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+// The first row of its kind takes the amounts of the later ones.
+void Riunisci(std::vector<RigaContabilita>& righe) {
+  std::vector<RigaContabilita> unite;
+  for (const RigaContabilita& riga : righe) {
+    const auto uguale = std::ranges::find_if(unite, [&riga](const RigaContabilita& altra) {
+      return altra.periodo == riga.periodo && altra.coefficiente == riga.coefficiente;
+    });
+    if (uguale == unite.end())
+      unite.push_back(riga);
+    else
+      uguale->importo += riga.importo;
+  }
+  righe = std::move(unite);
+}
+
+}  // namespace
+
+double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
+                                std::string& testo) {
+  if (righe.size() > kRigheContabilita)
+    throw RuntimeFailure("La contabilità dei lavori è chiesta per più di " +
+                         NumberText(kRigheContabilita) + " lotti o righe della parcella.");
+  std::ranges::stable_sort(righe, {}, &RigaContabilita::periodo);
+  Riunisci(righe);
+  const OnorarioContabilita conto = CalcoloOnorarioContabilita(righe, stato.ModoLire);
+  testo = FormattaCopia(conto.onorario, stato.DecimaliValuta());
+
+  // Only a line feed stands between the lines of the block. The totals lie behind the cursor and
+  // so begin lines of their own.
+  ReportPrinter& stampa = stato.NumFileUscita;
+  stampa.Text("MISURE E CONTABILITÀ LAVORI ( tab. E )");
+  for (const FasciaContabilita& fascia : conto.fasce)
+    stampa.LineFeed().Text(TestoFasciaContabilita(fascia, stato.ModoLire));
+  stampa.Tab(23).Text("------------------------------ ");
+  stampa.Tab(10).Text("Totali  ");
+  stampa.Tab(20).Text(NumeroContabilita(conto.importo, stato.ModoLire));
+  stampa.Tab(38).Line(NumeroContabilita(conto.onorario, stato.ModoLire));
+  return conto.onorario;
+}
+
+}  // namespace orm

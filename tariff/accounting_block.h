@@ -1,0 +1,20 @@
+// The block of measuring and accounting on a report.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/run_state.h"
+#include "tariff/accounting_fee.h"
+
+namespace orm {
+
+// As many rows as a note takes; an eleventh is a RuntimeFailure.
+inline constexpr std::size_t kRigheContabilita = 10;
+
+// Prints the bands and the totals of the rows, sorted by period and those of one period and
+// coefficient taken together. Returns the fee, neither cut nor rounded, and in `testo` its text.
+double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
+                                std::string& testo);
+
+}  // namespace orm

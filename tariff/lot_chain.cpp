@@ -1,0 +1,38 @@
+#include "tariff/lot_chain.h"
+
+#include "runtime/numbers.h"
+#include "tariff/tariff_tables.h"
+
+namespace orm {
+namespace {
+std::string Intero(std::size_t numero) { return NumberText(static_cast<double>(numero)); }
+}  // namespace
+
+bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, std::string& Classe,
+                  std::string& Categoria) {
+  const bool senzaCategorie = Classe == "8" || Classe == "5";
+  form.Label1.SetText(posto.Nuovo() ? "NUOVO LOTTO" : "");
+  form.SetClasse(posto.Nuovo() ? "" : Classe);
+  form.SetCategoria(posto.Nuovo() || senzaCategorie ? "" : Categoria);
+  form.SetTitle("CLASSE E CATEGORIA per il LOTTO n° " + Intero(posto.numero));
+  form.TipodiUscita.clear();
+  stato.player.Show(form);
+  if (form.TipodiUscita == "FINE") return false;
+  if (form.TipodiUscita.empty()) return !posto.Nuovo();
+  Classe = form.Classe;
+  Categoria = form.Categoria;
+  return true;
+}
+
+std::string DoveSiamo(const PostoLotto& posto, std::string_view Classe,
+                      std::string_view Categoria) {
+  return "LOTTO n° " + Intero(posto.numero) +
+         (posto.Nuovo() ? "" : " di " + Intero(posto.esistenti)) + "   CLASSE/CATEGORIA " +
+         StringaClasseCategoria(Classe, Categoria);
+}
+
+std::string OltreIlMassimo(std::size_t massimo, std::string_view cose) {
+  return "UNA PARCELLA PUÒ AVERE AL MASSIMO " + Intero(massimo) + " " + std::string(cose) + ".";
+}
+
+}  // namespace orm
