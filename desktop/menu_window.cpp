@@ -45,8 +45,9 @@ MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
   setObjectName("frmGEN_Main");
   setWindowTitle(ToQt(window.Title()).trimmed());
   setCentralWidget(new PictureArea);
-  const QSize room = screen()->availableSize();
-  resize(QSize(1000, 680).boundedTo(room * 0.9));
+  const QRect room = screen()->availableGeometry();
+  resize(QSize(1000, 680).boundedTo(room.size() * 0.9));
+  move(room.center() - rect().center());
   const std::vector<std::string> captions = MenuKeys(Captions(window.Menu()));
   for (std::size_t i = 0; i < captions.size(); ++i) {
     const MenuItem& top = window.Menu()[i];

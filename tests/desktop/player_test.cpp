@@ -1,0 +1,192 @@
+// The desktop player as a whole: message boxes, life of a form, menus, texts with looks, drawings.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QImage>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QTest>
+#include <QTextDocument>
+
+#include "desktop/menu_keys.h"
+#include "desktop/menu_window.h"
+#include "desktop/message_window.h"
+#include "desktop/paint_drawing.h"
+#include "desktop/qt_text.h"
+#include "desktop/rich_convert.h"
+#include "runtime/failure.h"
+#include "tests/desktop/gallery_form.h"
+
+namespace orm {
+namespace {
+
+TEST(Ask, GivesBackTheButtonThatWasPressed) {
+  TestPlayer player;
+  for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) {
+    player.onMessage = [&](QMessageBox& shown) {
+      QTest::mouseClick(ButtonOf(shown, answer), Qt::LeftButton);
+    };
+    EXPECT_EQ(
+        player.Ask({"", "Salvare ?", MessageBox::Icon::Question, MessageBox::Buttons::YesNoCancel}),
+        answer);
+  }
+}
+
+TEST(Ask, EnterIsTheFirstButtonAndEscapeTheOneThatChangesNothing) {
+  TestPlayer player;
+  const MessageBox box{"", "Salvare ?", MessageBox::Icon::Question, MessageBox::Buttons::YesNo};
+  player.onMessage = [](QMessageBox& shown) { QTest::keyClick(&shown, Qt::Key_Return); };
+  EXPECT_EQ(player.Ask(box), Answer::Yes);
+  player.onMessage = [](QMessageBox& shown) { QTest::keyClick(&shown, Qt::Key_Escape); };
+  EXPECT_EQ(player.Ask(box), Answer::No);
+}
+
+class PlainForm : public Form {
+ public:
+  explicit PlainForm(bool anyKey = false)
+      : Form("frmSemplice", "  Titolo "), cmdOK(*this, "cmdOK", "&O.K."), anyKey_(anyKey) {
+    SetContent(Column({Buttons({cmdOK})}));
+  }
+  bool ClosesOnAnyKey() const override { return anyKey_; }
+  Button cmdOK;
+
+ private:
+  bool anyKey_;
+};
+
+TEST(Show, AFailureOfAnEventEndsTheFormAndGoesOn) {
+  PlainForm form;
+  form.cmdOK.onPress = [] { throw RuntimeFailure("Disco pieno."); };
+  TestPlayer player;
+  player.onForm = [&](FormDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Titolo");
+    QTest::mouseClick(dialog.ViewOf(form.cmdOK).Field(), Qt::LeftButton);
+    EXPECT_FALSE(dialog.isVisible());
+  };
+  EXPECT_THROW(player.Show(form), RuntimeFailure);
+  EXPECT_EQ(form.View(), nullptr);
+}
+
+TEST(Show, FormsShowFormsAndMessages) {
+  PlainForm outer, inner;
+  TestPlayer player;
+  int shown = 0;
+  inner.cmdOK.onPress = [&] { inner.Close(); };
+  outer.cmdOK.onPress = [&] {
+    player.Show(inner);
+    player.Ask({"", "Fatto", MessageBox::Icon::Information, MessageBox::Buttons::Ok});
+    outer.Close();
+  };
+  player.onMessage = [&](QMessageBox&) { ++shown; };
+  player.onForm = [&](FormDialog& dialog) {
+    ++shown;
+    QTest::mouseClick(dialog.findChild<QAbstractButton*>("cmdOK"), Qt::LeftButton);
+  };
+  player.Show(outer);
+  EXPECT_EQ(shown, 3);
+  player.Show(inner);  // a form may be shown again
+  EXPECT_EQ(shown, 4);
+}
+
+TEST(Show, AnyKeyOrClickWhereTheFormEndsOnOne) {
+  for (const bool key : {true, false}) {
+    PlainForm form(true);
+    TestPlayer player;
+    player.onForm = [&](FormDialog& dialog) {
+      QTest::keyClick(&dialog, Qt::Key_Shift);
+      EXPECT_TRUE(form.IsOpen());
+      key ? QTest::keyClick(&dialog, Qt::Key_X)
+          : QTest::mouseClick(&dialog, Qt::LeftButton, {}, {2, 2});
+      EXPECT_FALSE(form.IsOpen());
+    };
+    player.Show(form);
+  }
+}
+
+TEST(MenuKeys, EachCaptionGetsALetterOfItsOwn) {
+  const std::vector<std::string> keys =
+      MenuKeys({"FILE", "PARCELLE ( £ )", "PARCELLE ( € )", "A & B", " 1 - UNO", "", "A"});
+  EXPECT_EQ(keys, (std::vector<std::string>{"&FILE", "&PARCELLE ( £ )", "P&ARCELLE ( € )",
+                                            "A && &B", " &1 - UNO", "", "A"}));
+}
+
+class SampleWindow : public MainWindow {
+ public:
+  const std::string& Title() const override { return title_; }
+  const std::vector<MenuItem>& Menu() const override { return menu_; }
+  bool Load() override { return true; }
+  void FirstActivation() override { events.push_back("first"); }
+  void MenuOpened(std::string_view name) override { events.push_back("open " + std::string(name)); }
+  void Choose(std::string_view name) override { events.push_back("choose " + std::string(name)); }
+  bool Ended() const override { return false; }
+  std::vector<std::string> events;
+
+ private:
+  std::string title_ = "   ORM2002 ";
+  std::vector<MenuItem> menu_ = {
+      {"FILE", "FILE", {{"ESCI", "ESCI & via"}, {"", ""}, {"ALTRO", "Altro"}}}};
+};
+
+TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
+  SampleWindow window;
+  MenuWindow shown(window);
+  shown.ActivateOnceShown();
+  shown.show();
+  QTest::qWait(20);
+  shown.hide();
+  shown.show();
+  QTest::qWait(20);
+  EXPECT_EQ(shown.windowTitle(), "ORM2002");
+  EXPECT_EQ(shown.CommandAction("ESCI")->text(), "&ESCI && via");
+  QTest::keyClick(&shown, Qt::Key_F, Qt::AltModifier);
+  QWidget* menu = shown.PathTo("ESCI").front();
+  EXPECT_TRUE(menu->isVisible());
+  QTest::keyClick(menu, Qt::Key_A);
+  EXPECT_EQ(window.events, (std::vector<std::string>{"first", "open FILE", "choose ALTRO"}));
+}
+
+TEST(RichConvert, KeepsEveryLookThatTheLogicKnows) {
+  RichDocument document;
+  document.page = {{"paperw", 11906}};
+  RichParagraph title;
+  title.setting.alignment = RichSetting::Alignment::Centre;
+  title.setting.before = 120;
+  title.Append("Scadenze",
+               {.font = "Arial", .halfPoints = 31, .bold = true, .colour = Colour{0, 0, 160}});
+  title.Append(" è\nqui", {.italic = true, .underline = true});
+  RichParagraph empty;
+  RichParagraph item;
+  item.setting.bullet = true;
+  item.setting.left = 360, item.setting.first = -360;
+  item.Append("voce", {});
+  RichParagraph columns;
+  columns.setting.tabs = {1440, 2880};
+  columns.setting.alignment = RichSetting::Alignment::Justified;
+  columns.Append("a\tb", {});
+  document.paragraphs = {title, empty, item, item, columns};
+  QTextDocument editor;
+  WriteInto(editor, document);
+  EXPECT_EQ(ReadFrom(editor, document), document);
+}
+
+TEST(PaintDrawing, KeepsItsProportionsAtAnySize) {
+  PlainForm form;
+  Lavagna panel(form, "disegno", 100, 50, 200);
+  panel.SetBackground({255, 255, 0});
+  panel.SetColour({255, 0, 0});
+  panel.DrawPolygon({{0, 0}, {50, 0}, {50, 25}, {0, 25}}, true);
+  for (const int side : {120, 400}) {
+    QImage picture(side, side, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    PaintDrawing(painter, panel, picture.rect());
+    painter.end();
+    EXPECT_EQ(picture.pixelColor(side / 2, side / 8), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(side / 4, side * 5 / 8), QColor(255, 0, 0));
+    EXPECT_EQ(picture.pixelColor(side * 3 / 4, side * 3 / 8), QColor(255, 255, 0));
+  }
+}
+
+}  // namespace
+}  // namespace orm
