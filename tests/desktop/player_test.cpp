@@ -14,7 +14,7 @@
 #include "desktop/message_window.h"
 #include "desktop/paint_drawing.h"
 #include "desktop/qt_text.h"
-#include "desktop/rich_convert.h"
+#include "desktop/rich_text_document.h"
 #include "runtime/failure.h"
 #include "tests/desktop/gallery_form.h"
 
@@ -146,7 +146,7 @@ TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
   EXPECT_EQ(window.events, (std::vector<std::string>{"first", "open FILE", "choose ALTRO"}));
 }
 
-TEST(RichConvert, KeepsEveryLookThatTheLogicKnows) {
+TEST(RichTextDocument, KeepsEveryLookThatTheLogicKnows) {
   RichDocument document;
   document.page = {{"paperw", 11906}};
   RichParagraph title;
@@ -166,8 +166,8 @@ TEST(RichConvert, KeepsEveryLookThatTheLogicKnows) {
   columns.Append("a\tb", {});
   document.paragraphs = {title, empty, item, item, columns};
   QTextDocument editor;
-  WriteInto(editor, document);
-  EXPECT_EQ(ReadFrom(editor, document), document);
+  FillDocument(editor, document);
+  EXPECT_EQ(ReadDocument(editor, document), document);
 }
 
 TEST(PaintDrawing, KeepsItsProportionsAtAnySize) {
