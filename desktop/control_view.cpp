@@ -77,8 +77,8 @@ void ControlView::Refresh() {
   whole_->setVisible(control_.OwnVisible());
   whole_->setEnabled(control_.OwnEnabled());
   field_->setToolTip(ToQt(control_.Hint()));
+  if (control_.TakesFocus()) NameForAccess();
   if (caption_ == nullptr) return;
-  NameForAccess();
   const QString text = ToQt(control_.Caption()).trimmed();
   SetCaptionText(*caption_, text);
   caption_->setVisible(control_.OwnVisible() && !text.isEmpty() && !captionLeftOut_);

@@ -10,7 +10,7 @@
 namespace orm {
 namespace {
 
-constexpr int kAboveTitle = 6;     // pixels between a group and the title below it
+constexpr int kAboveTitle = 4;     // pixels between a group and the title below it
 constexpr int kBeside = 10;        // pixels between what stands on one line
 constexpr int kAsideAtMost = 150;  // pixels that a label column gives up for the common line
 

@@ -109,6 +109,11 @@ QSize FormDialog::Room() const { return screen()->availableSize() - kFrame; }
 
 void FormDialog::Refit() {
   refit_ = false;
+  // From the inmost frame outward, as each tells the one around it what it needs.
+  const QList<QWidget*> frames = scroll_->widget()->findChildren<QWidget*>();
+  for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame)
+    if ((*frame)->layout() != nullptr) (*frame)->layout()->activate();
+  scroll_->widget()->layout()->activate();
   scroll_->updateGeometry();
   QSize wanted = layout()->totalSizeHint();
   if (wanted.height() > Room().height())

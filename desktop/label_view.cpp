@@ -30,9 +30,10 @@ class LabelView : public ControlView {
     for (const QString& line : text.split('\n'))
       widest = std::max(widest, text_->fontMetrics().horizontalAdvance(line));
     const bool wraps = widest > limit;
+    const int frame = 2;  // what a label adds to its letters
     text_->setWordWrap(wraps);
     // A text that changes keeps the greatest width that it had, so that the form does not jump.
-    text_->setMinimumWidth(std::max(text_->minimumWidth(), std::min(widest, limit)));
+    text_->setMinimumWidth(std::max(text_->minimumWidth(), std::min(widest + frame, limit)));
     if (wraps)
       text_->setMinimumHeight(std::max(text_->minimumHeight(), text_->heightForWidth(limit)));
   }

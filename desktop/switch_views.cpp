@@ -34,7 +34,6 @@ class SwitchView : public ControlView {
   }
   void Refresh() override {
     ControlView::Refresh();
-    NameForAccess();
     widget_->setText(Wrapped(ToQt(model_.Caption()).trimmed().replace('&', "&&"), kLongestLine));
     if (widget_->isChecked() == model_.Value()) return;
     refreshing_ = true;

@@ -72,15 +72,7 @@ void WidgetHand::Look() {
     options_.faults->insert(dialog_.Model().Name() + ": " + fault);
 }
 
-// A window that was shown over the form has gone: the keys are the form's again.
-void WidgetHand::ComeForward() {
-  if (dialog_.isActiveWindow()) return;
-  dialog_.activateWindow();
-  QCoreApplication::processEvents();
-}
-
 std::string WidgetHand::Set(Control& control, std::string_view text) {
-  ComeForward();
   std::string objection;
   switch (control.GetKind()) {
     case Control::Kind::TextBox:
@@ -104,8 +96,17 @@ std::string WidgetHand::Set(Control& control, std::string_view text) {
     default:
       return "Non è un campo da riempire.";
   }
+  if (objection.empty()) GoOn(control);
   Settle();
   return objection;
+}
+
+// A person goes on from the field behind what is typed.
+void WidgetHand::GoOn(const Control& control) {
+  QWidget* field = WidgetOf(control);
+  if (field->hasFocus() && control.GetKind() != Control::Kind::RichText)
+    QTest::keyClick(field, Qt::Key_Tab);
+  if (field->hasFocus()) dialog_.setFocus();
 }
 
 std::string WidgetHand::Type(Control& control, std::string_view text) {
@@ -169,7 +170,6 @@ std::string WidgetHand::Slide(Slider& slider, std::string_view text) {
 }
 
 std::string WidgetHand::Press(Button& button) {
-  ComeForward();
   QTest::mouseClick(WidgetOf(button), Qt::LeftButton);
   Settle();
   return {};

@@ -30,7 +30,7 @@ class WidgetHand : public FormHand {
   std::string Switch(Control& control, std::string_view text);
   std::string Pick(ListControl& control, std::string_view text);
   std::string Slide(Slider& slider, std::string_view text);
-  void ComeForward();
+  void GoOn(const Control& control);
   void Settle();  // what the last event left to do is done
 
   FormDialog& dialog_;

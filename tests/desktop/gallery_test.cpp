@@ -56,6 +56,15 @@ TEST(Gallery, GrowsAndShrinksWithAFrame) {
   });
 }
 
+TEST(Gallery, ATextThatComesLaterIsSeenWhole) {
+  MeetGallery([](GalleryForm& form, FormDialog& dialog) {
+    form.lblClasse.SetText("Una riga\nun'altra\n\ne una quarta, più lunga di quelle di prima");
+    form.cdRisultato.SetValue(99999.99);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Joined(LintForm(dialog)), "");
+  });
+}
+
 TEST(Gallery, MessageBoxes) {
   using Icon = MessageBox::Icon;
   using Buttons = MessageBox::Buttons;
