@@ -33,6 +33,23 @@ TEST_F(BloccoContabilita, KeepsTheOrderOfCoefficients) {
             std::string::npos);
 }
 
+// A sum that falls back opens its bands again, and the part used of the band that it fell out of is
+// still taken off.
+TEST_F(BloccoContabilita, NegativeAmountGoesBackOnTheScale) {
+  std::string testo;
+  CalcoloMisureContabilita(stato, {{1, 1, 8000000}, {2, 1.2, -4000000}, {3, 1, 10000000}}, testo);
+  EXPECT_EQ(Report(), Page(R"(
+MISURE E CONTABILITÀ LAVORI ( tab. E )|
+0,96600% x 1,00 x       5.000.000 =          48.300|
+0,88550% x 1,00 x       3.000.000 =          26.565|
+1,11090% x 1,20 x       1.000.000 =          13.330|
+1,27753% x 1,00 x       1.000.000 =          12.775|
+1,17107% x 1,00 x       9.000.000 =         105.396|
+                      ------------------------------ |
+         Totali         14.000.000           206.367|
+)"));
+}
+
 TEST_F(BloccoContabilita, LinesAreApartByALineFeedAlone) {
   std::string testo;
   CalcoloMisureContabilita(stato, {{5, 1, 4000000}}, testo);

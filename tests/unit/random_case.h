@@ -161,7 +161,7 @@ inline Stampato LeggiStampato(const std::string& report) {
       {"CERTIFICATO", "CERTIFICATO REGOLARE ESECUZIONE"}};
   Stampato stampato;
   std::string voce;
-  for (std::size_t da = 0, a; da < report.size(); da = a + 1) {
+  for (std::size_t da = 0, a = 0; da < report.size(); da = a + 1) {
     a = std::min(report.find('\n', da), report.size());
     const std::string riga = report.substr(da, a - da);
     for (const auto& [inizio, nome] : kTitoli)
