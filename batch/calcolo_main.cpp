@@ -101,6 +101,7 @@ int CalculateAll(orm::RunState& stato, orm::BatchPlayer& player) {
 }  // namespace
 
 int main(int count, char** words) {
+  orm::TellFileSizeErrors();
   Arguments arguments;
   if (const auto outcome = Read(count, words, arguments)) return *outcome;
   orm::BatchPlayer player(arguments.data);

@@ -54,9 +54,17 @@ MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
     QMenu* menu = menuBar()->addMenu(ToQt(captions[i]));
     menu->setObjectName(ToQt(top.name));
     menu->menuAction()->setObjectName(ToQt(top.name));
-    connect(menu, &QMenu::aboutToShow, this, [this, name = top.name] { window_.MenuOpened(name); });
-    Fill(*menu, top.children);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, &top] {
+      FillTop(*menu, top);
+      window_.MenuOpened(top.name);
+    });
   }
+}
+
+// A menu gets its entries when it opens for the first time: all hundred of them would slow the
+// start of the program.
+void MenuWindow::FillTop(QMenu& menu, const MenuItem& top) {
+  if (menu.isEmpty()) Fill(menu, top.children);
 }
 
 void MenuWindow::Fill(QMenu& menu, const std::vector<MenuItem>& items) {
@@ -94,12 +102,14 @@ void MenuWindow::EndIfEnded() {
   QCoreApplication::quit();
 }
 
-QAction* MenuWindow::CommandAction(const std::string& command) const {
+QAction* MenuWindow::CommandAction(const std::string& command) {
+  for (const MenuItem& top : window_.Menu())
+    FillTop(*findChild<QMenu*>(ToQt(top.name)), top);
   const auto found = commands_.find(command);
   return found == commands_.end() ? nullptr : found->second;
 }
 
-std::vector<QMenu*> MenuWindow::PathTo(const std::string& command) const {
+std::vector<QMenu*> MenuWindow::PathTo(const std::string& command) {
   std::vector<QMenu*> path;
   if (QAction* action = CommandAction(command))
     for (auto* menu = dynamic_cast<QMenu*>(action->parent()); menu != nullptr;

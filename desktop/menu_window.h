@@ -16,8 +16,8 @@ class MenuWindow : public QMainWindow {
   explicit MenuWindow(MainWindow& window);
 
   // The menus from the top down to a command; empty when the tree does not have it.
-  std::vector<QMenu*> PathTo(const std::string& command) const;
-  QAction* CommandAction(const std::string& command) const;
+  std::vector<QMenu*> PathTo(const std::string& command);
+  QAction* CommandAction(const std::string& command);
   // The first action of the program, once the window has come to the screen. Without it a script
   // is the person, and acts by itself.
   void ActivateOnceShown() { activates_ = true; }
@@ -27,6 +27,7 @@ class MenuWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void FillTop(QMenu& menu, const MenuItem& top);
   void Fill(QMenu& menu, const std::vector<MenuItem>& items);
   void Choose(const std::string& command);
   void EndIfEnded();

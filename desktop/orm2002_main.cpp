@@ -6,6 +6,7 @@
 #include "shell/shell.h"
 
 int main(int argc, char** argv) {
+  orm::TellFileSizeErrors();
   QApplication application(argc, argv);
   orm::DressApplication(application);
   const orm::WorkFolder folder(".");

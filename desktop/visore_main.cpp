@@ -16,6 +16,7 @@
 #include "desktop/viewer_messages.h"
 #include "desktop/viewer_window.h"
 #include "runtime/failure.h"
+#include "runtime/folder.h"
 
 namespace orm {
 namespace {
@@ -127,4 +128,7 @@ int Run(int argc, char** argv) {
 }  // namespace
 }  // namespace orm
 
-int main(int argc, char** argv) { return orm::Run(argc, argv); }
+int main(int argc, char** argv) {
+  orm::TellFileSizeErrors();
+  return orm::Run(argc, argv);
+}

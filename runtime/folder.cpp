@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -194,6 +195,8 @@ void WorkFolder::Replace(std::string_view name, std::string_view bytes,
 void WorkFolder::Remove(std::string_view name) const {
   if (::unlink(PathOf(name).c_str()) != 0 && errno != ENOENT) Fail(name, errno);
 }
+
+void TellFileSizeErrors() { std::signal(SIGXFSZ, SIG_IGN); }
 
 FolderLock::FolderLock(const WorkFolder& folder)
     : descriptor_(OpenRetrying(folder.Path().c_str(), O_RDONLY | O_DIRECTORY)) {

@@ -46,6 +46,10 @@ class WorkFolder {
   std::string path_;
 };
 
+// A file beyond the size that the system allows is an error to be told like any other; without this
+// call, made once by each program, it ends the process.
+void TellFileSizeErrors();
+
 // Holds a folder for one program at a time. The lock is of the running process: it goes with it,
 // however it ends, and leaves no file behind.
 class FolderLock {

@@ -56,6 +56,14 @@ else
   echo "SALTATO (in parte): non è permesso montare un disco; il disco pieno è provato in saves.sh"
 fi
 
+# A limit on the size of files: an error like the others, not the end of the process.
+sample_folder "$at"
+limited() {
+  ulimit -f 0
+  "$@"
+}
+refused 'troppo grande' "limite alla dimensione dei file" limited "$calcolo" PPE --cartella "$at"
+
 # Two programs on one folder; the lock goes with its process, however it ends.
 sample_folder "$at"
 mkfifo "$work/ready"
