@@ -87,7 +87,9 @@ void CampiRiga(Archive& file, RigaPdl& r) {
 template <class Archive>
 void CampiLotti(Archive& file, DatiPdl& d) {
   std::size_t righe = 0;
+  int linea = 1;  // behind the line of the counts
   for (LottoPdl& lotto : d.Lotti) {
+    ++linea;
     auto PeriodiDelLotto = static_cast<std::int16_t>(lotto.PeriodoDelLotto.size());
     file.Line(CountField("PeriodiDelLotto", PeriodiDelLotto, kRighePdlMassime),
               CountField("UltimaRiga", lotto.UltimaRiga, static_cast<int>(d.Righe.size())));
@@ -95,6 +97,7 @@ void CampiLotti(Archive& file, DatiPdl& d) {
     righe += lotto.PeriodoDelLotto.size();
     if (righe != static_cast<std::size_t>(lotto.UltimaRiga))
       throw RuntimeFailure("Le righe dei lotti non corrispondono ai loro periodi.")
+          .AtLine(linea)
           .AtField("UltimaRiga");
   }
   for (LottoPdl& lotto : d.Lotti)

@@ -1,0 +1,11 @@
+// INP_ESL.DAP, the lots of a note of public works.
+#include "cases/esl.h"
+#include "cases/esl_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiEsl>(data, size, [](orm::RunState& stato) {
+    double totale = 0;
+    orm::CalcoloEsl(stato, totale);
+  });
+}

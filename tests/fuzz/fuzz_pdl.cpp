@@ -1,0 +1,9 @@
+// INP_PDL.DAP, lots, rows and variation reports.
+#include "cases/pdl.h"
+#include "cases/pdl_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiPdl>(data, size,
+                                            [](orm::RunState& stato) { orm::CalcoloPdl(stato); });
+}
