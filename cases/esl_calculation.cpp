@@ -220,10 +220,7 @@ double NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
 }
 
 void NotaEsl::CalcolaContabilita() {
-  if (contemp.empty()) return;
-  std::string testo;
-  const double onorario = CalcoloMisureContabilita(stato, contemp, testo);
-  TotaleContabilita = StampaOnorarioContabilita(stato, onorario, testo, compensi);
+  TotaleContabilita = StampaContabilita(stato, contemp, compensi);
   TotaleGenerale += TotaleContabilita;
 }
 

@@ -22,7 +22,6 @@ class CatenaEsl {
       : stato(run), lotti(lottiDelCaso), esistenti(lotti.size()) {}
 
   void Chiedi();
-  bool ConDirezione = false;
 
  private:
   void ChiediLotto();
@@ -59,7 +58,6 @@ void CatenaEsl::Chiedi() {
 void CatenaEsl::ChiediLotto() {
   ChiediImporti();
   LottoEsl& lotto = Lotto();
-  if (lotto.ImportoDirezioneLavori != 0) ConDirezione = true;
   if (lotto.ImportoProgettazione > 0 || lotto.ImportoDirezioneLavori > 0) {
     ChiediPrestazioni();
     ChiediContabilita();
@@ -131,10 +129,11 @@ void InputEsl(RunState& stato) {
   DatiEsl dati;
   IniziaInput(stato, dati);
   if (!ChiediTipologia(stato, dati.TipoParcella)) return;
-  CatenaEsl catena(stato, dati.Lotti);
-  catena.Chiedi();
+  CatenaEsl(stato, dati.Lotti).Chiedi();
+  const bool conDirezione = std::ranges::any_of(
+      dati.Lotti, [](const LottoEsl& lotto) { return lotto.ImportoDirezioneLavori != 0; });
   dati.CertificatoRegolare =
-      catena.ConDirezione
+      conDirezione
           ? ChiediSiNo(stato.player, "ULTERIORI PRESTAZIONI",
                        "COLLAUDO o CERTIFICATO REGOLARE ESECUZIONE ?", "", dati.CertificatoRegolare)
           : "NO";

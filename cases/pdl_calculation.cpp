@@ -133,12 +133,7 @@ void NotaPdl::StampaPercentuali(std::string_view voce, const PercentualiTabellaA
     StampaPercentuale(stato, voce, quota.percentuale, quota.importo);
 }
 
-void NotaPdl::CalcolaContabilita() {
-  if (contemp.empty()) return;
-  std::string testo;
-  const double onorario = CalcoloMisureContabilita(stato, contemp, testo);
-  totali[3] = StampaOnorarioContabilita(stato, onorario, testo, compensi);
-}
+void NotaPdl::CalcolaContabilita() { totali[3] = StampaContabilita(stato, contemp, compensi); }
 
 // The last row alone decides.
 void NotaPdl::CalcolaRevisione() {

@@ -5,6 +5,7 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/money.h"
+#include "tariff/report.h"
 
 namespace orm {
 namespace {
@@ -47,6 +48,16 @@ double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> ri
   stampa.Tab(20).Text(NumeroContabilita(conto.importo, stato.ModoLire));
   stampa.Tab(38).Line(NumeroContabilita(conto.onorario, stato.ModoLire));
   return conto.onorario;
+}
+
+double StampaContabilita(RunState& stato, const std::vector<RigaContabilita>& righe,
+                         const Compensi& compensi) {
+  if (righe.empty()) return 0;
+  std::string testo;
+  const double onorario = CalcoloMisureContabilita(stato, righe, testo);
+  double compenso = IntInLire(stato, onorario * compensi.Coefficiente);
+  StampaRigaOnorario(stato, 1, " " + testo + compensi.StringaCoefficiente + " =", compenso);
+  return compenso;
 }
 
 }  // namespace orm

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/run_state.h"
 #include "tariff/accounting_fee.h"
+#include "tariff/lot_lines.h"
 
 namespace orm {
 
@@ -16,5 +16,10 @@ inline constexpr std::size_t kRigheContabilita = 10;
 // coefficient taken together. Returns the fee, neither cut nor rounded, and in `testo` its text.
 double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
                                 std::string& testo);
+
+// The block and, under it, the line of the fee with its compensations: that fee, cut as printed.
+// Without rows nothing is printed.
+double StampaContabilita(RunState& stato, const std::vector<RigaContabilita>& righe,
+                         const Compensi& compensi);
 
 }  // namespace orm

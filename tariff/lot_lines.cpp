@@ -103,13 +103,6 @@ double StampaOnorario(RunState& stato, const RigaFormula& f, double onorario) {
   return onorario;
 }
 
-double StampaOnorarioContabilita(RunState& stato, double onorario, const std::string& testo,
-                                 const Compensi& compensi) {
-  double compenso = IntInLire(stato, onorario * compensi.Coefficiente);
-  StampaRigaOnorario(stato, 1, " " + testo + compensi.StringaCoefficiente + " =", compenso);
-  return compenso;
-}
-
 // In Lire the cut comes before the division by 100, as nowhere else in these notes.
 double StampaCertificato(RunState& stato, int periodo, double SommaDirezione,
                          const Compensi& compensi) {

@@ -70,10 +70,6 @@ struct RigaFormula {
 // Prints it; `onorario` is cut to what is printed, and returned.
 double StampaOnorario(RunState& stato, const RigaFormula& formula, double onorario);
 
-// "MISURE E CONTABILITÀ" has its own room; this is the line of its fee, cut as printed.
-double StampaOnorarioContabilita(RunState& stato, double onorario, const std::string& testo,
-                                 const Compensi& compensi);
-
 // The certificate of regular execution by Table C on the sum of the supervision.
 double StampaCertificato(RunState& stato, int periodo, double SommaDirezione,
                          const Compensi& compensi);
