@@ -1,5 +1,7 @@
 #include <sys/stat.h>
 
+#include <utility>
+
 #include "script/stage.h"
 
 namespace orm {
@@ -7,14 +9,13 @@ namespace {
 
 class PlainHand : public FormHand {
  public:
-  explicit PlainHand(Form& form) : form_(form) {}
-  // A person goes on from the field behind what is typed.
+  explicit PlainHand(Form& form) : form_(form), focus_(form.FirstFocus()) {}
   std::string Set(Control& control, std::string_view text) override {
-    const std::string objection = control.Enter(text);
-    if (objection.empty() && control.onLeave) control.onLeave();
-    return objection;
+    MoveTo(control);
+    return control.Enter(text);
   }
   std::string Press(Button& button) override {
+    MoveTo(button);
     button.Press();
     return {};
   }
@@ -26,7 +27,13 @@ class PlainHand : public FormHand {
   void Picture(const std::string&) override {}
 
  private:
+  // A person's hand takes the focus along.
+  void MoveTo(Control& control) {
+    if (Control* left = std::exchange(focus_, &control); left != nullptr && left != &control && left->onLeave)
+      left->onLeave();
+  }
   Form& form_;
+  Control* focus_;
 };
 
 class PlainPlayer : public Player {

@@ -53,12 +53,7 @@ PannelloForme::PannelloForme(Form& form, std::initializer_list<const char*> nomi
                         gruppo);
 }
 
-Layout PannelloForme::Contents() {
-  std::vector<Layout> lines;
-  for (std::size_t i = 0; i + 1 < Option.size(); i += 2)
-    lines.push_back(Row({Option[i], Option[i + 1]}));
-  return Group(fraTipo, std::move(lines));
-}
+Layout PannelloForme::Contents() { return Group(fraTipo, {Row({Option.begin(), Option.end()})}); }
 
 void PannelloCarichi::ScriviEsempio(double momento) {
   CD_12.SetValue(TensioneAcciaioEsempio);

@@ -23,9 +23,9 @@ constexpr double kLeft = 0, kBottom = -0.2, kRight = 32.4, kTop = 10.6;
 constexpr double kBase = 23.5;
 constexpr double kConcreteUnits = 4, kSteelUnits = 8;  // of the allowed stress
 constexpr int kSmall = 8;                              // font size of values
-constexpr double kPatch = 0.17;                        // half the height of the patch under a text
+constexpr double kPatch = 0.21;                        // half the height of the patch under a text
 constexpr double kHatchStep = 0.2;
-constexpr double kLine = 0.48;  // units that a line of small text takes
+constexpr double kLine = 0.58;  // units that a line of small text takes
 
 double TextWidth(const std::string& text, bool bold, const Lavagna& lavagna) {
   const double em = bold ? 0.64 : 0.57;  // of a usual letter
@@ -192,7 +192,7 @@ void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni
   lavagna_.SetWidth(1);
   lavagna_.DrawLine(kBase, Y(H_) - 0.3, kBase, Y(0) + 0.3);
   lavagna_.SetFont(kSmall);
-  lavagna_.DrawText(kBase - 3.2, 0.55, "compressione");
+  lavagna_.DrawText(kBase - 3.9, 0.55, "compressione");
   lavagna_.DrawText(kBase + 0.3, 0.55, "trazione");
   for (const TensioneDisegnata& t : tensioni) {
     const Reach reach = ReachOf(t, ammesse);

@@ -68,7 +68,7 @@ FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
       fraConcentrata(*this, "fraConcentrata", "ARMATURA CONCENTRATA"),
       gruppi(*this, 3, 2, "", "Distanza dal bordo superiore  [cm.]"),
       risultati(*this),
-      Lavagna(*this, "Lavagna", 30, 10),
+      Lavagna(*this, "Lavagna", 30, 10, 720),
       ComCalcola(*this, "ComCalcola", "CALCOLA", Button::Role::Default),
       ComEsci(*this, "ComEsci", "ESCI", Button::Role::Close),
       stato_(stato) {

@@ -50,7 +50,7 @@ FrmVerFlessT1::FrmVerFlessT1(RunState& stato)
       fraArmature(*this, "fraArmature", "ARMATURE"),
       strati(*this, 1, 8, "STRATO", "Distanza dal bordo superiore  [cm.]"),
       risultati(*this),
-      Lavagna(*this, "Lavagna", 30, 10),
+      Lavagna(*this, "Lavagna", 30, 10, 720),
       ComCalcola(*this, "ComCalcola", "CALCOLA", Button::Role::Default),
       ComEsci(*this, "ComEsci", "ESCI", Button::Role::Close),
       stato_(stato) {

@@ -106,7 +106,6 @@ void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
     lavagna.DrawText(5.3, y + 0.25, "strato " + NumberText(strato));
   }
   lavagna.SetWidth(1);
-  lavagna.SetFont(10);
   SchemaMeasures(lavagna, forma);
 }
 
