@@ -103,8 +103,7 @@ class TextAreaView : public ControlView {
         box_(box),
         area_(new TextArea(host.Window(),
                            [&box](const std::string& t) { return box.Objection(t); })) {
-    if (box.Options().columns)
-      area_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    if (box.Options().columns) area_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     const QMargins margins = area_->contentsMargins();
     const int frame = margins.top() + margins.bottom() +
                       2 * static_cast<int>(area_->document()->documentMargin());
