@@ -116,7 +116,7 @@ struct TextOptions {
   int longest = 250;  // characters
   int lines = 1;      // above 1 the text may hold line ends
   bool readOnly = false;
-  int width = 30;  // usual width in characters
+  int width = 30;        // usual width in characters
   bool columns = false;  // in letters of one width, so that columns stand below each other
   std::string unit = {};
   std::string hint = {};
@@ -193,7 +193,7 @@ class FerriBox : public Control {
   // A draft is admitted as long as it can still become a text of the form.
   std::string Type(std::string_view text);
   std::string Objection(std::string_view text) const;  // why a draft is not admitted
-  static const char* Writing();                           // in Italian: how bars are written
+  static const char* Writing();                        // in Italian: how bars are written
   std::string ShownText() const override { return text_; }
   std::string Enter(std::string_view text) override;
 
