@@ -103,8 +103,7 @@ void MenuWindow::EndIfEnded() {
 }
 
 QAction* MenuWindow::CommandAction(const std::string& command) {
-  for (const MenuItem& top : window_.Menu())
-    FillTop(*findChild<QMenu*>(ToQt(top.name)), top);
+  for (const MenuItem& top : window_.Menu()) FillTop(*findChild<QMenu*>(ToQt(top.name)), top);
   const auto found = commands_.find(command);
   return found == commands_.end() ? nullptr : found->second;
 }

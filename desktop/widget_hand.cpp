@@ -73,6 +73,7 @@ void WidgetHand::Look() {
 }
 
 std::string WidgetHand::Set(Control& control, std::string_view text) {
+  if (typed_ != &control) GoOn();
   std::string objection;
   switch (control.GetKind()) {
     case Control::Kind::TextBox:
@@ -96,15 +97,18 @@ std::string WidgetHand::Set(Control& control, std::string_view text) {
     default:
       return "Non è un campo da riempire.";
   }
-  if (objection.empty()) GoOn(control);
+  typed_ = objection.empty() ? &control : nullptr;
   Settle();
   return objection;
 }
 
-// A person goes on from the field behind what is typed.
-void WidgetHand::GoOn(const Control& control) {
-  QWidget* field = WidgetOf(control);
-  if (field->hasFocus() && control.GetKind() != Control::Kind::RichText)
+// A person goes on from the field behind what is typed: on the way to another one, or to read the
+// number as it stands then.
+void WidgetHand::GoOn() {
+  if (typed_ == nullptr) return;
+  const Control& left = *std::exchange(typed_, nullptr);
+  QWidget* field = WidgetOf(left);
+  if (field->hasFocus() && left.GetKind() != Control::Kind::RichText)
     QTest::keyClick(field, Qt::Key_Tab);
   if (field->hasFocus()) dialog_.setFocus();
 }
@@ -170,6 +174,7 @@ std::string WidgetHand::Slide(Slider& slider, std::string_view text) {
 }
 
 std::string WidgetHand::Press(Button& button) {
+  GoOn();
   QTest::mouseClick(WidgetOf(button), Qt::LeftButton);
   Settle();
   return {};
@@ -180,7 +185,13 @@ void WidgetHand::CloseByWindow() {
   Settle();
 }
 
-std::string WidgetHand::Shown(Control& control) { return dialog_.ViewOf(control).Shown(); }
+std::string WidgetHand::Shown(Control& control) {
+  if (typed_ == &control) {
+    GoOn();
+    Settle();
+  }
+  return dialog_.ViewOf(control).Shown();
+}
 bool WidgetHand::IsVisible(Control& control) { return WidgetOf(control)->isVisible(); }
 bool WidgetHand::IsEnabled(Control& control) { return WidgetOf(control)->isEnabled(); }
 std::string WidgetHand::Title() { return dialog_.Model().Title(); }

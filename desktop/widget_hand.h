@@ -30,11 +30,12 @@ class WidgetHand : public FormHand {
   std::string Switch(Control& control, std::string_view text);
   std::string Pick(ListControl& control, std::string_view text);
   std::string Slide(Slider& slider, std::string_view text);
-  void GoOn(const Control& control);
+  void GoOn();
   void Settle();  // what the last event left to do is done
 
   FormDialog& dialog_;
   DesktopStageOptions options_;
+  Control* typed_ = nullptr;  // the field that the person has typed into and not left
 };
 
 }  // namespace orm

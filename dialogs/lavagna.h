@@ -36,8 +36,8 @@ struct DrawOperation {
 
 class Lavagna : public Control {
  public:
-  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward. Widths of
-  // lines and sizes of fonts are told for a panel that is `pixelsWide` wide (100 %); a larger or
+  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward. Widths
+  // of lines and sizes of fonts are told for a panel that is `pixelsWide` wide (100 %); a larger or
   // smaller picture takes them along.
   Lavagna(Form& form, std::string name, double width, double height, int pixelsWide = 900);
 

@@ -29,7 +29,8 @@ class PlainHand : public FormHand {
  private:
   // A person's hand takes the focus along.
   void MoveTo(Control& control) {
-    if (Control* left = std::exchange(focus_, &control); left != nullptr && left != &control && left->onLeave)
+    if (Control* left = std::exchange(focus_, &control);
+        left != nullptr && left != &control && left->onLeave)
       left->onLeave();
   }
   Form& form_;

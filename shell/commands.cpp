@@ -13,6 +13,7 @@
 #include "shell/form_user.h"
 #include "shell/letter.h"
 #include "shell/shell_boxes.h"
+#include "shell/technical_notes.h"
 #include "structures/form_ver_fless_c1.h"
 #include "structures/form_ver_fless_t1.h"
 #include "utilities/form_accounting_fee.h"
@@ -20,7 +21,6 @@
 #include "utilities/form_interest.h"
 #include "utilities/form_pension.h"
 #include "utilities/form_percentages.h"
-#include "shell/technical_notes.h"
 
 namespace orm {
 namespace {

@@ -97,9 +97,9 @@ TEST_F(CommonForms, ClassEndsOrRefuses) {
   form.SetImporto(5);
   form.cmdCONFERMA.Press();
   ASSERT_EQ(player.messages.size(), 1U);
-  EXPECT_EQ(player.messages[0].text,
-            form.Rifiuto + "\nPer finire l'introduzione dati occorre premere\n" +
-                form.cmdFINE.ShownText());
+  EXPECT_EQ(player.messages[0].text, form.Rifiuto +
+                                         "\nPer finire l'introduzione dati occorre premere\n" +
+                                         form.cmdFINE.ShownText());
   EXPECT_TRUE(form.IsOpen());
   form.cmdFINE.Press();
   EXPECT_FALSE(form.IsOpen());
