@@ -79,12 +79,13 @@ void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoPdl& lotto) {
 
 NotaPdl::Conto NotaPdl::PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
                                      double direzionePrima) const {
-  Conto conto{riga,
-              Periodo,
-              basi,
-              direzionePrima,
-              PercentualiDellaBase(stato, basi.BaseProgetto, Periodo, riga),
-              PercentualiDellaBase(stato, basi.BaseDirezione, Periodo, riga)};
+  Conto conto{
+      riga,
+      Periodo,
+      basi,
+      direzionePrima,
+      PercentualiDellaBase(stato, basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
+      PercentualiDellaBase(stato, basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
   conto.fatti = ServiziFatti(riga.TipoPrestazione, riga.Prestazioni);
   TabellaBAliquote(riga.Classe, riga.Categoria, conto.fatti, conto.aliquote, conto.AliquotaProgetto,
                    conto.AliquotaDirezione);

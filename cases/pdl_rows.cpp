@@ -65,8 +65,9 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
   uscita.Line(perizia.TipoPerizia.starts_with("1") ? "PERIZIA DI VARIANTE"
                                                    : "PERIZIA DI ASSESTAMENTO");
   const double ImportoPerizia = perizia.LavoriSuppletivi + perizia.EsproPerizia;
-  const auto percentuali = PercentualiDellaBase(stato, ImportoPerizia + perizia.LavoriVariati,
-                                                conto.Periodo, conto.riga);
+  const auto percentuali =
+      PercentualiDellaBase(stato, ImportoPerizia + perizia.LavoriVariati, conto.Periodo,
+                           conto.riga.Classe, conto.riga.Categoria);
   const Aliquote fatti = ServiziFatti(perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati);
   double SommaDesign = 0, SommaFlag = 0;
   for (std::size_t i = 1; i <= 6; ++i) {

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "runtime/failure.h"
-#include "tariff/money.h"
 
 namespace orm {
 namespace {
@@ -59,35 +58,6 @@ std::string TestoPrestazioni(const Aliquote& fatti, GruppoServiziPdl gruppo) {
   for (std::size_t i = progetto ? 1 : 7; i <= (progetto ? 6U : 10U); ++i)
     if (fatti[i] != 0) testo += (testo.empty() ? "" : "+") + std::string(1, kLettere[i - 1]);
   return testo;
-}
-
-double LimiteTabellaA(const RunState& stato) {
-  constexpr double lire = 5000000000;
-  return stato.ModoLire ? lire : LireInEuro(lire);
-}
-
-PercentualiTabellaA PercentualiDellaBase(const RunState& stato, double base, int periodo,
-                                         const RigaPdl& riga) {
-  const auto tabella = [&](double importo) {
-    return PercentualeDaTabellaA(stato, importo, periodo, riga.Classe, riga.Categoria);
-  };
-  const double limite = LimiteTabellaA(stato);
-  if (base > limite) return {tabella(limite), tabella(base), true};
-  return {tabella(base), {}, false};
-}
-
-std::vector<QuotaImporto> QuoteDellImporto(const PercentualiTabellaA& percentuali, double importo,
-                                           double limite) {
-  if (!percentuali.divise) return {{importo, percentuali.entro}};
-  return {{limite, percentuali.entro}, {importo - limite, percentuali.oltre}};
-}
-
-std::vector<QuotaImporto> QuoteProgressive(const PercentualiTabellaA& percentuali, double importo,
-                                           double prima, double limite) {
-  if (!percentuali.divise || prima + importo <= limite) return {{importo, percentuali.entro}};
-  if (prima >= limite) return {{importo, percentuali.oltre}};
-  const double entro = limite - prima;
-  return {{entro, percentuali.entro}, {importo - entro, percentuali.oltre}};
 }
 
 }  // namespace orm

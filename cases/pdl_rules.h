@@ -1,13 +1,12 @@
-// Rules of the notes of design and supervision that print nothing: the bases of a lot, the services
-// of a row, and the slices of an amount above the limit of Table A.
+// Rules of the notes of design and supervision that print nothing: the bases of a lot and the
+// services of a row.
 #pragma once
 
 #include <span>
 #include <string>
-#include <vector>
 
 #include "cases/pdl_data.h"
-#include "tariff/lot_lines.h"
+#include "tariff/table_a_slices.h"
 #include "tariff/tariff_tables.h"
 
 namespace orm {
@@ -25,31 +24,5 @@ Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestaz
 // The letters of a group in the order of the table, "a+c+f".
 enum class GruppoServiziPdl { Progetto, Direzione };
 std::string TestoPrestazioni(const Aliquote& fatti, GruppoServiziPdl gruppo);
-
-// 5,000 million Lire, in the currency of the note.
-double LimiteTabellaA(const RunState& stato);
-
-// Table A of a base: above the limit there is one percentage for what lies within it and one for
-// the rest. A second one that is not needed has no text.
-struct PercentualiTabellaA {
-  Percentuale entro, oltre;
-  bool divise = false;
-};
-PercentualiTabellaA PercentualiDellaBase(const RunState& stato, double base, int periodo,
-                                         const RigaPdl& riga);
-
-// An amount or a part of it with its percentage.
-struct QuotaImporto {
-  double importo;
-  const Percentuale& percentuale;
-};
-// The base decides: where it is above the limit, the whole limit and what the amount has beyond it,
-// even less than nothing.
-std::vector<QuotaImporto> QuoteDellImporto(const PercentualiTabellaA& percentuali, double importo,
-                                           double limite);
-// The same along the running sum of a lot's supervision, `prima` before this amount: what still
-// lies within the limit, and the rest.
-std::vector<QuotaImporto> QuoteProgressive(const PercentualiTabellaA& percentuali, double importo,
-                                           double prima, double limite);
 
 }  // namespace orm

@@ -109,6 +109,7 @@ T DataReader::Whole(const char* field) {
 }
 
 std::int16_t DataReader::Integer(const char* field) { return Whole<std::int16_t>(field); }
+std::int32_t DataReader::LongInteger(const char* field) { return Whole<std::int32_t>(field); }
 std::uint8_t DataReader::Byte(const char* field) { return Whole<std::uint8_t>(field); }
 
 bool DataReader::Boolean(const char* field) {
@@ -160,6 +161,11 @@ void DataWriter::Write(Field<double> field) {
 }
 
 void DataWriter::Write(Field<std::int16_t> field) {
+  Separate();
+  bytes_ += NumberText(field.value);
+}
+
+void DataWriter::Write(Field<std::int32_t> field) {
   Separate();
   bytes_ += NumberText(field.value);
 }

@@ -31,6 +31,11 @@ struct CountField : Field<std::int16_t> {
   int most;
 };
 
+// An amount in the currency of the note: the conversion of a data file passes it from Lire to Euro.
+struct MoneyField : Field<double> {
+  using Field::Field;
+};
+
 class DataReader {
  public:
   // Reads the whole file. Every failure of this class names the file, the line and the field.
@@ -43,6 +48,7 @@ class DataReader {
   std::string Text(const char* field);
   double Number(const char* field);
   std::int16_t Integer(const char* field);
+  std::int32_t LongInteger(const char* field);
   std::uint8_t Byte(const char* field);
   bool Boolean(const char* field);
   // A count of things to come, from 0 to `most`.
@@ -51,6 +57,7 @@ class DataReader {
   void Read(Field<std::string> field) { field.value = Text(field.name); }
   void Read(Field<double> field) { field.value = Number(field.name); }
   void Read(Field<std::int16_t> field) { field.value = Integer(field.name); }
+  void Read(Field<std::int32_t> field) { field.value = LongInteger(field.name); }
   void Read(CountField field) { field.value = Count(field.name, field.most); }
   void Read(Field<std::uint8_t> field) { field.value = Byte(field.name); }
   void Read(Field<bool> field) { field.value = Boolean(field.name); }
@@ -90,6 +97,7 @@ class DataWriter {
   void Write(Field<std::string> field);
   void Write(Field<double> field);
   void Write(Field<std::int16_t> field);
+  void Write(Field<std::int32_t> field);
   void Write(Field<std::uint8_t> field);
   void Write(Field<bool> field);
 

@@ -9,12 +9,18 @@ std::string Intero(std::size_t numero) { return NumberText(static_cast<double>(n
 }  // namespace
 
 bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, std::string& Classe,
-                  std::string& Categoria) {
+                  std::string& Categoria, const TestiClasse& testi) {
+  const std::string lotto = "LOTTO n° " + Intero(posto.numero);
   const bool senzaCategorie = Classe == "8" || Classe == "5";
-  form.Label1.SetText(posto.Nuovo() ? "NUOVO LOTTO" : "");
-  form.SetClasse(posto.Nuovo() ? "" : Classe);
-  form.SetCategoria(posto.Nuovo() || senzaCategorie ? "" : Categoria);
-  form.SetTitle("CLASSE E CATEGORIA per il LOTTO n° " + Intero(posto.numero));
+  form.Label1.SetText(posto.Nuovo() ? "NUOVO LOTTO" : testi.etichetta ? lotto : "");
+  form.SetTitle(testi.titolo.empty() ? "CLASSE E CATEGORIA per il " + lotto : testi.titolo);
+  if (posto.Nuovo()) {
+    form.SetClasse(testi.proposta ? "1" : "");
+    form.SetCategoria(testi.proposta ? "a" : "");
+  } else {
+    form.SetClasse(Classe);
+    form.SetCategoria(senzaCategorie ? "" : Categoria);
+  }
   form.TipodiUscita.clear();
   stato.player.Show(form);
   if (form.TipodiUscita == "FINE") return false;

@@ -15,11 +15,18 @@ struct PostoLotto {
   bool Nuovo() const { return numero > esistenti; }
 };
 
+// How a case words the class dialog.
+struct TestiClasse {
+  std::string titolo;      // empty: "CLASSE E CATEGORIA per il LOTTO n° " and the number
+  bool etichetta = false;  // a lot that exists is named "LOTTO n° 2" above its fields
+  bool proposta = false;   // a new lot begins with class 1, category a; otherwise blank
+};
+
 // Shows the class dialog for a lot, with its class and category where the lot exists. True when the
 // person entered it; false at the end of the lots. Closing the window keeps a lot that exists as it
 // is, and ends the input where a new one was asked.
 bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, std::string& Classe,
-                  std::string& Categoria);
+                  std::string& Categoria, const TestiClasse& testi = {});
 
 // "LOTTO n° 2 di 3   CLASSE/CATEGORIA 1/c"; a new lot has no "di".
 std::string DoveSiamo(const PostoLotto& posto, std::string_view Classe, std::string_view Categoria);

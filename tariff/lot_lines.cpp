@@ -10,7 +10,6 @@
 namespace orm {
 namespace {
 
-constexpr int kColonnaBase = 33;
 constexpr int kColonnaLavori = 48;
 
 // Cuts the percentage of an amount in Lire to its decimals.
@@ -76,10 +75,10 @@ void StampaLavori(RunState& stato, int colonna, std::string_view voce, double im
 }
 
 void StampaPercentuale(RunState& stato, std::string_view voce, const Percentuale& percentuale,
-                       double base) {
+                       double base, int colonna) {
   stato.NumFileUscita.Text(voce)
       .Text(percentuale.testo)
-      .Tab(kColonnaBase)
+      .Tab(colonna)
       .Text(" su  ")
       .Tab(kColonnaLavori)
       .Line(ImportoLavori(stato, base));

@@ -44,9 +44,9 @@ std::string TestoImporto(const RunState& stato, double importo);
 std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string_view categoria);
 // One line: `voce` from `colonna`, the amount of works from column 48.
 void StampaLavori(RunState& stato, int colonna, std::string_view voce, double importo);
-// One line: `voce` and the percentage, " su  " at column 33, its base from column 48.
+// One line: `voce` and the percentage, " su  " at `colonna`, its base from column 48.
 void StampaPercentuale(RunState& stato, std::string_view voce, const Percentuale& percentuale,
-                       double base);
+                       double base, int colonna = 33);
 
 inline constexpr std::string_view kVocePercentualeProgetto = " % Prog. (Tab. A) = ";
 inline constexpr std::string_view kVocePercentualeDirezione = " % D.L.  (Tab. A) = ";
