@@ -15,6 +15,7 @@
 #include "runtime/text.h"
 #include "shell/dispatch.h"
 #include "shell/settings.h"
+#include "tariff/case_files.h"
 
 namespace {
 

@@ -18,7 +18,7 @@ struct DatiCoa {
 template <class Archive>
 void Campi(Archive& file, DatiCoa& d) {
   file.Line(Field("PeriodoCollaudo", d.PeriodoCollaudo),
-            Field("ImportoCollaudo", d.ImportoCollaudo), Field("TipoCollaudo", d.TipoCollaudo),
+            MoneyField("ImportoCollaudo", d.ImportoCollaudo), Field("TipoCollaudo", d.TipoCollaudo),
             Field("MaggiorazioneCollaudo", d.MaggiorazioneCollaudo),
             Field("NumeroFacciate", d.NumeroFacciate));
 }

@@ -38,8 +38,8 @@ void Campi(Archive& file, DatiEsl& d) {
   d.Lotti.resize(static_cast<std::size_t>(LottiEsl));
   for (LottoEsl& lotto : d.Lotti) {
     file.Line(Field("Classe", lotto.Classe), Field("Categoria", lotto.Categoria),
-              Field("ImportoProgettazione", lotto.ImportoProgettazione),
-              Field("ImportoDirezioneLavori", lotto.ImportoDirezioneLavori));
+              MoneyField("ImportoProgettazione", lotto.ImportoProgettazione),
+              MoneyField("ImportoDirezioneLavori", lotto.ImportoDirezioneLavori));
     file.Line(Field("PrestazioniBase", lotto.PrestazioniBase),
               Field("PrestazioniIntegrative", lotto.PrestazioniIntegrative),
               Field("NumeroAddetti", lotto.NumeroAddetti));

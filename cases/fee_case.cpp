@@ -2,16 +2,24 @@
 
 #include <algorithm>
 
+#include "cases/agp.h"
+#include "cases/agp_data.h"
 #include "cases/coa.h"
+#include "cases/coa_data.h"
 #include "cases/esl.h"
+#include "cases/esl_data.h"
 #include "cases/pdl.h"
+#include "cases/pdl_data.h"
 #include "cases/ppe.h"
+#include "cases/ppe_data.h"
+#include "cases/stc.h"
+#include "cases/stc_data.h"
+#include "tariff/conversion.h"
 
 namespace orm {
 
 namespace {
 
-constexpr auto kCompensiETabelle = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
 
 // The sum of the fees, which some cases hand out, has no use here.
 template <void (*calcolo)(RunState&, double&)>
@@ -20,28 +28,32 @@ void SenzaTotale(RunState& stato) {
   calcolo(stato, totale);
 }
 
+constexpr auto kCompensiETabelle = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
+constexpr auto kTabelleCompensiVoci =
+    static_cast<CriteriaGroups>(kCompensiETabelle | kCompensiSuVoci);
+
 }  // namespace
 
 const std::vector<FeeCase>& FeeCases() {
   // clang-format off
   static const std::vector<FeeCase> kCases = {
-      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kAllCriteria, nullptr, nullptr},
-      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcoloCoa},
-      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kAllCriteria, nullptr, nullptr},
+      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcoloAgp, ConvertiParcella<DatiAgp>},
+      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcoloCoa, ConvertiParcella<DatiCoa>},
+      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
-      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr},
-      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr},
-      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl},
-      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>},
-      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr},
-      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr},
-      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr},
-      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr},
-      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, SenzaTotale<CalcoloPpe>},
-      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kAllCriteria, nullptr, nullptr},
-      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr},
-      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr},
-      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kAllCriteria, nullptr, nullptr},
+      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr, nullptr},
+      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl, ConvertiParcella<DatiPdl>},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>, ConvertiParcella<DatiEsl>},
+      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr, nullptr},
+      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, SenzaTotale<CalcoloPpe>, ConvertiParcella<DatiPpe>},
+      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcoloStc, ConvertiParcella<DatiStc>},
+      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kAllCriteria, nullptr, nullptr, nullptr},
   };
   // clang-format on
   return kCases;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -34,6 +35,8 @@ struct FeeCase {
   // nullptr: not there yet, or (input of "CS2") not meant to be.
   void (*input)(RunState&);
   void (*calcolo)(RunState&);
+  // From Lire to Euro, the data files of the case with this code.
+  void (*converti)(const WorkFolder&, const std::string& codice);
 };
 
 // In the order of the menus.

@@ -61,12 +61,13 @@ struct DatiPdl {
 
 template <class Archive>
 void CampiRiga(Archive& file, RigaPdl& r) {
-  file.Line(
-      Field("Classe", r.Classe), Field("Categoria", r.Categoria),
-      Field("PeriodoTariffario", r.PeriodoTariffario), Field("ImportoProgetto", r.ImportoProgetto),
-      Field("ImportoEspropri", r.ImportoEspropri), Field("ImportoSuppletivi", r.ImportoSuppletivi),
-      Field("ImportoEsproPerizie", r.ImportoEsproPerizie),
-      Field("ImportoDirezione", r.ImportoDirezione));
+  file.Line(Field("Classe", r.Classe), Field("Categoria", r.Categoria),
+            Field("PeriodoTariffario", r.PeriodoTariffario),
+            MoneyField("ImportoProgetto", r.ImportoProgetto),
+            MoneyField("ImportoEspropri", r.ImportoEspropri),
+            MoneyField("ImportoSuppletivi", r.ImportoSuppletivi),
+            MoneyField("ImportoEsproPerizie", r.ImportoEsproPerizie),
+            MoneyField("ImportoDirezione", r.ImportoDirezione));
   file.Line(Field("TipoPrestazione", r.TipoPrestazione), Field("Prestazioni", r.Prestazioni));
   file.Line(Field("FlagSorveglianza", r.FlagSorveglianza),
             Field("FlagContabilita", r.FlagContabilita), Field("FlagRevisione", r.FlagRevisione),
@@ -75,9 +76,9 @@ void CampiRiga(Archive& file, RigaPdl& r) {
             CountField("NumeroPerizie", r.NumeroPerizie, kPerizieMassime));
   for (std::size_t j = 0; j < static_cast<std::size_t>(r.NumeroPerizie); ++j) {
     PeriziaPdl& p = r.Perizie[j];
-    file.Line(Field("LavoriSuppletivi", p.LavoriSuppletivi),
-              Field("LavoriVariati", p.LavoriVariati), Field("EsproPerizia", p.EsproPerizia),
-              Field("TipoPerizia", p.TipoPerizia),
+    file.Line(MoneyField("LavoriSuppletivi", p.LavoriSuppletivi),
+              MoneyField("LavoriVariati", p.LavoriVariati),
+              MoneyField("EsproPerizia", p.EsproPerizia), Field("TipoPerizia", p.TipoPerizia),
               Field("TipoPrestazioneVariati", p.TipoPrestazioneVariati),
               Field("PrestazioniVariati", p.PrestazioniVariati));
   }

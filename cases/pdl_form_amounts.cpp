@@ -1,10 +1,6 @@
 #include "cases/pdl_form_amounts.h"
 
-#include <cmath>
-
-#include "runtime/text.h"
 #include "tariff/message_boxes.h"
-#include "tariff/money.h"
 
 namespace orm {
 
@@ -50,12 +46,6 @@ void FrmPdlImporti::Confirm(RunState& stato, const ImportiPdl& altri) {
     }
   for (std::size_t i = 0; i < importo.size(); ++i) Importi[i] = importo[i].Value();
   Close();
-}
-
-std::string SommaEccessiva(const ImportoBox& importo, double altri) {
-  if (std::fabs(importo.Value()) + altri <= importo.Massimo()) return "";
-  return TrimRight(importo.ci.Caption()) + ": CON GLI ALTRI LOTTI LA SOMMA NON PUÒ SUPERARE " +
-         FormattaCopia(importo.Massimo(), 2) + ".";
 }
 
 }  // namespace orm

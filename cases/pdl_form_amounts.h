@@ -36,7 +36,4 @@ class FrmPdlImporti : public Form {
   void Confirm(RunState& stato, const ImportiPdl& altri);
 };
 
-// The sum that an amount makes with the others of its kind: empty, or why it is too great.
-std::string SommaEccessiva(const ImportoBox& importo, double altri);
-
 }  // namespace orm

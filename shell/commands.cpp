@@ -5,6 +5,7 @@
 
 #include "cases/fee_case.h"
 #include "shell/dispatch.h"
+#include "shell/form_conversion.h"
 #include "shell/form_criteria.h"
 #include "shell/form_editor.h"
 #include "shell/form_letter.h"
@@ -68,6 +69,7 @@ constexpr std::array kCommands = {
     Command{"PERS_EDITMEMO", EditaMemo},
     Command{"UTIL_LETTERA_ID", Show<FrmGenLettera>},
     Command{"UTIL_LETTERA_VS", VisualizzaLettera},
+    Command{"UTIL_CONVERTI", Show<FrmGenConversione>},
     Command{"UTIL_MORA", MostraInteressiMora},
     Command{"UTIL_PERC_COMBO", MostraPercentuali},
     Command{"UTIL_OV_CL_COMBO", MostraContabilita},

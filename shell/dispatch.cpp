@@ -3,6 +3,7 @@
 #include "cases/fee_case.h"
 #include "shell/form_criteria.h"
 #include "shell/shell_boxes.h"
+#include "tariff/case_files.h"
 #include "tariff/message_boxes.h"
 #include "tariff/user_data.h"
 
@@ -28,11 +29,6 @@ const MessageBox* MissingFile(const RunState& stato) {
 }
 
 }  // namespace
-
-NomiFile NomiDiCaso(const std::string& codice, bool modoLire) {
-  const std::string stem = "_" + codice + (modoLire ? "" : "_E");
-  return {"INT" + stem + ".DAP", "INP" + stem + ".DAP", "OUT" + stem + ".DOC"};
-}
 
 void InputDatiParcella(RunState& stato) {
   SetFileNames(stato);

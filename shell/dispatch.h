@@ -1,18 +1,9 @@
 // The two generic commands of every fee case, "Input Dati" and "Calcolo".
 #pragma once
 
-#include <string>
-
 #include "shell/run_state.h"
 
 namespace orm {
-
-struct NomiFile {
-  std::string FileInt, FileInp, Report;
-};
-
-// Names of header, data and report file of a case; "_E" marks Euro.
-NomiFile NomiDiCaso(const std::string& codice, bool modoLire);
 
 // By CasoDiParcella and ModoLire. An unknown code does nothing.
 void InputDatiParcella(RunState& stato);

@@ -38,4 +38,9 @@ struct ImportoBox {
   bool lire_;
 };
 
+// The sum that an amount makes with the others of its kind in the note, `altri`, all counted
+// without their sign: empty, or why it is too great for the report.
+std::string SommaEccessiva(std::string_view voce, double importo, double altri, double massimo);
+std::string SommaEccessiva(const ImportoBox& importo, double altri);
+
 }  // namespace orm

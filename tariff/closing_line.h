@@ -11,22 +11,29 @@ namespace orm {
 
 template <class Archive>
 void CampiChiusura(Archive& file, Chiusura& c) {
-  file.Line(Field("PercDiRiduzione", c.PercDiRiduzione), Field("Acconti", c.Acconti),
+  file.Line(Field("PercDiRiduzione", c.PercDiRiduzione), MoneyField("Acconti", c.Acconti),
             Field("TipoRiduzione", c.TipoRiduzione),
             Field("ApplicazioneRiduzione", c.ApplicazioneRiduzione));
 }
 
 // Reads the body of a case by its Campi, then the closing line, and nothing may follow.
 template <class Dati>
-void LeggiParcella(RunState& stato, Dati& dati) {
-  DataReader file(stato.folder, stato.FileInp);
+void LeggiFileDati(const WorkFolder& folder, const std::string& nomeFile, Dati& dati,
+                   Chiusura& chiusura) {
+  DataReader file(folder, nomeFile);
   try {
     Campi(file, dati);
   } catch (RuntimeFailure& failure) {
-    throw failure.AtFile(stato.FileInp);  // one of the case's own checks does not know it
+    throw failure.AtFile(nomeFile);  // one of the case's own checks does not know it
   }
-  CampiChiusura(file, stato.chiusura);
+  CampiChiusura(file, chiusura);
   file.ExpectEnd();
+}
+
+// The same of the note at work.
+template <class Dati>
+void LeggiParcella(RunState& stato, Dati& dati) {
+  LeggiFileDati(stato.folder, stato.FileInp, dati, stato.chiusura);
 }
 
 // Writes a data file whole: the body of the case and the closing line behind it.

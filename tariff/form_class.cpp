@@ -1,6 +1,6 @@
 #include "tariff/form_class.h"
 
-#include "tariff/amount_limits.h"
+#include "tariff/amount_box.h"
 #include "tariff/class_names.h"
 #include "tariff/message_boxes.h"
 
@@ -80,6 +80,12 @@ void FrmGenClasse::Confirm() {
   if (!Rifiuto.empty()) return Refuse(Rifiuto);
   if (manca) return Refuse("SCEGLIERE LA CLASSE E LA CATEGORIA.");
   if (chiedeImporto_ && importo == 0) return Refuse("VALORE NON ACCETTABILE : importo nullo !");
+  const double massimo = (stato_.ModoLire ? ciImporto.Limits() : cdImporto.Limits()).most;
+  if (const auto motivo = SommaEccessiva("IMPORTO", importo, AltriLotti, massimo);
+      !motivo.empty()) {
+    stato_.player.Ask(Avviso(motivo));
+    return;
+  }
   if (chiedeImporto_) Importo = importo;
   Classe = std::string(1, static_cast<char>('1' + comClasse.Index()));
   Categoria = comCategoria.Index() < 0

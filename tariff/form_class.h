@@ -20,6 +20,9 @@ class FrmGenClasse : public Form {
   double Importo = 0;
   std::string TipodiUscita;  // "CONFERMA" or "FINE"; empty when left by its window
 
+  // What the other lots of the note come to: with them the amount must still fit its column.
+  double AltriLotti = 0;
+
   // When not empty, why no further lot can be entered: shown instead of taking the lot.
   std::string Rifiuto;
 

@@ -118,12 +118,14 @@ double StampaCertificato(RunState& stato, int periodo, double SommaDirezione,
   return compenso;
 }
 
+double SenzaCompensi(double onorario, const Compensi& compensi) {
+  return compensi.Coefficiente == 0 ? 0 : onorario / compensi.Coefficiente;
+}
+
 void ChiudiConCompensi(RunState& stato, double totale, const Compensi& compensi,
                        double NonConglobati) {
-  // Without any amount of works there is no coefficient and nothing to divide.
-  const double conglobati =
-      compensi.Coefficiente == 0 ? 0 : (totale - NonConglobati) / compensi.Coefficiente;
-  const double onorari = IntInLire(stato, conglobati + NonConglobati);
+  const double onorari =
+      IntInLire(stato, SenzaCompensi(totale - NonConglobati, compensi) + NonConglobati);
   ChiudiParcella(stato, onorari, totale - onorari);
 }
 

@@ -74,6 +74,10 @@ double StampaOnorario(RunState& stato, const RigaFormula& formula, double onorar
 double StampaCertificato(RunState& stato, int periodo, double SommaDirezione,
                          const Compensi& compensi);
 
+// A fee without its compensations. Without any amount of works there is no coefficient and nothing
+// to divide: 0.
+double SenzaCompensi(double onorario, const Compensi& compensi);
+
 // The final account of a note whose fees come to `totale`; `NonConglobati` of them without
 // compensations.
 void ChiudiConCompensi(RunState& stato, double totale, const Compensi& compensi,

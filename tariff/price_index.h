@@ -1,0 +1,27 @@
+// Revaluation by the official index of consumer prices (ISTAT, families of workers and employees,
+// without tobacco), kept in IND.CFG.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "runtime/folder.h"
+
+namespace orm {
+
+// A year's twelve indices, all years on one base; 0: not published yet.
+struct IndiciAnno {
+  std::int16_t anno = 0;
+  std::array<double, 12> mesi{};
+};
+
+// IND.CFG: a count (1 to 21) and a note, then a line for each year. A file that is absent, short,
+// has another count, a year twice or an index below 0 is a RuntimeFailure with its place.
+std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder);
+
+// Percent by which prices rose from January 1993 to a month; beyond the last one published its
+// index counts. A month or year that the file cannot answer is a RuntimeFailure.
+double PercentualeRivalutazione(const WorkFolder& folder, int mese, int anno);
+
+}  // namespace orm
