@@ -6,6 +6,8 @@
 #include "cases/agp_data.h"
 #include "cases/coa.h"
 #include "cases/coa_data.h"
+#include "cases/cos.h"
+#include "cases/cos_data.h"
 #include "cases/esl.h"
 #include "cases/esl_data.h"
 #include "cases/pdl.h"
@@ -39,9 +41,9 @@ const std::vector<FeeCase>& FeeCases() {
   static const std::vector<FeeCase> kCases = {
       {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcoloAgp, ConvertiParcella<DatiAgp>},
       {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcoloCoa, ConvertiParcella<DatiCoa>},
-      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcoloCos, ConvertiParcella<DatiCos>},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
-      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kAllCriteria, nullptr, nullptr, nullptr},
+      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcoloCos, ConvertiParcella<DatiCos>},
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl, ConvertiParcella<DatiPdl>},
       {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>, ConvertiParcella<DatiEsl>},

@@ -33,6 +33,12 @@ double IntInLire(const RunState& stato, double valore) {
   return stato.ModoLire ? Int(valore) : valore;
 }
 
+Percentuale PercentualeTagliata(const RunState& stato, double lire, double valore) {
+  Percentuale p{valore, ""};
+  p.testo = TestoPercentuale(stato, lire, p.valore) + "%";
+  return p;
+}
+
 Percentuale PercentualeDaTabellaA(const RunState& stato, double importo, int periodo,
                                   std::string_view classe, std::string_view categoria) {
   Percentuale p;
@@ -44,11 +50,9 @@ Percentuale PercentualeDaTabellaA(const RunState& stato, double importo, int per
 Percentuale PercentualeDaTabellaNuova(const RunState& stato, double importo,
                                       std::string_view classe, std::string_view categoria) {
   if (importo == 0) return {0, "0 %"};
-  Percentuale p;
-  double lire = ImportoInLire(stato, importo);
-  PercentualeTabellaNuova(lire, classe, categoria, p.valore);
-  p.testo = TestoPercentuale(stato, lire, p.valore) + "%";
-  return p;
+  double lire = ImportoInLire(stato, importo), valore = 0;
+  PercentualeTabellaNuova(lire, classe, categoria, valore);
+  return PercentualeTagliata(stato, lire, valore);
 }
 
 Compensi StampaCompensiAccessori(RunState& stato, double importo) {

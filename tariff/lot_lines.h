@@ -28,6 +28,8 @@ double ImportoInLire(const RunState& stato, double importo);
 // The whole part in Lire; in Euro the value as it is.
 double IntInLire(const RunState& stato, double valore);
 
+// Any percentage, cut to the decimals that its amount in Lire asks for.
+Percentuale PercentualeTagliata(const RunState& stato, double lire, double valore);
 // `importo` in the currency of the note. The number of decimals goes by the amount in Lire.
 Percentuale PercentualeDaTabellaA(const RunState& stato, double importo, int periodo,
                                   std::string_view classe, std::string_view categoria);

@@ -1,0 +1,80 @@
+#include "cases/cos.h"
+#include "cases/cos_config.h"
+#include "cases/cos_form.h"
+#include "cases/pdl_form_period.h"
+#include "tariff/form_amount.h"
+#include "tariff/form_question.h"
+#include "tariff/input_step.h"
+#include "tariff/row_chain.h"
+#include "tariff/tariff_tables.h"
+
+namespace orm {
+namespace {
+
+// The lots of the revision. In "CS1" a lot has a row for each period; in "CS2" one row, of none.
+class CatenaCos : public CatenaRighe<RigaCos> {
+ public:
+  CatenaCos(RunState& run, DatiCos& dati, bool conPeriodi)
+      : CatenaRighe(dati.Lotti, dati.Righe,
+                    {kLottiCosMassimi, kRigheCosMassime, conPeriodi ? kPeriodiCos : 1}),
+        stato(run),
+        periodi(conPeriodi) {}
+
+ private:
+  bool ChiediTestata(const PostoLotto& posto, const std::string& rifiuto,
+                     RigaCos& modello) override {
+    classi.Rifiuto = rifiuto;
+    return ChiediClasse(stato, classi, posto, modello.Classe, modello.Categoria);
+  }
+
+  std::optional<std::int16_t> ChiediPeriodo(const PostoLotto& posto, const std::string& rifiuto,
+                                            int ultimo, bool esiste, const RigaCos& riga) override {
+    if (!periodi) return std::int16_t{0};
+    FrmPdlTariffe form(stato.player, DoveSiamo(posto, riga.Classe, riga.Categoria), ultimo,
+                       riga.Periodo, esiste);
+    form.Rifiuto = rifiuto;
+    stato.player.Show(form);
+    if (form.Tariffa == "0") return std::nullopt;
+    return static_cast<std::int16_t>(form.Tariffa[0] - '0');
+  }
+
+  void ChiediRiga(const PostoLotto&, const RigaCos& modello, std::int16_t periodo,
+                  RigaCos& riga) override {
+    riga.Classe = modello.Classe;
+    riga.Categoria = modello.Categoria;
+    riga.Periodo = periodo == 0 ? "" : std::string(1, static_cast<char>('0' + periodo));
+    FrmGenUnoImporti form(stato, "LAVORI VERIFICATI", "Importo del Lotto", riga.ImportoVerificato);
+    form.SetClasseCategoria("CLASSE / CATEGORIA", riga.Categoria.empty()
+                                                      ? riga.Classe
+                                                      : riga.Classe + " / " + riga.Categoria);
+    if (periodo != 0) form.SetTariffa("PERIODO TARIFFARIO", NomePeriodoTariffario(periodo));
+    stato.player.Show(form);
+    if (form.Confermato) riga.ImportoVerificato = form.Importo();
+  }
+
+  RunState& stato;
+  const bool periodi;
+  FrmGenClasse classi{stato, false};
+};
+
+}  // namespace
+
+void InputCos(RunState& stato) {
+  const TestataCos testata = LeggiTestataCos(stato.folder, stato.CasoDiParcella);
+  DatiCos dati;
+  IniziaInput(stato, dati);
+  FrmCosDati form(stato, testata, dati);
+  stato.player.Show(form);
+  if (!form.TipodiUscita) return;
+  dati.ImportoCS = form.ImportoCS;
+  dati.Maggiorazione = form.Maggiorazione;
+  dati.ImportoTotaleCS = 0;
+  for (const double importo : dati.ImportoCS) dati.ImportoTotaleCS += importo;
+  dati.RevisioneCalcoli =
+      ChiediSiNo(stato.player, "COLLAUDO STATICO", "REVISIONE DEI CALCOLI DI STABILITÁ ?", "",
+                 dati.RevisioneCalcoli);
+  if (dati.RevisioneCalcoli == "SI") CatenaCos(stato, dati, stato.CasoDiParcella == "CS1").Chiedi();
+  ConcludiInput(stato, dati);
+}
+
+}  // namespace orm
