@@ -112,10 +112,7 @@ void NotaEsl::StampaSpecifica() {
     const double progetto = lotto.ImportoProgettazione, direzione = lotto.ImportoDirezioneLavori;
     if (progetto != 0 || direzione != 0)
       uscita.Line(TitoloLotto(i + 1, lotto.Classe, lotto.Categoria));
-    if (progetto != 0)
-      StampaLavori(stato, 5,
-                   progetto > 0 ? " - LAVORI DI PROGETTO" : " - LAVORI PROGETTO ORIGINARIO",
-                   std::fabs(progetto));
+    StampaProgettoSpecifica(stato, 5, progetto);
     if (direzione > kDirezioneMinimaStampata)
       StampaLavori(stato, 5, VoceDirezioneSpecifica(d.TipoParcella), direzione);
   }

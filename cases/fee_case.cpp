@@ -10,6 +10,8 @@
 #include "cases/cos_data.h"
 #include "cases/esl.h"
 #include "cases/esl_data.h"
+#include "cases/geo.h"
+#include "cases/geo_data.h"
 #include "cases/pdl.h"
 #include "cases/pdl_data.h"
 #include "cases/ppe.h"
@@ -47,7 +49,7 @@ const std::vector<FeeCase>& FeeCases() {
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl, ConvertiParcella<DatiPdl>},
       {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>, ConvertiParcella<DatiEsl>},
-      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcoloGEO, ConvertiParcella<DatiGeo>},
       {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr, nullptr},
       {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr, nullptr},

@@ -1,46 +1,22 @@
 #include "cases/pdl_form_period.h"
 
-#include "tariff/message_boxes.h"
 #include "tariff/tariff_tables.h"
 
 namespace orm {
+namespace {
+
+TestiTariffe Testi() {
+  TestiTariffe testi{
+      "frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE", "PERIODO DI VALIDITA' DEL", {}};
+  for (int i = 1; i <= 5; ++i)
+    testi.periodi[static_cast<std::size_t>(i - 1)] = NomePeriodoTariffarioEsteso(i);
+  return testi;
+}
+
+}  // namespace
 
 FrmPdlTariffe::FrmPdlTariffe(Player& player, std::string dove, int ultimo,
                              const std::string& periodo, bool esiste)
-    : Form("frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE"),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      Frame1(*this, "Frame1", "PERIODO DI VALIDITA' DEL"),
-      Option{{{*this, "Option1", NomePeriodoTariffarioEsteso(1), tipo},
-              {*this, "Option2", NomePeriodoTariffarioEsteso(2), tipo},
-              {*this, "Option3", NomePeriodoTariffarioEsteso(3), tipo},
-              {*this, "Option4", NomePeriodoTariffarioEsteso(4), tipo},
-              {*this, "Option5", NomePeriodoTariffarioEsteso(5), tipo}}},
-      Command2(*this, "Command2", "FINE INPUT PERIODI"),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  SetContent(
-      Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3], Option[4]}),
-              Buttons({Command2, Command1})}));
-  int scelta = -1;
-  for (int i = ultimo; i < 5; ++i)
-    if (scelta < 0 || periodo == std::string(1, static_cast<char>('1' + i))) scelta = i;
-  for (int i = 0; i < 5; ++i) Option[static_cast<std::size_t>(i)].SetVisible(i >= ultimo);
-  tipo.Choose(scelta);
-  Command1.SetEnabled(scelta >= 0);
-  Tariffa = esiste && scelta >= 0 ? std::string(1, static_cast<char>('1' + scelta)) : "0";
-  Command1.onPress = [this, &player] { Confirm(player); };
-  Command2.onPress = [this] {
-    Tariffa = "0";
-    Close();
-  };
-}
-
-void FrmPdlTariffe::Confirm(Player& player) {
-  if (!Rifiuto.empty()) {
-    player.Ask(Avviso(Rifiuto));
-    return;
-  }
-  Tariffa = std::string(1, static_cast<char>('1' + tipo.Chosen()));
-  Close();
-}
+    : FrmTariffe(player, Testi(), std::move(dove), ultimo, periodo, esiste) {}
 
 }  // namespace orm

@@ -30,10 +30,14 @@ bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, 
   return true;
 }
 
+std::string DoveSiamo(const PostoLotto& posto, std::string_view cosa) {
+  return std::string(cosa) + " n° " + Intero(posto.numero) +
+         (posto.Nuovo() ? "" : " di " + Intero(posto.esistenti));
+}
+
 std::string DoveSiamo(const PostoLotto& posto, std::string_view Classe,
                       std::string_view Categoria) {
-  return "LOTTO n° " + Intero(posto.numero) +
-         (posto.Nuovo() ? "" : " di " + Intero(posto.esistenti)) + "   CLASSE/CATEGORIA " +
+  return DoveSiamo(posto, "LOTTO") + "   CLASSE/CATEGORIA " +
          StringaClasseCategoria(Classe, Categoria);
 }
 

@@ -28,7 +28,9 @@ struct TestiClasse {
 bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, std::string& Classe,
                   std::string& Categoria, const TestiClasse& testi = {});
 
-// "LOTTO n° 2 di 3   CLASSE/CATEGORIA 1/c"; a new lot has no "di".
+// "LOTTO n° 2 di 3"; a new one has no "di".
+std::string DoveSiamo(const PostoLotto& posto, std::string_view cosa);
+// "LOTTO n° 2 di 3   CLASSE/CATEGORIA 1/c".
 std::string DoveSiamo(const PostoLotto& posto, std::string_view Classe, std::string_view Categoria);
 
 // "UNA PARCELLA PUÒ AVERE AL MASSIMO 20 LOTTI."

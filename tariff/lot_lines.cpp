@@ -1,5 +1,7 @@
 #include "tariff/lot_lines.h"
 
+#include <cmath>
+
 #include "runtime/numbers.h"
 #include "tariff/accessory_compensations.h"
 #include "tariff/final_account.h"
@@ -76,6 +78,13 @@ void StampaLavori(RunState& stato, int colonna, std::string_view voce, double im
       .Text(voce)
       .Tab(kColonnaLavori)
       .Line(ImportoLavori(stato, importo));
+}
+
+void StampaProgettoSpecifica(RunState& stato, int colonna, double importo) {
+  if (importo == 0) return;
+  StampaLavori(stato, colonna,
+               importo > 0 ? " - LAVORI DI PROGETTO" : " - LAVORI PROGETTO ORIGINARIO",
+               std::fabs(importo));
 }
 
 void StampaPercentuale(RunState& stato, std::string_view voce, const Percentuale& percentuale,

@@ -1,0 +1,101 @@
+#include <cmath>
+
+#include "cases/geo.h"
+#include "cases/geo_forms.h"
+#include "tariff/form_amount.h"
+#include "tariff/form_kind.h"
+#include "tariff/form_question.h"
+#include "tariff/input_step.h"
+#include "tariff/row_chain.h"
+
+namespace orm {
+namespace {
+
+class CatenaGeo : public CatenaRighe<RigaGeo> {
+ public:
+  CatenaGeo(RunState& run, const TabelleGeo& tabelleGeo, DatiGeo& datiDelCaso)
+      : CatenaRighe(datiDelCaso.Gruppi, datiDelCaso.Righe,
+                    {kGruppiGeoMassimi, kRigheGeoMassime, kPeriodiGeo, "GRUPPI"}),
+        stato(run),
+        tabelle(tabelleGeo),
+        dati(datiDelCaso) {}
+
+ private:
+  static std::string Dove(const PostoLotto& posto, const RigaGeo& riga) {
+    return DoveSiamo(posto, "GRUPPO") + "   SOTTOCLASSE " + riga.Sottoclasse;
+  }
+
+  bool ChiediTestata(const PostoLotto& posto, const std::string& rifiuto,
+                     RigaGeo& modello) override {
+    FrmGeoClassi form(stato.player, posto, modello.Sottoclasse);
+    form.Rifiuto = rifiuto;
+    stato.player.Show(form);
+    if (form.Classe == "0") return false;
+    modello.Sottoclasse = form.Classe;
+    return true;
+  }
+
+  std::optional<std::int16_t> ChiediPeriodo(const PostoLotto& posto, const std::string& rifiuto,
+                                            int ultimo, bool esiste, const RigaGeo& riga) override {
+    FrmGeoTariffe form(stato.player, tabelle, Dove(posto, riga), ultimo, riga.Tariffa, esiste);
+    form.Rifiuto = rifiuto;
+    stato.player.Show(form);
+    if (form.Tariffa == "0") return std::nullopt;
+    return static_cast<std::int16_t>(form.Tariffa[0] - '0');
+  }
+
+  void ChiediRiga(const PostoLotto& posto, const RigaGeo& modello, std::int16_t periodo,
+                  RigaGeo& riga) override {
+    riga.Sottoclasse = modello.Sottoclasse;
+    riga.Tariffa = std::string(1, static_cast<char>('0' + periodo));
+    double progetto = 0, direzione = 0;
+    for (const RigaGeo& r : Fatte()) {
+      progetto += std::fabs(r.ImportoProgetto);
+      direzione += std::fabs(r.ImportoDirezione);
+    }
+    const std::string nome = tabelle.NomePeriodo[static_cast<std::size_t>(periodo - 1)];
+    FrmGeoImporti importi(stato, dati.TipoDiParcella, nome, riga, progetto, direzione);
+    stato.player.Show(importi);
+    riga.ImportoProgetto = importi.ImportoProgetto;
+    riga.ImportoDirezione = importi.ImportoDirezione;
+    FrmGeoPrestazio prestazioni(Dove(posto, riga) + "   " + nome, riga);
+    stato.player.Show(prestazioni);
+    riga.TipoDiPrestazione = prestazioni.TipoDiPrestazione;
+    riga.StringaDellePrestazioni = prestazioni.StringaDellePrestazioni;
+  }
+
+  RunState& stato;
+  const TabelleGeo& tabelle;
+  const DatiGeo& dati;
+};
+
+void ChiediMaggiorazione(Player& player, std::string& risposta) {
+  risposta = ChiediSiNo(player, "PARCELLA PER PRESTAZIONI GEOTECNICHE",
+                        "MAGGIORAZIONE PER INCARICO PARZIALE ?", "", risposta);
+  if (risposta != "SI") return;
+  player.Ask({"ATTENZIONE !",
+              "La procedura non esegue alcun controllo di leggittimità : \n"
+              "per cui se indebitamente richiesta, la maggiorazione potrebbe essere applicata "
+              "contemporaneamente sia alla Progettazione sia alla Direzione Lavori.",
+              MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
+}
+
+}  // namespace
+
+void DatiGEO(RunState& stato) {
+  const TabelleGeo tabelle = LeggiTabelleGeo(stato.folder, 0);
+  DatiGeo dati;
+  IniziaInput(stato, dati);
+  FrmGenTipologia tipologia(stato.player, dati.TipoDiParcella);
+  stato.player.Show(tipologia);
+  if (!tipologia.TipodiUscita) return;
+  dati.TipoDiParcella = tipologia.TipoParcella;
+  ChiediMaggiorazione(stato.player, dati.MaggiorazioneParziale);
+  CatenaGeo(stato, tabelle, dati).Chiedi();
+  FrmGenUnoImporti costo(stato, "COSTO INDAGINI E PROVE", "Costo complessivo", dati.CostoIndagini);
+  stato.player.Show(costo);
+  if (costo.Confermato) dati.CostoIndagini = costo.Importo();
+  ConcludiInput(stato, dati);
+}
+
+}  // namespace orm
