@@ -24,7 +24,6 @@ namespace orm {
 
 namespace {
 
-
 // The sum of the fees, which some cases hand out, has no use here.
 template <void (*calcolo)(RunState&, double&)>
 void SenzaTotale(RunState& stato) {

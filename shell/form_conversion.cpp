@@ -42,16 +42,15 @@ FrmGenConversione::FrmGenConversione(RunState& stato)
     : Form("frmGEN_Conversione", "Conversione file DATI da LIRE ad EURO"),
       cmdConverti(MakeButtons(*this, std::make_index_sequence<kVoci.size()>())),
       cmdESCI(*this, "cmdESCI", "ESCI", Button::Role::Close) {
-  std::vector<Layout> sinistra, destra;
+  std::vector<Layout> voci;
   for (std::size_t i = 0; i < kVoci.size(); ++i) {
-    (i < 8 ? sinistra : destra).emplace_back(cmdConverti[i]);
+    voci.emplace_back(cmdConverti[i]);
     const FeeCase* fee = FindFeeCase(kVoci[i].codice);
     cmdConverti[i].SetEnabled(fee != nullptr && fee->converti != nullptr &&
                               stato.folder.Exists(NomiDiCaso(kVoci[i].codice, true).FileInp));
     cmdConverti[i].onPress = [this, &stato, i] { Convert(stato, i); };
   }
-  SetContent(
-      Column({Row({Column(std::move(sinistra)), Column(std::move(destra))}), Buttons({cmdESCI})}));
+  SetContent(Column({Column(std::move(voci)), Buttons({cmdESCI})}));
   cmdESCI.onPress = [this] { Close(); };
 }
 
