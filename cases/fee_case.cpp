@@ -16,6 +16,8 @@
 #include "cases/pdl_data.h"
 #include "cases/ppe.h"
 #include "cases/ppe_data.h"
+#include "cases/sic.h"
+#include "cases/sic_data.h"
 #include "cases/stc.h"
 #include "cases/stc_data.h"
 #include "tariff/conversion.h"
@@ -49,8 +51,8 @@ const std::vector<FeeCase>& FeeCases() {
       {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl, ConvertiParcella<DatiPdl>},
       {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>, ConvertiParcella<DatiEsl>},
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcoloGEO, ConvertiParcella<DatiGeo>},
-      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kAllCriteria, nullptr, nullptr, nullptr},
-      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kAllCriteria, nullptr, nullptr, nullptr},
+      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kTabelleECompensi, DatiSIC, CalcoloSIC, ConvertiParcella<DatiSic>},
+      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kTabelleECompensi, DatiSIC, CalcoloSIC, ConvertiParcella<DatiSic>},
       {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, SenzaTotale<CalcoloPpe>, ConvertiParcella<DatiPpe>},
       {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcoloStc, ConvertiParcella<DatiStc>},
