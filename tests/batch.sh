@@ -1,0 +1,45 @@
+#!/bin/bash
+# The program without a screen: exit codes, messages, and a folder that recalculates byte for byte.
+# Called with CALCOLO.
+set -uo pipefail
+readonly calcolo=$1 scripts=$(cd "$(dirname "$0")/scripts" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+broken=0
+
+# expects CODE WORDS COMMAND...: the exit code, and the words on standard error.
+expects() {
+  local code=$1 words=$2 told
+  shift 2
+  told=$("$@" 2>&1 >/dev/null)
+  local got=$?
+  [ $got = "$code" ] || { echo "NON VALE: $* esce con $got, non $code"; broken=1; }
+  grep -qF "$words" <<<"$told" || { echo "NON VALE: $* dice: $told"; broken=1; }
+}
+
+expects 3 'Uso:' "$calcolo"
+expects 3 'Codice sconosciuto' "$calcolo" XXX
+expects 3 'GG/MM/AAAA' "$calcolo" PPE --data 31/02/2002
+expects 3 'Uso:' "$calcolo" --tutti --euro
+expects 1 'NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA' "$calcolo" PPE --cartella "$work"
+
+cp "$scripts/ppe/UTENTE.DAG" "$work"
+expects 1 'NON ESISTE IL FILE DEI DATI DI INTESTAZIONE' "$calcolo" PPE --cartella "$work"
+cp "$scripts/ppe/lire_INT.DAP" "$work/INT_PPE.DAP"
+printf '2,cinque\r\n' >"$work/INP_PPE.DAP"
+expects 2 'Campo : NumParticelle' "$calcolo" PPE --cartella "$work"
+[ ! -e "$work/OUT_PPE.DOC" ] || { echo "NON VALE: resta una parcella a metà"; broken=1; }
+
+# The notes of both currencies, each as its script has it, and again without a change.
+cp "$scripts/ppe/lire_INP.DAP" "$work/INP_PPE.DAP"
+expects 0 '' "$calcolo" PPE --cartella "$work" --data 15/03/2002
+cmp "$work/OUT_PPE.DOC" "$scripts/ppe/lire.DOC" || broken=1
+cp "$scripts/ppe/euro_INP.DAP" "$work/INP_PPE_E.DAP"
+cp "$scripts/ppe/euro_CRITERI.PER" "$work/CRITERI.PER"
+cp "$work/INT_PPE.DAP" "$work/INT_PPE_E.DAP"
+expects 0 '' "$calcolo" --tutti --cartella "$work" --data 15/03/2002
+mkdir "$work/prima" && cp "$work"/*.* "$work/prima"
+expects 0 '' "$calcolo" --tutti --cartella "$work" --data 15/03/2002
+for file in "$work/prima"/*; do cmp "$file" "$work/$(basename "$file")" || broken=1; done
+[ -e "$work/OUT_PPE_E.DOC" ] || broken=1
+exit $broken
