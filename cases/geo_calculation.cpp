@@ -49,7 +49,7 @@ std::array<bool, 6> ServiziFattiGeo(const RigaGeo& riga) {
 struct GruppoGeo {
   std::size_t primaRiga = 0, righe = 0;
   double ProgettoGruppo = 0, DirezioneGruppo = 0, BaseDirezione = 0;
-  double SommaProgetto = 0, SommaDirezione = 0;  // signed, as the specification shows them
+  double SommaProgetto = 0, SommaDirezione = 0;  // signed, as the list of amounts shows them
 };
 
 GruppoGeo BasiDelGruppo(const DatiGeo& d, std::size_t primaRiga, std::size_t righe) {

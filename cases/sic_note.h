@@ -28,7 +28,7 @@ class NotaSic {
     double ImportoBase;  // the larger of the two amounts
   };
   struct Gruppo {
-    double SommaProgetto = 0, SommaEseguito = 0;  // signed, as the specification shows them
+    double SommaProgetto = 0, SommaEseguito = 0;  // signed, as the list of amounts shows them
     double ProgettoGruppo = 0, EseguitoGruppo = 0;
     double BaseProgetto = 0, BaseEsecuzione = 0;
   };

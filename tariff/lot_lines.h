@@ -46,7 +46,7 @@ std::string TestoImporto(const RunState& stato, double importo);
 std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string_view categoria);
 // One line: `voce` from `colonna`, the amount of works from column 48.
 void StampaLavori(RunState& stato, int colonna, std::string_view voce, double importo);
-// The works designed, as the specification of amounts calls them: those of the original design have
+// The works designed, as the list of amounts calls them: those of the original design have
 // a minus, and are shown without it; nothing for 0.
 void StampaProgettoSpecifica(RunState& stato, int colonna, double importo);
 // One line: `voce` and the percentage, " su  " at `colonna`, its base from column 48.
