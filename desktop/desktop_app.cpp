@@ -2,7 +2,7 @@
 
 #include <QLocale>
 
-#include "desktop/italian_texts.h"
+#include "desktop/italian_captions.h"
 #include "desktop/pictures.h"
 
 namespace orm {
@@ -12,7 +12,7 @@ void DressApplication(QApplication& application) {
   QGuiApplication::setApplicationDisplayName({});
   QGuiApplication::setDesktopFileName("orm2002");
   QApplication::setWindowIcon(ProgramIcon());
-  QCoreApplication::installTranslator(new ItalianTexts(&application));
+  QCoreApplication::installTranslator(new ItalianCaptions(&application));
 }
 
 }  // namespace orm

@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "desktop/italian_captions.h"
 #include "desktop/viewer_export.h"
-#include "desktop/viewer_italian.h"
 #include "desktop/viewer_messages.h"
 #include "desktop/viewer_window.h"
 #include "runtime/failure.h"

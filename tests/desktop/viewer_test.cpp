@@ -15,10 +15,10 @@
 #include <QTimer>
 #include <random>
 
+#include "desktop/italian_captions.h"
 #include "desktop/viewer_export.h"
 #include "desktop/viewer_file.h"
 #include "desktop/viewer_find.h"
-#include "desktop/viewer_italian.h"
 #include "desktop/viewer_messages.h"
 #include "desktop/viewer_notice.h"
 #include "desktop/viewer_page.h"

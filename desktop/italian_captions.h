@@ -7,6 +7,7 @@ namespace orm {
 
 class ItalianCaptions : public QTranslator {
  public:
+  using QTranslator::QTranslator;
   QString translate(const char* context, const char* source, const char* disambiguation,
                     int number) const override;
   bool isEmpty() const override { return false; }

@@ -1,5 +1,5 @@
 // Captions of Qt's own dialogs and menus, by their English text.
-#include "desktop/viewer_italian.h"
+#include "desktop/italian_captions.h"
 
 #include <algorithm>
 #include <array>
@@ -154,6 +154,16 @@ constexpr auto kCaptions = std::to_array<Caption>({
     {"Millimeters (mm)", "Millimetri (mm)"},
     {"Inches (in)", "Pollici (in)"},
     {"Points (pt)", "Punti (pt)"},
+    // Entry fields, and what only some versions of the dialogs have.
+    {"Copy &Link Location", "Copia l'indirizzo"},
+    {"&OK", "&OK"},
+    {"&Close", "&Chiudi"},
+    {"&Choose", "&Scegli"},
+    {"Duplex Printing", "Fronte e retro"},
+    {"None", "No"},
+    {"Long side", "Lato lungo"},
+    {"Short side", "Lato corto"},
+    {"Page Setup", "Imposta pagina"},
 });
 // clang-format on
 
