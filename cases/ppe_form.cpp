@@ -24,7 +24,10 @@ FrmPpeDati::FrmPpeDati(const DatiPpe& dati)
   ciVC[0].SetValue(dati.NumParticelleVerbale);
   ciVC[1].SetValue(dati.NumFabbricati);
   ciFrazionamenti.SetValue(dati.NumFrazionamenti);
-  cmdESCI.onPress = [this] { Close(); };
+  cmdESCI.onPress = [this] {
+    Confermato = true;
+    Close();
+  };
 }
 
 DatiPpe FrmPpeDati::Dati() const {
