@@ -54,6 +54,7 @@ void Place(QLabel& balloon, const QWidget& field) {
 
 void ShowBalloon(QWidget& field, const std::string& text) {
   if (!field.isVisible()) return;
+  if (text.empty()) return HideBalloon(field);
   QLabel* balloon = Existing(field);
   if (balloon == nullptr) balloon = Make(field.window());
   balloon->setText(ToQt(text));

@@ -125,7 +125,11 @@ void FormBuilder::AddItem(Control& control, QBoxLayout* into) {
   const bool keeps = view.KeepsWidth();
   const bool down = into->direction() == QBoxLayout::TopToBottom;
   Qt::Alignment alignment;
-  if (keeps && down) alignment = Qt::AlignLeft;
+  // Buttons below each other are as wide as the widest.
+  const bool button = control.GetKind() == Kind::Button;
+  if (button && down)
+    view.Whole()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  else if (keeps && down) alignment = Qt::AlignLeft;
   if (!down && !view.Grows()) alignment = Qt::AlignVCenter;
   into->addWidget(view.Whole(), view.Grows() ? 1 : 0, alignment);
 }
