@@ -29,7 +29,7 @@ DatiPdl TuttiIBlocchi() {
   d.IncaricoParziale = d.CertificatoRegolare = "SI";
   d.PeriodoMassimo = "5";
   for (int i = 0; i < kLottiDellaNota; ++i) {
-    LottoPdl& lotto = d.Lotti.emplace_back();
+    LottoARighe& lotto = d.Lotti.emplace_back();
     for (int j = 0; j < kRighePerLotto; ++j) {
       RigaPdl& r = d.Righe.emplace_back();
       r.Classe = "1";

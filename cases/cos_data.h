@@ -49,7 +49,7 @@ void Campi(Archive& file, DatiCos& d) {
   d.Lotti.resize(static_cast<std::size_t>(LottiCS));
   d.Righe.resize(static_cast<std::size_t>(RigheCS));
   CampiLottiARighe(file, d.Lotti, d.Righe.size(),
-                   {"RigheLottoCS", "UltimaRigaCS", "PeriodoRigaCS"});
+                   {"RigheLottoCS", "UltimaRigaCS", "PeriodoRigaCS", 5});
   for (RigaCos& riga : d.Righe)
     file.Line(Field("Classe", riga.Classe), Field("Categoria", riga.Categoria),
               Field("Periodo", riga.Periodo),

@@ -2,6 +2,7 @@
 #include "cases/cos_config.h"
 #include "cases/cos_form.h"
 #include "cases/pdl_form_period.h"
+#include "runtime/numbers.h"
 #include "tariff/form_amount.h"
 #include "tariff/form_question.h"
 #include "tariff/input_step.h"
@@ -27,22 +28,20 @@ class CatenaCos : public CatenaRighe<RigaCos> {
     return ChiediClasse(stato, classi, posto, modello.Classe, modello.Categoria);
   }
 
-  std::optional<std::int16_t> ChiediPeriodo(const PostoLotto& posto, const std::string& rifiuto,
-                                            int ultimo, bool esiste, const RigaCos& riga) override {
+  std::optional<std::int16_t> ChiediPeriodo(const PostoRiga& posto, const RigaCos& riga) override {
     if (!periodi) return std::int16_t{0};
-    FrmPdlTariffe form(stato.player, DoveSiamo(posto, riga.Classe, riga.Categoria), ultimo,
-                       riga.Periodo, esiste);
-    form.Rifiuto = rifiuto;
+    FrmPdlTariffe form(stato.player,
+                       DoveSiamo(posto.lotto, posto.modello.Classe, posto.modello.Categoria),
+                       posto.ultimo, riga.Periodo, posto.esiste);
+    form.Rifiuto = posto.rifiuto;
     stato.player.Show(form);
-    if (form.Tariffa == "0") return std::nullopt;
-    return static_cast<std::int16_t>(form.Tariffa[0] - '0');
+    return form.Periodo();
   }
 
-  void ChiediRiga(const PostoLotto&, const RigaCos& modello, std::int16_t periodo,
-                  RigaCos& riga) override {
-    riga.Classe = modello.Classe;
-    riga.Categoria = modello.Categoria;
-    riga.Periodo = periodo == 0 ? "" : std::string(1, static_cast<char>('0' + periodo));
+  void ChiediRiga(const PostoRiga& posto, std::int16_t periodo, RigaCos& riga) override {
+    riga.Classe = posto.modello.Classe;
+    riga.Categoria = posto.modello.Categoria;
+    riga.Periodo = periodo == 0 ? "" : NumberText(periodo);
     FrmGenUnoImporti form(stato, "LAVORI VERIFICATI", "Importo del Lotto", riga.ImportoVerificato);
     form.SetClasseCategoria("CLASSE / CATEGORIA", riga.Categoria.empty()
                                                       ? riga.Classe

@@ -2,6 +2,7 @@
 
 #include "cases/geo.h"
 #include "cases/geo_forms.h"
+#include "runtime/numbers.h"
 #include "tariff/form_amount.h"
 #include "tariff/form_kind.h"
 #include "tariff/form_question.h"
@@ -35,19 +36,17 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
     return true;
   }
 
-  std::optional<std::int16_t> ChiediPeriodo(const PostoLotto& posto, const std::string& rifiuto,
-                                            int ultimo, bool esiste, const RigaGeo& riga) override {
-    FrmGeoTariffe form(stato.player, tabelle, Dove(posto, riga), ultimo, riga.Tariffa, esiste);
-    form.Rifiuto = rifiuto;
+  std::optional<std::int16_t> ChiediPeriodo(const PostoRiga& posto, const RigaGeo& riga) override {
+    FrmGeoTariffe form(stato.player, tabelle, Dove(posto.lotto, posto.modello), posto.ultimo,
+                       riga.Tariffa, posto.esiste);
+    form.Rifiuto = posto.rifiuto;
     stato.player.Show(form);
-    if (form.Tariffa == "0") return std::nullopt;
-    return static_cast<std::int16_t>(form.Tariffa[0] - '0');
+    return form.Periodo();
   }
 
-  void ChiediRiga(const PostoLotto& posto, const RigaGeo& modello, std::int16_t periodo,
-                  RigaGeo& riga) override {
-    riga.Sottoclasse = modello.Sottoclasse;
-    riga.Tariffa = std::string(1, static_cast<char>('0' + periodo));
+  void ChiediRiga(const PostoRiga& posto, std::int16_t periodo, RigaGeo& riga) override {
+    riga.Sottoclasse = posto.modello.Sottoclasse;
+    riga.Tariffa = NumberText(periodo);
     double progetto = 0, direzione = 0;
     for (const RigaGeo& r : Fatte()) {
       progetto += std::fabs(r.ImportoProgetto);
@@ -58,7 +57,7 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
     stato.player.Show(importi);
     riga.ImportoProgetto = importi.ImportoProgetto;
     riga.ImportoDirezione = importi.ImportoDirezione;
-    FrmGeoPrestazio prestazioni(Dove(posto, riga) + "   " + nome, riga);
+    FrmGeoPrestazio prestazioni(Dove(posto.lotto, riga) + "   " + nome, riga);
     stato.player.Show(prestazioni);
     riga.TipoDiPrestazione = prestazioni.TipoDiPrestazione;
     riga.StringaDellePrestazioni = prestazioni.StringaDellePrestazioni;

@@ -60,13 +60,13 @@ void NotaPdl::CalcolaCompensi() {
 void NotaPdl::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
   std::size_t righe = 0;
-  for (const LottoPdl& lotto : d.Lotti) {
+  for (const LottoARighe& lotto : d.Lotti) {
     CalcolaLotto(righe, lotto);
     righe += lotto.PeriodoDelLotto.size();
   }
 }
 
-void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoPdl& lotto) {
+void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto) {
   const auto righe = std::span(d.Righe).subspan(primaRiga, lotto.PeriodoDelLotto.size());
   const BasiLotto basi = BasiDelLotto(righe, d.TipoParcella);
   double direzionePrima = 0;

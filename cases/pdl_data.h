@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "runtime/data_file.h"
-#include "runtime/failure.h"
+#include "tariff/row_lots.h"
 
 namespace orm {
 
@@ -45,17 +44,12 @@ struct RigaPdl {
   std::array<PeriziaPdl, kPerizieMassime> Perizie;
 };
 
-struct LottoPdl {
-  std::int16_t UltimaRiga = 0;                // number of its last row, from 1
-  std::vector<std::int16_t> PeriodoDelLotto;  // tariff periods, one for each of its rows
-};
-
 struct DatiPdl {
   std::string TipoParcella = "NORMALE";  // "CONSUNTIVA", "INTERROTTA", "SCISSA"
   std::string IncaricoParziale = "NO";   // "SI": increase of art. 18
   std::string CertificatoRegolare = "NO";
   std::string PeriodoMassimo = "1";  // selects the table of the certificate
-  std::vector<LottoPdl> Lotti;
+  std::vector<LottoARighe> Lotti;
   std::vector<RigaPdl> Righe;
 };
 
@@ -84,28 +78,6 @@ void CampiRiga(Archive& file, RigaPdl& r) {
   }
 }
 
-// The counts must agree: the rows of a lot follow those of the lot before, one for each period.
-template <class Archive>
-void CampiLotti(Archive& file, DatiPdl& d) {
-  std::size_t righe = 0;
-  int linea = 1;  // behind the line of the counts
-  for (LottoPdl& lotto : d.Lotti) {
-    ++linea;
-    auto PeriodiDelLotto = static_cast<std::int16_t>(lotto.PeriodoDelLotto.size());
-    file.Line(CountField("PeriodiDelLotto", PeriodiDelLotto, kRighePdlMassime),
-              CountField("UltimaRiga", lotto.UltimaRiga, static_cast<int>(d.Righe.size())));
-    lotto.PeriodoDelLotto.resize(static_cast<std::size_t>(PeriodiDelLotto));
-    righe += lotto.PeriodoDelLotto.size();
-    if (righe != static_cast<std::size_t>(lotto.UltimaRiga))
-      throw RuntimeFailure("Le righe dei lotti non corrispondono ai loro periodi.")
-          .AtLine(linea)
-          .AtField("UltimaRiga");
-  }
-  for (LottoPdl& lotto : d.Lotti)
-    for (std::int16_t& periodo : lotto.PeriodoDelLotto)
-      file.Line(Field("PeriodoDelLotto", periodo));
-}
-
 template <class Archive>
 void Campi(Archive& file, DatiPdl& d) {
   auto NumeroLottiPdl = static_cast<std::int16_t>(d.Lotti.size());
@@ -115,7 +87,8 @@ void Campi(Archive& file, DatiPdl& d) {
             CountField("NumeroRighePdl", NumeroRighePdl, kRighePdlMassime));
   d.Lotti.resize(static_cast<std::size_t>(NumeroLottiPdl));
   d.Righe.resize(static_cast<std::size_t>(NumeroRighePdl));
-  CampiLotti(file, d);
+  CampiLottiARighe(file, d.Lotti, d.Righe.size(),
+                   {"PeriodiDelLotto", "UltimaRiga", "PeriodoDelLotto"});
   file.Line(Field("CertificatoRegolare", d.CertificatoRegolare),
             Field("PeriodoMassimo", d.PeriodoMassimo));
   for (RigaPdl& riga : d.Righe) CampiRiga(file, riga);

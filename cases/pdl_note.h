@@ -40,7 +40,7 @@ class NotaPdl {
     double aliquota;
   };
 
-  void CalcolaLotto(std::size_t primaRiga, const LottoPdl& lotto);
+  void CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto);
   Conto PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
                      double direzionePrima) const;
   void CalcolaRiga(const Conto& conto, std::size_t numero);

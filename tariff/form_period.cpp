@@ -33,6 +33,11 @@ FrmTariffe::FrmTariffe(Player& player, const TestiTariffe& testi, std::string do
   };
 }
 
+std::optional<std::int16_t> FrmTariffe::Periodo() const {
+  if (Tariffa == "0") return std::nullopt;
+  return static_cast<std::int16_t>(Tariffa[0] - '0');
+}
+
 void FrmTariffe::Confirm(Player& player) {
   if (!Rifiuto.empty()) {
     player.Ask(Avviso(Rifiuto));

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <optional>
 
 #include "dialogs/form.h"
 #include "dialogs/player.h"
@@ -25,6 +27,7 @@ class FrmTariffe : public Form {
   // When not empty, why no further row can be entered: shown instead of taking the period.
   std::string Rifiuto;
   std::string Tariffa;  // "1" to "5", "0" at the end of the periods
+  std::optional<std::int16_t> Periodo() const;
 
   Label lblLotto;
   Frame Frame1;

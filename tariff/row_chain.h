@@ -45,14 +45,19 @@ class CatenaRighe {
   // False at the end of the lots.
   virtual bool ChiediTestata(const PostoLotto& posto, const std::string& rifiuto,
                              Riga& modello) = 0;
-  // The period of a row, after `ultimo`, the last one of the lot; nothing at the end of the
-  // periods.
-  virtual std::optional<std::int16_t> ChiediPeriodo(const PostoLotto& posto,
-                                                    const std::string& rifiuto, int ultimo,
-                                                    bool esiste, const Riga& riga) = 0;
-  // The rest of a row, with the heading that it takes from `modello`.
-  virtual void ChiediRiga(const PostoLotto& posto, const Riga& modello, std::int16_t periodo,
-                          Riga& riga) = 0;
+  // A row on its way through the dialogs. Its heading is that of `modello`, also where the row that
+  // existed had another one.
+  struct PostoRiga {
+    const PostoLotto& lotto;
+    const Riga& modello;
+    const std::string rifiuto;
+    int ultimo;  // the last period of the lot before it, 0 for none
+    bool esiste;
+  };
+  // The period of a row, nothing at the end of the periods.
+  virtual std::optional<std::int16_t> ChiediPeriodo(const PostoRiga& posto, const Riga& riga) = 0;
+  // The rest of a row.
+  virtual void ChiediRiga(const PostoRiga& posto, std::int16_t periodo, Riga& riga) = 0;
 
   // The rows of the note entered so far.
   const std::vector<Riga>& Fatte() const { return righe; }
@@ -92,10 +97,10 @@ class CatenaRighe {
       Riga riga = esiste ? sue[j] : Riga();
       const int ultimo = lotto.PeriodoDelLotto.empty() ? 0 : lotto.PeriodoDelLotto.back();
       const bool pieno = !esiste && righe.size() + RigheDopo(posto) >= limiti.righe;
-      const auto periodo =
-          ChiediPeriodo(posto, pieno ? RifiutoRiga() : "", ultimo, esiste, esiste ? riga : modello);
+      const PostoRiga qui{posto, modello, pieno ? RifiutoRiga() : "", ultimo, esiste};
+      const auto periodo = ChiediPeriodo(qui, riga);
       if (!periodo) break;
-      ChiediRiga(posto, modello, *periodo, riga);
+      ChiediRiga(qui, *periodo, riga);
       righe.push_back(std::move(riga));
       lotto.PeriodoDelLotto.push_back(*periodo);
     }

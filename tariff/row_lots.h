@@ -19,11 +19,12 @@ struct LottoARighe {
   std::vector<std::int16_t> PeriodoDelLotto;  // tariff periods, one for each of its rows
 };
 
-// The names of the fields for messages, as each case calls them.
+// What messages call the fields and where they stand, as each case has it.
 struct NomiLottiARighe {
   const char* righe;
   const char* ultima;
   const char* periodo;
+  int lineaDeiConti = 1;  // the line before the first lot
 };
 
 // The lots in a list that has its length already. The counts must agree with each other and with
@@ -33,7 +34,9 @@ void CampiLottiARighe(Archive& file, std::vector<LottoARighe>& lotti, std::size_
                       const NomiLottiARighe& nomi) {
   const int massimo = static_cast<int>(righe);
   std::size_t somma = 0;
+  int linea = nomi.lineaDeiConti;
   for (LottoARighe& lotto : lotti) {
+    ++linea;
     auto RigheDelLotto = static_cast<std::int16_t>(lotto.PeriodoDelLotto.size());
     file.Line(CountField(nomi.righe, RigheDelLotto, massimo),
               CountField(nomi.ultima, lotto.UltimaRiga, massimo));
@@ -41,10 +44,13 @@ void CampiLottiARighe(Archive& file, std::vector<LottoARighe>& lotti, std::size_
     somma += lotto.PeriodoDelLotto.size();
     if (somma != static_cast<std::size_t>(lotto.UltimaRiga))
       throw RuntimeFailure("Le righe dei lotti non corrispondono ai loro periodi.")
+          .AtLine(linea)
           .AtField(nomi.ultima);
   }
   if (somma != righe)
-    throw RuntimeFailure("I lotti non hanno tante righe quante la parcella.").AtField(nomi.righe);
+    throw RuntimeFailure("I lotti non hanno tante righe quante la parcella.")
+        .AtLine(linea)
+        .AtField(nomi.righe);
   for (LottoARighe& lotto : lotti)
     for (std::int16_t& periodo : lotto.PeriodoDelLotto) file.Line(Field(nomi.periodo, periodo));
 }

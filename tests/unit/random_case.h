@@ -77,7 +77,7 @@ class Caso {
     d.PeriodoMassimo = Fra({"1", "3", "5"});
     int contabilita = 0;
     for (int n = Fino(9); n > 0 && d.Righe.size() < 15; --n) {
-      LottoPdl& lotto = d.Lotti.emplace_back();
+      LottoARighe& lotto = d.Lotti.emplace_back();
       RigaPdl modello;
       Classe(modello.Classe, modello.Categoria);
       for (int periodo = 1; periodo <= 5; ++periodo)
