@@ -129,7 +129,8 @@ void FormBuilder::AddItem(Control& control, QBoxLayout* into) {
   const bool button = control.GetKind() == Kind::Button;
   if (button && down)
     view.Whole()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  else if (keeps && down) alignment = Qt::AlignLeft;
+  else if (keeps && down)
+    alignment = Qt::AlignLeft;
   if (!down && !view.Grows()) alignment = Qt::AlignVCenter;
   into->addWidget(view.Whole(), view.Grows() ? 1 : 0, alignment);
 }

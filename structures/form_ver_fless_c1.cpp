@@ -48,7 +48,7 @@ std::string BoxText(EsitoC esito) {
     case EsitoC::Fatto:
       break;
   }
-  return first;
+  return {};
 }
 
 }  // namespace
