@@ -21,6 +21,12 @@ void Calculate(RunState& stato, Calcolo&& calcolo) {
   Require(stato.NumFileUscita.Contents().ends_with("\r\n"), "la parcella è intera");
 }
 
+// A tariff file as an installation brings it, where the folder has none yet.
+inline void Install(const WorkFolder& folder, const char* name) {
+  if (!folder.Exists(name))
+    folder.Replace(name, WorkFolder(ORM_SOURCE_DIR "/data").Read(name), Durability::Remakeable);
+}
+
 // `Dati` is the case's struct, `calcolo` its calculation on a run state.
 template <class Dati, class Calcolo>
 int CheckNote(const std::uint8_t* data, std::size_t size, Calcolo&& calcolo) {

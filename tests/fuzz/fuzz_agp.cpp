@@ -1,0 +1,9 @@
+// INP_AGP.DAP, the lots of a note of price updating.
+#include "cases/agp.h"
+#include "cases/agp_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiAgp>(data, size,
+                                            [](orm::RunState& stato) { orm::CalcoloAgp(stato); });
+}

@@ -1,0 +1,11 @@
+// INP_GEO.DAP, the groups of a note of geotechnical services.
+#include "cases/geo.h"
+#include "cases/geo_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiGeo>(data, size, [](orm::RunState& stato) {
+    orm::fuzz::Install(stato.folder, "GEO.CFG");
+    orm::CalcoloGEO(stato);
+  });
+}

@@ -1,0 +1,11 @@
+// INP_SC1.DAP, the lots of a note of site safety; every other one by the decree of 2001.
+#include "cases/sic.h"
+#include "cases/sic_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiSic>(data, size, [size](orm::RunState& stato) {
+    stato.CasoDiParcella = size % 2 == 0 ? "SC1" : "SC2";
+    orm::CalcoloSIC(stato);
+  });
+}

@@ -1,0 +1,11 @@
+// INP_STC.DAP, a condition survey.
+#include "cases/stc.h"
+#include "cases/stc_data.h"
+#include "tests/fuzz/note_fuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  return orm::fuzz::CheckNote<orm::DatiStc>(data, size, [](orm::RunState& stato) {
+    orm::fuzz::Install(stato.folder, "IND.CFG");
+    orm::CalcoloStc(stato);
+  });
+}
