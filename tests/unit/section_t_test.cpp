@@ -151,6 +151,18 @@ TEST(SectionT, ClosedFormulasOfTheSinglyReinforcedRectangle) {
   EXPECT_EQ(r[13], 0);
 }
 
+// The balanced section of the British code of practice CP 114 (1957) for a modular ratio of 15 and
+// 1000 and 20000 lb/sq.in., in the figures that handbooks of its time print: 1.07 % of steel, axis
+// at 0.43 d, moment of resistance 184 b d^2. Any consistent units serve; the figures have three
+// digits.
+TEST(SectionT, BalancedSectionOfThePrintedCode) {
+  const double b = 12, d = 20;
+  const RisultatiSezione r = Results(Rectangle(b, 23, {{0.0107 * b * d, d}}, 184 * b * d * d));
+  EXPECT_NEAR(r[1] / d, 0.43, 0.005);
+  EXPECT_NEAR(r[2], -1000, 5);
+  EXPECT_NEAR(r[4], 20000, 100);
+}
+
 // Doubly reinforced: b x^2 / 2 + n A' (x - d') = n A (d - x), a quadratic equation.
 TEST(SectionT, ClosedFormulasOfTheDoublyReinforcedRectangle) {
   // b 40, H 60, A 20 at 56, A' 8 at 4, M 12000 kg x m. By hand: 20 x^2 + 420 x - 17280 = 0,
