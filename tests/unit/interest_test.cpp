@@ -3,9 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "runtime/failure.h"
+#include "tests/unit/note_test.h"
 
 namespace orm {
 namespace {
@@ -85,11 +84,6 @@ TEST(Interest, FailuresAreClear) {
 
 class InterestRates : public testing::Test {
  protected:
-  InterestRates() : path_(testing::TempDir() + "tus_test"), folder_(path_) {
-    std::filesystem::create_directories(path_);
-  }
-  ~InterestRates() override { std::filesystem::remove_all(path_); }
-
   TabellaTus Leggi(std::string_view text) {
     folder_.Replace(kFileTus, text);
     return LeggiTabellaTus(folder_, kOggi);
@@ -103,8 +97,8 @@ class InterestRates : public testing::Test {
     return "nessun guasto";
   }
 
-  std::string path_;
-  WorkFolder folder_;
+  TemporaryFolder place_;  // its own, beside other runs of the tests
+  WorkFolder folder_{place_.Path()};
 };
 
 TEST_F(InterestRates, LastPeriodEndsToday) {

@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <random>
 #include <vector>
 
 #include "runtime/failure.h"
+#include "tests/unit/note_test.h"
 #include "utilities/pension_file.h"
 
 namespace orm {
@@ -112,12 +112,8 @@ TEST(Pension, TheBestTwelveOfTheYearsSeen) {
 
 class PensionFile : public testing::Test {
  protected:
-  PensionFile() : path_(testing::TempDir() + "redditi_test"), folder_(path_) {
-    std::filesystem::create_directories(path_);
-  }
-  ~PensionFile() override { std::filesystem::remove_all(path_); }
-  std::string path_;
-  WorkFolder folder_;
+  TemporaryFolder place_;  // its own, beside other runs of the tests
+  WorkFolder folder_{place_.Path()};
 };
 
 TEST_F(PensionFile, KeepsTheFirstLine) {
