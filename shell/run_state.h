@@ -9,6 +9,7 @@
 #include "dialogs/player.h"
 #include "runtime/folder.h"
 #include "runtime/report_printer.h"
+#include "runtime/run_memory.h"
 
 namespace orm {
 
@@ -62,6 +63,9 @@ struct RunState {
   Chiusura chiusura;
   Criteri criteri;
   Editors editors;
+
+  // Dialogs that keep their last choices, counters of what was printed.
+  RunMemory memoria;
 
   // The report of the calculation that is running. It reaches the folder when the calculation has
   // ended well, so that a failure leaves an older report as it was.

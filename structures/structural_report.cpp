@@ -1,0 +1,65 @@
+#include "structures/structural_report.h"
+
+#include <map>
+#include <utility>
+
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+namespace orm {
+namespace {
+// Elements printed in this run, by file.
+struct ElementiStampati {
+  std::map<std::string, int> quanti;
+};
+}  // namespace
+
+void StampaSezione(ReportPrinter& relazione, std::string_view titolo) {
+  relazione.Line();
+  relazione.Text("== ").Text(titolo).Line(" ==");
+}
+
+void StampaDato(ReportPrinter& relazione, std::string_view etichetta, std::string_view valore,
+                std::string_view unita) {
+  relazione.Text(etichetta).Text(valore).Line(unita);
+}
+
+namespace {
+void StampaInizio(ReportPrinter& relazione, std::string_view etichetta, double valore,
+                  std::string_view modello, std::string_view unita) {
+  relazione.Text(etichetta).Tab(kColonnaValore).Text(FormatPattern(valore, modello));
+  relazione.Tab(kColonnaUnita).Text(unita);
+}
+}  // namespace
+
+void StampaValore(ReportPrinter& relazione, std::string_view etichetta, double valore,
+                  std::string_view modello, std::string_view unita) {
+  StampaInizio(relazione, etichetta, valore, modello, unita);
+  relazione.EndLine();
+}
+
+void StampaValoreConLimite(ReportPrinter& relazione, std::string_view etichetta, double valore,
+                           std::string_view modello, std::string_view unita,
+                           std::string_view limite, double ammesso) {
+  StampaInizio(relazione, etichetta, valore, modello, unita);
+  relazione.Tab(kColonnaLimite).Text(limite).Text(FormatPattern(ammesso, modello));
+  relazione.Tab(kColonnaUnitaLimite).Line(unita);
+}
+
+RelazioneStrutturale::RelazioneStrutturale(RunState& stato, std::string file)
+    : stato_(stato), file_(std::move(file)) {}
+
+int RelazioneStrutturale::Numero() const {
+  return stato_.memoria.The<ElementiStampati>().quanti[file_] + 1;
+}
+
+void RelazioneStrutturale::Stampa(const ReportPrinter& elemento) {
+  std::string bytes;
+  if (Accodata() && stato_.folder.Exists(file_)) bytes = stato_.folder.Read(file_);
+  bytes += ToWindows1252(elemento.Contents());
+  stato_.folder.Replace(file_, bytes, Durability::Remakeable);
+  ++stato_.memoria.The<ElementiStampati>().quanti[file_];
+  stato_.player.StartProgram(stato_.editors.EditorTesti, file_);
+}
+
+}  // namespace orm

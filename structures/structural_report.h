@@ -1,0 +1,54 @@
+// Reports of slabs and cantilevers: one layout of captions, values and units, and one file for each
+// kind of element, which every run of the program begins anew and then goes on.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "shell/run_state.h"
+
+namespace orm {
+
+inline constexpr int kColonnaValore = 34;
+inline constexpr int kColonnaUnita = 42;
+inline constexpr int kColonnaLimite = 50;
+inline constexpr int kColonnaUnitaLimite = 70;
+
+inline constexpr const char* kAmmessa = "Ammessa : ";
+inline constexpr const char* kAccettata = "Accettata : ";
+
+// An empty line and "== TITOLO ==".
+void StampaSezione(ReportPrinter& relazione, std::string_view titolo);
+
+// A line of the element's data: the caption has its blanks up to the value, which the unit follows
+// as it is written.
+void StampaDato(ReportPrinter& relazione, std::string_view etichetta, std::string_view valore,
+                std::string_view unita = {});
+
+// Caption at column 1, value at 34 by its pattern, unit at 42.
+void StampaValore(ReportPrinter& relazione, std::string_view etichetta, double valore,
+                  std::string_view modello, std::string_view unita);
+
+// The same and at column 50 `limite` ("Ammessa : ") with the allowed value, its unit at 70.
+void StampaValoreConLimite(ReportPrinter& relazione, std::string_view etichetta, double valore,
+                           std::string_view modello, std::string_view unita,
+                           std::string_view limite, double ammesso);
+
+// The report of one kind of element, known by its file. The number of elements that it holds
+// belongs to the run of the program.
+class RelazioneStrutturale {
+ public:
+  RelazioneStrutturale(RunState& stato, std::string file);
+  // The number that the next element has, from 1 in every run.
+  int Numero() const;
+  bool Accodata() const { return Numero() > 1; }
+  // Writes the element, alone when it is the first of the run, else behind those before it, and
+  // opens the report. A failure to write leaves file and number as they were.
+  void Stampa(const ReportPrinter& elemento);
+
+ private:
+  RunState& stato_;
+  std::string file_;
+};
+
+}  // namespace orm
