@@ -15,6 +15,7 @@
 #include "shell/letter.h"
 #include "shell/shell_boxes.h"
 #include "shell/technical_notes.h"
+#include "structures/form_solaio_traliccio.h"
 #include "structures/form_ver_fless_c1.h"
 #include "structures/form_ver_fless_t1.h"
 #include "utilities/form_accounting_fee.h"
@@ -80,6 +81,7 @@ constexpr std::array kCommands = {
     Command{"INFORMA_SOLAIT", MostraNotaSolai},
     Command{"VER_ST1", MostraVerFlessT1},
     Command{"ver_SC1", MostraVerFlessC1},
+    Command{"VER_SOLAIO_T", MostraSolaioTraliccio},
     Command{"Informa_Informazioni", ShowInformation},
 };
 

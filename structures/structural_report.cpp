@@ -53,9 +53,11 @@ int RelazioneStrutturale::Numero() const {
   return stato_.memoria.The<ElementiStampati>().quanti[file_] + 1;
 }
 
+bool RelazioneStrutturale::Accodata() const { return Numero() > 1 && stato_.folder.Exists(file_); }
+
 void RelazioneStrutturale::Stampa(const ReportPrinter& elemento) {
   std::string bytes;
-  if (Accodata() && stato_.folder.Exists(file_)) bytes = stato_.folder.Read(file_);
+  if (Accodata()) bytes = stato_.folder.Read(file_);
   bytes += ToWindows1252(elemento.Contents());
   stato_.folder.Replace(file_, bytes, Durability::Remakeable);
   ++stato_.memoria.The<ElementiStampati>().quanti[file_];

@@ -41,7 +41,8 @@ class RelazioneStrutturale {
   RelazioneStrutturale(RunState& stato, std::string file);
   // The number that the next element has, from 1 in every run.
   int Numero() const;
-  bool Accodata() const { return Numero() > 1; }
+  // True when the next element goes behind others of this run, whose file is still there.
+  bool Accodata() const;
   // Writes the element, alone when it is the first of the run, else behind those before it, and
   // opens the report. A failure to write leaves file and number as they were.
   void Stampa(const ReportPrinter& elemento);

@@ -1,0 +1,32 @@
+// frmVER_SOLAIO_TRALIC: design of a floor of one span, of truss joists and hollow blocks.
+#pragma once
+
+#include "dialogs/form.h"
+#include "shell/run_state.h"
+#include "structures/truss_slab_inputs.h"
+#include "structures/truss_slab_views.h"
+
+namespace orm {
+
+class FrmVerSolaioTralic : public Form {
+ public:
+  explicit FrmVerSolaioTralic(RunState& stato);
+
+  IngressiSolaio ingressi;
+  VisteSolaio viste;
+  Button comCalcola, comSTAMPA, ComEsci;
+
+ private:
+  void Calcola();
+  void Stampa();
+  void Azzera();
+
+  RunState& stato_;
+  // Of the design that is shown.
+  DatiSolaioT dati_;
+  RisultatiSolaioT risultati_;
+};
+
+void MostraSolaioTraliccio(RunState& stato);
+
+}  // namespace orm

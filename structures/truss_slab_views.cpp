@@ -1,0 +1,181 @@
+#include "structures/truss_slab_views.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "runtime/numbers.h"
+#include "structures/loads_dialog.h"
+#include "structures/truss_slab_drawing.h"
+
+namespace orm {
+namespace {
+
+constexpr std::array kEtichette = {"Taglio max  [    Kg    ]",
+                                   "Momento incastro SIN  [ Kg x m ]",
+                                   "Momento incastro DEX  [ Kg x m ]",
+                                   "Momento mezzeria  [ Kg x m ]",
+                                   "INCASTRO SIN  : Cls inf. sez. piena           [Kg/cmq] ",
+                                   "INCASTRO SIN  : Cls inf. travetto             [Kg/cmq] ",
+                                   "INCASTRO SIN  : Acciaio sup. sez. piena [Kg/cmq] ",
+                                   "INCASTRO SIN  : Acciaio sup. travetto     [Kg/cmq] ",
+                                   "INCASTRO DEX  : Acciaio sup. sez. piena [Kg/cmq] ",
+                                   "INCASTRO DEX  : Acciaio sup. travetto     [Kg/cmq] ",
+                                   "INCASTRO DEX  : Cls inf.  travetto             [Kg/cmq] ",
+                                   "Tensione tangenziale max  cls [Kg/cmq]",
+                                   "INCASTRO DEX  : Cls inf. sez. piena           [Kg/cmq] ",
+                                   "MEZZERIA     :  Tensione acciaio inf.      [Kg/cmq]",
+                                   "MEZZERIA     :  Tensione cls sup.           [Kg/cmq]",
+                                   "Lunghezza zona piena a SIN",
+                                   "Lunghezza zona piena a DEX"};
+constexpr std::size_t kPrimaTensione = 5, kUltimaTensione = 15;
+constexpr int kTangenziale = 12, kMezzeriaAcciaio = 14, kMezzeriaCls = 15;
+constexpr std::array kSollecitazioni = {1, 2, 3, 4};
+constexpr std::array kZonePiene = {16, 17};
+// Concrete and steel of the solid section, then of the ribs.
+constexpr std::array<int, 4> kSin = {5, 7, 6, 8}, kDex = {13, 9, 11, 10};
+
+enum Vista { Schema, Disegno, Tabella, Sollecitazioni, Tensioni };
+
+constexpr const char* kDueDecimali = "###0.00";
+
+TextOptions Risultato(const char* unita = "") {
+  return {.readOnly = true, .width = 9, .unit = unita};
+}
+
+}  // namespace
+
+RigaRisultato::RigaRisultato(Form& form, std::size_t indice, const char* etichetta, bool tensione)
+    : cdRisultati(form, NomeIndicizzato("cdRisultati", indice), etichetta, Risultato()) {
+  if (tensione)
+    cdVAmmessi.emplace(form, NomeIndicizzato("cdVAmmessi", indice), etichetta, Risultato());
+}
+
+VisteSolaio::VisteSolaio(Form& form)
+    : fraVisualizza(form, "fraVisualizza", "VISUALIZZA RISULTATI"),
+      optVisualizza{{{form, "optVisualizza(1)", "Schema input dati", gruppo},
+                     {form, "optVisualizza(2)", "Disegno armature", gruppo},
+                     {form, "optVisualizza(3)", "Tabella Ferri", gruppo},
+                     {form, "optVisualizza(4)", "Sollecitazioni ", gruppo},
+                     {form, "optVisualizza(5)", "Tensioni", gruppo}}},
+      fraDisegno(form, "fraDisegno", "DISEGNO SCHEMA ARMATURE"),
+      Lavagna(form, "Lavagna", kLarghezzaDisegno, kAltezzaDisegno, 900),
+      fraFerri(form, "fraFerri", "DISPOSIZIONE FERRI E LATERIZI"),
+      cdLunghezze{{{form, "cdLunghezze(1)", "Ferro aggiuntivo in campata", Risultato("ml")},
+                   {form, "cdLunghezze(2)", "Ferro integrativo n.1 in campata", Risultato("ml")},
+                   {form, "cdLunghezze(3)", "Ferro integrativo n.2 in campata", Risultato("ml")},
+                   {form, "cdLunghezze(4)", "Moncone lungo superiore SIN", Risultato("ml")},
+                   {form, "cdLunghezze(5)", "Moncone lungo superiore DEX", Risultato("ml")},
+                   {form, "cdLunghezze(6)", "Moncone corto superiore SIN", Risultato("ml")},
+                   {form, "cdLunghezze(7)", "Moncone corto superiore DEX", Risultato("ml")}}},
+      fraSollecitazioni(form, "fraSollecitazioni", "SOLLECITAZIONI "),
+      fraTensioni(form, "fraTensioni", "TENSIONI "),
+      lblColonne{{{form, "lblColonne(1)", ""},
+                  {form, "lblColonne(2)", "AMMESSE"},
+                  {form, "lblColonne(3)", "CALCOLATE"},
+                  {form, "lblColonne(4)", ""},
+                  {form, "lblColonne(5)", "AMMESSE"},
+                  {form, "lblColonne(6)", "CALCOLATE"}}} {
+  for (std::size_t i = 0; i < kEtichette.size(); ++i)
+    righe.emplace_back(form, i + 1, kEtichette[i],
+                       i + 1 >= kPrimaTensione && i + 1 <= kUltimaTensione);
+  for (const int zona : kZonePiene) Calcolato(zona).SetUnit("cm");
+}
+
+Layout VisteSolaio::TabellaTensioni(std::size_t primaColonna, const std::vector<int>& numeri) {
+  std::vector<Layout> lines{
+      Row({lblColonne[primaColonna], lblColonne[primaColonna + 1], lblColonne[primaColonna + 2]})};
+  for (const int numero : numeri) lines.push_back(Row({Ammesso(numero), Calcolato(numero)}));
+  return Fields(std::move(lines));
+}
+
+Layout VisteSolaio::Contents() {
+  std::vector<Layout> viste, sollecitazioni;
+  for (OptionButton& opt : optVisualizza) viste.emplace_back(opt);
+  for (const int numero : kSollecitazioni) sollecitazioni.emplace_back(Calcolato(numero));
+  return Column(
+      {Group(fraVisualizza, {Row(std::move(viste))}), Group(fraDisegno, {Lavagna}),
+       Group(fraFerri,
+             {Row({Fields({cdLunghezze[0], cdLunghezze[1], cdLunghezze[2], Calcolato(kZonePiene[0]),
+                           Calcolato(kZonePiene[1])}),
+                   Fields({cdLunghezze[3], cdLunghezze[4], cdLunghezze[5], cdLunghezze[6]})})}),
+       Group(fraSollecitazioni, {Fields(std::move(sollecitazioni))}),
+       Group(fraTensioni,
+             {Row({TabellaTensioni(
+                       0, {kMezzeriaCls, kMezzeriaAcciaio, kSin[0], kSin[2], kSin[1], kSin[3]}),
+                   TabellaTensioni(3, {kDex[0], kDex[2], kDex[1], kDex[3], kTangenziale})})})});
+}
+
+void VisteSolaio::TieEvents() {
+  for (OptionButton& opt : optVisualizza)
+    opt.onChange = [this, &opt] {
+      if (opt.Value()) ScegliVista();
+    };
+  optVisualizza[Schema].SetValue(true);
+}
+
+void VisteSolaio::ScegliVista() {
+  const int vista = gruppo.Chosen();
+  fraDisegno.SetVisible(vista == Schema || vista == Disegno);
+  fraFerri.SetVisible(vista == Tabella);
+  fraSollecitazioni.SetVisible(vista == Sollecitazioni);
+  fraTensioni.SetVisible(vista == Tensioni);
+  if (vista == Schema) DisegnaSchemaSolaio(Lavagna);
+  if (vista == Disegno && progettato_) DisegnaArmatureSolaio(Lavagna, dati_, risultati_);
+  if (vista == Disegno && !progettato_) Lavagna.Clear();
+}
+
+void VisteSolaio::Azzera() {
+  progettato_ = false;
+  for (RigaRisultato& riga : righe) {
+    riga.cdRisultati.SetText("");
+    if (riga.cdVAmmessi) riga.cdVAmmessi->SetText("");
+  }
+  for (TestoBox& lunghezza : cdLunghezze) lunghezza.SetText("");
+  ScegliVista();
+}
+
+void VisteSolaio::ScriviTensione(int numero, double valore, double ammessa) {
+  Calcolato(numero).SetText(FormatPattern(valore, kDueDecimali));
+  Ammesso(numero).SetText(FormatPattern(ammessa, kDueDecimali));
+}
+
+void VisteSolaio::ScriviAppoggio(const Appoggio& appoggio, const std::array<int, 4>& numeri) {
+  const Ammissibili& ammissibili = risultati_.ammissibili;
+  ScriviTensione(numeri[0], appoggio.clsPiena, ammissibili.cls);
+  ScriviTensione(numeri[1], appoggio.acciaioPiena, ammissibili.acciaio);
+  ScriviTensione(numeri[2], appoggio.clsNervata, ammissibili.cls);
+  ScriviTensione(numeri[3], appoggio.acciaioNervata, ammissibili.acciaio);
+}
+
+void VisteSolaio::ScriviFerri() {
+  const RisultatiSolaioT& r = risultati_;
+  const std::array lunghezze = {r.campata[0].lunghezza,     r.campata[1].lunghezza,
+                                r.campata[2].lunghezza,     r.sinistra.lungo.Lunghezza(),
+                                r.destra.lungo.Lunghezza(), r.sinistra.corto.Lunghezza(),
+                                r.destra.corto.Lunghezza()};
+  for (std::size_t i = 0; i < lunghezze.size(); ++i)
+    cdLunghezze[i].SetText(lunghezze[i] == 0 ? "" : FormatPattern(lunghezze[i], kDueDecimali));
+  for (const int zona : kZonePiene)
+    Calcolato(zona).SetText(FormatPattern(r.zonaPiena * 100, "##0.0"));
+}
+
+void VisteSolaio::Mostra(const DatiSolaioT& dati, const RisultatiSolaioT& risultati) {
+  dati_ = dati;
+  risultati_ = risultati;
+  progettato_ = true;
+  const std::array sollecitazioni = {risultati.taglio, risultati.sinistra.momento,
+                                     risultati.destra.momento, risultati.momentoMezzeria};
+  for (std::size_t i = 0; i < sollecitazioni.size(); ++i)
+    Calcolato(kSollecitazioni[i]).SetText(FormatPattern(sollecitazioni[i], kDueDecimali));
+  ScriviAppoggio(risultati.sinistra, kSin);
+  ScriviAppoggio(risultati.destra, kDex);
+  ScriviTensione(kMezzeriaCls, risultati.clsMezzeria, risultati.ammissibili.cls);
+  ScriviTensione(kMezzeriaAcciaio, risultati.acciaioMezzeria, risultati.ammissibili.acciaio);
+  ScriviTensione(kTangenziale, risultati.tau, risultati.ammissibili.taglio);
+  ScriviFerri();
+  optVisualizza[Disegno].SetValue(true);
+  ScegliVista();
+}
+
+}  // namespace orm
