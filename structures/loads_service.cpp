@@ -20,9 +20,9 @@ FrmStruttureCarichiAccidentali::FrmStruttureCarichiAccidentali()
   cdAltriCarichi.SetUnit(kKgMq);
   cdTotale.SetReadOnly(true);
   SetContent(Column({Group(fraSovraccarichi, {optCARICO.Contents()}),
-                     Row({Group(fraCoperture, {optCoperture.Contents()}),
-                          Column({Group(fraRimesse, {optRimesse.Contents()}),
-                                  Group(fraAltri, {Fields({cdAltriCarichi, cdTotale})})})}),
+                     Group(fraCoperture, {optCoperture.Contents()}),
+                     Row({Group(fraRimesse, {optRimesse.Contents()}),
+                          Group(fraAltri, {Fields({cdAltriCarichi, cdTotale})})}),
                      Buttons({OKButton})}));
   const auto aggiorna = [this] { cdTotale.SetValue(Totale()); };
   for (SceltaCarico* scelta : {&optCARICO, &optCoperture, &optRimesse})

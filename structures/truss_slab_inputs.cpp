@@ -13,6 +13,8 @@
 namespace orm {
 namespace {
 
+const NumberLimits kCarico{.most = 9999.9, .decimals = 1};
+
 template <class Voci>
 std::vector<std::string> Elenco(const Voci& voci) {
   return {voci.begin(), voci.end()};
@@ -43,10 +45,10 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
       cdLuce(form, "cdLuce", "Luce netta [ml]", {.most = 99.99, .decimals = 2}),
       cmbSolettina(form, "cmbSolettina", "Altezza  solettina [cm]", Elenco(SpessoriSolettina)),
       cmbTavellone(form, "cmbTavellone", "Tipo di Blocco", Elenco(Blocchi)),
-      lblBlocchi(form, "lblBlocchi", "I tipi di blocchi sono individuati da Larghezza x Altezza",
+      lblBlocchi(form, "lblBlocchi", "I tipi di blocchi sono individuati da\nLarghezza x Altezza",
                  Label::Style::Note),
       lblLaterizio(form, "lblLaterizio",
-                   "Blocchi in laterizio aventi funzione principale di alleggerimento",
+                   "Blocchi in laterizio aventi funzione\nprincipale di alleggerimento",
                    Label::Style::Note),
       cmbTipoDiFerro(form, "cmbTipoDiFerro", "Tipo di Acciaio", Elenco(TipiDiFerro)),
       cmbTipoDiCls(form, "cmbTipoDiCls", "Classe Cls", Classi()),
@@ -55,9 +57,9 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
       cmbCCM_DEX(form, "cmbCCM_DEX", "Incastro dex", Elenco(CoefficientiIncastro)),
       cmbCCM_MEZ(form, "cmbCCM_MEZ", "Mezzeria", Elenco(CoefficientiMezzeria)),
       fraCarichi(form, "fraCarichi", "CARICHI RIPARTITI a mq."),
-      cdCR{{{form, "cdCR(1)", "Peso proprio   [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(2)", "Permanente   [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(3)", "Accidentale   [Kg/mq]", kLimitiCarico}}},
+      cdCR{{{form, "cdCR(1)", "Peso proprio   [Kg/mq]", kCarico},
+            {form, "cdCR(2)", "Permanente   [Kg/mq]", kCarico},
+            {form, "cdCR(3)", "Accidentale   [Kg/mq]", kCarico}}},
       cmdCALCOLAPERMANENTE(form, "cmdCALCOLAPERMANENTE", "Analisi..."),
       cmdCalc_Acc(form, "cmdCalc_Acc", "Analisi..."),
       cmbFerri(form, "cmbFerri", "DIAMETRI DEI FERRI  [mm]"),
@@ -67,26 +69,26 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
                 {form, "cmbFERRI(4)", "Moncone Lungo", FinoA16()},
                 {form, "cmbFERRI(5)", "Moncone Corto", FinoA16()}}},
       lblVuoto(form, "lblVuoto",
-               "VUOTO : scelta automatica  o  0 : se non si vuole il tipo di ferro o il diametro",
+               "VUOTO : scelta automatica  o  0 : se non si\nvuole il tipo di ferro o il diametro",
                Label::Style::Note),
       lblAutomatica(form, "lblAutomatica",
-                    "Per la scelta automatica del diametro lasciare il campo vuoto.",
+                    "Per la scelta automatica del diametro\nlasciare il campo vuoto.",
                     Label::Style::Note),
       lblZero(form, "lblZero",
-              "Pe escludere un tipo di ferro porre il relativo diametro uguale a zero.",
+              "Pe escludere un tipo di ferro porre il\nrelativo diametro uguale a zero.",
               Label::Style::Note),
       stato_(stato) {}
 
 Layout IngressiSolaio::Contents() {
   return Row(
-      {Column({Row({Group(fraSchema, {Row({optSchema[0], optSchema[1]})}),
-                    Group(fraPosizione, {Row({Option1, Option2})})}),
-               Group(fraGeometria, {Row({Fields({cdLuce, cmbSolettina, cmbTavellone}),
-                                         Fields({cmbTipoDiFerro, cmbTipoDiCls})}),
-                                    lblBlocchi, lblLaterizio}),
-               Row({Group(fraCoefficienti, {Fields({cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ})}),
-                    Group(fraCarichi, {Fields({cdCR[0], Row({cdCR[1], cmdCALCOLAPERMANENTE}),
-                                               Row({cdCR[2], cmdCalc_Acc})})})})}),
+      {Column({Group(fraSchema, {Row({optSchema[0], optSchema[1]})}),
+               Group(fraGeometria,
+                     {Fields({cdLuce, cmbSolettina, cmbTavellone, cmbTipoDiFerro, cmbTipoDiCls})}),
+               lblBlocchi, lblLaterizio}),
+       Column({Group(fraPosizione, {Row({Option1, Option2})}),
+               Group(fraCoefficienti, {Fields({cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ})}),
+               Group(fraCarichi, {Fields({cdCR[0], Row({cdCR[1], cmdCALCOLAPERMANENTE}),
+                                          Row({cdCR[2], cmdCalc_Acc})})})}),
        Group(cmbFerri, {Fields({cmbFERRI[0], cmbFERRI[1], cmbFERRI[2], cmbFERRI[3], cmbFERRI[4]}),
                         lblVuoto, lblAutomatica, lblZero})});
 }

@@ -32,15 +32,19 @@ constexpr std::size_t kPrimaTensione = 5, kUltimaTensione = 15;
 constexpr int kTangenziale = 12, kMezzeriaAcciaio = 14, kMezzeriaCls = 15;
 constexpr std::array kSollecitazioni = {1, 2, 3, 4};
 constexpr std::array kZonePiene = {16, 17};
+constexpr std::size_t kFerriCampata = 3;
+// Headings of the tables, one after the other.
+constexpr std::array kColonne = {"", "LUNGHEZZA", "",          "LUNGHEZZA", "",        "CALCOLATE",
+                                 "", "AMMESSE",   "CALCOLATE", "",          "AMMESSE", "CALCOLATE"};
 // Concrete and steel of the solid section, then of the ribs.
 constexpr std::array<int, 4> kSin = {5, 7, 6, 8}, kDex = {13, 9, 11, 10};
 
-enum Vista { Schema, Disegno, Tabella, Sollecitazioni, Tensioni };
+enum Vista { Schema, Disegno, Ferri, Sollecitazioni, Tensioni };
 
 constexpr const char* kDueDecimali = "###0.00";
 
 TextOptions Risultato(const char* unita = "") {
-  return {.readOnly = true, .width = 9, .unit = unita};
+  return {.readOnly = true, .width = 7, .unit = unita};
 }
 
 }  // namespace
@@ -69,41 +73,45 @@ VisteSolaio::VisteSolaio(Form& form)
                    {form, "cdLunghezze(6)", "Moncone corto superiore SIN", Risultato("ml")},
                    {form, "cdLunghezze(7)", "Moncone corto superiore DEX", Risultato("ml")}}},
       fraSollecitazioni(form, "fraSollecitazioni", "SOLLECITAZIONI "),
-      fraTensioni(form, "fraTensioni", "TENSIONI "),
-      lblColonne{{{form, "lblColonne(1)", ""},
-                  {form, "lblColonne(2)", "AMMESSE"},
-                  {form, "lblColonne(3)", "CALCOLATE"},
-                  {form, "lblColonne(4)", ""},
-                  {form, "lblColonne(5)", "AMMESSE"},
-                  {form, "lblColonne(6)", "CALCOLATE"}}} {
+      fraTensioni(form, "fraTensioni", "TENSIONI ") {
+  for (std::size_t i = 0; i < kColonne.size(); ++i)
+    lblColonne.emplace_back(form, NomeIndicizzato("lblColonne", i), kColonne[i]);
   for (std::size_t i = 0; i < kEtichette.size(); ++i)
     righe.emplace_back(form, i + 1, kEtichette[i],
                        i + 1 >= kPrimaTensione && i + 1 <= kUltimaTensione);
   for (const int zona : kZonePiene) Calcolato(zona).SetUnit("cm");
 }
 
+// A table under its headings; these stand in `lblColonne` from `primaColonna` on.
+Layout VisteSolaio::Tabella(std::size_t primaColonna, std::vector<Layout> linee) {
+  const std::size_t colonne = linee.front().children.size() + 1;
+  std::vector<Layout> intestazione;
+  for (std::size_t i = 0; i < colonne; ++i) intestazione.emplace_back(lblColonne[primaColonna + i]);
+  linee.insert(linee.begin(), Row(std::move(intestazione)));
+  return Fields(std::move(linee));
+}
+
 Layout VisteSolaio::TabellaTensioni(std::size_t primaColonna, const std::vector<int>& numeri) {
-  std::vector<Layout> lines{
-      Row({lblColonne[primaColonna], lblColonne[primaColonna + 1], lblColonne[primaColonna + 2]})};
+  std::vector<Layout> lines;
   for (const int numero : numeri) lines.push_back(Row({Ammesso(numero), Calcolato(numero)}));
-  return Fields(std::move(lines));
+  return Tabella(primaColonna, std::move(lines));
 }
 
 Layout VisteSolaio::Contents() {
-  std::vector<Layout> viste, sollecitazioni;
+  std::vector<Layout> viste, sollecitazioni, ferri, monconi;
   for (OptionButton& opt : optVisualizza) viste.emplace_back(opt);
-  for (const int numero : kSollecitazioni) sollecitazioni.emplace_back(Calcolato(numero));
+  for (std::size_t i = 0; i < cdLunghezze.size(); ++i)
+    (i < kFerriCampata ? ferri : monconi).push_back(Row({cdLunghezze[i]}));
+  for (const int numero : kZonePiene) ferri.push_back(Row({Calcolato(numero)}));
+  for (const int numero : kSollecitazioni) sollecitazioni.push_back(Row({Calcolato(numero)}));
   return Column(
       {Group(fraVisualizza, {Row(std::move(viste))}), Group(fraDisegno, {Lavagna}),
-       Group(fraFerri,
-             {Row({Fields({cdLunghezze[0], cdLunghezze[1], cdLunghezze[2], Calcolato(kZonePiene[0]),
-                           Calcolato(kZonePiene[1])}),
-                   Fields({cdLunghezze[3], cdLunghezze[4], cdLunghezze[5], cdLunghezze[6]})})}),
-       Group(fraSollecitazioni, {Fields(std::move(sollecitazioni))}),
+       Group(fraFerri, {Row({Tabella(0, std::move(ferri)), Tabella(2, std::move(monconi))})}),
+       Group(fraSollecitazioni, {Tabella(4, std::move(sollecitazioni))}),
        Group(fraTensioni,
              {Row({TabellaTensioni(
-                       0, {kMezzeriaCls, kMezzeriaAcciaio, kSin[0], kSin[2], kSin[1], kSin[3]}),
-                   TabellaTensioni(3, {kDex[0], kDex[2], kDex[1], kDex[3], kTangenziale})})})});
+                       6, {kMezzeriaCls, kMezzeriaAcciaio, kSin[0], kSin[2], kSin[1], kSin[3]}),
+                   TabellaTensioni(9, {kDex[0], kDex[2], kDex[1], kDex[3], kTangenziale})})})});
 }
 
 void VisteSolaio::TieEvents() {
@@ -117,7 +125,7 @@ void VisteSolaio::TieEvents() {
 void VisteSolaio::ScegliVista() {
   const int vista = gruppo.Chosen();
   fraDisegno.SetVisible(vista == Schema || vista == Disegno);
-  fraFerri.SetVisible(vista == Tabella);
+  fraFerri.SetVisible(vista == Ferri);
   fraSollecitazioni.SetVisible(vista == Sollecitazioni);
   fraTensioni.SetVisible(vista == Tensioni);
   if (vista == Schema) DisegnaSchemaSolaio(Lavagna);

@@ -38,10 +38,11 @@ class VisteSolaio {
   Frame fraFerri;
   std::array<TestoBox, 7> cdLunghezze;
   Frame fraSollecitazioni, fraTensioni;
-  std::array<Label, 6> lblColonne;
+  std::deque<Label> lblColonne;
   std::deque<RigaRisultato> righe;  // cdRisultati(1) to (17)
 
  private:
+  Layout Tabella(std::size_t primaColonna, std::vector<Layout> linee);
   Layout TabellaTensioni(std::size_t primaColonna, const std::vector<int>& numeri);
   TestoBox& Calcolato(int numero) {
     return righe[static_cast<std::size_t>(numero) - 1].cdRisultati;
