@@ -13,11 +13,11 @@ namespace {
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kConcrete{200, 200, 200},
     kSteel{160, 30, 30};
 constexpr double kMargin = 3;      // units left and right of the longest bar
-constexpr double kLetter = 0.66;   // width of a letter, units
-constexpr double kAboveBar = 2.1;  // from a bar up to the top of its label
-constexpr double kSlabTop = 22.5, kSlabBottom = 18.7;
-constexpr double kLongStubs = 27.2, kShortStubs = 24;
-constexpr double kSpanBars = 15.7, kBarStep = 3.1, kSpanLine = 2.6;
+constexpr double kLetter = 1.0;    // width of a letter, units
+constexpr double kAboveBar = 2.4;  // from a bar up to the top of its label
+constexpr double kSlabTop = 27, kSlabBottom = 23.4;
+constexpr double kLongStubs = 32.8, kShortStubs = 28.8;
+constexpr double kSpanBars = 19.9, kBarStep = 3.7, kSpanLine = 4;
 
 // What is drawn: lengths in m, the labels as they stand. A bar of length 0 is not there.
 struct BarraDisegnata {
@@ -102,13 +102,12 @@ void DisegnaMonconi(Lavagna& lavagna, const BarraDisegnata& sin, const BarraDise
 void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   double y = kSpanBars;
   for (const BarraDisegnata& barra : figura.campata) {
-    if (barra.campata > 0) {
-      lavagna.SetWidth(3);
-      lavagna.SetColour(kSteel);
-      lavagna.DrawLine(scala.X((figura.luce - barra.campata) / 2), y,
-                       scala.X((figura.luce + barra.campata) / 2), y);
-      Centrato(lavagna, kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta);
-    }
+    if (barra.campata == 0) continue;
+    lavagna.SetWidth(3);
+    lavagna.SetColour(kSteel);
+    lavagna.DrawLine(scala.X((figura.luce - barra.campata) / 2), y,
+                     scala.X((figura.luce + barra.campata) / 2), y);
+    Centrato(lavagna, kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta);
     y -= kBarStep;
   }
 }
@@ -119,7 +118,7 @@ void DisegnaQuota(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   lavagna.SetWidth(1);
   lavagna.DrawLine(x1, kSpanLine, x2, kSpanLine);
   for (const double x : {x1, x2}) lavagna.DrawLine(x, kSpanLine - 0.6, x, kSpanLine + 0.6);
-  Centrato(lavagna, kLarghezzaDisegno / 2, kSpanLine + 1.9, figura.quota);
+  Centrato(lavagna, kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota);
   lavagna.DrawText(x1, kSpanLine - 0.7, figura.quotaZona);
   lavagna.DrawText(x2 - Larghezza(figura.quotaZona), kSpanLine - 0.7, figura.quotaZona);
 }

@@ -6,11 +6,12 @@
 
 namespace orm {
 
-inline constexpr double kLarghezzaDisegno = 90, kAltezzaDisegno = 32;
+inline constexpr double kLarghezzaDisegno = 90, kAltezzaDisegno = 38;
+inline constexpr int kPuntiDisegno = 620;  // pixels wide at 100 %
 
 void DisegnaSchemaSolaio(Lavagna& lavagna);
 
-// Lengths across to scale, as long as a bar is not longer than the panel has room for.
+// Lengths to scale across, the longest bar as wide as the panel; nothing to scale upward.
 void DisegnaArmatureSolaio(Lavagna& lavagna, const DatiSolaioT& dati,
                            const RisultatiSolaioT& risultati);
 

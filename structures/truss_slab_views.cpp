@@ -63,7 +63,7 @@ VisteSolaio::VisteSolaio(Form& form)
                      {form, "optVisualizza(4)", "Sollecitazioni ", gruppo},
                      {form, "optVisualizza(5)", "Tensioni", gruppo}}},
       fraDisegno(form, "fraDisegno", "DISEGNO SCHEMA ARMATURE"),
-      Lavagna(form, "Lavagna", kLarghezzaDisegno, kAltezzaDisegno, 900),
+      Lavagna(form, "Lavagna", kLarghezzaDisegno, kAltezzaDisegno, kPuntiDisegno),
       fraFerri(form, "fraFerri", "DISPOSIZIONE FERRI E LATERIZI"),
       cdLunghezze{{{form, "cdLunghezze(1)", "Ferro aggiuntivo in campata", Risultato("ml")},
                    {form, "cdLunghezze(2)", "Ferro integrativo n.1 in campata", Risultato("ml")},
