@@ -217,7 +217,8 @@ Names NotCovered() {
   for (const std::string& name : CommandsNotYet(BuildMenu())) commands.erase(name);
   miss("command", commands, Found(scripts, "(?:^|\\n)menu (\\w+)"));
   for (const std::string& file : LogicSources())
-    for (const std::string& name : Found(kRoot.Read(file), "\\bForm\\(\\s*\"(frm\\w+)\""))
+    for (const std::string& name :
+         Found(kRoot.Read(file), "\\b(?:Form|FrmCarichi)\\(\\s*\"(frm\\w+)\""))
       forms.insert(name);
   miss("form", forms, Found(scripts, "(?:^|\\n)dialog (\\w+)"));
   miss("file", DataFiles(), Found(scripts, "(?:^|\\n)compare ([\\w.]+)"));
