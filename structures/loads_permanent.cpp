@@ -9,6 +9,7 @@ namespace orm {
 namespace {
 
 constexpr const char* kKgMq = "Kg/mq.";
+constexpr double kPesoRipartibile = 150;  // kg/mq of wall; a heavier one is no spread load
 constexpr std::array kNomi = {"PAVIMENTAZIONE comprensiva di letto di malta o sottofondo",
                               "TRAMEZZI",
                               "NEVE",
@@ -167,6 +168,8 @@ void FrmStruttureCarichiPermanenti::Aggiorna() {
   for (FloatBox* campo : {&cdAreaSolaio, &cdLunghezza, &cdAltezza, &cdPesoTramezzo})
     campo->SetEnabled(optTramezzi[0].Value());
   cdAltroTramezzo.SetEnabled(optTramezzi[1].Value());
+  lblNotaTramezzi.SetStyle(cdPesoTramezzo.Value() > kPesoRipartibile ? Label::Style::Warning
+                                                                     : Label::Style::Note);
   for (std::size_t i = 0; i < pannelli.size(); ++i) {
     pannelli[i].cdRisultato.SetValue(Risultato(i));
     pannelli[i].cdCarico.SetValue(Risultato(i));
