@@ -10,7 +10,7 @@
 namespace orm {
 namespace {
 
-constexpr int kWidestCaption = 38;  // characters; a longer caption wraps
+constexpr int kWidestCaption = 42;  // characters; a longer caption wraps
 
 void SetCaptionText(QLabel& label, const QString& text) {
   label.setText(QString(text).replace('&', "&&"));

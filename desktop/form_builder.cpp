@@ -137,12 +137,13 @@ void FormBuilder::AddItem(Control& control, QBoxLayout* into) {
 
 void FormBuilder::AddRow(const std::vector<Layout>& parts, QBoxLayout* into) {
   auto* row = new QHBoxLayout;
-  const auto holds = [&](Layout::Kind kind) {
-    return std::any_of(parts.begin(), parts.end(),
-                       [kind](const Layout& p) { return p.kind == kind; });
+  const auto count = [&](Layout::Kind kind) {
+    return std::count_if(parts.begin(), parts.end(),
+                         [kind](const Layout& p) { return p.kind == kind; });
   };
   // Blocks beside each other begin on one line; a block beside a button stands in its middle.
-  const bool onTop = holds(Layout::Kind::Group) || holds(Layout::Kind::Column);
+  const bool onTop = count(Layout::Kind::Group) > 0 || count(Layout::Kind::Column) > 0 ||
+                     count(Layout::Kind::Fields) > 1;
   bool grows = false;
   for (const Layout& part : parts) {
     // The first part stands on the left edge of what is above and below the row.

@@ -32,6 +32,7 @@ class TextView : public EntryView {
   TextView(TestoBox& box, FormHost& host) : EntryView(box, host), box_(box) {
     const int width = std::min(box.Options().width, box.Options().longest + 1);
     SetCharacters(std::min(width, 70), width >= kStretchingWidth);
+    if (box.Options().figure) Line().setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     UseField(&Line());
   }
 

@@ -120,6 +120,7 @@ struct TextOptions {
   bool columns = false;  // in letters of one width, so that columns stand below each other
   std::string unit = {};
   std::string hint = {};
+  bool figure = false;  // a result in figures, which stands at the right as numbers do
 };
 
 class TestoBox : public Control {

@@ -44,7 +44,7 @@ enum Vista { Schema, Disegno, Ferri, Sollecitazioni, Tensioni };
 constexpr const char* kDueDecimali = "###0.00";
 
 TextOptions Risultato(const char* unita = "") {
-  return {.readOnly = true, .width = 7, .unit = unita};
+  return {.readOnly = true, .width = 7, .unit = unita, .figure = true};
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ class FrmUtiContabilita : public Form {
                  "Text1",
                  "ONORARIO PER SCAGLIONI",
                  {.longest = 2000, .lines = 8, .readOnly = true, .width = 68, .columns = true}};
-  TestoBox Text2{*this, "Text2", "ONORARIO", {.readOnly = true, .width = 20}};
+  TestoBox Text2{*this, "Text2", "ONORARIO", {.readOnly = true, .width = 20, .figure = true}};
   Button cmdCALCOLA{*this, "cmdCALCOLA", "&CALCOLA", Button::Role::Default};
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Close};
 

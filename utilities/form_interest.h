@@ -21,9 +21,12 @@ class FrmUtiIntereMora : public Form {
   OptionGroup interesse;
   OptionButton Option1{*this, "Option1", "SEMPLICE", interesse};
   OptionButton Option2{*this, "Option2", "COMPOSTO", interesse};
-  TestoBox Text3{*this, "Text3", "GIORNI di RITARDO", {.readOnly = true, .width = 20}};
-  TestoBox Text4{*this, "Text4", "TASSO", {.readOnly = true, .width = 20, .unit = "%"}};
-  TestoBox Text5{*this, "Text5", "INTERESSI DI MORA", {.readOnly = true, .width = 20}};
+  TestoBox Text3{
+      *this, "Text3", "GIORNI di RITARDO", {.readOnly = true, .width = 20, .figure = true}};
+  TestoBox Text4{
+      *this, "Text4", "TASSO", {.readOnly = true, .width = 20, .unit = "%", .figure = true}};
+  TestoBox Text5{
+      *this, "Text5", "INTERESSI DI MORA", {.readOnly = true, .width = 20, .figure = true}};
   Button Command1{*this, "Command1", "CALCOLA", Button::Role::Default};
   Button Command2{*this, "Command2", "ESCI", Button::Role::Close};
 

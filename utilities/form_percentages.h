@@ -21,9 +21,9 @@ class FrmUtiPercentuali : public Form {
   OptionButton optValuta2{*this, "optValuta2", "Euro", valuta};
   InterBox ciImporto;
   FloatBox cdImporto;
-  TestoBox Text1{*this, "Text1", "Tabella A", {.readOnly = true, .width = 16}};
-  TestoBox Text2{*this, "Text2", "Tabella C", {.readOnly = true, .width = 16}};
-  TestoBox Text3{*this, "Text3", "D.M. 4-4-2001", {.readOnly = true, .width = 16}};
+  TestoBox Text1{*this, "Text1", "Tabella A", {.readOnly = true, .width = 16, .figure = true}};
+  TestoBox Text2{*this, "Text2", "Tabella C", {.readOnly = true, .width = 16, .figure = true}};
+  TestoBox Text3{*this, "Text3", "D.M. 4-4-2001", {.readOnly = true, .width = 16, .figure = true}};
   Lavagna picCurva;
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Default};
 
