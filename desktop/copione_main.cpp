@@ -1,13 +1,10 @@
 // Plays scripts: by the plain player, or on the widgets of the desktop without a screen.
 #include <CLI/CLI.hpp>
-#include <cstdlib>
-#include <filesystem>
 #include <iostream>
 
 #include "desktop/desktop_app.h"
 #include "desktop/desktop_stage.h"
-#include "runtime/failure.h"
-#include "script/script_player.h"
+#include "script/run_scripts.h"
 
 namespace {
 
@@ -18,50 +15,13 @@ struct Options {
   std::vector<std::string> scripts;
 };
 
-// A working folder of its own for each script, gone afterwards.
-class FreshFolder {
- public:
-  FreshFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "orm2002-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      throw orm::RuntimeFailure("Non si può creare una cartella di lavoro.");
-    path_ = name;
-  }
-  ~FreshFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  FreshFolder(const FreshFolder&) = delete;
-  FreshFolder& operator=(const FreshFolder&) = delete;
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
-
-std::optional<orm::Mismatch> Play(const std::string& script, const Options& options,
-                                  std::set<std::string>& faults) {
-  const std::filesystem::path path = std::filesystem::absolute(script);
-  const orm::WorkFolder scriptFolder(path.parent_path().string());
-  try {
-    const FreshFolder fresh;
-    orm::ScriptPlayer player(orm::ParseScript(scriptFolder.Read(path.filename().string())),
-                             scriptFolder, orm::WorkFolder(fresh.Path()),
-                             {options.update, &std::cout});
-    return player.Play(options.desktop ? orm::DesktopStage({options.pictures, &faults})
-                                       : orm::BuildPlainStage);
-  } catch (const orm::Mismatch& mismatch) {
-    return mismatch;
-  } catch (const orm::RuntimeFailure& failure) {
-    return orm::Mismatch{0, failure.Text()};
-  }
-}
-
 int PlayAll(const Options& options) {
   int failed = 0;
   std::set<std::string> faults;
+  const orm::StageBuilder build =
+      options.desktop ? orm::DesktopStage({options.pictures, &faults}) : orm::BuildPlainStage;
   for (const std::string& script : options.scripts) {
-    const auto mismatch = Play(script, options, faults);
+    const auto mismatch = orm::RunScript(script, build, {options.update, &std::cout});
     if (!mismatch) continue;
     ++failed;
     std::cerr << script << ":" << mismatch->line << ": " << mismatch->text << std::endl;

@@ -9,7 +9,8 @@ namespace {
 
 class PlainHand : public FormHand {
  public:
-  explicit PlainHand(Form& form) : form_(form), focus_(form.FirstFocus()) {}
+  PlainHand(Form& form, const PictureTaker& take)
+      : form_(form), focus_(form.FirstFocus()), take_(take) {}
   std::string Set(Control& control, std::string_view text) override {
     MoveTo(control);
     return control.Enter(text);
@@ -24,7 +25,9 @@ class PlainHand : public FormHand {
   bool IsVisible(Control& control) override { return control.IsShown(); }
   bool IsEnabled(Control& control) override { return control.IsActive(); }
   std::string Title() override { return form_.Title(); }
-  void Picture(const std::string&) override {}
+  void Picture(const std::string& name) override {
+    if (take_) take_(form_, name);
+  }
 
  private:
   // A person's hand takes the focus along.
@@ -35,15 +38,17 @@ class PlainHand : public FormHand {
   }
   Form& form_;
   Control* focus_;
+  const PictureTaker& take_;
 };
 
 class PlainPlayer : public Player {
  public:
-  PlainPlayer(Actor& actor, const WorkFolder& folder) : actor_(actor), folder_(folder) {}
+  PlainPlayer(Actor& actor, const WorkFolder& folder, PictureTaker take)
+      : actor_(actor), folder_(folder), take_(std::move(take)) {}
   void Show(Form& form) override {
     form.Open();
     if (!form.IsOpen()) return;
-    PlainHand hand(form);
+    PlainHand hand(form, take_);
     actor_.MeetForm(form, hand);
   }
   Answer Ask(const MessageBox& box) override { return actor_.MeetMessage(box); }
@@ -63,11 +68,13 @@ class PlainPlayer : public Player {
  private:
   Actor& actor_;
   const WorkFolder& folder_;
+  PictureTaker take_;
 };
 
 class PlainStage : public Stage {
  public:
-  PlainStage(Actor& actor, const WorkFolder& folder) : player_(actor, folder) {}
+  PlainStage(Actor& actor, const WorkFolder& folder, PictureTaker take)
+      : player_(actor, folder, std::move(take)) {}
   Player& People() override { return player_; }
   void Raise(MainWindow&) override {}
   std::string Choose(MainWindow& window, std::string_view command) override {
@@ -85,7 +92,13 @@ class PlainStage : public Stage {
 }  // namespace
 
 std::unique_ptr<Stage> BuildPlainStage(Actor& actor, const WorkFolder& folder) {
-  return std::make_unique<PlainStage>(actor, folder);
+  return std::make_unique<PlainStage>(actor, folder, nullptr);
+}
+
+StageBuilder PlainStageWithPictures(PictureTaker take) {
+  return [take](Actor& actor, const WorkFolder& folder) {
+    return std::make_unique<PlainStage>(actor, folder, take);
+  };
 }
 
 OutsidePrograms ScriptPrograms() { return {"orm2002-visore", "editor-testi", "lettore-pdf"}; }

@@ -29,8 +29,10 @@ class FreshFolder {
   std::string path_;
 };
 
-std::optional<Mismatch> RunOne(const std::string& path, const StageBuilder& build,
-                               const ScriptOptions& options) {
+}  // namespace
+
+std::optional<Mismatch> RunScript(const std::string& path, const StageBuilder& build,
+                                  const ScriptOptions& options) {
   try {
     const std::filesystem::path script(path);
     const std::string home = script.has_parent_path() ? script.parent_path().string() : ".";
@@ -46,13 +48,11 @@ std::optional<Mismatch> RunOne(const std::string& path, const StageBuilder& buil
   }
 }
 
-}  // namespace
-
 int RunScripts(const std::vector<std::string>& paths, const StageBuilder& build,
                const ScriptOptions& options, std::ostream& output) {
   std::size_t held = 0;
   for (const std::string& path : paths) {
-    if (const auto mismatch = RunOne(path, build, options))
+    if (const auto mismatch = RunScript(path, build, options))
       output << path << ":" << mismatch->line << ": " << mismatch->text << "\n";
     else
       ++held;

@@ -28,6 +28,10 @@ using StageBuilder = std::function<std::unique_ptr<Stage>(Actor& actor, const Wo
 // The plain player: forms as models, every statement on the model itself.
 std::unique_ptr<Stage> BuildPlainStage(Actor& actor, const WorkFolder& folder);
 
+// The same for somebody who wants the forms that a script takes pictures of, as they then are.
+using PictureTaker = std::function<void(Form& form, const std::string& name)>;
+StageBuilder PlainStageWithPictures(PictureTaker take);
+
 // The programs that exist on every stage, so that scripts mean the same everywhere.
 OutsidePrograms ScriptPrograms();
 bool ScriptProgramExists(const std::string& path, const WorkFolder& folder);
