@@ -50,11 +50,7 @@ void FrmVerPietre::Arrange() {
 
 void FrmVerPietre::TieEvents() {
   for (OptionButton& opt : optPietra) opt.onChange = [this] { Mostra(); };
-  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
-    sldPietraS[i].onChange = [this, i] {  // who moves a slider means that stone
-      optPietra[i].SetValue(true);
-      Mostra();
-    };
+  for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
   OKButton.onPress = [this] {
     confermato_ = true;
     Close();
@@ -67,8 +63,7 @@ void FrmVerPietre::OnOpen() {
 }
 
 void FrmVerPietre::OnWindowClose() {
-  prima_.PutBack();  // a slider that goes back chooses its stone,
-  prima_.PutBack();  // so the choice follows when all of them stand
+  prima_.PutBack();
   Close();
 }
 
@@ -89,6 +84,8 @@ double FrmVerPietre::Tau() const {
 
 void FrmVerPietre::Mostra() {
   const bool altra = Scelta() == nullptr;
+  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
+    sldPietraS[i].SetEnabled(optPietra[i].Value());
   cdSigma.SetReadOnly(!altra);
   cdTau.SetReadOnly(!altra);
   cdSigma.SetValue(Sigma());
