@@ -171,8 +171,8 @@ void Disegno::QuoteSezione(double sopra, double sotto) {
   const double left = kSectionLeft - 4.2;
   if (f_.SuMensole()) {
     quote_.Orizzontale(X(0), X(f_.Bm), kBelow, "Bm");
-    const double right = X(f_.La) + 5;  // beyond the name of He
-    for (const double y : {sopra, kSlabTop}) lavagna_.DrawLine(X(f_.La) + 0.5, y, right, y);
+    const double right = X(f_.La) + 6.4;  // beyond the name of He
+    for (const double y : {sopra, kSlabTop}) lavagna_.DrawLine(right - 1.2, y, right, y);
     quote_.Verticale(right, sopra, kSlabTop, "s");
     quote_.Verticale(left, sotto, sopra, "Hi");
     quote_.Verticale(X(f_.Bm) + 1.6, sopra - f_.He * scala_, sopra, "He");
@@ -188,7 +188,7 @@ void Disegno::Pianta() {
   const auto x = [&](double m) {
     return kPlanLeft + (kPlanWide - fronte * scala_) / 2 + m * scala_;
   };
-  const double spessore = std::min(Muro() * scala_, 8.0), fine = kFace - f_.La * scala_;
+  const double spessore = std::clamp(Muro() * scala_, 4.5, 8.0), fine = kFace - f_.La * scala_;
   Titolo(kPlanLeft - 3, "Pianta");
   Pieno(Rettangolo(kPlanLeft - 2, kFace, kPlanLeft + kPlanWide + 2, kFace + spessore), kWall);
   Pieno(Rettangolo(x(0), fine, x(fronte), kFace), kStone);

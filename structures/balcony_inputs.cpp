@@ -141,7 +141,7 @@ void IngressiBalcone::TieEvents(std::function<void()> cambiati) {
   cmdCalc_Acc.onPress = [this] { ChiediCarico(stato_, CarichiAccidentali(stato_), cdCarichi[1]); };
   cmdCAR_SISMICHE.onPress = [this, cambiati] {
     ChiediCarichiSismici(stato_, cmdCAR_SISMICHE);
-    cambiati();
+    if (CarichiSismici(stato_).Confermato()) cambiati();
   };
 }
 
