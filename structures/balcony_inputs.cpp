@@ -114,7 +114,7 @@ Layout IngressiBalcone::Contents() {
                  Group(fraZona, {Row({optZona[0], optZona[1], cmdCAR_SISMICHE})})});
 }
 
-void IngressiBalcone::TieEvents(std::function<void()> cambiati) {
+void IngressiBalcone::TieEvents(const std::function<void()>& cambiati) {
   for (OptionButton& opt : optTipo)
     opt.onChange = [this, &opt, cambiati] {
       if (!opt.Value()) return;

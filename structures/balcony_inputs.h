@@ -26,7 +26,7 @@ class IngressiBalcone {
   IngressiBalcone(Form& form, RunState& stato);
   Layout Contents();
   // `cambiati` runs after any change.
-  void TieEvents(std::function<void()> cambiati);
+  void TieEvents(const std::function<void()>& cambiati);
   TipoBalcone Tipo() const { return static_cast<TipoBalcone>(gruppoTipo.Chosen()); }
   DatiBalcone Leggi() const;
 
