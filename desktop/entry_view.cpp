@@ -144,6 +144,7 @@ void EntryView::ShowMark() {
   QPalette palette = QPalette();
   if (line_->isReadOnly()) palette.setBrush(QPalette::Base, palette.brush(QPalette::Window));
   if (wrong) palette.setColor(QPalette::Base, WarningBase(palette));
+  if (IsAutomatic()) palette.setColor(QPalette::Text, AutomaticText(palette));
   if (marked) palette.setColor(QPalette::Text, WarningText(palette));
   line_->setPalette(palette);
   if (marked && mark_ == nullptr)

@@ -53,6 +53,7 @@ class EntryView : public ControlView {
   virtual std::string DraftText() const { return RestingText(); }
   virtual bool IsReadOnly() const { return false; }
   virtual bool Warns() const { return false; }
+  virtual bool IsAutomatic() const { return false; }
   // A key that the field wants to see as another one.
   virtual QString Substitute(const QKeyEvent&) const { return {}; }
 

@@ -17,6 +17,10 @@ QColor WarningBase(const QPalette& palette) {
   return IsDark(palette) ? QColor(74, 32, 30) : QColor(253, 236, 234);
 }
 
+QColor AutomaticText(const QPalette& palette) {
+  return IsDark(palette) ? QColor(144, 190, 255) : QColor(0, 48, 208);
+}
+
 QColor NoteText(const QPalette& palette) {
   const QColor text = palette.color(QPalette::WindowText);
   const QColor window = palette.color(QPalette::Window);

@@ -52,6 +52,7 @@ class NumberView : public EntryView {
   std::string DraftText() const override { return DraftNumber(box_.Value(), box_.Limits()); }
   bool IsReadOnly() const override { return box_.ReadOnly(); }
   bool Warns() const override { return box_.Warns(); }
+  bool IsAutomatic() const override { return box_.IsAutomatic(); }
   QString Substitute(const QKeyEvent& key) const override {
     const bool point = key.key() == Qt::Key_Period || key.key() == Qt::Key_Comma;
     if (!point || !(key.modifiers() & Qt::KeypadModifier)) return {};

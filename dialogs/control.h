@@ -156,6 +156,9 @@ class NumberBox : public Control {
   // A value that warns (a stress beyond its limit).
   bool Warns() const { return warns_; }
   void SetWarning(bool warns);
+  // A value that the program writes by itself when another one changes; told by its colour.
+  bool IsAutomatic() const { return automatic_; }
+  void SetAutomatic() { automatic_ = true; }
   // What a person has typed so far: taken when it is a number within the limits, and the draft
   // text is kept as it is until the focus goes. Empty when taken, else the Italian reason.
   std::string Type(std::string_view draft);
@@ -172,6 +175,7 @@ class NumberBox : public Control {
   std::string shown_;
   bool readOnly_ = false;
   bool warns_ = false;
+  bool automatic_ = false;
 };
 
 class FloatBox : public NumberBox {

@@ -12,6 +12,9 @@ FormValues::FormValues(const Form& form) {
       setters_.emplace_back([option, value = option->Value()] { option->SetValue(value); });
     else if (auto* check = dynamic_cast<CheckBox*>(control))
       setters_.emplace_back([check, value = check->Value()] { check->SetValue(value); });
+    else if (auto* slider = dynamic_cast<Slider*>(control))
+      setters_.emplace_back(
+          [slider, position = slider->Position()] { slider->SetPosition(position); });
     else if (auto* list = dynamic_cast<ListControl*>(control))
       setters_.emplace_back([list, value = list->Index()] { list->SetIndex(value); });
   }

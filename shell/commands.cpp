@@ -16,6 +16,7 @@
 #include "shell/shell_boxes.h"
 #include "shell/technical_notes.h"
 #include "structures/form_solaio_traliccio.h"
+#include "structures/form_ver_balcone.h"
 #include "structures/form_ver_fless_c1.h"
 #include "structures/form_ver_fless_t1.h"
 #include "utilities/form_accounting_fee.h"
@@ -82,6 +83,7 @@ constexpr std::array kCommands = {
     Command{"VER_ST1", MostraVerFlessT1},
     Command{"ver_SC1", MostraVerFlessC1},
     Command{"VER_SOLAIO_T", MostraSolaioTraliccio},
+    Command{"VER_BALCONE", MostraVerBalcone},
     Command{"Informa_Informazioni", ShowInformation},
 };
 

@@ -1,0 +1,41 @@
+#include "structures/steel_profiles.h"
+
+#include <algorithm>
+
+#include "runtime/numbers.h"
+
+namespace orm {
+
+Profilo ProfiloNP(std::string_view h) {
+  const auto found = std::find_if(ProfiliNP.begin(), ProfiliNP.end(),
+                                  [&](const VoceProfilo& voce) { return NumberText(voce.h) == h; });
+  return found == ProfiliNP.end() ? Profilo{1.0, 1.0, 1.0, 1.0, 1.0, 1.0, 1.0} : found->profilo;
+}
+
+double AltezzaProfilo(std::string_view h) { return ParseNumber(h).value_or(0); }
+
+std::vector<std::string> AltezzeNP() {
+  std::vector<std::string> altezze;
+  for (const VoceProfilo& voce : ProfiliNP) altezze.push_back(NumberText(voce.h));
+  return altezze;
+}
+
+Tensioni TensioniAcciaio(std::string_view grado) {
+  const auto found = std::find_if(GradiAcciaio.begin(), GradiAcciaio.end(),
+                                  [&](const GradoAcciaio& voce) { return voce.nome == grado; });
+  return found == GradiAcciaio.end() ? Tensioni{1.0, 1.0} : found->ammesse;
+}
+
+std::vector<std::string> NomiGradiAcciaio() {
+  std::vector<std::string> nomi;
+  for (const GradoAcciaio& voce : GradiAcciaio) nomi.emplace_back(voce.nome);
+  return nomi;
+}
+
+Tensioni TensioniNelProfilo(std::string_view h, double momento, double taglio) {
+  const Profilo profilo = ProfiloNP(h);
+  const double anima = AltezzaProfilo(h) - 2 * profilo.tf;
+  return {momento * 100 / profilo.W, taglio * 100 / (anima * profilo.tw)};
+}
+
+}  // namespace orm
