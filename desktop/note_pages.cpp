@@ -6,9 +6,9 @@
 #include <QPdfWriter>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextObjectInterface>
 #include <QTextTable>
 
+#include "desktop/note_drawing.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -21,41 +21,6 @@ constexpr qreal kBodyPoints = 9.5;
 constexpr int kDrawing = QTextFormat::UserObject + 1;
 
 qreal Units(qreal mm) { return mm / 25.4 * kDotsPerInch; }
-
-QString DrawingName(const QTextFormat& format) {
-  return format.toImageFormat().name().section(':', 1);
-}
-
-// Drawings in the text, as wide as the lines.
-class DrawingObject : public QObject, public QTextObjectInterface {
-  Q_OBJECT
-  Q_INTERFACES(QTextObjectInterface)
- public:
-  DrawingObject(const NoteDrawings& drawings, qreal width) : drawings_(drawings), width_(width) {}
-  QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override {
-    const QSizeF size = Find(format).boundingRect().size();
-    return size * (width_ / size.width());
-  }
-  void drawObject(QPainter* painter, const QRectF& room, QTextDocument*, int,
-                  const QTextFormat& format) override {
-    const QPicture& picture = Find(format);
-    painter->save();
-    painter->translate(room.topLeft());
-    // A picture is played at the dots of its paper unless told otherwise.
-    const qreal dots = static_cast<qreal>(picture.logicalDpiX()) / painter->device()->logicalDpiX();
-    const qreal zoom = room.width() / picture.boundingRect().width() * dots;
-    painter->scale(zoom, zoom);
-    painter->drawPicture(-picture.boundingRect().topLeft(), picture);
-    painter->restore();
-  }
-
- private:
-  const QPicture& Find(const QTextFormat& format) const {
-    return drawings_.at(DrawingName(format));
-  }
-  const NoteDrawings& drawings_;
-  qreal width_;
-};
 
 // The places where the text asks for a drawing become objects of their own.
 void PutDrawings(QTextDocument& document, const NoteDrawings& drawings) {
@@ -183,5 +148,3 @@ std::string NotePdf(const QString& markdown, const NoteDrawings& drawings) {
 }
 
 }  // namespace orm
-
-#include "note_pages.moc"

@@ -13,6 +13,7 @@ holds() {  # holds FILE TEXT...: the PDF shows each text
     grep -qF -- "$text" "$scratch/text" || { echo "$1 non contiene: $text"; exit 1; }
   done
 }
+holds BALCONI.PDF "Balconi in pietra: nota tecnica" "1014,7" "Muro" "Putrella" "Lastra"
 holds SOLAIATRALICCIO.PDF "Solai a traliccio e laterizio: nota tecnica" "2279,29" \
   "DISEGNO ARMATURE" "Moncone lungo SIN" "Zona piena 25,0 cm"
 
