@@ -191,7 +191,9 @@ void FormBuilder::AddTable(const std::vector<Layout>& lines, QBoxLayout* into) {
         grid->addWidget(view.Caption(), row, 0);
       else if (row > 0)
         view.LeaveCaptionOut();
-      grid->addWidget(view.Whole(), row, column++, row == 0 ? Qt::AlignBottom : Qt::Alignment());
+      const Qt::Alignment field =
+          view.KeepsWidth() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
+      grid->addWidget(view.Whole(), row, column++, row == 0 ? Qt::AlignBottom : field);
     }
   }
   grid->setColumnStretch(grid->columnCount() - 1, 1);

@@ -19,6 +19,8 @@
 #include "structures/form_ver_balcone.h"
 #include "structures/form_ver_fless_c1.h"
 #include "structures/form_ver_fless_t1.h"
+#include "structures/form_ver_sbalzi_p.h"
+#include "structures/form_ver_solaio_p.h"
 #include "utilities/form_accounting_fee.h"
 #include "utilities/form_calculator.h"
 #include "utilities/form_interest.h"
@@ -83,6 +85,8 @@ constexpr std::array kCommands = {
     Command{"VER_ST1", MostraVerFlessT1},
     Command{"ver_SC1", MostraVerFlessC1},
     Command{"VER_SOLAIO_T", MostraSolaioTraliccio},
+    Command{"VER_SOLAIO_P", MostraSolaioP},
+    Command{"VER_SBALZI_P", MostraSbalziP},
     Command{"VER_BALCONE", MostraVerBalcone},
     Command{"Informa_Informazioni", ShowInformation},
 };

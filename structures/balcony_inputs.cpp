@@ -53,12 +53,6 @@ constexpr int kPrimaPutrella = 4;     // 160 mm
 NumberLimits Limiti(const char* lettera) {
   return {.most = 99.999, .decimals = 3, .unit = lettera};
 }
-// The table's section modulus is far below what its moment of inertia gives.
-bool ModuloInDifetto(const std::string& h) {
-  const Profilo profilo = ProfiloNP(h);
-  return profilo.W < 0.9 * profilo.J / (AltezzaProfilo(h) / 20);
-}
-
 const NumberLimits kCarico{.most = 9999.99, .decimals = 2};
 
 }  // namespace

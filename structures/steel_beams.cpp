@@ -8,6 +8,8 @@ double Interasse(const DatiPutrelle& dati) {
   return dati.tavellone.lunghezza + ProfiloNP(dati.putrella).b / 10;
 }
 
+double SpazioRiempimento(const DatiPutrelle& dati) { return dati.tavellone.lunghezza; }
+
 double AltezzaRiempimento(const DatiPutrelle& dati) {
   return std::max(AltezzaProfilo(dati.putrella) / 10 - dati.tavellone.altezza, 0.0);
 }

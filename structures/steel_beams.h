@@ -33,6 +33,8 @@ struct DatiPutrelle {
 
 // Distance of two beams, cm: the tile and the flange that it rests on.
 double Interasse(const DatiPutrelle& dati);
+// The space between two beams, cm: that of the tile.
+double SpazioRiempimento(const DatiPutrelle& dati);
 // The height at disposal for the filling, cm: what the tile leaves of the beam.
 double AltezzaRiempimento(const DatiPutrelle& dati);
 

@@ -14,6 +14,11 @@ Profilo ProfiloNP(std::string_view h) {
 
 double AltezzaProfilo(std::string_view h) { return ParseNumber(h).value_or(0); }
 
+bool ModuloInDifetto(std::string_view h) {
+  const Profilo profilo = ProfiloNP(h);
+  return profilo.W < 0.9 * profilo.J / (AltezzaProfilo(h) / 20);
+}
+
 std::vector<std::string> AltezzeNP() {
   std::vector<std::string> altezze;
   for (const VoceProfilo& voce : ProfiliNP) altezze.push_back(NumberText(voce.h));

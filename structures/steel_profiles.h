@@ -58,6 +58,8 @@ inline constexpr const char* kNotaModuli =
 Profilo ProfiloNP(std::string_view h);
 double AltezzaProfilo(std::string_view h);  // mm; 0 for what is no number
 std::vector<std::string> AltezzeNP();
+// The table's section modulus is far below what its moment of inertia gives.
+bool ModuloInDifetto(std::string_view h);
 
 // Allowed stresses, kg/cmq.
 struct Tensioni {

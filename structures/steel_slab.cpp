@@ -29,6 +29,8 @@ double InerziaComposta(const DatiSolaioP& dati) {
   return Jc + profilo.J + alCls * alCls * Ac + allaPutrella * allaPutrella * profilo.A;
 }
 
+bool IncastroEccessivo(double cIncastro) { return cIncastro > 0 && cIncastro < 12; }
+
 double FrecciaUnitaria(double luce, double cIncastro) {
   const double k = cIncastro == 0 ? 43 : 43 + 48 / cIncastro;
   const double L = luce * 100;

@@ -32,9 +32,12 @@ double MomentoSolaioP(double luce, double q, double cMezzeria, double cIncastro)
 // thick as the section is higher than the beam, counts a fifteenth.
 double InerziaComposta(const DatiSolaioP& dati);
 
+// A coefficient of the support that is more than building in can do: the deflection comes out too
+// small, below 0 under 9.6.
+bool IncastroEccessivo(double cIncastro);
+
 // Deflection of a span in cm for 1 kg/cm over 1 cm4. k is 43 for a hinged beam and 47 for a
-// built-in one. A coefficient of the support below 12 is more than building in can do and gives a
-// deflection that is too small, below 0 under 9.6.
+// built-in one.
 double FrecciaUnitaria(double luce, double cIncastro);
 
 RisultatiSolaioP VerificaSolaioP(const DatiSolaioP& dati);
