@@ -91,6 +91,11 @@ class WidgetStage : public Stage {
     QCoreApplication::processEvents();
     return {};
   }
+  void AskHelp(MainWindow& window) override {
+    Raise(window);
+    QWidget* front = QApplication::activeModalWidget();
+    QTest::keyClick(front == nullptr ? shown_.get() : front, Qt::Key_F1);
+  }
 
  private:
   ScriptedPlayer player_;

@@ -43,6 +43,7 @@ std::vector<std::string> Captions(const std::vector<MenuItem>& items) {
 
 MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
   setObjectName("frmGEN_Main");
+  qApp->installEventFilter(this);
   setWindowTitle(ToQt(window.Title()).trimmed());
   setCentralWidget(new PictureArea);
   const QRect room = screen()->availableGeometry();
@@ -115,6 +116,19 @@ std::vector<QMenu*> MenuWindow::PathTo(const std::string& command) {
          menu = dynamic_cast<QMenu*>(menu->parentWidget()))
       path.insert(path.begin(), menu);
   return path;
+}
+
+// On an open menu help is about the command that the person is at.
+bool MenuWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool help = event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+                    static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1;
+  if (!help) return QMainWindow::eventFilter(watched, event);
+  std::string command;
+  if (auto* menu = qobject_cast<QMenu*>(watched);
+      menu != nullptr && menu->activeAction() != nullptr)
+    command = FromQt(menu->activeAction()->objectName());
+  window_.Help(command);
+  return true;
 }
 
 void MenuWindow::showEvent(QShowEvent* event) {

@@ -25,6 +25,7 @@ class MenuWindow : public QMainWindow {
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;  // F1, wherever it is pressed
 
  private:
   void FillTop(QMenu& menu, const MenuItem& top);

@@ -6,9 +6,9 @@
 #include <QPdfWriter>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextTable>
 
 #include "desktop/note_drawing.h"
+#include "desktop/page_dress.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -42,50 +42,6 @@ void PutDrawings(QTextDocument& document, const NoteDrawings& drawings) {
     }
 }
 
-void DressTables(QTextDocument& document) {
-  for (QTextFrame* frame : document.rootFrame()->childFrames()) {
-    auto* table = qobject_cast<QTextTable*>(frame);
-    if (table == nullptr) continue;
-    QTextTableFormat format = table->format();
-    format.setBorder(1);
-    format.setBorderBrush(QColor(150, 150, 150));
-    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-    format.setBorderCollapse(true);
-    format.setCellPadding(4);
-    format.setCellSpacing(0);
-    format.setTopMargin(6);
-    format.setBottomMargin(10);
-    table->setFormat(format);
-    for (int column = 0; column < table->columns(); ++column) {
-      QTextTableCell cell = table->cellAt(0, column);
-      QTextTableCellFormat head = cell.format().toTableCellFormat();
-      head.setBackground(QColor(235, 238, 242));
-      cell.setFormat(head);
-    }
-  }
-}
-
-void DressText(QTextDocument& document) {
-  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-    QTextCursor cursor(block);
-    QTextBlockFormat format = block.blockFormat();
-    const int heading = format.headingLevel();
-    if (cursor.currentTable() == nullptr) {
-      format.setLineHeight(124, QTextBlockFormat::ProportionalHeight);
-      format.setTopMargin(heading == 1 ? 0 : heading > 1 ? 14 : 3);
-      format.setBottomMargin(heading == 1 ? 14 : 5);
-      cursor.setBlockFormat(format);
-    }
-    if (heading == 0) continue;
-    cursor.select(QTextCursor::BlockUnderCursor);
-    QTextCharFormat letters;
-    letters.setFontPointSize(heading == 1 ? 17 : 12);
-    letters.setFontWeight(QFont::Bold);
-    letters.setForeground(QColor(24, 58, 102));
-    cursor.mergeCharFormat(letters);
-  }
-}
-
 void Compose(QTextDocument& document, const QString& markdown, const NoteDrawings& drawings) {
   QFont font(QStringLiteral("DejaVu Sans"));
   font.setPointSizeF(kBodyPoints);
@@ -93,8 +49,7 @@ void Compose(QTextDocument& document, const QString& markdown, const NoteDrawing
   document.setDocumentMargin(0);
   document.setUseDesignMetrics(true);
   document.setMarkdown(markdown);
-  DressText(document);
-  DressTables(document);
+  DressPage(document, ColoursOnPaper(), kBodyPoints);
   PutDrawings(document, drawings);
 }
 

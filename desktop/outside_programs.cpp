@@ -20,13 +20,15 @@ std::string FirstOf(std::initializer_list<const char*> names, const std::string&
 }  // namespace
 
 OutsidePrograms FindOutsidePrograms() {
-  const std::string viewer = FromQt(QCoreApplication::applicationDirPath()) + "/orm2002-visore";
+  const std::string here = FromQt(QCoreApplication::applicationDirPath());
+  const std::string viewer = here + "/orm2002-visore";
   return {viewer,
           FirstOf({"gnome-text-editor", "gedit", "kate", "kwrite", "mousepad", "pluma", "xed",
                    "featherpad", "l3afpad", "leafpad"},
                   viewer),
           FirstOf({"evince", "okular", "atril", "xreader", "qpdfview", "zathura", "mupdf"},
-                  "/usr/bin/xdg-open")};
+                  "/usr/bin/xdg-open"),
+          here + "/orm2002-guida"};
 }
 
 }  // namespace orm

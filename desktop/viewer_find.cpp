@@ -11,7 +11,6 @@
 #include <QToolButton>
 
 #include "desktop/viewer_icons.h"
-#include "desktop/viewer_page.h"
 
 namespace orm {
 namespace {
@@ -30,9 +29,9 @@ QToolButton* SmallButton(LineIcon icon, const QString& tip, const char* name, QW
 
 }  // namespace
 
-FindBar::FindBar(ViewerPage& page, QWidget* parent)
+FindBar::FindBar(std::unique_ptr<SoughtText> text, QWidget* parent)
     : QWidget(parent),
-      page_(page),
+      text_(std::move(text)),
       field_(new QLineEdit(this)),
       case_(new QCheckBox(QStringLiteral("&Maiuscole/minuscole"), this)),
       count_(new QLabel(this)) {
@@ -66,17 +65,19 @@ FindBar::FindBar(ViewerPage& page, QWidget* parent)
   connect(previous, &QToolButton::clicked, this, [this] { Previous(); });
   connect(next, &QToolButton::clicked, this, [this] { Next(); });
   connect(close, &QToolButton::clicked, this, [this] { Close(); });
-  auto* escape = new QShortcut(Qt::Key_Escape, &page_, nullptr, nullptr, Qt::WidgetShortcut);
-  connect(escape, &QShortcut::activated, this, [this] { Close(); });
-  connect(page_.document(), &QTextDocument::contentsChanged, this, [this] {
+  escape_ = new QShortcut(Qt::Key_Escape, &text_->Widget(), nullptr, nullptr, Qt::WidgetShortcut);
+  escape_->setEnabled(false);
+  connect(escape_, &QShortcut::activated, this, [this] { Close(); });
+  connect(&text_->Document(), &QTextDocument::contentsChanged, this, [this] {
     if (isVisible()) MarkMatches(), ShowCount();
   });
   hide();
 }
 
 void FindBar::Open() {
-  const QString selected = page_.textCursor().selectedText();
+  const QString selected = text_->Cursor().selectedText();
   show();
+  escape_->setEnabled(true);
   if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator))
     field_->setText(selected);
   MarkMatches();
@@ -87,14 +88,15 @@ void FindBar::Open() {
 
 void FindBar::Close() {
   hide();
-  page_.setExtraSelections({});
-  page_.setFocus();
+  escape_->setEnabled(false);
+  text_->Mark({});
+  text_->Widget().setFocus();
 }
 
 void FindBar::Typed() {
-  QTextCursor cursor = page_.textCursor();
+  QTextCursor cursor = text_->Cursor();
   cursor.setPosition(cursor.selectionStart());
-  page_.setTextCursor(cursor);
+  text_->SetCursor(cursor);
   MarkMatches();
   Step(false);
 }
@@ -106,16 +108,16 @@ void FindBar::Step(bool backward) {
   if (backward) flags |= QTextDocument::FindBackward;
   if (case_->isChecked()) flags |= QTextDocument::FindCaseSensitively;
   QString remark;
-  QTextCursor found = page_.document()->find(field_->text(), page_.textCursor(), flags);
+  QTextCursor found = text_->Document().find(field_->text(), text_->Cursor(), flags);
   if (found.isNull()) {
-    QTextCursor edge(page_.document());
+    QTextCursor edge(&text_->Document());
     if (backward) edge.movePosition(QTextCursor::End);
-    found = page_.document()->find(field_->text(), edge, flags);
+    found = text_->Document().find(field_->text(), edge, flags);
     remark =
         backward ? QStringLiteral("ripreso dalla fine") : QStringLiteral("ripreso dall'inizio");
   }
   if (found.isNull()) return ShowCount();
-  page_.setTextCursor(found);
+  text_->SetCursor(found);
   ShowCount(remark);
 }
 
@@ -127,14 +129,14 @@ void FindBar::MarkMatches() {
   mark.setForeground(Qt::black);
   QTextDocument::FindFlags flags;
   if (case_->isChecked()) flags |= QTextDocument::FindCaseSensitively;
-  QTextCursor found(page_.document());
+  QTextCursor found(&text_->Document());
   while (!field_->text().isEmpty() && matches_.size() < kMostMatches) {
-    found = page_.document()->find(field_->text(), found, flags);
+    found = text_->Document().find(field_->text(), found, flags);
     if (found.isNull()) break;
     matches_ += found.selectionStart();
     marks += {found, mark};
   }
-  page_.setExtraSelections(marks);
+  text_->Mark(marks);
 }
 
 void FindBar::ShowCount(const QString& remark) {
@@ -145,12 +147,12 @@ void FindBar::ShowCount(const QString& remark) {
     colours.setColor(QPalette::Base, dark ? QColor(92, 34, 34) : QColor(255, 221, 221));
   }
   field_->setPalette(colours);
-  const auto at = matches_.indexOf(page_.textCursor().selectionStart());
+  const auto at = matches_.indexOf(text_->Cursor().selectionStart());
   QString text;
   if (none) {
     text = QStringLiteral("Nessun risultato");
   } else if (!matches_.isEmpty()) {
-    text = at >= 0 && page_.textCursor().hasSelection()
+    text = at >= 0 && text_->Cursor().hasSelection()
                ? QStringLiteral("%1 di %2").arg(at + 1).arg(matches_.size())
                : QStringLiteral("%1 trovati").arg(matches_.size());
   }

@@ -1,19 +1,49 @@
 // The find bar under the page: it marks every match and walks through them.
 #pragma once
 
+#include <QTextEdit>
 #include <QWidget>
+#include <memory>
 
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QShortcut;
 
 namespace orm {
 
-class ViewerPage;
+// The text in which a find bar seeks, whatever widget shows it.
+class SoughtText {
+ public:
+  virtual ~SoughtText() = default;
+  virtual QWidget& Widget() = 0;
+  virtual QTextDocument& Document() = 0;
+  virtual QTextCursor Cursor() const = 0;
+  virtual void SetCursor(const QTextCursor& cursor) = 0;
+  virtual void Mark(const QList<QTextEdit::ExtraSelection>& marks) = 0;
+};
+
+template <class Edit>
+class TextOf : public SoughtText {
+ public:
+  explicit TextOf(Edit& edit) : edit_(edit) {}
+  QWidget& Widget() override { return edit_; }
+  QTextDocument& Document() override { return *edit_.document(); }
+  QTextCursor Cursor() const override { return edit_.textCursor(); }
+  void SetCursor(const QTextCursor& cursor) override { edit_.setTextCursor(cursor); }
+  void Mark(const QList<QTextEdit::ExtraSelection>& marks) override {
+    edit_.setExtraSelections(marks);
+  }
+
+ private:
+  Edit& edit_;
+};
 
 class FindBar : public QWidget {
  public:
-  FindBar(ViewerPage& page, QWidget* parent = nullptr);
+  template <class Edit>
+  explicit FindBar(Edit& page, QWidget* parent = nullptr)
+      : FindBar(std::make_unique<TextOf<Edit>>(page), parent) {}
 
   void Open();   // with the selected words, if any, as what is sought
   void Close();  // and gives the keyboard back to the page
@@ -24,15 +54,17 @@ class FindBar : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  FindBar(std::unique_ptr<SoughtText> text, QWidget* parent);
   void Typed();  // seeks anew from the start of the present match
   void Step(bool backward);
   void MarkMatches();
   void ShowCount(const QString& remark = {});
 
-  ViewerPage& page_;
+  std::unique_ptr<SoughtText> text_;
   QLineEdit* field_;
   QCheckBox* case_;
   QLabel* count_;
+  QShortcut* escape_;   // on the text, while the bar is open
   QList<int> matches_;  // their positions, in order
 };
 

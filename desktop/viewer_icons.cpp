@@ -55,6 +55,14 @@ QPainterPath PathOf(LineIcon shape) {
       Lines(path, {{12, 10}, {12, 17.5}});
       Lines(path, {{8.8, 14.5}, {12, 17.7}, {15.2, 14.5}});
       break;
+    case LineIcon::Back:
+      Lines(path, {{20, 12}, {4, 12}});
+      Lines(path, {{11, 5}, {4, 12}, {11, 19}});
+      break;
+    case LineIcon::Forward:
+      Lines(path, {{4, 12}, {20, 12}});
+      Lines(path, {{13, 5}, {20, 12}, {13, 19}});
+      break;
     case LineIcon::Find:
       Lens(path, 10.5, 10.5, 6.5);
       break;

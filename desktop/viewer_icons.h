@@ -18,7 +18,9 @@ enum class LineIcon {
   Smaller,
   Up,
   Down,
-  Close
+  Close,
+  Back,
+  Forward
 };
 
 QIcon IconOf(LineIcon shape);

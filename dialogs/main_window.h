@@ -33,6 +33,8 @@ class MainWindow {
   virtual void MenuOpened(std::string_view topName) = 0;
   // A command is chosen. A run-time failure within it has become a message when this comes back.
   virtual void Choose(std::string_view commandName) = 0;
+  // Help is asked for: about a command, or without one about what is on the screen.
+  virtual void Help(std::string_view commandName) = 0;
   // True when a command has ended the program.
   virtual bool Ended() const = 0;
 };

@@ -44,6 +44,7 @@ struct OutsidePrograms {
   std::string reports;        // shows and prints reports
   std::string configuration;  // edits plain text
   std::string pdf;            // shows PDF files
+  std::string help;           // shows a book or a page of the help
 };
 
 class Player {

@@ -84,6 +84,7 @@ class PlainStage : public Stage {
     window.Choose(command);
     return {};
   }
+  void AskHelp(MainWindow& window) override { window.Help({}); }
 
  private:
   PlainPlayer player_;
@@ -101,7 +102,9 @@ StageBuilder PlainStageWithPictures(PictureTaker take) {
   };
 }
 
-OutsidePrograms ScriptPrograms() { return {"orm2002-visore", "editor-testi", "lettore-pdf"}; }
+OutsidePrograms ScriptPrograms() {
+  return {"orm2002-visore", "editor-testi", "lettore-pdf", "orm2002-guida"};
+}
 
 bool ScriptProgramExists(const std::string& path, const WorkFolder& folder) {
   const OutsidePrograms known = ScriptPrograms();

@@ -101,6 +101,8 @@ std::optional<Mismatch> ScriptPlayer::Play(const StageBuilder& build) {
   const bool startsItself = std::any_of(script_.begin(), script_.end(),
                                         [](const Statement& s) { return s.Verb() == "start"; });
   if (!startsItself) shell.Load();
+  stage_ = stage.get();
+  window_ = &shell;
   while (!mismatch_ && Next() != nullptr) PlayOutside(*stage, shell);
   return mismatch_;
 }
@@ -164,6 +166,8 @@ bool ScriptPlayer::PlayAnywhere(const Statement& s) {
     Starts(s);
   } else if (verb == "compare") {
     Compare(s, w[1].text, folder_.Read(w[1].text), w.size() == 4 ? w[3].text : w[1].text);
+  } else if (verb == "help") {
+    stage_->AskHelp(*window_);
   } else if (verb == "same") {
     Same(s);
   } else if (verb == "absent") {

@@ -57,6 +57,8 @@ class ScriptPlayer : public Actor {
   void Same(const Statement& statement);
   void Snapshot();
 
+  Stage* stage_ = nullptr;  // while the script plays
+  MainWindow* window_ = nullptr;
   std::vector<Statement> script_;
   std::size_t at_ = 0;
   WorkFolder scriptFolder_, folder_;

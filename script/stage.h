@@ -21,6 +21,8 @@ class Stage {
   virtual void Raise(MainWindow& window) = 0;  // the main window comes to the screen
   // Opens the menus down to the command and chooses it; empty, or why that cannot be done.
   virtual std::string Choose(MainWindow& window, std::string_view command) = 0;
+  // The key for help, on whatever stands in front.
+  virtual void AskHelp(MainWindow& window) = 0;
 };
 
 using StageBuilder = std::function<std::unique_ptr<Stage>(Actor& actor, const WorkFolder& folder)>;

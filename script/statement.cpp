@@ -20,7 +20,7 @@ constexpr std::array kGrammar = {
     Grammar{"show", 1, 1},   Grammar{"message", 2, 3}, Grammar{"failure", 1, 1},
     Grammar{"starts", 2, 2}, Grammar{"drawing", 2, 2}, Grammar{"compare", 1, 3},
     Grammar{"same", 1, 1},   Grammar{"absent", 1, 1},  Grammar{"picture", 1, 1},
-    Grammar{"file", 1, 1}};
+    Grammar{"file", 1, 1},   Grammar{"help", 0, 0}};
 
 Word QuotedWord(std::string_view line, std::size_t& at, int number) {
   Word word{{}, true};

@@ -12,6 +12,7 @@
 #include "shell/form_memo.h"
 #include "shell/form_title.h"
 #include "shell/form_user.h"
+#include "shell/help.h"
 #include "shell/letter.h"
 #include "shell/shell_boxes.h"
 #include "shell/technical_notes.h"
@@ -79,7 +80,11 @@ constexpr std::array kCommands = {
     Command{"UTIL_OV_CL_COMBO", MostraContabilita},
     Command{"UTIL_CALCOLATRICE", MostraCalcolatrice},
     Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
+    Command{"INFORMA_Avvertenze", MostraAvvertenze},
     Command{"INFORMA_Note", MostraMemo},
+    Command{"INFORMA_Norme", MostraNorme},
+    Command{"Informa_INAR", MostraNormeInarcassa},
+    Command{"INFORMA_MANUALE", MostraManuale},
     Command{"INFORMA_BALCONI", MostraNotaBalconi},
     Command{"INFORMA_SOLAIT", MostraNotaSolai},
     Command{"VER_ST1", MostraVerFlessT1},

@@ -5,6 +5,8 @@
 #include "shell/commands.h"
 #include "shell/form_editor.h"
 #include "shell/form_title.h"
+#include "shell/help.h"
+#include "shell/help_books.h"
 #include "shell/menu_tree.h"
 #include "shell/settings.h"
 #include "shell/shell_boxes.h"
@@ -75,7 +77,14 @@ void Shell::Choose(std::string_view commandName) {
     ended_ = true;
     return;
   }
+  running_ = commandName;
   Guard([&] { RunCommand(stato_, commandName); });
+  running_.clear();
+}
+
+void Shell::Help(std::string_view commandName) {
+  const std::string_view about = commandName.empty() ? running_ : commandName;
+  Guard([&] { MostraGuida(stato_, HelpFor(about)); });
 }
 
 }  // namespace orm

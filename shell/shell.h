@@ -18,6 +18,7 @@ class Shell : public MainWindow {
   void FirstActivation() override;
   void MenuOpened(std::string_view topName) override;
   void Choose(std::string_view commandName) override;
+  void Help(std::string_view commandName) override;
   bool Ended() const override { return ended_; }
 
   // Editors and criteria from their files, or their defaults.
@@ -33,6 +34,7 @@ class Shell : public MainWindow {
   std::vector<MenuItem> menu_;
   RunState stato_;
   bool ended_ = false;
+  std::string running_;  // the command at work; empty between commands
 };
 
 }  // namespace orm

@@ -119,6 +119,7 @@ class SampleWindow : public MainWindow {
   void FirstActivation() override { events.push_back("first"); }
   void MenuOpened(std::string_view name) override { events.push_back("open " + std::string(name)); }
   void Choose(std::string_view name) override { events.push_back("choose " + std::string(name)); }
+  void Help(std::string_view name) override { events.push_back("help " + std::string(name)); }
   bool Ended() const override { return false; }
   std::vector<std::string> events;
 
@@ -142,8 +143,11 @@ TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
   QTest::keyClick(&shown, Qt::Key_F, Qt::AltModifier);
   QWidget* menu = shown.PathTo("ESCI").front();
   EXPECT_TRUE(menu->isVisible());
+  QTest::keyClick(menu, Qt::Key_F1);
   QTest::keyClick(menu, Qt::Key_A);
-  EXPECT_EQ(window.events, (std::vector<std::string>{"first", "open FILE", "choose ALTRO"}));
+  QTest::keyClick(&shown, Qt::Key_F1);
+  EXPECT_EQ(window.events, (std::vector<std::string>{"first", "open FILE", "help ESCI",
+                                                     "choose ALTRO", "help "}));
 }
 
 TEST(RichTextDocument, KeepsEveryLookThatTheLogicKnows) {

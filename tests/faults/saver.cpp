@@ -38,7 +38,7 @@ class Hurried : public orm::Player {
   std::optional<std::string> ChooseFile(const orm::FileChoice&) override { return std::nullopt; }
   void StartProgram(const std::string&, const std::string&) override {}
   bool ProgramExists(const std::string&) override { return true; }
-  orm::OutsidePrograms DefaultPrograms() override { return {"visore", "editor", "pdf"}; }
+  orm::OutsidePrograms DefaultPrograms() override { return {"visore", "editor", "pdf", "guida"}; }
   orm::ScreenSize Screen() override { return {}; }
   orm::Date Today() override { return {2002, 3, 15}; }
 

@@ -66,7 +66,7 @@ class Nobody : public Player {
   std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
   void StartProgram(const std::string&, const std::string&) override {}
   bool ProgramExists(const std::string&) override { return true; }
-  OutsidePrograms DefaultPrograms() override { return {"a", "b", "c"}; }
+  OutsidePrograms DefaultPrograms() override { return {"a", "b", "c", "d"}; }
   ScreenSize Screen() override { return {}; }
   Date Today() override { return {2002, 3, 15}; }
 };

@@ -44,6 +44,7 @@ class CheckingStage : public Stage {
   std::string Choose(MainWindow& window, std::string_view command) override {
     return stage_->Choose(window, command);
   }
+  void AskHelp(MainWindow& window) override { stage_->AskHelp(window); }
 
  private:
   std::unique_ptr<Stage> stage_;
