@@ -69,7 +69,7 @@ Layout IngressiPutrelle::Carichi() {
                  Group(fraDiretti, {Fields({cdCD[0], cdCD[1]})}), lblBlu, lblModuli});
 }
 
-void IngressiPutrelle::TieEvents(std::function<void()> cambiati) {
+void IngressiPutrelle::TieEvents(const std::function<void()>& cambiati) {
   for (FloatBox* campo : {&cdLunghezza, &cdAltezza, &cdCD[0], &cdCD[1]}) campo->onChange = cambiati;
   for (FloatBox& carico : cdCR) carico.onChange = cambiati;
   cmbTipoDiFerro.onChange = cambiati;

@@ -24,7 +24,7 @@ class IngressiPutrelle {
   Layout Schema();
   Layout Carichi();
   // `cambiati` runs after any change.
-  void TieEvents(std::function<void()> cambiati);
+  void TieEvents(const std::function<void()>& cambiati);
   void Leggi(DatiPutrelle& dati) const;
 
   Frame fraGeometria;
