@@ -12,8 +12,8 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
     : Form("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI"),
       ingressi(*this, stato, {"Lunghezza sbalzo [m]", "CARICHI applicati lungo la putrella a ml."}),
       fraEstremita(*this, "fraEstremita", "CARICHI di estremità per ml."),
-      cdCE{{{*this, "cdCE(1)", "Carico [Kg/ml]", kLimitiCarico},
-            {*this, "cdCE(2)", "Coppia [Kg x m/ml]", kLimitiCarico}}},
+      cdCE{{{*this, "cdCE(0)", "Carico [Kg/ml]", kLimitiCarico},
+            {*this, "cdCE(1)", "Coppia [Kg x m/ml]", kLimitiCarico}}},
       cmdCarico(*this, "cmdCarico", "Analisi..."),
       cmdCOPPIA(*this, "cmdCOPPIA", "Analisi..."),
       fraZona(*this, "fraZona", "ZONA SISMICA"),
@@ -22,7 +22,7 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
       cmdCAR_SISMICHE(*this, "cmdCAR_SISMICHE", "Azioni sismiche..."),
       risultati(*this, {"Tensione normale max acciaio  [Kg/cmq]",
                         "Tensione tangenziale max acciaio  [Kg/cmq]"}),
-      ComCalcola(*this, "ComCalcola", "&CALCOLA", Button::Role::Default),
+      comCalcola(*this, "comCalcola", "&CALCOLA", Button::Role::Default),
       cmdSTAMPA(*this, "cmdSTAMPA", "&STAMPA"),
       ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
       stato_(stato) {
@@ -31,7 +31,7 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
                                                                Row({cdCE[1], cmdCOPPIA})})}),
                                   Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
                           Column({ingressi.Carichi()})}),
-                     risultati.Contents(), Buttons({ComCalcola, cmdSTAMPA, ComEsci})}));
+                     risultati.Contents(), Buttons({comCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();
@@ -51,9 +51,9 @@ void FrmVerSbalziP::TieEvents() {
   };
   cmdCAR_SISMICHE.onPress = [this] {
     ChiediCarichiSismici(stato_, cmdCAR_SISMICHE);
-    Azzera();
+    if (CarichiSismici(stato_).Confermato()) Azzera();
   };
-  ComCalcola.onPress = [this] { Calcola(); };
+  comCalcola.onPress = [this] { Calcola(); };
   cmdSTAMPA.onPress = [this] { TryAndStay(stato_.player, [this] { Stampa(); }); };
   ComEsci.onPress = [this] { Close(); };
 }

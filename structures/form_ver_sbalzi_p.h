@@ -15,14 +15,14 @@ class FrmVerSbalziP : public Form {
 
   IngressiPutrelle ingressi;
   Frame fraEstremita;
-  std::array<FloatBox, 2> cdCE;  // load, couple; from 1
+  std::array<FloatBox, 2> cdCE;  // load, couple
   Button cmdCarico, cmdCOPPIA;
   Frame fraZona;
   OptionGroup gruppoZona;
   OptionButton Option1, Option2;
   Button cmdCAR_SISMICHE;
   RisultatiPutrelle risultati;
-  Button ComCalcola, cmdSTAMPA, ComEsci;
+  Button comCalcola, cmdSTAMPA, ComEsci;
 
  private:
   void TieEvents();

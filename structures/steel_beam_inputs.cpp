@@ -28,18 +28,18 @@ IngressiPutrelle::IngressiPutrelle(Form& form, RunState& stato, const VociPutrel
       lblTavelloni(form, "lblTavelloni", kNotaTavelloni, Label::Style::Note),
       lblModuli(form, "lblModuli", kNotaModuli, Label::Style::Note),
       fraCarichi(form, "fraCarichi", "CARICHI RIPARTITI a mq."),
-      cdCR{{{form, "cdCR(1)", "Solettina di ripartizione [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(2)", "Peso Tavelloni [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(3)", "Peso Riempimento [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(4)", "Altro Ripartito [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(5)", "Carichi Permanenti  [Kg/mq]", kLimitiCarico},
-            {form, "cdCR(6)", "Sovraccarico di esercizio [Kg/mq]", kLimitiCarico}}},
+      cdCR{{{form, "cdCR(0)", "Solettina di ripartizione [Kg/mq]", kLimitiCarico},
+            {form, "cdCR(1)", "Peso Tavelloni [Kg/mq]", kLimitiCarico},
+            {form, "cdCR(2)", "Peso Riempimento [Kg/mq]", kLimitiCarico},
+            {form, "cdCR(3)", "Altro Ripartito [Kg/mq]", kLimitiCarico},
+            {form, "cdCR(4)", "Carichi Permanenti  [Kg/mq]", kLimitiCarico},
+            {form, "cdCR(5)", "Sovraccarico di esercizio [Kg/mq]", kLimitiCarico}}},
       cmdCALC_RIEMPIMENTO(form, "cmdCALC_RIEMPIMENTO", "Analisi..."),
       cmdCALCOLAPERMANENTE(form, "cmdCALCOLAPERMANENTE", "Analisi..."),
       cmdCalc_Acc(form, "cmdCalc_Acc", "Analisi..."),
       fraDiretti(form, "fraDiretti", voci.carichiDiretti),
-      cdCD{{{form, "cdCD(1)", "Peso Proprio Putrella [Kg/m]", kLimitiCarico},
-            {form, "cdCD(2)", "Diretto ripartito [Kg/m]", kLimitiCarico}}},
+      cdCD{{{form, "cdCD(0)", "Peso Proprio Putrella [Kg/m]", kLimitiCarico},
+            {form, "cdCD(1)", "Diretto ripartito [Kg/m]", kLimitiCarico}}},
       lblBlu(form, "lblBlu",
              "I valori dei campi in blu sono calcolati automaticamente\n"
              "dalla procedura in funzione dei valori forniti in altri campi.",
@@ -55,9 +55,9 @@ IngressiPutrelle::IngressiPutrelle(Form& form, RunState& stato, const VociPutrel
 }
 
 Layout IngressiPutrelle::Schema() {
-  return Column({Group(fraGeometria, {Fields({cdLunghezza, cdAltezza})}),
-                 Group(fraMateriali, {Fields({cmbPutrella, cmbTipoDiFerro, cmbTavellone}),
-                                      lblTavelloni, lblModuli})});
+  return Column(
+      {Group(fraGeometria, {Fields({cdLunghezza, cdAltezza})}),
+       Group(fraMateriali, {Fields({cmbPutrella, cmbTipoDiFerro, cmbTavellone}), lblTavelloni})});
 }
 
 Layout IngressiPutrelle::Carichi() {
@@ -66,10 +66,10 @@ Layout IngressiPutrelle::Carichi() {
                                 Row({cdCR[Riempimento], cmdCALC_RIEMPIMENTO}), cdCR[AltroRipartito],
                                 Row({cdCR[CarichiPermanentiRipartiti], cmdCALCOLAPERMANENTE}),
                                 Row({cdCR[Sovraccarico], cmdCalc_Acc})})}),
-                 Group(fraDiretti, {Fields({cdCD[0], cdCD[1]})}), lblBlu});
+                 Group(fraDiretti, {Fields({cdCD[0], cdCD[1]})}), lblBlu, lblModuli});
 }
 
-void IngressiPutrelle::TieEvents(std::function<void()> cambiati) {
+void IngressiPutrelle::TieEvents(const std::function<void()>& cambiati) {
   for (FloatBox* campo : {&cdLunghezza, &cdAltezza, &cdCD[0], &cdCD[1]}) campo->onChange = cambiati;
   for (FloatBox& carico : cdCR) carico.onChange = cambiati;
   cmbTipoDiFerro.onChange = cambiati;

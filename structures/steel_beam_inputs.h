@@ -20,11 +20,11 @@ struct VociPutrelle {
 class IngressiPutrelle {
  public:
   IngressiPutrelle(Form& form, RunState& stato, const VociPutrelle& voci);
-  // "GEOMETRIA DELLO SCHEMA" and "MATERIALI", then the loads.
+  // "GEOMETRIA DELLO SCHEMA" and "MATERIALI", then the loads and the notes.
   Layout Schema();
   Layout Carichi();
   // `cambiati` runs after any change.
-  void TieEvents(std::function<void()> cambiati);
+  void TieEvents(const std::function<void()>& cambiati);
   void Leggi(DatiPutrelle& dati) const;
 
   Frame fraGeometria;
@@ -33,7 +33,7 @@ class IngressiPutrelle {
   ComboBox cmbPutrella, cmbTipoDiFerro, cmbTavellone;
   Label lblTavelloni, lblModuli;
   Frame fraCarichi;
-  std::array<FloatBox, NumeroCarichiRipartiti> cdCR;  // from 1, as all arrays
+  std::array<FloatBox, NumeroCarichiRipartiti> cdCR;
   Button cmdCALC_RIEMPIMENTO, cmdCALCOLAPERMANENTE, cmdCalc_Acc;
   Frame fraDiretti;
   std::array<FloatBox, 2> cdCD;  // own weight of the beam, further load

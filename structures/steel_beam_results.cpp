@@ -15,7 +15,7 @@ RisultatiPutrelle::RisultatiPutrelle(Form& form, std::initializer_list<const cha
   for (const char* colonna : {"", "VALORI AMMESSI", "CALCOLATI"})
     lblColonne.emplace_back(form, NomeIndicizzato("lblColonne", lblColonne.size()), colonna);
   for (const char* voce : voci) {
-    const std::size_t numero = cdRisultati.size() + 1;
+    const std::size_t numero = cdRisultati.size();
     cdVAmmessi.emplace_back(form, NomeIndicizzato("cdVAmmessi", numero), voce, kValore);
     cdRisultati.emplace_back(form, NomeIndicizzato("cdRisultati", numero), voce, kValore);
     cdVAmmessi.back().SetReadOnly(true);

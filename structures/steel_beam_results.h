@@ -23,7 +23,7 @@ class RisultatiPutrelle {
 
   Frame fraRisultati;
   std::deque<Label> lblColonne;
-  std::deque<FloatBox> cdVAmmessi, cdRisultati;  // from 1
+  std::deque<FloatBox> cdVAmmessi, cdRisultati;
 };
 
 }  // namespace orm

@@ -50,8 +50,9 @@ inline constexpr std::array<VoceProfilo, 18> ProfiliNP = {{
 
 // What a person is told beside the list of the profiles.
 inline constexpr const char* kNotaModuli =
-    "I moduli di resistenza delle altezze 120, 360, 380 e 400 sono in tabella molto inferiori a "
-    "quelli dei profilari: con esse le tensioni normali risultano in eccesso.";
+    "I moduli di resistenza delle altezze 120, 360, 380 e 400\n"
+    "sono in tabella molto inferiori a quelli dei profilari:\n"
+    "con esse le tensioni normali risultano in eccesso.";
 
 // By the text of the height ("160"). An unknown height has 1.0 in every field, and what is reckoned
 // from it means nothing.

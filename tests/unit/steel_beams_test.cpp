@@ -6,6 +6,7 @@
 #include <random>
 
 #include "structures/hollow_tiles.h"
+#include "structures/steel_beam_results.h"
 #include "structures/steel_cantilever.h"
 #include "structures/steel_slab.h"
 
@@ -102,6 +103,17 @@ TEST(SteelSlab, CoefficientsAndEdges) {
   EXPECT_EQ(TensioniAcciaio("Fe 235").tau, 1);
   EXPECT_TRUE(ModuloInDifetto("120"));
   EXPECT_FALSE(ModuloInDifetto("140"));
+}
+
+TEST(SteelSlab, ValuesBeyondTheAllowedOnesWarnUntilTheyAreCleared) {
+  Form form("frmProva", "");
+  RisultatiPutrelle risultati(form, {"uno", "due"});
+  risultati.Mostra({{924, 924}, {1600, 1600.001}});
+  EXPECT_FALSE(risultati.cdRisultati[0].Warns());
+  EXPECT_TRUE(risultati.cdRisultati[1].Warns());
+  EXPECT_EQ(risultati.cdRisultati[1].ShownText(), "1600,00");
+  risultati.Azzera();
+  EXPECT_FALSE(risultati.cdRisultati[1].Warns());
 }
 
 TEST(SteelCantilever, LoadsBySlices) {
