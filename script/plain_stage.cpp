@@ -97,7 +97,7 @@ std::unique_ptr<Stage> BuildPlainStage(Actor& actor, const WorkFolder& folder) {
 }
 
 StageBuilder PlainStageWithPictures(PictureTaker take) {
-  return [take](Actor& actor, const WorkFolder& folder) {
+  return [take = std::move(take)](Actor& actor, const WorkFolder& folder) {
     return std::make_unique<PlainStage>(actor, folder, take);
   };
 }

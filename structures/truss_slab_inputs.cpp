@@ -107,7 +107,7 @@ void IngressiSolaio::ValoriIniziali() {
   AggiornaPesoProprio();
 }
 
-void IngressiSolaio::TieEvents(std::function<void()> cambiati) {
+void IngressiSolaio::TieEvents(const std::function<void()>& cambiati) {
   for (ComboBox* lista : {&cmbTipoDiFerro, &cmbTipoDiCls, &cmbCCM_SIN, &cmbCCM_DEX, &cmbCCM_MEZ})
     lista->onChange = cambiati;
   for (ComboBox& lista : cmbFERRI) lista.onChange = cambiati;

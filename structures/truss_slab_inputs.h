@@ -17,7 +17,7 @@ class IngressiSolaio {
   Layout Contents();
   void ValoriIniziali();
   // `cambiati` runs after any change.
-  void TieEvents(std::function<void()> cambiati);
+  void TieEvents(const std::function<void()>& cambiati);
 
   // Takes the span that was typed; false when it was refused with a message and set back.
   bool AccettaLuce();
