@@ -46,9 +46,8 @@ HelpWindow::HelpWindow()
   setWindowTitle(QStringLiteral("ORM2002 - Guida"));
   tabs_->addTab(Contents(), QStringLiteral("&Indice"));
   tabs_->addTab(SearchPanel(), QStringLiteral("&Cerca"));
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
-    tab == 0 ? contents_->setFocus() : sought_->setFocus();
-  });
+  connect(tabs_, &QTabWidget::currentChanged, this,
+          [this](int tab) { tab == 0 ? contents_->setFocus() : sought_->setFocus(); });
   auto* right = new QWidget;
   auto* column = new QVBoxLayout(right);
   column->setContentsMargins(0, 0, 0, 0);
@@ -65,6 +64,7 @@ HelpWindow::HelpWindow()
   setCentralWidget(splitter);
   resize(1040, 720);
   BuildCommands();
+  view_->setFocus();
   connect(view_, &QTextBrowser::sourceChanged, this, [this] { ShowPlace(); });
 }
 
@@ -128,6 +128,7 @@ void HelpWindow::ShowPlace() {
     const QTreeWidgetItem* now = contents_->currentItem();
     if (now == nullptr || now->data(0, kFile).toString() != view_->File()) {
       contents_->setCurrentItem(*at);
+      (*at)->setExpanded(true);
       contents_->scrollToItem(*at);
     }
     return;

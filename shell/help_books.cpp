@@ -74,17 +74,18 @@ std::vector<HelpPage> ManualPages() {
   return pages;
 }
 
-// What a person reads of a line: no marks of Markdown, of a link its words alone.
+// What a person reads of a line: no marks of Markdown, of a link its words alone, one blank between
+// words.
 std::string PlainLine(std::string_view line) {
   std::string plain;
   for (std::size_t i = 0; i < line.size(); ++i) {
     if (line[i] == '!' && line.substr(i).starts_with("![")) continue;
     if (line[i] == ']' && i + 1 < line.size() && line[i + 1] == '(')
       i = std::min(line.find(')', i), line.size());
-    else if (std::string_view("*`[]|#>").find(line[i]) == std::string_view::npos)
+    else if (line[i] == ' ' || line[i] == '|')
+      plain += plain.empty() || plain.back() == ' ' ? "" : " ";
+    else if (std::string_view("*`[]#>").find(line[i]) == std::string_view::npos)
       plain += line[i];
-    else if (line[i] == '|' && !plain.empty())
-      plain += ' ';
   }
   return plain;
 }

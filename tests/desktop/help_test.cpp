@@ -44,11 +44,17 @@ TEST_F(Help, BooksAndPagesOpenByTheirNames) {
   EXPECT_TRUE(window.View().File().startsWith("manuale/"));
 }
 
+TEST_F(Help, ThePageHasTheKeyboardFirst) {
+  window.activateWindow();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window.focusWidget(), &window.View());
+}
+
 TEST_F(Help, ContentsFollowThePageAndOpenSections) {
   auto& contents = Named<QTreeWidget>("contents");
   ASSERT_NE(contents.currentItem(), nullptr);
   EXPECT_EQ(contents.currentItem()->text(0), "Collaudo amministrativo");
-  contents.currentItem()->setExpanded(true);
+  EXPECT_TRUE(contents.currentItem()->isExpanded());
   contents.setFocus();
   QTest::keyClick(&contents, Qt::Key_Down);
   QTest::keyClick(&contents, Qt::Key_Down);
