@@ -19,11 +19,11 @@ static void TakePictures() { Q_INIT_RESOURCE(help); }
 namespace orm {
 namespace {
 
-constexpr double kPoints = 10.5;      // of the body at 100 %
-constexpr int kWidestLine = 88;       // letters; longer lines are hard to follow
-constexpr int kMargin = 28;           // pixels around the page
-constexpr int kWidestPicture = 620;   // pixels, about as wide as the lines
-constexpr double kPaperPoints = 9.5;  // of the body on paper
+constexpr double kPoints = 10.5;  // of the body at 100 %
+constexpr int kWidestLine = 88;   // letters; longer lines are hard to follow
+constexpr int kMargin = 28;       // pixels around the page
+constexpr int kLeastPicture = 200, kWidestPicture = 620;  // pixels
+constexpr double kPaperPoints = 9.5;                      // of the body on paper
 
 const HelpPage* FindPage(const std::vector<HelpBook>& books, const QString& file) {
   for (const HelpBook& book : books)
@@ -54,6 +54,7 @@ HelpView::HelpView(const std::vector<HelpBook>& books, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   setOpenExternalLinks(false);
   setLineWrapMode(QTextEdit::FixedPixelWidth);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // lines are as wide before a page as after
   connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
     file_ = url.path().mid(1);
     Dress();
@@ -72,12 +73,16 @@ const HelpPage* HelpView::Page() const { return FindPage(books_, file_); }
 QVariant HelpView::loadResource(int type, const QUrl& name) {
   if (type == QTextDocument::ImageResource) {
     const QPixmap picture = PictureOf(name);
-    return picture.width() > kWidestPicture
-               ? picture.scaledToWidth(kWidestPicture, Qt::SmoothTransformation)
-               : picture;
+    const int room = PictureRoom();
+    return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation) : picture;
   }
   const HelpPage* page = FindPage(books_, name.path().mid(1));
   return page == nullptr ? QStringLiteral("# Pagina non trovata\n") : ToQt(page->text);
+}
+
+// No wider than the lines of a page that fills the window.
+int HelpView::PictureRoom() const {
+  return std::clamp(lineWrapColumnOrWidth() - 2 * kMargin, kLeastPicture, kWidestPicture);
 }
 
 double HelpView::BodyPoints() const { return kPoints * zoom_ / 100; }
@@ -124,12 +129,16 @@ void HelpView::Mark(const QString& words) {
   setExtraSelections(marks);
 }
 
-// The page is laid out anew, and stays where it was.
 void HelpView::SetZoom(int percent) {
   zoom_ = std::clamp(percent, kLeastZoom, kMostZoom);
-  const int at = verticalScrollBar()->value(), most = std::max(1, verticalScrollBar()->maximum());
   QResizeEvent same(size(), size());
   resizeEvent(&same);
+  LayAnew();
+}
+
+// The page stays where it was.
+void HelpView::LayAnew() {
+  const int at = verticalScrollBar()->value(), most = std::max(1, verticalScrollBar()->maximum());
   reload();
   verticalScrollBar()->setValue(at * verticalScrollBar()->maximum() / most);
 }
@@ -138,8 +147,12 @@ void HelpView::resizeEvent(QResizeEvent* event) {
   QFont font;
   font.setPointSizeF(BodyPoints());
   const int most = QFontMetrics(font).averageCharWidth() * kWidestLine + 2 * kMargin;
+  const int before = PictureRoom();
   setLineWrapColumnOrWidth(std::min(viewport()->width(), most));
   QTextBrowser::resizeEvent(event);
+  if (PictureRoom() != before && !file_.isEmpty())
+    QMetaObject::invokeMethod(
+        this, [this] { LayAnew(); }, Qt::QueuedConnection);
 }
 
 void HelpView::wheelEvent(QWheelEvent* event) {
@@ -150,7 +163,7 @@ void HelpView::wheelEvent(QWheelEvent* event) {
 
 void HelpView::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && !file_.isEmpty()) reload();
+  if (event->type() == QEvent::PaletteChange && !file_.isEmpty()) LayAnew();
 }
 
 void HelpView::Print() {

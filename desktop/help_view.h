@@ -37,6 +37,8 @@ class HelpView : public QTextBrowser {
  private:
   void Dress();
   void GoTo(const QString& section);
+  void LayAnew();
+  int PictureRoom() const;
   double BodyPoints() const;
 
   const std::vector<HelpBook>& books_;

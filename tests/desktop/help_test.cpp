@@ -127,6 +127,15 @@ TEST_F(Help, ZoomKeepsThePageAndItsPlace) {
   EXPECT_EQ(window.View().File(), "manuale/ppe.md");  // zooming is no page of its own
 }
 
+TEST_F(Help, PicturesFitANarrowWindow) {
+  window.Open("manuale/solaio_traliccio.md");
+  for (const int width : {1100, 760, 1100}) {
+    window.resize(width, 700);
+    QTest::qWait(20);
+    EXPECT_EQ(window.View().horizontalScrollBar()->maximum(), 0) << width;
+  }
+}
+
 // For the eye: contents and search, at every scale and in the dark.
 TEST(Gallery, Help) {
   HelpWindow window;
