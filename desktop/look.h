@@ -10,10 +10,10 @@ class QWidget;
 namespace orm {
 
 bool IsDark(const QPalette& palette);
-QColor WarningText(const QPalette& palette);  // on a window or a field
-QColor WarningBase(const QPalette& palette);  // behind the text of a field
+QColor WarningText(const QPalette& palette);    // on a window or a field
+QColor WarningBase(const QPalette& palette);    // behind the text of a field
 QColor AutomaticText(const QPalette& palette);  // a value that the program has written: blue
-QColor NoteText(const QPalette& palette);     // less weight than the text, still easy to read
+QColor NoteText(const QPalette& palette);       // less weight than the text, still easy to read
 
 // A round mark with "!": a warning is told by more than its colour.
 QIcon WarningMark(const QPalette& palette);

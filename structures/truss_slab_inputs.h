@@ -56,7 +56,7 @@ class IngressiSolaio {
   RunState& stato_;
   double luce_ = 0;  // as last accepted, and so the two choices
   int solettina_ = 0;
-  int blocco_ = 2;  // R 38 x 20, high enough for a usual room
+  int blocco_ = 2;        // R 38 x 20, high enough for a usual room
   bool ritorno_ = false;  // while a choice is set back
 };
 

@@ -146,8 +146,8 @@ TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
   QTest::keyClick(menu, Qt::Key_F1);
   QTest::keyClick(menu, Qt::Key_A);
   QTest::keyClick(&shown, Qt::Key_F1);
-  EXPECT_EQ(window.events, (std::vector<std::string>{"first", "open FILE", "help ESCI",
-                                                     "choose ALTRO", "help "}));
+  EXPECT_EQ(window.events,
+            (std::vector<std::string>{"first", "open FILE", "help ESCI", "choose ALTRO", "help "}));
 }
 
 TEST(RichTextDocument, KeepsEveryLookThatTheLogicKnows) {
