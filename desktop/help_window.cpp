@@ -33,6 +33,11 @@ QTreeWidgetItem* AddItem(QTreeWidgetItem* above, const QString& text, const QStr
   return item;
 }
 
+void AddSections(QTreeWidgetItem* above, const HelpPage& page) {
+  for (const std::string& section : page.sections)
+    AddItem(above, ToQt(section), ToQt(page.file), ToQt(section));
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow()
@@ -42,7 +47,8 @@ HelpWindow::HelpWindow()
       sought_(new QLineEdit),
       hits_(new QListWidget),
       view_(new HelpView(books_)),
-      find_(new FindBar(*view_)) {
+      find_(new FindBar(*view_)),
+      splitter_(new QSplitter) {
   setWindowTitle(QStringLiteral("ORM2002 - Guida"));
   tabs_->addTab(Contents(), QStringLiteral("&Indice"));
   tabs_->addTab(SearchPanel(), QStringLiteral("&Cerca"));
@@ -54,14 +60,12 @@ HelpWindow::HelpWindow()
   column->setSpacing(0);
   column->addWidget(view_, 1);
   column->addWidget(find_);
-  auto* splitter = new QSplitter;
-  splitter->addWidget(tabs_);
-  splitter->addWidget(right);
-  splitter->setStretchFactor(1, 1);
-  splitter->setSizes({300, 700});
-  splitter->setChildrenCollapsible(false);
-  splitter_ = splitter;
-  setCentralWidget(splitter);
+  splitter_->addWidget(tabs_);
+  splitter_->addWidget(right);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->setSizes({300, 700});
+  splitter_->setChildrenCollapsible(false);
+  setCentralWidget(splitter_);
   resize(1040, 720);
   BuildCommands();
   view_->setFocus();
@@ -94,8 +98,7 @@ void HelpWindow::FillContents() {
     top->setFont(0, bold);
     if (book.pages.size() == 1) {
       top->setData(0, kFile, ToQt(book.pages[0].file));
-      for (const std::string& section : book.pages[0].sections)
-        AddItem(top, ToQt(section), ToQt(book.pages[0].file), ToQt(section));
+      AddSections(top, book.pages[0]);
       continue;
     }
     QTreeWidgetItem* group = top;
@@ -105,17 +108,10 @@ void HelpWindow::FillContents() {
         groupName = ToQt(page.group);
         group = groupName.isEmpty() ? top : AddItem(top, groupName, {});
       }
-      AddPage(group, page);
+      AddSections(AddItem(group, ToQt(page.title), ToQt(page.file)), page);
     }
     if (book.file == kManuale) top->setExpanded(true);
   }
-}
-
-QTreeWidgetItem* HelpWindow::AddPage(QTreeWidgetItem* above, const HelpPage& page) {
-  QTreeWidgetItem* item = AddItem(above, ToQt(page.title), ToQt(page.file));
-  for (const std::string& section : page.sections)
-    AddItem(item, ToQt(section), ToQt(page.file), ToQt(section));
-  return item;
 }
 
 // The contents follow the page that is read.
@@ -261,13 +257,13 @@ void HelpWindow::Open(const QString& place) {
 
 void HelpWindow::TakeHabits(const QSettings& settings) {
   restoreGeometry(settings.value("finestra").toByteArray());
-  static_cast<QSplitter*>(splitter_)->restoreState(settings.value("divisione").toByteArray());
+  splitter_->restoreState(settings.value("divisione").toByteArray());
   view_->SetZoom(settings.value("zoom", 100).toInt());
 }
 
 void HelpWindow::KeepHabits(QSettings& settings) const {
   settings.setValue("finestra", saveGeometry());
-  settings.setValue("divisione", static_cast<QSplitter*>(splitter_)->saveState());
+  settings.setValue("divisione", splitter_->saveState());
   settings.setValue("zoom", view_->Zoom());
 }
 

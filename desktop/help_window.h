@@ -9,6 +9,7 @@
 class QLineEdit;
 class QListWidget;
 class QSettings;
+class QSplitter;
 class QTabWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -41,7 +42,6 @@ class HelpWindow : public QMainWindow {
   QWidget* Contents();
   QWidget* SearchPanel();
   void FillContents();
-  QTreeWidgetItem* AddPage(QTreeWidgetItem* above, const HelpPage& page);
   void BuildCommands();
   void ShowPlace();
   void ShowHits();
@@ -55,7 +55,7 @@ class HelpWindow : public QMainWindow {
   std::vector<HelpHit> found_;
   HelpView* view_;
   FindBar* find_;
-  QWidget* splitter_;
+  QSplitter* splitter_;
 };
 
 }  // namespace orm
