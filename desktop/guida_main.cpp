@@ -14,7 +14,12 @@ namespace {
 
 constexpr int kPatience = 500;  // milliseconds for a window that is open to answer
 
-QString Meeting() { return QStringLiteral("orm2002-guida-%1").arg(getuid()); }
+// One window for each person and screen.
+QString Meeting() {
+  QString screen = qEnvironmentVariable("WAYLAND_DISPLAY") + qEnvironmentVariable("DISPLAY");
+  screen.replace('/', '_');
+  return QStringLiteral("orm2002-guida-%1-%2").arg(getuid()).arg(screen);
+}
 
 // True when an open window took the place over.
 bool HandedOver(const QString& place) {
