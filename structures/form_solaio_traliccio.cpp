@@ -101,11 +101,11 @@ void FrmVerSolaioTralic::Calcola() {
 }
 
 void FrmVerSolaioTralic::Stampa() {
-  RelazioneStrutturale relazione(stato_, kRelazioneSolaioT);
-  ReportPrinter testo;
-  if (!relazione.Accodata()) StampaIntestazioneSolaioT(testo, LeggiProduttore(stato_.folder));
-  StampaSolaioT(testo, relazione.Numero(), dati_, risultati_);
-  relazione.Stampa(testo);
+  RelazioneStrutturale(stato_, kRelazioneSolaioT)
+      .Stampa([this](ReportPrinter& testo, bool primo, int numero) {
+        if (primo) StampaIntestazioneSolaioT(testo, LeggiProduttore(stato_.folder));
+        StampaSolaioT(testo, numero, dati_, risultati_);
+      });
 }
 
 void MostraSolaioTraliccio(RunState& stato) {

@@ -88,12 +88,10 @@ void FrmVerSbalziP::Calcola() {
 }
 
 void FrmVerSbalziP::Stampa() {
-  RelazioneStrutturale relazione(stato_, kRelazioneSbalzoP);
-  if (relazione.Accodata())
-    stato_.player.Ask(Avviso("LA STAMPA SARÁ ACCODATA A QUELLA DELLO SBALZO PRECEDENTE"));
-  ReportPrinter testo;
-  StampaSbalzoP(testo, !relazione.Accodata(), relazione.Numero(), dati_, verifica_);
-  relazione.Stampa(testo);
+  RelazioneStrutturale(stato_, kRelazioneSbalzoP)
+      .Stampa([this](ReportPrinter& testo, bool primo,
+                     int numero) { StampaSbalzoP(testo, primo, numero, dati_, verifica_); },
+              "LA STAMPA SARÁ ACCODATA A QUELLA DELLO SBALZO PRECEDENTE");
 }
 
 void MostraSbalziP(RunState& stato) {

@@ -91,12 +91,10 @@ void FrmVerSolaioP::Calcola() {
 }
 
 void FrmVerSolaioP::Stampa() {
-  RelazioneStrutturale relazione(stato_, kRelazioneSolaioP);
-  if (relazione.Accodata())
-    stato_.player.Ask(Avviso("LA STAMPA SARÁ ACCODATA A QUELLA DEL SOLAIO PRECEDENTE"));
-  ReportPrinter testo;
-  StampaSolaioP(testo, !relazione.Accodata(), relazione.Numero(), dati_, verifica_);
-  relazione.Stampa(testo);
+  RelazioneStrutturale(stato_, kRelazioneSolaioP)
+      .Stampa([this](ReportPrinter& testo, bool primo,
+                     int numero) { StampaSolaioP(testo, primo, numero, dati_, verifica_); },
+              "LA STAMPA SARÁ ACCODATA A QUELLA DEL SOLAIO PRECEDENTE");
 }
 
 void MostraSolaioP(RunState& stato) {

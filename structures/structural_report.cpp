@@ -5,6 +5,7 @@
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {
@@ -55,10 +56,13 @@ int RelazioneStrutturale::Numero() const {
 
 bool RelazioneStrutturale::Accodata() const { return Numero() > 1 && stato_.folder.Exists(file_); }
 
-void RelazioneStrutturale::Stampa(const ReportPrinter& elemento) {
-  std::string bytes;
-  if (Accodata()) bytes = stato_.folder.Read(file_);
-  bytes += ToWindows1252(elemento.Contents());
+void RelazioneStrutturale::Stampa(const StampaElemento& stampa, const char* avviso) {
+  const bool accodata = Accodata();
+  if (accodata && avviso != nullptr) stato_.player.Ask(Avviso(avviso));
+  ReportPrinter testo;
+  stampa(testo, !accodata, Numero());
+  const std::string bytes =
+      (accodata ? stato_.folder.Read(file_) : "") + ToWindows1252(testo.Contents());
   stato_.folder.Replace(file_, bytes, Durability::Remakeable);
   ++stato_.memoria.The<ElementiStampati>().quanti[file_];
   stato_.player.StartProgram(stato_.editors.EditorTesti, file_);

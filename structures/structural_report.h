@@ -2,6 +2,7 @@
 // kind of element, which every run of the program begins anew and then goes on.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -43,9 +44,11 @@ class RelazioneStrutturale {
   int Numero() const;
   // True when the next element goes behind others of this run, whose file is still there.
   bool Accodata() const;
-  // Writes the element, alone when it is the first of the run, else behind those before it, and
-  // opens the report. A failure to write leaves file and number as they were.
-  void Stampa(const ReportPrinter& elemento);
+  // Writes the element that `stampa` prints, alone when it is the first of the run, else behind
+  // those before it, and opens the report. With an `avviso` the person is told before an element
+  // goes behind others. A failure to write leaves file and number as they were.
+  using StampaElemento = std::function<void(ReportPrinter& testo, bool primo, int numero)>;
+  void Stampa(const StampaElemento& stampa, const char* avviso = nullptr);
 
  private:
   RunState& stato_;

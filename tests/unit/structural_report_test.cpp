@@ -34,16 +34,19 @@ TEST(StructuralReport, EveryRunBeginsItsFileAnewAndGoesOn) {
   RunState stato(player, WorkFolder(place.Path()));
   stato.folder.Replace("OUT_A.DOC", "di ieri");
   RelazioneStrutturale a(stato, "OUT_A.DOC"), b(stato, "OUT_B.DOC");
-  ReportPrinter uno, due;
-  uno.Line("uno");
-  due.Line("due");
+  const auto stampa = [](ReportPrinter& testo, bool primo, int numero) {
+    testo.Text(primo ? "in testa" : "in coda").Bare(numero).EndLine();
+  };
   EXPECT_FALSE(a.Accodata());
-  a.Stampa(uno);
-  EXPECT_EQ(stato.folder.Read("OUT_A.DOC"), "uno\r\n");
+  a.Stampa(stampa, "ACCODATA");
+  EXPECT_TRUE(player.messages.empty());
+  EXPECT_EQ(stato.folder.Read("OUT_A.DOC"), "in testa 1 \r\n");
   EXPECT_TRUE(a.Accodata());
   EXPECT_EQ(a.Numero(), 2);
-  RelazioneStrutturale(stato, "OUT_A.DOC").Stampa(due);
-  EXPECT_EQ(stato.folder.Read("OUT_A.DOC"), "uno\r\ndue\r\n");
+  RelazioneStrutturale(stato, "OUT_A.DOC").Stampa(stampa, "ACCODATA");
+  ASSERT_EQ(player.messages.size(), 1U);
+  EXPECT_EQ(player.messages[0].text, "ACCODATA");
+  EXPECT_EQ(stato.folder.Read("OUT_A.DOC"), "in testa 1 \r\nin coda 2 \r\n");
   EXPECT_EQ(b.Numero(), 1);
   // A file that was taken away meanwhile: the numbers go on, the heading is wanted again.
   stato.folder.Remove("OUT_A.DOC");
@@ -58,9 +61,8 @@ TEST(StructuralReport, AFailureLeavesFileAndNumber) {
   StartingPlayer player;
   RunState stato(player, WorkFolder("/questa/cartella/manca"));
   RelazioneStrutturale relazione(stato, "OUT_A.DOC");
-  ReportPrinter testo;
-  testo.Line("uno");
-  EXPECT_THROW(relazione.Stampa(testo), RuntimeFailure);
+  EXPECT_THROW(relazione.Stampa([](ReportPrinter& testo, bool, int) { testo.Line("uno"); }),
+               RuntimeFailure);
   EXPECT_EQ(relazione.Numero(), 1);
   EXPECT_EQ(player.started, 0);
 }
