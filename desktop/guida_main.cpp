@@ -6,9 +6,11 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSettings>
+#include <cstdio>
 
 #include "desktop/desktop_app.h"
 #include "desktop/help_window.h"
+#include "desktop/screen.h"
 
 namespace {
 
@@ -50,7 +52,12 @@ void ShowWhatOthersAsk(QLocalServer& server, orm::HelpWindow& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  orm::PlatformChoice platform;
   QApplication application(argc, argv);
+  if (platform.IsUnseen()) {
+    std::fputs("orm2002-guida: non c'è uno schermo su cui mostrare la guida.\n", stderr);
+    return 1;
+  }
   orm::DressApplication(application);
   const QStringList arguments = QCoreApplication::arguments();
   const QString place = arguments.size() > 1 ? arguments[1] : QString();

@@ -1,13 +1,23 @@
 // The desktop program. Works in the current folder; no arguments.
+#include <cstdio>
+
 #include "desktop/desktop_app.h"
 #include "desktop/desktop_player.h"
 #include "desktop/menu_window.h"
+#include "desktop/screen.h"
 #include "runtime/folder.h"
 #include "shell/shell.h"
 
 int main(int argc, char** argv) {
   orm::TellFileSizeErrors();
+  orm::PlatformChoice platform;
   QApplication application(argc, argv);
+  if (platform.IsUnseen()) {
+    std::fputs(
+        "orm2002: non c'è uno schermo. Le parcelle si calcolano anche con orm2002-calcolo.\n",
+        stderr);
+    return 1;
+  }
   orm::DressApplication(application);
   const orm::WorkFolder folder(".");
   orm::DesktopPlayer player(folder.Path());

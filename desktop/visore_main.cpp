@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "desktop/italian_captions.h"
+#include "desktop/screen.h"
 #include "desktop/viewer_export.h"
 #include "desktop/viewer_messages.h"
 #include "desktop/viewer_window.h"
@@ -86,25 +87,11 @@ int ShowFile(const std::string& file) {
   return result;
 }
 
-bool IsSet(const char* variable) { return !qEnvironmentVariableIsEmpty(variable); }
-
-// Chooses how Qt starts. Without a screen it would end the process with no word for the user, so it
-// is given a second choice that always starts.
-void ChoosePlatform(bool needsScreen) {
-  if (IsSet("QT_QPA_PLATFORM")) return;
-  if (!needsScreen) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  } else if (!IsSet("WAYLAND_DISPLAY")) {
-    qputenv("QT_QPA_PLATFORM", IsSet("DISPLAY") ? "xcb;offscreen" : "offscreen");
-  }
-}
-
 int Run(int argc, char** argv) {
   const Request request = RequestOf({argv + 1, argv + argc});
-  const bool screenAsked = IsSet("QT_QPA_PLATFORM");
-  ChoosePlatform(request.copyOption.empty());
+  PlatformChoice platform(request.copyOption.empty());
   QApplication application(argc, argv);
-  const bool unseen = !screenAsked && QGuiApplication::platformName() == QLatin1String("offscreen");
+  const bool unseen = platform.IsUnseen();
 
   if (request.valid && !request.copyOption.empty()) return WriteCopy(request);
   if (!request.valid && unseen) {
