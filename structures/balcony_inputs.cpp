@@ -70,9 +70,9 @@ Layout PannelloMisure::Contents() { return Group(fraGeo, {Fields({cdGeo.begin(),
 
 IngressiBalcone::IngressiBalcone(Form& form, RunState& stato)
     : fraTipo(form, "fraTipo", "TIPO"),
-      optTipo{{{form, "optTipo(1)", kTipi[0], gruppoTipo},
-               {form, "optTipo(2)", kTipi[1], gruppoTipo},
-               {form, "optTipo(3)", kTipi[2], gruppoTipo}}},
+      optTipo{{{form, "optTipo(0)", kTipi[0], gruppoTipo},
+               {form, "optTipo(1)", kTipi[1], gruppoTipo},
+               {form, "optTipo(2)", kTipi[2], gruppoTipo}}},
       misure{{{form, TipoBalcone::Putrelle},
               {form, TipoBalcone::Mensole},
               {form, TipoBalcone::LastraSemplice}}},
@@ -85,7 +85,7 @@ IngressiBalcone::IngressiBalcone(Form& form, RunState& stato)
       cmdCalc_Est(form, "cmdCalc_Est", "Analisi..."),
       cmdCalc_Acc(form, "cmdCalc_Acc", "Analisi..."),
       fraZona(form, "fraZona", "ZONA SISMICA"),
-      optZona{{{form, "optZona(1)", "Si", gruppoZona}, {form, "optZona(2)", "No", gruppoZona}}},
+      optZona{{{form, "optZona(0)", "Si", gruppoZona}, {form, "optZona(1)", "No", gruppoZona}}},
       cmdCAR_SISMICHE(form, "cmdCAR_SISMICHE", "Azioni sismiche..."),
       stato_(stato) {
   optTipo[0].SetValue(true);

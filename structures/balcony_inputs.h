@@ -30,7 +30,7 @@ class IngressiBalcone {
   TipoBalcone Tipo() const { return static_cast<TipoBalcone>(gruppoTipo.Chosen()); }
   DatiBalcone Leggi() const;
 
-  // Arrays count from 1.
+  // The measures and loads count from 1, the options from 0.
   Frame fraTipo;
   OptionGroup gruppoTipo;
   std::array<OptionButton, 3> optTipo;

@@ -29,7 +29,7 @@ class TensioniBalcone {
   // Whether a stress of the results is beyond what is allowed.
   bool Supera(const RisultatiBalcone& risultati) const;
 
-  // Arrays count from 1: the materials, the elements of the results.
+  // The results are named in the order in which they are shown, the wall last.
   Frame fraMateriali;
   std::array<Label, 4> lblMateriali;
   std::array<FloatBox, 3> cdMaterialiS, cdMaterialiT;

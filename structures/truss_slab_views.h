@@ -32,7 +32,7 @@ class VisteSolaio {
 
   Frame fraVisualizza;
   OptionGroup gruppo;
-  std::array<OptionButton, 5> optVisualizza;  // from 1, as all arrays
+  std::array<OptionButton, 5> optVisualizza;
   Frame fraDisegno;
   orm::Lavagna Lavagna;
   Frame fraFerri;
