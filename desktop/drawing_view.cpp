@@ -1,7 +1,8 @@
 // Lavagna on the screen, with its menu: to a file or to paper.
+#include <QBuffer>
 #include <QContextMenuEvent>
-#include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QImage>
 #include <QMenu>
 #include <QMessageBox>
@@ -13,6 +14,8 @@
 #include "desktop/paint_drawing.h"
 #include "desktop/qt_text.h"
 #include "desktop/views.h"
+#include "runtime/failure.h"
+#include "runtime/folder.h"
 
 namespace orm {
 namespace {
@@ -61,18 +64,20 @@ class DrawingWidget : public QWidget {
     if (!path.isEmpty() && !path.endsWith("." + ending, Qt::CaseInsensitive)) path += "." + ending;
     return path;
   }
-  void TellFailure(const QString& path) {
-    QMessageBox::warning(this, "ATTENZIONE", "Non è stato possibile scrivere il file\n" + path);
+  // An older picture of that name stays until the new one is whole.
+  void Write(const QString& path, const std::string& bytes) {
+    const QFileInfo file(path);
+    try {
+      WorkFolder(FromQt(file.absolutePath())).Replace(FromQt(file.fileName()), bytes);
+    } catch (const RuntimeFailure& failure) {
+      QMessageBox::warning(
+          this, "ATTENZIONE",
+          "Non è stato possibile scrivere il file\n" + path + "\n" + ToQt(failure.Reason()));
+    }
   }
   void SaveSvg() {
     const QString path = AskPath("svg");
-    if (path.isEmpty()) return;
-    const std::string svg = lavagna_.AsSvg();
-    QFile file(path);
-    const auto length = static_cast<qint64>(svg.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(svg.data(), length) != length ||
-        !file.flush())
-      TellFailure(path);
+    if (!path.isEmpty()) Write(path, lavagna_.AsSvg());
   }
   void SavePng() {
     const QString path = AskPath("png");
@@ -83,7 +88,10 @@ class DrawingWidget : public QWidget {
     QPainter painter(&picture);
     PaintDrawing(painter, lavagna_, picture.rect());
     painter.end();
-    if (!picture.save(path, "PNG")) TellFailure(path);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    Write(path, bytes.toStdString());
   }
   void Print() {
     QPrinter printer(QPrinter::HighResolution);
