@@ -25,7 +25,10 @@ struct Mismatch {
   std::string text;
 };
 
-// Throws Mismatch on a word without its closing quote or an unknown verb.
+// The statements as they are played: what stands between `repeat N` and `end` N times over, a form
+// that is left on its own line (`dialog NAME press BUTTON`) as two. Throws Mismatch on a word
+// without its closing quote, an unknown verb, a wrong number of words, rounds that are not closed
+// or too many.
 std::vector<Statement> ParseScript(std::string_view text);
 
 }  // namespace orm
