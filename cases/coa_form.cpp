@@ -44,6 +44,7 @@ FrmCoaDati::FrmCoaDati(const RunState& stato, const DatiCoa& dati)
 
   cboDecreti.SetIndex(dati.PeriodoCollaudo - kPrimoPeriodo);
   cboTipo.SetIndex(dati.TipoCollaudo - 1);
+  ShowFieldsOfTesting();  // a kind that the list lacks changes nothing and has neither field
   cdImporto.SetValue(dati.ImportoCollaudo);
   ciImporto.SetValue(dati.ImportoCollaudo);
   cdMaggiorazione.SetValue(dati.MaggiorazioneCollaudo);

@@ -9,8 +9,7 @@ namespace {
 
 struct Reading {
   double area = 0;
-  bool whole = false;     // of the form
-  bool startsOne = true;  // the beginning of such a text
+  bool whole = false;  // of the form
 };
 
 // Up to three digits, not beginning with 0; -1 where there is none.
@@ -26,20 +25,16 @@ Reading Read(std::string_view raw) {
   std::string text;
   for (const char c : raw)
     if (c != ' ') text += c == 'd' ? 'D' : c;
-  if (text.empty() || text == "0") return {0, true, true};
+  if (text.empty() || text == "0") return {0, true};
   Reading reading;
   for (std::size_t at = 0;;) {
-    const bool atEnd = at == text.size();
     const int count = Number(text, at);
-    if (count < 0) return {0, false, atEnd};
-    if (at == text.size()) return {0, false, true};
-    if (text[at++] != 'D') return {0, false, false};
-    if (at == text.size()) return {0, false, true};
+    if (count < 0 || at == text.size() || text[at++] != 'D') return {};
     const int diameter = Number(text, at);
-    if (diameter < 0) return {0, false, false};
+    if (diameter < 0) return {};
     reading.area += count * std::numbers::pi * (diameter / 20.0) * (diameter / 20.0);
     if (at == text.size()) break;
-    if (text[at++] != '+') return {0, false, false};
+    if (text[at++] != '+') return {};
   }
   reading.whole = true;
   return reading;
@@ -50,8 +45,7 @@ Reading Read(std::string_view raw) {
 double BarsArea(std::string_view text) { return Read(text).area; }
 bool IsBarsText(std::string_view text) { return Read(text).whole; }
 bool AdmitsBarsDraft(std::string_view text) {
-  const Reading reading = Read(text);
-  return reading.whole || reading.startsOne;
+  return text.find_first_not_of("0123456789Dd+ ") == std::string_view::npos;
 }
 
 }  // namespace orm

@@ -10,7 +10,9 @@ namespace orm {
 // is not of the form.
 double BarsArea(std::string_view text);
 
-bool IsBarsText(std::string_view text);       // of the form, empty or "0"
-bool AdmitsBarsDraft(std::string_view text);  // can still be completed to the form
+bool IsBarsText(std::string_view text);  // of the form, empty or "0"
+// Written with the characters of the form alone: what is typed over or deleted in the middle is not
+// of the form for a while.
+bool AdmitsBarsDraft(std::string_view text);
 
 }  // namespace orm

@@ -174,7 +174,8 @@ const char* FerriBox::Writing() {
 }
 
 std::string FerriBox::Objection(std::string_view text) const {
-  return text.size() > 60 || !AdmitsBarsDraft(text) ? Writing() : "";
+  if (text.size() > 60) return "Il testo può avere al massimo 60 caratteri.";
+  return AdmitsBarsDraft(text) ? "" : Writing();
 }
 
 std::string FerriBox::Type(std::string_view text) {

@@ -195,7 +195,8 @@ class FerriBox : public Control {
   const std::string& Text() const { return text_; }
   void SetText(std::string text);
   double Area() const;  // cmq; 0 for a text that is not of the form
-  // A draft is admitted as long as it can still become a text of the form.
+  // A draft is admitted as long as it has the characters of the form; while it is not of the form
+  // its area is 0.
   std::string Type(std::string_view text);
   std::string Objection(std::string_view text) const;  // why a draft is not admitted
   static const char* Writing();                        // in Italian: how bars are written

@@ -1,7 +1,10 @@
-// What stands in the controls of a form, to be put back when the form is left without confirming.
+// What a person has put into a form, to be put back when the form is left without confirming, or
+// into another form of the same kind.
 #pragma once
 
-#include <functional>
+#include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "dialogs/form.h"
@@ -12,11 +15,14 @@ class FormValues {
  public:
   FormValues() = default;
   explicit FormValues(const Form& form);
-  // The form must still be there. Events follow as for any other change.
-  void PutBack() const;
+  bool IsEmpty() const { return values_.empty(); }
+  bool operator==(const FormValues&) const = default;
+  // Events follow as for any other change.
+  void PutInto(Form& form) const;
 
  private:
-  std::vector<std::function<void()>> setters_;
+  using Value = std::variant<bool, int, double, std::string>;
+  std::vector<std::pair<std::string, Value>> values_;  // by the names of the controls
 };
 
 }  // namespace orm

@@ -54,7 +54,9 @@ FrmPerUtente::FrmPerUtente(RunState& stato)
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
   SetContent(Column({Layout(Layout::Kind::Fields, nullptr, Items(casellatesto)),
                      Group(Frame1, {Row({Option1, option2})}), Buttons({Command1})}));
-  const DatiProfessionista dati = LeggiDatiProfessionista(stato.folder);
+  const DatiProfessionista dati = stato.folder.Exists(kFileUtente)
+                                      ? LeggiDatiProfessionista(stato.folder)
+                                      : DatiProfessionista();
   for (std::size_t i = 0; i < kEntries.size(); ++i)
     casellatesto[i].SetText(dati.*kEntries[i].value);
   // A profession of another first letter counts as Ingegnere.

@@ -30,7 +30,8 @@ MessageBox AvvisoSezione(std::string testo) {
           MessageBox::Buttons::Ok};
 }
 
-NumberLimits LimitiLunghezza() { return {.most = 99999.99, .decimals = 2}; }
+// Below 0 too: the check itself says that the measures are not acceptable.
+NumberLimits LimitiLunghezza() { return {.least = -99999.99, .most = 99999.99, .decimals = 2}; }
 NumberLimits LimitiMomento() { return {.least = -99999999.99, .most = 99999999.99, .decimals = 2}; }
 NumberLimits LimitiTensione() { return {.most = 99999.99, .decimals = 2}; }
 

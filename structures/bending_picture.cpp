@@ -146,10 +146,8 @@ void DisegnoFlessione::AsseNeutro(double profondita) {
   lavagna_.SetColour(kBlue);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
-  // Beside the section: one that reaches so far pushes the name on.
-  const double name = X(W_) < 12.5 ? 13 : X(W_) + 0.8;
-  lavagna_.DrawLine(0.4, y, name + 2.6, y);
-  Etichetta(name, y + 0.8, "asse neutro", kBlue, false);
+  lavagna_.DrawLine(0.4, y, 15.6, y);
+  Etichetta(13, y + 0.8, "asse neutro", kBlue, false);
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,

@@ -53,15 +53,16 @@ std::string Rifiuto(EsitoSolaioT esito) {
 }  // namespace
 
 FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
-    : Form("frmVER_SOLAIO_TRALIC", "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO"),
+    : FormRiprendibile("frmVER_SOLAIO_TRALIC",
+                       "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO"),
       ingressi(*this, stato),
       viste(*this),
       comCalcola(*this, "comCalcola", "&CALCOLA", Button::Role::Default),
       comSTAMPA(*this, "comSTAMPA", "&STAMPA"),
       ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
       stato_(stato) {
-  SetContent(
-      Column({ingressi.Contents(), viste.Contents(), Buttons({comCalcola, comSTAMPA, ComEsci})}));
+  SetContent(Column({ingressi.Contents(), viste.Contents(),
+                     Buttons({cmdRIPRENDI, comCalcola, comSTAMPA, ComEsci})}));
   ingressi.ValoriIniziali();
   ingressi.TieEvents([this] { Azzera(); });
   viste.TieEvents();
@@ -70,6 +71,10 @@ FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
   comSTAMPA.onPress = [this] { TryAndStay(stato_.player, [this] { Stampa(); }); };
   ComEsci.onPress = [this] { Close(); };
   Azzera();
+}
+
+void FrmVerSolaioTralic::Riprendi(const FormValues& valori) {
+  ingressi.Riprendi([&] { FormRiprendibile::Riprendi(valori); });
 }
 
 void FrmVerSolaioTralic::Azzera() {
@@ -110,7 +115,7 @@ void FrmVerSolaioTralic::Stampa() {
 
 void MostraSolaioTraliccio(RunState& stato) {
   FrmVerSolaioTralic form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

@@ -1,16 +1,17 @@
 // frmVER_SOLAIO_TRALIC: design of a floor of one span, of truss joists and hollow blocks.
 #pragma once
 
-#include "dialogs/form.h"
 #include "shell/run_state.h"
+#include "structures/resumable_form.h"
 #include "structures/truss_slab_inputs.h"
 #include "structures/truss_slab_views.h"
 
 namespace orm {
 
-class FrmVerSolaioTralic : public Form {
+class FrmVerSolaioTralic : public FormRiprendibile {
  public:
   explicit FrmVerSolaioTralic(RunState& stato);
+  void Riprendi(const FormValues& valori) override;
 
   IngressiSolaio ingressi;
   VisteSolaio viste;

@@ -29,7 +29,7 @@ std::string Domanda(Ribaltamento come) {
 }  // namespace
 
 FrmVerBalcone::FrmVerBalcone(RunState& stato)
-    : Form("frmVER_BALCONE", "VERIFICA STABILITÁ BALCONE in PIETRA"),
+    : FormRiprendibile("frmVER_BALCONE", "VERIFICA STABILITÁ BALCONE in PIETRA"),
       ingressi(*this, stato),
       tensioni(*this, stato),
       Label_NOTA(*this, "Label_NOTA", "", Label::Style::Warning),
@@ -41,7 +41,7 @@ FrmVerBalcone::FrmVerBalcone(RunState& stato)
   SetContent(Column(
       {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(),
                                          ingressi.lblModuli, Label_NOTA, lblStatica, Lavagna})}),
-       Buttons({ComCalcola, ComEsci})}));
+       Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
   const auto cambiati = [this] { Azzera(); };
   ingressi.TieEvents(cambiati);
   tensioni.TieEvents(cambiati);
@@ -106,7 +106,7 @@ void FrmVerBalcone::ConfrontaConStatica(const DatiBalcone& dati,
 
 void MostraVerBalcone(RunState& stato) {
   FrmVerBalcone form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

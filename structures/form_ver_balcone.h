@@ -1,15 +1,15 @@
 // frmVER_BALCONE: check of a stone balcony.
 #pragma once
 
-#include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 #include "shell/run_state.h"
 #include "structures/balcony_inputs.h"
 #include "structures/balcony_stresses.h"
+#include "structures/resumable_form.h"
 
 namespace orm {
 
-class FrmVerBalcone : public Form {
+class FrmVerBalcone : public FormRiprendibile {
  public:
   explicit FrmVerBalcone(RunState& stato);
 

@@ -54,9 +54,10 @@ std::string BoxText(EsitoC esito) {
 }  // namespace
 
 FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
-    : Form("frmVER_FLESS_C1",
-           "VERIFICA a FLESSIONE SEMPLICE di SEZIONI in C.A. : Circolari ed Anulari ( metodo \"n\" "
-           ")"),
+    : FormRiprendibile(
+          "frmVER_FLESS_C1",
+          "VERIFICA a FLESSIONE SEMPLICE di SEZIONI in C.A. : Circolari ed Anulari ( metodo \"n\" "
+          ")"),
       forme(*this, {"Circolare", "Anulare"}),
       carichi(*this),
       fraGeometria(*this, "fraGeometria", "GEOMETRIA"),
@@ -83,7 +84,7 @@ void FrmVerFlessC1::Arrange() {
                    Column({Group(fraArmature, {Group(fraDistribuita, {anelli.Contents()}),
                                                Group(fraConcentrata, {gruppi.Contents()})}),
                            risultati.Note(), Lavagna})}),
-              Buttons({ComCalcola, ComEsci})}));
+              Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
 }
 
 void FrmVerFlessC1::TieEvents() {
@@ -136,7 +137,7 @@ DatiCircolare FrmVerFlessC1::LeggiDati() const {
 
 void FrmVerFlessC1::Calcola() {
   if (forma_ == nullptr) {
-    stato_.player.Ask({" !!  ATTENZIONE  !! ", "  SCEGLIERE IL TIPO DI SEZIONE  ",
+    stato_.player.Ask({" !!  ATTENZIONE  !!  ", "  SCEGLIERE IL TIPO DI SEZIONE  ",
                        MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
     risultati.Label_NOTA.SetText(kBenvenuto);
     return;
@@ -169,7 +170,7 @@ void FrmVerFlessC1::MostraRisultati(const DatiCircolare& dati) {
 
 void MostraVerFlessC1(RunState& stato) {
   FrmVerFlessC1 form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

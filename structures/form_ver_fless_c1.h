@@ -1,17 +1,17 @@
 // frmVER_FLESS_C1: bending of circular and annular sections.
 #pragma once
 
-#include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 #include "shell/run_state.h"
 #include "structures/bending_panels.h"
+#include "structures/resumable_form.h"
 #include "structures/section_circular.h"
 
 namespace orm {
 
 struct FormaC;
 
-class FrmVerFlessC1 : public Form {
+class FrmVerFlessC1 : public FormRiprendibile {
  public:
   explicit FrmVerFlessC1(RunState& stato);
   void OnOpen() override;

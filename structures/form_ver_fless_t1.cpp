@@ -35,9 +35,10 @@ const char* BoxText(EsitoT esito) {
 }  // namespace
 
 FrmVerFlessT1::FrmVerFlessT1(RunState& stato)
-    : Form("frmVER_FLESS_T1",
-           "VERIFICA FLESSIONE SEMPLICE SEZIONI in C.A. : Rettangolari, a T, a T rovescia e a "
-           "doppia T"),
+    : FormRiprendibile(
+          "frmVER_FLESS_T1",
+          "VERIFICA FLESSIONE SEMPLICE SEZIONI in C.A. : Rettangolari, a T, a T rovescia e a "
+          "doppia T"),
       forme(*this, {FormeT[0].nome, FormeT[1].nome, FormeT[2].nome, FormeT[3].nome}),
       carichi(*this),
       fraGeometria(*this, "fraGeometria", "GEOMETRIA"),
@@ -64,7 +65,7 @@ void FrmVerFlessT1::Arrange() {
                     Group(fraGeometria, {Fields({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07})}),
                     risultati.Valori()}),
             Column({Group(fraArmature, {strati.Contents()}), risultati.Note(), Lavagna})}),
-       Buttons({ComCalcola, ComEsci})}));
+       Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
 }
 
 void FrmVerFlessT1::TieEvents() {
@@ -170,7 +171,7 @@ void FrmVerFlessT1::MostraRisultati(const DatiSezione& dati) {
 
 void MostraVerFlessT1(RunState& stato) {
   FrmVerFlessT1 form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

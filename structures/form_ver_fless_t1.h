@@ -1,16 +1,16 @@
 // frmVER_FLESS_T1: bending of rectangular, T, inverted T and double T sections.
 #pragma once
 
-#include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 #include "shell/run_state.h"
 #include "structures/bending_panels.h"
+#include "structures/resumable_form.h"
 #include "structures/section_shapes_t.h"
 #include "structures/section_t.h"
 
 namespace orm {
 
-class FrmVerFlessT1 : public Form {
+class FrmVerFlessT1 : public FormRiprendibile {
  public:
   explicit FrmVerFlessT1(RunState& stato);
   void OnOpen() override;

@@ -63,7 +63,7 @@ void FrmVerPietre::OnOpen() {
 }
 
 void FrmVerPietre::OnWindowClose() {
-  prima_.PutBack();
+  prima_.PutInto(*this);
   Close();
 }
 

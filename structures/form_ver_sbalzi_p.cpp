@@ -9,7 +9,7 @@
 namespace orm {
 
 FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
-    : Form("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI"),
+    : FormRiprendibile("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI"),
       ingressi(*this, stato, {"Lunghezza sbalzo [m]", "CARICHI applicati lungo la putrella a ml."}),
       fraEstremita(*this, "fraEstremita", "CARICHI di estremità per ml."),
       cdCE{{{*this, "cdCE(0)", "Carico [Kg/ml]", kLimitiCarico},
@@ -26,12 +26,13 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
       cmdSTAMPA(*this, "cmdSTAMPA", "&STAMPA"),
       ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
       stato_(stato) {
-  SetContent(Column({Row({Column({ingressi.Schema(),
-                                  Group(fraEstremita, {Fields({Row({cdCE[0], cmdCarico}),
-                                                               Row({cdCE[1], cmdCOPPIA})})}),
-                                  Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
-                          Column({ingressi.Carichi()})}),
-                     risultati.Contents(), Buttons({comCalcola, cmdSTAMPA, ComEsci})}));
+  SetContent(
+      Column({Row({Column({ingressi.Schema(),
+                           Group(fraEstremita,
+                                 {Fields({Row({cdCE[0], cmdCarico}), Row({cdCE[1], cmdCOPPIA})})}),
+                           Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
+                   Column({ingressi.Carichi()})}),
+              risultati.Contents(), Buttons({cmdRIPRENDI, comCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();
@@ -96,7 +97,7 @@ void FrmVerSbalziP::Stampa() {
 
 void MostraSbalziP(RunState& stato) {
   FrmVerSbalziP form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

@@ -1,15 +1,15 @@
 // frmVER_SBALZI_P: check of a cantilever of NP beams and hollow tiles.
 #pragma once
 
-#include "dialogs/form.h"
 #include "shell/run_state.h"
+#include "structures/resumable_form.h"
 #include "structures/steel_beam_inputs.h"
 #include "structures/steel_beam_results.h"
 #include "structures/steel_cantilever.h"
 
 namespace orm {
 
-class FrmVerSbalziP : public Form {
+class FrmVerSbalziP : public FormRiprendibile {
  public:
   explicit FrmVerSbalziP(RunState& stato);
 

@@ -13,7 +13,7 @@ constexpr double kAppoggio = 8;  // of a beam on two supports
 }  // namespace
 
 FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
-    : Form("frmVER_SOLAIO_P", "VERIFICA SOLAI MONOCAMPATA PUTRELLE E TAVELLONI"),
+    : FormRiprendibile("frmVER_SOLAIO_P", "VERIFICA SOLAI MONOCAMPATA PUTRELLE E TAVELLONI"),
       fraPosizione(*this, "fraPosizione", "POSIZIONE SOLAIO"),
       Option1(*this, "Option1", "di Piano", gruppoPosizione),
       Option2(*this, "Option2", "di Copertura", gruppoPosizione),
@@ -37,7 +37,7 @@ FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
       Column({Row({Column({Group(fraPosizione, {Row({Option1, Option2})}), ingressi.Schema(),
                            Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
                    Column({ingressi.Carichi()})}),
-              risultati.Contents(), Buttons({ComCalcola, cmdSTAMPA, ComEsci})}));
+              risultati.Contents(), Buttons({cmdRIPRENDI, ComCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option1.SetValue(true);
   cdMezzeria.SetValue(kAppoggio);
@@ -99,7 +99,7 @@ void FrmVerSolaioP::Stampa() {
 
 void MostraSolaioP(RunState& stato) {
   FrmVerSolaioP form(stato);
-  stato.player.Show(form);
+  MostraRiprendibile(stato, form);
 }
 
 }  // namespace orm

@@ -1,15 +1,15 @@
 // frmVER_SOLAIO_P: check of a single-span floor of NP beams and hollow tiles.
 #pragma once
 
-#include "dialogs/form.h"
 #include "shell/run_state.h"
+#include "structures/resumable_form.h"
 #include "structures/steel_beam_inputs.h"
 #include "structures/steel_beam_results.h"
 #include "structures/steel_slab.h"
 
 namespace orm {
 
-class FrmVerSolaioP : public Form {
+class FrmVerSolaioP : public FormRiprendibile {
  public:
   explicit FrmVerSolaioP(RunState& stato);
 

@@ -13,7 +13,7 @@ void FrmCarichi::OnOpen() {
 }
 
 void FrmCarichi::OnWindowClose() {
-  prima_.PutBack();
+  prima_.PutInto(*this);
   Close();
 }
 

@@ -137,12 +137,26 @@ double IngressiSolaio::Solettina() const {
   return ParseNumber(cmbSolettina.ShownText()).value_or(0);
 }
 
+void IngressiSolaio::Riprendi(const std::function<void()>& scrivi) {
+  ritorno_ = true;
+  scrivi();
+  ritorno_ = false;
+  solettina_ = cmbSolettina.Index();
+  blocco_ = cmbTavellone.Index();
+  luce_ = AltezzaScarsa() ? 0 : cdLuce.Value();
+}
+
+bool IngressiSolaio::AltezzaScarsa() const {
+  const DatiSolaioT dati = Leggi();
+  return Option1.Value() && AltezzaInsufficiente(dati.luce, dati.H());
+}
+
 // One pair of block and slab goes on with its height in spite of the message.
 bool IngressiSolaio::AltezzaAmmessa() {
-  const DatiSolaioT dati = Leggi();
-  if (!Option1.Value() || !AltezzaInsufficiente(dati.luce, dati.H())) return true;
+  if (!AltezzaScarsa()) return true;
   stato_.player.Ask(
       Avviso("ALTEZZA DEL SOLAIO INFERIORE AL MINIMO DI LEGGE PER LA LUCE ASSEGNATA"));
+  const DatiSolaioT dati = Leggi();
   return dati.blocco.ends_with("38 x 28") && dati.solettina == 4;
 }
 

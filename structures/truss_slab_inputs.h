@@ -19,6 +19,8 @@ class IngressiSolaio {
   // `cambiati` runs after any change.
   void TieEvents(const std::function<void()>& cambiati);
 
+  // Data that come all together: the height is asked about when they are reckoned.
+  void Riprendi(const std::function<void()>& scrivi);
   // Takes the span that was typed; false when it was refused with a message and set back.
   bool AccettaLuce();
   DatiSolaioT Leggi() const;
@@ -47,6 +49,7 @@ class IngressiSolaio {
   Label lblVuoto, lblAutomatica, lblZero;
 
  private:
+  bool AltezzaScarsa() const;
   bool AltezzaAmmessa();
   void AccettaScelta(ComboBox& lista, int& accettata);
   void AggiornaPesoProprio();
@@ -57,7 +60,7 @@ class IngressiSolaio {
   double luce_ = 0;  // as last accepted, and so the two choices
   int solettina_ = 0;
   int blocco_ = 2;        // R 38 x 20, high enough for a usual room
-  bool ritorno_ = false;  // while a choice is set back
+  bool ritorno_ = false;  // while choices are set, not made
 };
 
 }  // namespace orm

@@ -9,7 +9,8 @@ class FrmGenNuovoCaso : public Form {
  public:
   FrmGenNuovoCaso();
 
-  std::string Risposta;  // "VARIAZIONE" or "NUOVA"; empty when the form was left by its window
+  // "VARIAZIONE" or "NUOVA"; left by its window, the form lets the note that is there stand.
+  std::string Risposta = "VARIAZIONE";
 
   Button cmdVARIAZIONE, cmdNuova;
 };

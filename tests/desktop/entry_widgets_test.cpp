@@ -273,6 +273,23 @@ TEST_F(EntryWidgets, BarsMustBeComplete) {
   });
 }
 
+TEST_F(EntryWidgets, BarsAreCorrectedInTheirMiddle) {
+  form_.ferri.SetText("2D16+2D12");
+  Meet([&] {
+    QLineEdit* line = Enter(form_.ferri);
+    line->setCursorPosition(4);
+    for (int i = 0; i < 2; ++i) QTest::keyClick(line, Qt::Key_Backspace);
+    EXPECT_EQ(line->text(), "2D+2D12");
+    EXPECT_EQ(form_.ferri.Area(), 0);
+    QTest::keyClicks(line, "20");
+    EXPECT_NEAR(form_.ferri.Area(), 8.5451, 1e-4);
+    line->home(false);
+    for (int i = 0; i < 5; ++i) QTest::keyClick(line, Qt::Key_Delete);
+    EXPECT_EQ(Balloon(), "");
+    EXPECT_EQ(form_.ferri.Text(), "2D12");
+  });
+}
+
 TEST_F(EntryWidgets, DaysAreTypedInManyForms) {
   Meet([&] {
     for (const char* text : {"5/3/2002", "05-03-02", "5.3.2002"}) {
