@@ -180,14 +180,17 @@ void FormBuilder::AddGroup(const Layout& group, QBoxLayout* into) {
   into->addWidget(frame, Grows(group) ? 1 : 0);
 }
 
-// Below headings, the caption of a line's first field and then its fields, each in its column.
+// Below headings, a line's label or the caption of its first field, and then its fields, each in
+// its column.
 void FormBuilder::AddTable(const std::vector<Layout>& lines, QBoxLayout* into) {
   auto* grid = new QGridLayout;
   for (int row = 0; row < static_cast<int>(lines.size()); ++row) {
-    int column = row == 0 ? 0 : 1;
-    for (const Layout& cell : lines[static_cast<std::size_t>(row)].children) {
+    const std::vector<Layout>& cells = lines[static_cast<std::size_t>(row)].children;
+    const bool labelled = cells[0].control->GetKind() == Kind::Label;
+    int column = labelled ? 0 : 1;
+    for (const Layout& cell : cells) {
       ControlView& view = viewOf_(*cell.control);
-      if (column == 1 && row > 0)
+      if (column == 1 && !labelled)
         grid->addWidget(view.Caption(), row, 0);
       else if (row > 0)
         view.LeaveCaptionOut();

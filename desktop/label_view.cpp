@@ -21,7 +21,7 @@ class LabelView : public ControlView {
   }
   void Refresh() override {
     ControlView::Refresh();
-    const QString text = ToQt(label_.Text());
+    const QString text = Written();
     text_->setText(text);
     text_->setAccessibleName(text.isEmpty() ? ToQt(label_.Caption()) : text);
     ShowStyle();
@@ -37,9 +37,17 @@ class LabelView : public ControlView {
     if (wraps)
       text_->setMinimumHeight(std::max(text_->minimumHeight(), text_->heightForWidth(limit)));
   }
-  std::string Shown() const override { return FromQt(text_->text()); }
+  std::string Shown() const override {
+    return text_->text() == Written() ? label_.Text() : FromQt(text_->text());
+  }
 
  private:
+  // The outer blanks of a line set it off on a screen of fixed places; here they would only shift
+  // it.
+  QString Written() const {
+    const QString text = ToQt(label_.Text());
+    return text.contains('\n') ? text : text.trimmed();
+  }
   void ShowStyle() {
     QFont font;
     QPalette palette;

@@ -143,6 +143,14 @@ std::string FormatName(const TextFormat& format) {
   return encoding + (format.lineEnd == LineEnd::Lf ? ", LF" : ", CR");
 }
 
+bool IsRichText(const std::string& path) {
+  std::string ending = std::filesystem::path(path).extension().string();
+  for (char& c : ending) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  if (ending == ".rtf") return true;
+  const FilePlace place = FilePlace::Of(path);
+  return place.folder.Exists(place.name) && place.Read().starts_with("{\\rtf");
+}
+
 FilePlace FilePlace::Of(const std::string& path) {
   std::error_code error;
   std::filesystem::path whole = std::filesystem::canonical(path, error);

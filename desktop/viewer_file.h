@@ -48,6 +48,9 @@ std::optional<LackingCharacter> FirstLackingCharacter(std::string_view text,
 // What a person reads of it: "Windows-1252, CRLF".
 std::string FormatName(const TextFormat& format);
 
+// A document with looks, by its name or, where the name does not say, by how it begins.
+bool IsRichText(const std::string& path);
+
 // A path taken apart into its folder and its bare name. A link stands for the file it leads to, so
 // that saving never replaces the link itself.
 struct FilePlace {

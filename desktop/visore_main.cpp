@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/desktop_player.h"
 #include "desktop/italian_captions.h"
 #include "desktop/screen.h"
 #include "desktop/viewer_export.h"
@@ -18,6 +19,7 @@
 #include "desktop/viewer_window.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
+#include "shell/form_memo.h"
 
 namespace orm {
 namespace {
@@ -70,21 +72,37 @@ int WriteCopy(const Request& request) {
   }
 }
 
-int ShowFile(const std::string& file) {
+// Rich text is no report: it has the window of the memo, which can also make it.
+int ShowRichText(const std::string& file) {
+  const FilePlace place = FilePlace::Of(file);
+  DesktopPlayer player(place.folder.Path());
+  RunState run(player, place.folder);
+  FrmGenVisualizzaRtf form(run);
+  form.NomeFile = place.name;
+  form.SetTitle(place.name);
+  player.Show(form);
+  return kDone;
+}
+
+int ShowReport(const std::string& file) {
   QSettings habits(QStringLiteral("ORM2002"), QStringLiteral("Visore"));
   ViewerWindow window;
+  window.Open(file);
+  window.TakeHabits(habits);
+  window.show();
+  const int result = QApplication::exec();
+  window.KeepHabits(habits);
+  return result;
+}
+
+int ShowFile(const std::string& file) {
   try {
-    window.Open(file);
-    window.TakeHabits(habits);
+    return IsRichText(file) ? ShowRichText(file) : ShowReport(file);
   } catch (const RuntimeFailure& failure) {
     Tell(nullptr, QMessageBox::Warning, QStringLiteral("Il file non può essere mostrato."),
          QString::fromStdString(failure.Text()));
     return kFailed;
   }
-  window.show();
-  const int result = QApplication::exec();
-  window.KeepHabits(habits);
-  return result;
 }
 
 int Run(int argc, char** argv) {

@@ -74,8 +74,10 @@ void FrmGenLettera::Conferma() {
   dati.TipoLettera = static_cast<std::int16_t>(tipo.Chosen());
   dati.ValutaLettera = optValuta1.Value() ? "LIRE" : "EURO";
   dati.DocumentiAllegati = Text1.Text();
-  ScriviLettera(run_.folder, dati);
-  Close();
+  TryAndStay(run_.player, [&] {
+    ScriviLettera(run_.folder, dati);
+    Close();
+  });
 }
 
 }  // namespace orm

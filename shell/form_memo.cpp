@@ -50,29 +50,34 @@ std::string FrmGenVisualizzaRtf::NomeDelPrecedente() const {
   return nome;
 }
 
-void FrmGenVisualizzaRtf::Salva() {
-  run_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
-}
-
 void FrmGenVisualizzaRtf::OnWindowClose() {
   if (!RichTextBox1.Edited()) return Close();
-  const std::vector<std::string> rischi = Rischi();
-  if (!rischi.empty()) {
-    const std::string precedente = NomeDelPrecedente();
-    std::string testo =
-        "Il file " + NomeFile + " contiene elementi che questa finestra non conserva :\n";
-    for (const std::string& rischio : rischi) testo += " - " + rischio + "\n";
-    testo += "\nSalvando, il file di prima resta con il nome " + precedente +
-             ".\nSALVARE LE MODIFICHE ?";
-    const Answer risposta =
-        run_.player.Ask({"  ATTENZIONE !! ", testo, MessageBox::Icon::Exclamation,
-                         MessageBox::Buttons::YesNoCancel});
+  TryAndStay(run_.player, [this] {
+    const std::vector<std::string> rischi = Rischi();
+    const Answer risposta = rischi.empty() && !fallito_ ? Answer::Yes : ChiediSeSalvare(rischi);
     if (risposta == Answer::Cancel) return;
-    if (risposta == Answer::No) return Close();
-    run_.folder.Replace(precedente, run_.folder.Read(NomeFile));
+    if (risposta == Answer::Yes) Salva(!rischi.empty());
+    Close();
+  });
+}
+
+Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& rischi) const {
+  std::string testo;
+  if (fallito_) testo += "L'ultimo salvataggio non è riuscito.\n\n";
+  if (!rischi.empty()) {
+    testo += "Il file " + NomeFile + " contiene elementi che questa finestra non conserva :\n";
+    for (const std::string& rischio : rischi) testo += " - " + rischio + "\n";
+    testo += "\nSalvando, il file di prima resta con il nome " + NomeDelPrecedente() + ".\n";
   }
-  Salva();
-  Close();
+  return run_.player.Ask({"  ATTENZIONE !! ", testo + "SALVARE LE MODIFICHE ?",
+                          MessageBox::Icon::Exclamation, MessageBox::Buttons::YesNoCancel});
+}
+
+void FrmGenVisualizzaRtf::Salva(bool conservaIlPrecedente) {
+  fallito_ = true;
+  if (conservaIlPrecedente) run_.folder.Replace(NomeDelPrecedente(), run_.folder.Read(NomeFile));
+  run_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
+  fallito_ = false;
 }
 
 }  // namespace orm

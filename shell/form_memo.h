@@ -26,18 +26,21 @@ class FrmGenVisualizzaRtf : public Form {
 
   // Reads the file. A damaged one is a RuntimeFailure, and stays as it is.
   void OnOpen() override;
-  // Saves what the person has written. An untouched text is not written again.
+  // Saves what the person has written; the window stays when that fails. An untouched text is not
+  // written again.
   void OnWindowClose() override;
 
  private:
   // What of the file on disk would go with a save, in Italian.
   std::vector<std::string> Rischi() const;
   std::string NomeDelPrecedente() const;
-  void Salva();
+  Answer ChiediSeSalvare(const std::vector<std::string>& rischi) const;
+  void Salva(bool conservaIlPrecedente);
 
   RunState& run_;
   std::string letto_;  // the file as it was read
   std::vector<std::string> perdite_;
+  bool fallito_ = false;  // the last save; whoever wants to leave all the same is asked
 };
 
 }  // namespace orm

@@ -74,8 +74,9 @@ void StampaFirma(ReportPrinter& foglio, const DatiProfessionista& utente, const 
   const std::string nome = TitoloDi(utente) + utente.Nome;
   const int L = static_cast<int>(Characters(nome));
   const int larghezza = static_cast<int>(Characters(kFirma));
-  foglio.Tab(kColonnaFirma - L + static_cast<int>(Int((L - larghezza) / 2.0))).Line(kFirma);
-  foglio.Tab(kColonnaFirma - L).Line(nome);
+  const int colonna = std::max(1, kColonnaFirma - L);  // a name longer than the line begins with it
+  foglio.Tab(colonna + static_cast<int>(Int((L - larghezza) / 2.0))).Line(kFirma);
+  foglio.Tab(colonna).Line(nome);
 }
 
 MessageBox AvvisoIntestazioneAssente() {

@@ -183,9 +183,11 @@ bool RtfReader::CharacterWord(std::string_view word, int number, bool on) {
     style.italic = on;
   } else if (word == "ulnone") {
     style.underline = false;
-  } else if (word == "ul" || word == "uld" || word == "uldb" || word == "ulw" || word == "uldash" ||
-             word == "ulwave" || word == "ulth") {
+  } else if (word == "ul") {
     style.underline = on;
+  } else if (word.starts_with("ul") && word != "ulc") {  // dotted, waved and many more
+    style.underline = on;
+    if (on) Lose(kUnderlines);
   } else if (word == "fs") {
     if (number > 0) style.halfPoints = std::min(number, kGreatestHalfPoints);
   } else if (word == "cf") {

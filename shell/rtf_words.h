@@ -31,6 +31,8 @@ inline constexpr Loss kLosses[] = {
     {"shp", "disegni e caselle di testo"},
     {"do", "disegni e caselle di testo"},
     {"page", "salti di pagina"},
+    {"pagebb", "salti di pagina"},
+    {"column", "salti di pagina"},
     {"sect", "sezioni"},
     {"strike", kAspetti},
     {"striked", kAspetti},
@@ -46,18 +48,21 @@ inline constexpr Loss kLosses[] = {
     {"cb", kAspetti},
     {"chcbpat", kAspetti},
     {"v", kAspetti},
-    {"uldb", "forme particolari di sottolineatura"},
-    {"uld", "forme particolari di sottolineatura"},
-    {"uldash", "forme particolari di sottolineatura"},
-    {"ulw", "forme particolari di sottolineatura"},
-    {"ulwave", "forme particolari di sottolineatura"},
-    {"ulth", "forme particolari di sottolineatura"},
+    {"embo", kAspetti},
+    {"impr", kAspetti},
+    {"expnd", kAspetti},
+    {"expndtw", kAspetti},
     {"tqr", "tabulazioni allineate a destra, al centro o alla virgola"},
     {"tqc", "tabulazioni allineate a destra, al centro o alla virgola"},
     {"tqdec", "tabulazioni allineate a destra, al centro o alla virgola"},
     {"brdrs", "bordi"},
+    {"brdrdb", "bordi"},
+    {"brdrth", "bordi"},
+    {"brdrdot", "bordi"},
+    {"brdrdash", "bordi"},
     {"cbpat", "sfondi"},
 };
+inline constexpr const char* kUnderlines = "forme particolari di sottolineatura";
 inline constexpr const char* kNumbering = "numerazione automatica (i numeri restano come testo)";
 inline constexpr const char* kSpacing = "interlinea";
 inline constexpr const char* kOtherSet = "caratteri di altri alfabeti";

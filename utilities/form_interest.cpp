@@ -36,7 +36,7 @@ FrmUtiIntereMora::FrmUtiIntereMora(RunState& run, TabellaTus tabella)
   for (Control* dato :
        std::initializer_list<Control*>{&casellainteri1, &DTPicker1, &DTPicker2, &Option1, &Option2})
     dato->onChange = [this] { SvuotaRisultati(); };
-  Command1.onPress = [this] { Calcola(); };
+  Command1.onPress = [this] { TryAndStay(run_.player, [this] { Calcola(); }); };
   Command2.onPress = [this] { Close(); };
 
   SetContent(Column({Fields({casellainteri1, DTPicker1, DTPicker2}),

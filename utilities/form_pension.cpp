@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "runtime/failure.h"
 #include "runtime/numbers.h"
 
 namespace orm {
@@ -12,12 +13,13 @@ void MostraPensioneInarcassa(RunState& run) {
   run.player.Show(form);
 }
 
-std::vector<std::unique_ptr<InterBox>> FrmInaInPensione::Righe() {
-  std::vector<std::unique_ptr<InterBox>> righe;
-  for (int i = 0; i < kAnniReddito; ++i)
-    righe.push_back(std::make_unique<InterBox>(*this, "ciRedditi(" + NumberText(i) + ")",
-                                               NumberText(kPrimoAnno + i)));
-  return righe;
+void FrmInaInPensione::Righe() {
+  for (int i = 0; i < kAnniReddito; ++i) {
+    const std::string anno = NumberText(kPrimoAnno + i), indice = "(" + NumberText(i) + ")";
+    Label1.push_back(std::make_unique<Label>(*this, "Label1" + indice, anno));
+    ciRedditi.push_back(std::make_unique<InterBox>(*this, "ciRedditi" + indice, ""));
+    ciRedditi.back()->SetHint("Reddito professionale del " + anno);
+  }
 }
 
 FrmInaInPensione::FrmInaInPensione(RunState& run)
@@ -27,25 +29,27 @@ FrmInaInPensione::FrmInaInPensione(RunState& run)
   ciPensioneAnnuale.SetReadOnly(true);
   Option1.SetValue(true);
   Option1.onChange = [this] {
-    if (Option1.Value()) Nuovo();
+    if (Option1.Value() && !torna_) Nuovo();
   };
   Option2.onChange = [this] {
     if (Option2.Value()) Archiviato();
   };
   cmdCALCOLOPENSIONE.onPress = [this] { CalcolaPensione(); };
-  cmdARCHIVIA.onPress = [this] { Archivia(); };
+  cmdARCHIVIA.onPress = [this] { TryAndStay(run_.player, [this] { Archivia(); }); };
+  Righe();
   SetContent(Disposizione());
 }
 
 Layout FrmInaInPensione::Disposizione() {
-  std::vector<Layout> righe;
-  for (const auto& reddito : ciRedditi) righe.emplace_back(*reddito);
-  return Column({Group(fraCaso, {Row({Option1, Option2})}),
-                 Row({Column({Row({Label2, Label3}),
-                              Layout(Layout::Kind::Fields, nullptr, std::move(righe))}),
-                      Column({Group(fraAnzianita, {Fields({ciAnni, ciGiorni})}),
-                              Fields({ciPensioneAnnuale}), lblPensioneMinima})}),
-                 Buttons({cmdARCHIVIA, cmdCALCOLOPENSIONE})});
+  std::vector<Layout> righe{Row({Label2, Label3})};
+  for (std::size_t i = 0; i < ciRedditi.size(); ++i)
+    righe.push_back(Row({*Label1[i], *ciRedditi[i]}));
+  return Column(
+      {Group(fraCaso, {Row({Option1, Option2})}),
+       Row({Column({Fields(std::move(righe))}),
+            Column({Group(fraAnzianita, {Fields({Row({Label6, ciAnni}), Row({Label7, ciGiorni})})}),
+                    Fields({Row({Label4, ciPensioneAnnuale})}), lblPensioneMinima})}),
+       Buttons({cmdARCHIVIA, cmdCALCOLOPENSIONE})});
 }
 
 RedditiAnnui FrmInaInPensione::Redditi() const {
@@ -69,9 +73,17 @@ void FrmInaInPensione::Nuovo() {
 }
 
 void FrmInaInPensione::Archiviato() {
-  SvuotaRisultato();
   FileRedditi dati{testata_, {}};
-  if (run_.folder.Exists(kFileRedditi)) dati = LeggiRedditi(run_.folder);
+  try {
+    if (run_.folder.Exists(kFileRedditi)) dati = LeggiRedditi(run_.folder);
+  } catch (const RuntimeFailure& failure) {
+    torna_ = true;
+    Option1.SetValue(true);
+    torna_ = false;
+    run_.player.Ask(FailureBox(failure));
+    return;
+  }
+  SvuotaRisultato();
   testata_ = dati.testata;
   MostraRedditi(dati.redditi);
 }

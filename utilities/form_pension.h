@@ -22,17 +22,21 @@ class FrmInaInPensione : public Form {
   OptionButton Option2{*this, "Option2", "Archiviato", caso};
   Label Label2{*this, "Label2", "  ANNO  "};
   Label Label3{*this, "Label3", "  REDDITO PROFESSIONALE  "};
-  std::vector<std::unique_ptr<InterBox>> ciRedditi = Righe();  // Lire, 1984 to 2000
+  std::vector<std::unique_ptr<Label>> Label1;        // the years, 1984 to 2000
+  std::vector<std::unique_ptr<InterBox>> ciRedditi;  // Lire
   Frame fraAnzianita{*this, "Label5", "  Anzianità di Contribuzione  "};
-  InterBox ciAnni{*this, "ciAnni", "Anni", {.most = 99}};
-  InterBox ciGiorni{*this, "ciGiorni", "Giorni", {.most = 366}};
-  InterBox ciPensioneAnnuale{*this, "ciPensioneAnnuale", "  IMPORTO ANNUALE PENSIONE  "};
+  Label Label6{*this, "Label6", "Anni"};
+  InterBox ciAnni{*this, "ciAnni", "", {.most = 99}};
+  Label Label7{*this, "Label7", "Giorni"};
+  InterBox ciGiorni{*this, "ciGiorni", "", {.most = 366}};
+  Label Label4{*this, "Label4", "  IMPORTO ANNUALE PENSIONE  "};
+  InterBox ciPensioneAnnuale{*this, "ciPensioneAnnuale", ""};
   Label lblPensioneMinima{*this, "lblPensioneMinima", "    PENSIONE MINIMA    "};
   Button cmdCALCOLOPENSIONE{*this, "cmdCALCOLOPENSIONE", "CALCOLA PENSIONE", Button::Role::Default};
   Button cmdARCHIVIA{*this, "cmdARCHIVIA", "ARCHIVIA CASO"};
 
  private:
-  std::vector<std::unique_ptr<InterBox>> Righe();
+  void Righe();
   Layout Disposizione();
   void Nuovo();
   void Archiviato();
@@ -45,6 +49,7 @@ class FrmInaInPensione : public Form {
   RunState& run_;
   TestataRedditi testata_;  // as read, empty until a file has been read
   double Pensione_ = 0;     // of the last calculation, also when the minimum is shown
+  bool torna_ = false;      // back to a new case whose figures stand: the file could not be read
 };
 
 }  // namespace orm

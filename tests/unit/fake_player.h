@@ -1,5 +1,5 @@
-// A player for unit tests: the day is fixed, messages are kept and answered with OK, and nothing
-// else may be asked.
+// A player for unit tests: the day is fixed, messages are kept and answered as the test says, and
+// nothing else may be asked.
 #pragma once
 
 #include <stdexcept>
@@ -13,11 +13,12 @@ namespace orm {
 class FakePlayer : public Player {
  public:
   std::vector<MessageBox> messages;
+  Answer answer = Answer::Ok;
 
   void Show(Form&) override { throw std::logic_error("a form came up"); }
   Answer Ask(const MessageBox& box) override {
     messages.push_back(box);
-    return Answer::Ok;
+    return answer;
   }
   std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
   void StartProgram(const std::string&, const std::string&) override {

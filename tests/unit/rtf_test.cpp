@@ -158,6 +158,8 @@ TEST(Rtf, NamesWhatItCannotKeep) {
             Names{"tabelle (resta il testo delle celle)"});
   EXPECT_EQ(losses("{\\header x}{\\footer y}a"), Names{"intestazioni e piè di pagina"});
   EXPECT_EQ(losses("\\strike0 a\\b b"), Names{});
+  EXPECT_EQ(losses("{\\uldashd a}{\\ulhwave b}{\\ulc2 c}"),
+            Names{"forme particolari di sottolineatura"});
   EXPECT_EQ(losses("{\\listtext 1.\\tab}a").size(), 1U);
   EXPECT_EQ(PlainText(ReadRtf("{\\rtf1{\\listtext 1.\\tab}a}").document), "1.\ta");
   EXPECT_EQ(
