@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "desktop/desktop_app.h"
 #include "desktop/desktop_player.h"
-#include "desktop/italian_captions.h"
 #include "desktop/screen.h"
 #include "desktop/viewer_export.h"
 #include "desktop/viewer_messages.h"
@@ -120,8 +120,7 @@ int Run(int argc, char** argv) {
     Complain("non c'è uno schermo su cui mostrare il file.");
     return kFailed;
   }
-  ItalianCaptions italian;
-  QCoreApplication::installTranslator(&italian);
+  DressApplication(application);
   if (request.valid) return ShowFile(request.file);
   Tell(nullptr, QMessageBox::Information,
        argc > 1 ? QStringLiteral("Gli argomenti non sono quelli attesi.")
