@@ -41,8 +41,9 @@ constexpr std::array<const char*, 17> kDidascalieIntegrative = {
     " l4 -  Ufficio della direzione lavori, per ogni addetto con qualifica di direttore operativo.",
 };
 
-// A fee with more staff than this would not fit its column.
-const NumberLimits kAddetti{.least = 0, .most = 40, .decimals = 0};
+// A fee with more staff than this would not fit its column where a small design gives the greatest
+// works their percentage.
+const NumberLimits kAddetti{.least = 0, .most = 15, .decimals = 0};
 
 // The codes of a string, each between two marks: "+m+o1+".
 bool Nominata(const std::string& stringa, std::string_view codice) {

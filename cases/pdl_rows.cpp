@@ -68,7 +68,8 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
   const auto percentuali =
       PercentualiDellaBase(stato, ImportoPerizia + perizia.LavoriVariati, conto.Periodo,
                            conto.riga.Classe, conto.riga.Categoria);
-  const Aliquote fatti = ServiziFatti(perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati);
+  const Aliquote fatti = ServiziFatti(perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati,
+                                      "PrestazioniVariati");
   double SommaDesign = 0, SommaFlag = 0;
   for (std::size_t i = 1; i <= 6; ++i) {
     SommaDesign += conto.aliquote[i];

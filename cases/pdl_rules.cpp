@@ -10,11 +10,12 @@ namespace {
 constexpr std::string_view kLettere = "abcdefghil";
 
 // Place in the tariff, from 1: there is no j and no k.
-std::size_t IndiceServizio(char lettera) {
+std::size_t IndiceServizio(char lettera, const char* campo) {
   const int posto = lettera - 'a' + 1;
   const int indice = posto == 12 ? 10 : posto;
   if (indice < 1 || indice > 10)
-    throw RuntimeFailure("La prestazione \"" + std::string(1, lettera) + "\" non esiste.");
+    throw RuntimeFailure("La prestazione \"" + std::string(1, lettera) + "\" non esiste.")
+        .AtField(campo);
   return static_cast<std::size_t>(indice);
 }
 
@@ -42,13 +43,15 @@ BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParc
   return basi;
 }
 
-Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestazioni) {
+Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestazioni,
+                      const char* campo) {
   Aliquote fatti{};
   if (TipoPrestazione == "T") {
     fatti.fill(1);
     return fatti;
   }
-  for (std::size_t i = 0; i < prestazioni.size(); i += 2) fatti[IndiceServizio(prestazioni[i])] = 1;
+  for (std::size_t i = 0; i < prestazioni.size(); i += 2)
+    fatti[IndiceServizio(prestazioni[i], campo)] = 1;
   return fatti;
 }
 

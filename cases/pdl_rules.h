@@ -20,7 +20,8 @@ BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParc
 
 // 1 for each service done, a to l: all of them with "T". Letters stand at every second character
 // of the string; any other letter is a RuntimeFailure.
-Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestazioni);
+Aliquote ServiziFatti(std::string_view TipoPrestazione, std::string_view prestazioni,
+                      const char* campo = "Prestazioni");
 // The letters of a group in the order of the table, "a+c+f".
 enum class GruppoServiziPdl { Progetto, Direzione };
 std::string TestoPrestazioni(const Aliquote& fatti, GruppoServiziPdl gruppo);

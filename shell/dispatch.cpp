@@ -1,6 +1,7 @@
 #include "shell/dispatch.h"
 
 #include "cases/fee_case.h"
+#include "runtime/failure.h"
 #include "shell/form_criteria.h"
 #include "shell/shell_boxes.h"
 #include "tariff/case_files.h"
@@ -56,7 +57,11 @@ bool CalcoloParcella(RunState& stato) {
   stato.NumFileUscita = ReportPrinter();
   FrmPerCriteri criteri(stato);
   stato.player.Show(criteri);
-  fee->calcolo(stato);
+  try {
+    fee->calcolo(stato);
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtFile(stato.FileInp);  // unless another file is known to be the reason
+  }
   stato.NumFileUscita.Save(stato.folder, report);
   stato.player.StartProgram(stato.editors.EditorTesti, report);
   return true;

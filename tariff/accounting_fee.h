@@ -31,7 +31,7 @@ struct OnorarioContabilita {
 OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita>& righe,
                                                bool modoLire);
 
-// "1,83966% x 1,00 x       5.000.000 =          91.983", without line end.
+// "1,83965% x 1,00 x       5.000.000 =          91.982", without line end.
 std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire);
 
 // A number right-justified in 15 characters, with the decimals of the currency. A longer one stands

@@ -9,8 +9,8 @@ namespace orm {
 
 std::string SommaEccessiva(std::string_view voce, double importo, double altri, double massimo) {
   if (std::fabs(importo) + altri <= massimo) return "";
-  return TrimRight(voce) + ": CON GLI ALTRI LOTTI LA SOMMA NON PUÒ SUPERARE " +
-         FormattaCopia(massimo, 2) + ".";
+  return TrimRight(voce) + (altri == 0 ? ":" : ": CON GLI ALTRI LOTTI LA SOMMA") +
+         " NON PUÒ SUPERARE " + FormattaCopia(massimo, 2) + ".";
 }
 
 std::string SommaEccessiva(const ImportoBox& importo, double altri) {

@@ -136,14 +136,18 @@ TEST_F(NoteConLotti, GreatestAmountsOfTheDialogsFit) {
   stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
   stato.criteri.PercCompensiAssegnata = 60;
   for (const bool lire : {true, false})
-    for (const std::size_t lotti : {1U, 20U}) {
+    for (const std::size_t lotti :
+         {1U, 20U, 0U}) {  // 0: one lot whose design gives a great percentage
       stato.ModoLire = lire;
-      const double importo = (lire ? 99999999999.0 : 99999999.99) / static_cast<double>(lotti);
+      const bool minimo = lotti == 0;
+      const std::size_t n = minimo ? 1 : lotti;
+      const double importo = (lire ? 99999999999.0 : 99999999.99) / static_cast<double>(n);
+      const double progetto = minimo ? 1 : importo;
       DatiEsl esl;
       esl.CertificatoRegolare = "SI";
-      esl.Lotti.resize(lotti, {"1", "e", importo, importo, "a+b+c+d+e+f+g+h+i+l+l1",
-                               "m+n+o1+o2+o3+o4+o5+p+q+r1+r2+r3+r4+s+l2+l3+l4", 40});
-      for (std::size_t i = 0; i < std::min<std::size_t>(lotti, 10); ++i) {
+      esl.Lotti.resize(n, {"1", "e", progetto, importo, "a+b+c+d+e+f+g+h+i+l+l1",
+                           "m+n+o1+o2+o3+o4+o5+p+q+r1+r2+r3+r4+s+l2+l3+l4", 15});
+      for (std::size_t i = 0; i < std::min<std::size_t>(n, 10); ++i) {
         esl.Lotti[i].MisureContabilita = "SI";
         esl.Lotti[i].CoefficienteContabilita = 1.4;
       }
@@ -155,14 +159,14 @@ TEST_F(NoteConLotti, GreatestAmountsOfTheDialogsFit) {
       RigaPdl riga;
       riga.Classe = "1";
       riga.Categoria = "e";
-      riga.ImportoProgetto = riga.ImportoEspropri = riga.ImportoSuppletivi =
-          riga.ImportoEsproPerizie = riga.ImportoDirezione = importo;
+      riga.ImportoProgetto = riga.ImportoEspropri = riga.ImportoSuppletivi = progetto;
+      riga.ImportoEsproPerizie = riga.ImportoDirezione = importo;
       riga.FlagSorveglianza = riga.FlagRevisione = riga.FlagPerizie = "S";
       riga.CoefficienteContabilita = 1.4;
       riga.NumeroPerizie = 1;
       riga.Perizie[0].LavoriSuppletivi = riga.Perizie[0].LavoriVariati =
           riga.Perizie[0].EsproPerizia = importo;
-      for (std::size_t i = 0; i < lotti; ++i) {
+      for (std::size_t i = 0; i < n; ++i) {
         riga.FlagContabilita = i < 10 ? "S" : "N";
         pdl.Righe.push_back(riga);
         pdl.Lotti.push_back({static_cast<std::int16_t>(i + 1), {5}});
