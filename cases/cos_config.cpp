@@ -31,6 +31,7 @@ class LettoreCos {
   }
   double MaggioreDi(double precedente, const char* campo) {
     const double valore = file.Number(campo);
+    if (valore < 0) file.Fail(campo, "Il numero non può essere negativo.");
     if (valore <= precedente)
       file.Fail(campo, "Gli importi degli scaglioni devono essere crescenti.");
     SaltaCommento();
@@ -58,7 +59,7 @@ PeriodoCos LeggiBlocco(LettoreCos& file) {
   blocco.MinimoPeriodo = file.NonNegativo("MinimoPeriodo");
   blocco.PercOltre = file.NonNegativo("PercOltre");
   for (std::size_t k = 0; k < n; ++k)
-    blocco.Limite.push_back(file.MaggioreDi(k == 0 ? 0 : blocco.Limite.back(), "Limite"));
+    blocco.Limite.push_back(file.MaggioreDi(k == 0 ? -1 : blocco.Limite.back(), "Limite"));
   for (std::size_t k = 0; k < n; ++k) blocco.Valore.push_back(file.NonNegativo("Valore"));
   return blocco;
 }

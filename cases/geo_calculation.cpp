@@ -118,7 +118,7 @@ void NotaGeo::StampaSpecifica() {
     uscita.Line(NumberText(static_cast<double>(i + 1)) + " - SOTTOCLASSE   " +
                 d.Righe[g.primaRiga].Sottoclasse);
     StampaProgettoSpecifica(stato, 5, g.SommaProgetto);
-    if (g.SommaDirezione > 0)
+    if (g.SommaDirezione > kDirezioneMinimaStampata)
       StampaLavori(stato, 5, VoceDirezioneSpecifica(d.TipoDiParcella), g.SommaDirezione);
   }
 }

@@ -22,9 +22,10 @@ class LettoreGeo {
     const int n = file.Count("numero degli scaglioni", kPassiMassimi);
     if (n < 2) file.Fail("numero degli scaglioni", "Gli scaglioni devono essere almeno due.");
     SaltaNota();
-    double precedente = 0;
+    double precedente = -1;  // a table may begin with 0
     for (int i = 0; i < n; ++i) {
       const double passo = file.Number("importo");
+      if (passo < 0) file.Fail("importo", "Il numero non può essere negativo.");
       if (passo <= precedente)
         file.Fail("importo", "Gli importi degli scaglioni devono essere crescenti.");
       SaltaNota();
