@@ -8,7 +8,7 @@ FormValues::FormValues(const Form& form) {
     if (auto* number = dynamic_cast<NumberBox*>(control)) {
       if (!number->ReadOnly()) keep(number->Value());
     } else if (auto* text = dynamic_cast<TestoBox*>(control)) {
-      keep(text->Text());
+      if (!text->Options().readOnly) keep(text->Text());
     } else if (auto* bars = dynamic_cast<FerriBox*>(control)) {
       keep(bars->Text());
     } else if (auto* option = dynamic_cast<OptionButton*>(control)) {

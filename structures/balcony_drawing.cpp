@@ -197,6 +197,9 @@ void Disegno::Pianta() {
   if (f_.SuMensole()) {
     for (const double m : {f_.Ls, f_.Ls + f_.Lm})
       Nascosto(Rettangolo(x(m - f_.Ba / 2), kFace - f_.Bm * scala_, x(m + f_.Ba / 2), dentro));
+    const double destra = f_.Ls + f_.Lm;
+    if (f_.tipo == TipoBalcone::Mensole)
+      quote_.Orizzontale(x(destra - f_.Ba / 2), x(destra + f_.Ba / 2), kFace + spessore + 1, "Ba");
     const bool putrelle = f_.tipo == TipoBalcone::Putrelle;
     quote_.Centrato(mezzo, (kFace + fine) / 2 - 0.4, putrelle ? "Putrella" : "Mensole");
   } else {

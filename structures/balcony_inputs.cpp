@@ -53,7 +53,6 @@ constexpr int kPrimaPutrella = 4;     // 160 mm
 NumberLimits Limiti(const char* lettera) {
   return {.most = 99.999, .decimals = 3, .unit = lettera};
 }
-const NumberLimits kCarico{.most = 9999.99, .decimals = 2};
 
 }  // namespace
 
@@ -79,9 +78,9 @@ IngressiBalcone::IngressiBalcone(Form& form, RunState& stato)
       cmbPutrella(form, "cmbPutrella", "Putrella NP [ H in mm ]", AltezzeNP()),
       lblModuli(form, "lblModuli", kNotaModuli, Label::Style::Note),
       fraCarichi(form, "fraCarichi", "CARICHI"),
-      cdCarichi{{{form, "cdCarichi(1)", "Carico sui bordi liberi  [Kg/ml]", kCarico},
-                 {form, "cdCarichi(2)", "Sovraccarico ripartito  [Kg/mq]", kCarico},
-                 {form, "cdCarichi(3)", "Peso specifico della pietra  [Kg/mc]", kCarico}}},
+      cdCarichi{{{form, "cdCarichi(1)", "Carico sui bordi liberi  [Kg/ml]", kLimitiCarico},
+                 {form, "cdCarichi(2)", "Sovraccarico ripartito  [Kg/mq]", kLimitiCarico},
+                 {form, "cdCarichi(3)", "Peso specifico della pietra  [Kg/mc]", kLimitiCarico}}},
       cmdCalc_Est(form, "cmdCalc_Est", "Analisi..."),
       cmdCalc_Acc(form, "cmdCalc_Acc", "Analisi..."),
       fraZona(form, "fraZona", "ZONA SISMICA"),

@@ -51,6 +51,11 @@ void FrmVerPietre::Arrange() {
 void FrmVerPietre::TieEvents() {
   for (OptionButton& opt : optPietra) opt.onChange = [this] { Mostra(); };
   for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
+  cdSigma.onChange = cdTau.onChange = [this] {
+    if (Scelta() != nullptr) return;
+    altraSigma_ = cdSigma.Value();
+    altraTau_ = cdTau.Value();
+  };
   OKButton.onPress = [this] {
     confermato_ = true;
     Close();
@@ -88,8 +93,10 @@ void FrmVerPietre::Mostra() {
     sldPietraS[i].SetEnabled(optPietra[i].Value());
   cdSigma.SetReadOnly(!altra);
   cdTau.SetReadOnly(!altra);
-  cdSigma.SetValue(Sigma());
-  cdTau.SetValue(Tau());
+  const bool scritta = altra && altraSigma_ + altraTau_ > 0;
+  const double sigma = scritta ? altraSigma_ : Sigma(), tau = scritta ? altraTau_ : Tau();
+  cdSigma.SetValue(sigma);
+  cdTau.SetValue(tau);
 }
 
 }  // namespace orm

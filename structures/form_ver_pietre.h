@@ -38,6 +38,7 @@ class FrmVerPietre : public Form {
 
   FormValues prima_;
   bool confermato_ = false;
+  double altraSigma_ = 0, altraTau_ = 0;  // as typed for another stone, while one of the list shows
 };
 
 }  // namespace orm

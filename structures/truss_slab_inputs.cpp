@@ -50,6 +50,8 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
       lblLaterizio(form, "lblLaterizio",
                    "Blocchi in laterizio aventi funzione\nprincipale di alleggerimento",
                    Label::Style::Note),
+      lblAltezza(form, "lblAltezza", "Altezza inferiore a 1/25 della luce\ndi calcolo.",
+                 Label::Style::Warning),
       cmbTipoDiFerro(form, "cmbTipoDiFerro", "Tipo di Acciaio", Elenco(TipiDiFerro)),
       cmbTipoDiCls(form, "cmbTipoDiCls", "Classe Cls", Classi()),
       fraCoefficienti(form, "fraCoefficienti", "COEFFICENTI PER CALCOLO  MOMENTI"),
@@ -84,7 +86,7 @@ Layout IngressiSolaio::Contents() {
       {Column({Group(fraSchema, {Row({optSchema[0], optSchema[1]})}),
                Group(fraGeometria,
                      {Fields({cdLuce, cmbSolettina, cmbTavellone, cmbTipoDiFerro, cmbTipoDiCls})}),
-               lblBlocchi, lblLaterizio}),
+               lblBlocchi, lblLaterizio, lblAltezza}),
        Column({Group(fraPosizione, {Row({Option1, Option2})}),
                Group(fraCoefficienti, {Fields({cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ})}),
                Group(fraCarichi, {Fields({cdCR[0], Row({cdCR[1], cmdCALCOLAPERMANENTE}),
@@ -104,6 +106,7 @@ void IngressiSolaio::ValoriIniziali() {
   cmbCCM_DEX.SetIndex(2);
   cmbCCM_MEZ.SetIndex(1);  // 1/10
   for (ComboBox& lista : cmbFERRI) lista.SetIndex(0);
+  SegnalaAltezza();
   AggiornaPesoProprio();
 }
 
@@ -112,15 +115,16 @@ void IngressiSolaio::TieEvents(const std::function<void()>& cambiati) {
     lista->onChange = cambiati;
   for (ComboBox& lista : cmbFERRI) lista.onChange = cambiati;
   for (FloatBox& carico : cdCR) carico.onChange = cambiati;
-  Option1.onChange = Option2.onChange = cdLuce.onChange = cambiati;
-  cdLuce.onLeave = [this] { AccettaLuce(); };
-  cmbSolettina.onChange = [this, cambiati] {
-    AccettaScelta(cmbSolettina, solettina_);
+  Option1.onChange = Option2.onChange = cdLuce.onChange = [this, cambiati] {
+    SegnalaAltezza();
     cambiati();
   };
+  cdLuce.onLeave = [this] { AccettaLuce(); };
+  cmbSolettina.onChange = [this, cambiati] {
+    if (AccettaScelta(cmbSolettina, solettina_)) cambiati();
+  };
   cmbTavellone.onChange = [this, cambiati] {
-    AccettaScelta(cmbTavellone, blocco_);
-    cambiati();
+    if (AccettaScelta(cmbTavellone, blocco_)) cambiati();
   };
   for (OptionButton& opt : optSchema)
     opt.onChange = [this, cambiati] {
@@ -143,7 +147,8 @@ void IngressiSolaio::Riprendi(const std::function<void()>& scrivi) {
   ritorno_ = false;
   solettina_ = cmbSolettina.Index();
   blocco_ = cmbTavellone.Index();
-  luce_ = AltezzaScarsa() ? 0 : cdLuce.Value();
+  luce_ = cdLuce.Value();
+  SegnalaAltezza();
 }
 
 bool IngressiSolaio::AltezzaScarsa() const {
@@ -170,14 +175,24 @@ bool IngressiSolaio::AccettaLuce() {
   return ammessa;
 }
 
-void IngressiSolaio::AccettaScelta(ComboBox& lista, int& accettata) {
-  if (std::exchange(ritorno_, true)) return;
-  if (AltezzaAmmessa())
+bool IngressiSolaio::AccettaScelta(ComboBox& lista, int& accettata) {
+  if (std::exchange(ritorno_, true)) return false;
+  const bool ammessa = AltezzaAmmessa();
+  if (ammessa)
     accettata = lista.Index();
   else
     lista.SetIndex(accettata);
   ritorno_ = false;
+  if (!ammessa) return false;
+  SegnalaAltezza();
   AggiornaPesoProprio();
+  return true;
+}
+
+void IngressiSolaio::SegnalaAltezza() {
+  const bool scarsa = AltezzaScarsa();
+  lblAltezza.SetVisible(scarsa);
+  lblLaterizio.SetVisible(!scarsa);
 }
 
 void IngressiSolaio::AggiornaPesoProprio() {
@@ -206,8 +221,6 @@ DatiSolaioT IngressiSolaio::Leggi() const {
 void IngressiSolaio::ScriviFerri(const RisultatiSolaioT& risultati) {
   for (std::size_t i = 0; i < risultati.campata.size(); ++i)
     cmbFERRI[i].Enter(Testo(risultati.campata[i].diametro));
-  cmbFERRI[3].Enter(Testo(risultati.sinistra.lungo.diametro));
-  cmbFERRI[4].Enter(Testo(risultati.sinistra.corto.diametro));
 }
 
 }  // namespace orm

@@ -19,12 +19,13 @@ class IngressiSolaio {
   // `cambiati` runs after any change.
   void TieEvents(const std::function<void()>& cambiati);
 
-  // Data that come all together: the height is asked about when they are reckoned.
+  // Data that come all together, as they were left: no question about their height.
   void Riprendi(const std::function<void()>& scrivi);
   // Takes the span that was typed; false when it was refused with a message and set back.
   bool AccettaLuce();
   DatiSolaioT Leggi() const;
-  // The diameters of a design take the place of what was asked.
+  // The diameters in the span take the place of what was asked; stubs that were left free stay
+  // free.
   void ScriviFerri(const RisultatiSolaioT& risultati);
 
   // Arrays count from 1.
@@ -38,6 +39,7 @@ class IngressiSolaio {
   FloatBox cdLuce;
   ComboBox cmbSolettina, cmbTavellone;
   Label lblBlocchi, lblLaterizio;
+  Label lblAltezza;  // in its place while the floor is lower than the law wants
   ComboBox cmbTipoDiFerro, cmbTipoDiCls;
   Frame fraCoefficienti;
   ComboBox cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ;
@@ -50,8 +52,9 @@ class IngressiSolaio {
 
  private:
   bool AltezzaScarsa() const;
+  void SegnalaAltezza();
   bool AltezzaAmmessa();
-  void AccettaScelta(ComboBox& lista, int& accettata);
+  bool AccettaScelta(ComboBox& lista, int& accettata);  // false: set back, nothing has changed
   void AggiornaPesoProprio();
   const ModuloSolaio& Modulo() const { return ModuliSolaio[optSchema[1].Value() ? 1 : 0]; }
   double Solettina() const;

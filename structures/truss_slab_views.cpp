@@ -34,8 +34,9 @@ constexpr std::array kSollecitazioni = {1, 2, 3, 4};
 constexpr std::array kZonePiene = {16, 17};
 constexpr std::size_t kFerriCampata = 3;
 // Headings of the tables, one after the other.
-constexpr std::array kColonne = {"", "LUNGHEZZA", "",          "LUNGHEZZA", "",        "CALCOLATE",
-                                 "", "AMMESSE",   "CALCOLATE", "",          "AMMESSE", "CALCOLATE"};
+constexpr std::array kColonne = {"",          "LUNGHEZZA", "DIAMETRO",  "",         "LUNGHEZZA",
+                                 "DIAMETRO",  "",          "CALCOLATE", "",         "AMMESSE",
+                                 "CALCOLATE", "",          "AMMESSE",   "CALCOLATE"};
 // Concrete and steel of the solid section, then of the ribs.
 constexpr std::array<int, 4> kSin = {5, 7, 6, 8}, kDex = {13, 9, 11, 10};
 
@@ -76,6 +77,8 @@ VisteSolaio::VisteSolaio(Form& form)
       fraTensioni(form, "fraTensioni", "TENSIONI ") {
   for (std::size_t i = 0; i < kColonne.size(); ++i)
     lblColonne.emplace_back(form, NomeIndicizzato("lblColonne", i), kColonne[i]);
+  for (std::size_t i = 0; i < cdLunghezze.size(); ++i)
+    lblDiametri.emplace_back(form, NomeIndicizzato("lblDiametri", i));
   for (std::size_t i = 0; i < kEtichette.size(); ++i)
     righe.emplace_back(form, i + 1, kEtichette[i],
                        i + 1 >= kPrimaTensione && i + 1 <= kUltimaTensione);
@@ -101,17 +104,17 @@ Layout VisteSolaio::Contents() {
   std::vector<Layout> viste, sollecitazioni, ferri, monconi;
   for (OptionButton& opt : optVisualizza) viste.emplace_back(opt);
   for (std::size_t i = 0; i < cdLunghezze.size(); ++i)
-    (i < kFerriCampata ? ferri : monconi).push_back(Row({cdLunghezze[i]}));
+    (i < kFerriCampata ? ferri : monconi).push_back(Row({cdLunghezze[i], lblDiametri[i]}));
   for (const int numero : kZonePiene) ferri.push_back(Row({Calcolato(numero)}));
   for (const int numero : kSollecitazioni) sollecitazioni.push_back(Row({Calcolato(numero)}));
   return Column(
       {Group(fraVisualizza, {Row(std::move(viste))}), Group(fraDisegno, {Lavagna}),
-       Group(fraFerri, {Row({Tabella(0, std::move(ferri)), Tabella(2, std::move(monconi))})}),
-       Group(fraSollecitazioni, {Tabella(4, std::move(sollecitazioni))}),
+       Group(fraFerri, {Row({Tabella(0, std::move(ferri)), Tabella(3, std::move(monconi))})}),
+       Group(fraSollecitazioni, {Tabella(6, std::move(sollecitazioni))}),
        Group(fraTensioni,
              {Row({TabellaTensioni(
-                       6, {kMezzeriaCls, kMezzeriaAcciaio, kSin[0], kSin[2], kSin[1], kSin[3]}),
-                   TabellaTensioni(9, {kDex[0], kDex[2], kDex[1], kDex[3], kTangenziale})})})});
+                       8, {kMezzeriaCls, kMezzeriaAcciaio, kSin[0], kSin[2], kSin[1], kSin[3]}),
+                   TabellaTensioni(11, {kDex[0], kDex[2], kDex[1], kDex[3], kTangenziale})})})});
 }
 
 void VisteSolaio::TieEvents() {
@@ -140,6 +143,7 @@ void VisteSolaio::Azzera() {
     if (riga.cdVAmmessi) riga.cdVAmmessi->SetText("");
   }
   for (TestoBox& lunghezza : cdLunghezze) lunghezza.SetText("");
+  for (Label& diametro : lblDiametri) diametro.SetText("");
   ScegliVista();
 }
 
@@ -158,12 +162,16 @@ void VisteSolaio::ScriviAppoggio(const Appoggio& appoggio, const std::array<int,
 
 void VisteSolaio::ScriviFerri() {
   const RisultatiSolaioT& r = risultati_;
-  const std::array lunghezze = {r.campata[0].lunghezza,     r.campata[1].lunghezza,
-                                r.campata[2].lunghezza,     r.sinistra.lungo.Lunghezza(),
-                                r.destra.lungo.Lunghezza(), r.sinistra.corto.Lunghezza(),
-                                r.destra.corto.Lunghezza()};
-  for (std::size_t i = 0; i < lunghezze.size(); ++i)
-    cdLunghezze[i].SetText(lunghezze[i] == 0 ? "" : FormatPattern(lunghezze[i], kDueDecimali));
+  const auto barra = [](const Moncone& m) { return Barra{m.diametro, m.Lunghezza()}; };
+  const std::array<Barra, 7> barre = {r.campata[0],          r.campata[1],
+                                      r.campata[2],          barra(r.sinistra.lungo),
+                                      barra(r.destra.lungo), barra(r.sinistra.corto),
+                                      barra(r.destra.corto)};
+  for (std::size_t i = 0; i < barre.size(); ++i) {
+    if (barre[i].diametro == 0) continue;
+    cdLunghezze[i].SetText(FormatPattern(barre[i].lunghezza, kDueDecimali));
+    lblDiametri[i].SetText("Ø " + NumberText(barre[i].diametro));
+  }
   for (const int zona : kZonePiene)
     Calcolato(zona).SetText(FormatPattern(r.zonaPiena * 100, "##0.0"));
 }

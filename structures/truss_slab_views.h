@@ -37,6 +37,7 @@ class VisteSolaio {
   orm::Lavagna Lavagna;
   Frame fraFerri;
   std::array<TestoBox, 7> cdLunghezze;
+  std::deque<Label> lblDiametri;  // of the same bars
   Frame fraSollecitazioni, fraTensioni;
   std::deque<Label> lblColonne;
   std::deque<RigaRisultato> righe;  // cdRisultati(1) to (17)
