@@ -3,6 +3,8 @@
 #include <map>
 #include <utility>
 
+#include "runtime/failure.h"
+
 namespace orm {
 namespace {
 
@@ -29,8 +31,16 @@ void MostraRiprendibile(RunState& stato, FormRiprendibile& form) {
     form.Riprendi(std::exchange(tenuti, presenti));
     if (Control* primo = form.FirstFocus()) form.MoveFocus(*primo);
   };
-  stato.player.Show(form);
-  if (const FormValues lasciati(form); lasciati != nuovi) tenuti = lasciati;
+  const auto tieni = [&] {
+    if (const FormValues lasciati(form); lasciati != nuovi) tenuti = lasciati;
+  };
+  try {
+    stato.player.Show(form);
+  } catch (const RuntimeFailure&) {
+    tieni();
+    throw;
+  }
+  tieni();
 }
 
 }  // namespace orm
