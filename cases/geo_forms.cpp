@@ -18,7 +18,7 @@ FrmGeoClassi::FrmGeoClassi(Player& player, const PostoLotto& posto, const std::s
       Command2(*this, "Command2", "FINE INPUT SOTTOCLASSI"),
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
   SetContent(Column({Label1, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}),
-                     Buttons({Command2, Command1})}));
+                     Buttons({Command1, Command2})}));
   const bool nota = sottoclasse.size() == 1 && sottoclasse >= "1" && sottoclasse <= "4";
   tipo.Choose(nota ? sottoclasse[0] - '1' : 0);
   Command1.onPress = [this, &player] {

@@ -22,7 +22,7 @@ FrmGenClasse::FrmGenClasse(RunState& stato, bool chiedeImporto)
       chiedeImporto_(chiedeImporto) {
   SetContent(
       Column({Label1, Fields({comClasse}), lblClasse, Fields({comCategoria}), lblCategoria,
-              Row({Fields({cdImporto, ciImporto}), Image1}), Buttons({cmdFINE, cmdCONFERMA})}));
+              Row({Fields({cdImporto, ciImporto}), Image1}), Buttons({cmdCONFERMA, cmdFINE})}));
   std::vector<std::string> names;
   for (const NomiClasse& classe : kNomiClassi) names.emplace_back(classe.nome);
   comClasse.SetItems(std::move(names));

@@ -18,7 +18,7 @@ FrmTariffe::FrmTariffe(Player& player, const TestiTariffe& testi, std::string do
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
   SetContent(
       Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3], Option[4]}),
-              Buttons({Command2, Command1})}));
+              Buttons({Command1, Command2})}));
   int scelta = -1;
   for (int i = ultimo; i < 5; ++i)
     if (scelta < 0 || periodo == std::string(1, static_cast<char>('1' + i))) scelta = i;
