@@ -17,7 +17,9 @@ bool ChiediVariazione(RunState& stato) {
 
 void ChiediAcconti(RunState& stato, const DataWriter& corpo) {
   stato.FileDatiAcconti = stato.FileInp;
-  ScriviParcella(stato.folder, stato.FileDatiAcconti, corpo, stato.chiusura);
+  // Told when it fails; the dialog comes all the same, and its O.K. writes again what was typed.
+  TryAndStay(stato.player,
+             [&] { ScriviParcella(stato.folder, stato.FileDatiAcconti, corpo, stato.chiusura); });
   FrmGenAcconti acconti(stato, corpo);
   stato.player.Show(acconti);
 }

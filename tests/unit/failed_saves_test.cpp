@@ -4,6 +4,8 @@
 #include "runtime/failure.h"
 #include "shell/form_letter.h"
 #include "shell/form_memo.h"
+#include "tariff/form_advances.h"
+#include "tariff/input_step.h"
 #include "tests/unit/fake_player.h"
 #include "utilities/form_pension.h"
 
@@ -19,6 +21,27 @@ class FailedSaves : public ::testing::Test {
   FakePlayer player;
   RunState run{player, WorkFolder("/nowhere/at/all")};
 };
+
+// The chain of a note writes its data before the agreements are asked: a failure costs nothing of
+// it.
+TEST_F(FailedSaves, DataOfANote) {
+  struct Person : FakePlayer {
+    void Show(Form& form) override {
+      shown = form.Name();
+      form.Open();
+      static_cast<FrmGenAcconti&>(form).OK.Press();
+      open = form.IsOpen();
+    }
+    std::string shown;
+    bool open = false;
+  } person;
+  RunState note{person, WorkFolder("/nowhere/at/all")};
+  note.FileInp = "INP_PPE.DAP";
+  ChiediAcconti(note, DataWriter());
+  EXPECT_EQ(person.shown, "frmGEN_Acconti");
+  EXPECT_TRUE(person.open);
+  EXPECT_EQ(person.messages.size(), 2U);
+}
 
 TEST_F(FailedSaves, Memo) {
   FrmGenVisualizzaRtf form(run);
