@@ -1,5 +1,6 @@
 // Carries out one command of the program in a given folder, for the fault loops: a person in a
-// hurry, who fills every field with the same answer and presses the default button of each form.
+// hurry, who fills every field with the same answer and presses the default button of each form,
+// and who gives up at the first failure.
 //
 //   orm_saver FOLDER COMMAND [FORM]   COMMAND of the menu; FORM is left by its window instead
 //   orm_saver FOLDER --avvio          start-up, which lays down the files of a new installation
@@ -27,7 +28,7 @@ class Hurried : public orm::Player {
 
   void Show(orm::Form& form) override {
     form.Open();
-    if (form.Name() != leaves_) Answer(form);
+    if (form.Name() != leaves_ && code_ != 2) Answer(form);
     if (form.IsOpen()) form.OnWindowClose();
   }
   orm::Answer Ask(const orm::MessageBox& box) override {
