@@ -14,8 +14,8 @@
 #include "cases/fee_case.h"
 #include "runtime/text.h"
 #include "shell/dispatch.h"
-#include "shell/settings.h"
-#include "tariff/case_files.h"
+#include "shell/personal/settings.h"
+#include "tariff/files/case_files.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include "batch/batch_player.h"
 #include "runtime/folder.h"
 #include "shell/dispatch.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
-#include "tariff/tariff_tables.h"
 
 namespace orm {
 namespace {

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cases/pdl.h"
-#include "cases/pdl_data.h"
-#include "tariff/closing_line.h"
+#include "cases/pdl/data.h"
+#include "cases/pdl/pdl.h"
+#include "tariff/files/closing_line.h"
 #include "tariff/lot_lines.h"
 #include "tariff/user_data.h"
 #include "tests/unit/fake_player.h"

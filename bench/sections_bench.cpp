@@ -15,8 +15,8 @@
 #include <random>
 #include <vector>
 
-#include "structures/section_circular.h"
-#include "structures/section_t.h"
+#include "structures/sections/section_circular.h"
+#include "structures/sections/section_t.h"
 
 namespace orm {
 namespace {

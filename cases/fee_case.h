@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

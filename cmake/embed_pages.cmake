@@ -1,6 +1,6 @@
 # Writes the pages of the help into a source file: cmake -DOUTPUT=... -DROOT=... -DPAGES=a;b -P this
 file(WRITE ${OUTPUT}.new "// Made from the pages under docs/ by cmake/embed_pages.cmake.
-#include \"shell/help_texts.h\"
+#include \"shell/help/help_texts.h\"
 
 namespace orm {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "dialogs/main_window.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

@@ -2,9 +2,9 @@
 
 #include "cases/fee_case.h"
 #include "runtime/failure.h"
-#include "shell/form_criteria.h"
+#include "shell/personal/form_criteria.h"
 #include "shell/shell_boxes.h"
-#include "tariff/case_files.h"
+#include "tariff/files/case_files.h"
 #include "tariff/message_boxes.h"
 #include "tariff/user_data.h"
 

@@ -1,7 +1,7 @@
 // The two generic commands of every fee case, "Input Dati" and "Calcolo".
 #pragma once
 
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

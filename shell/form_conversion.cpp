@@ -4,7 +4,7 @@
 
 #include "cases/fee_case.h"
 #include "runtime/numbers.h"
-#include "tariff/case_files.h"
+#include "tariff/files/case_files.h"
 
 namespace orm {
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "dialogs/form.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

@@ -3,12 +3,12 @@
 #include <new>
 
 #include "shell/commands.h"
-#include "shell/form_editor.h"
 #include "shell/form_title.h"
-#include "shell/help.h"
-#include "shell/help_books.h"
+#include "shell/help/help.h"
+#include "shell/help/help_books.h"
 #include "shell/menu_tree.h"
-#include "shell/settings.h"
+#include "shell/personal/form_editor.h"
+#include "shell/personal/settings.h"
 #include "shell/shell_boxes.h"
 #include "tariff/user_data.h"
 

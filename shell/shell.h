@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "dialogs/main_window.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

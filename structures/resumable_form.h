@@ -6,7 +6,7 @@
 
 #include "dialogs/form.h"
 #include "dialogs/form_values.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

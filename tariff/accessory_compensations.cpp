@@ -6,9 +6,9 @@
 #include "runtime/data_file.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
-#include "tariff/tariff_tables.h"
 
 namespace orm {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "tariff/accounting_fee.h"
+#include "tariff/law/accounting_fee.h"
 #include "tariff/lot_lines.h"
 
 namespace orm {

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

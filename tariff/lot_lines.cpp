@@ -5,9 +5,9 @@
 #include "runtime/numbers.h"
 #include "tariff/accessory_compensations.h"
 #include "tariff/final_account.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
-#include "tariff/tariff_tables.h"
 
 namespace orm {
 namespace {

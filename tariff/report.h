@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "runtime/text.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

@@ -4,9 +4,9 @@
 #include <array>
 #include <initializer_list>
 
-#include "tariff/accounting_fee.h"
-#include "tariff/amount_limits.h"
-#include "tariff/tariff_tables.h"
+#include "tariff/forms/amount_limits.h"
+#include "tariff/law/accounting_fee.h"
+#include "tariff/law/tariff_tables.h"
 
 namespace orm {
 namespace {

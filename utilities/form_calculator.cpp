@@ -2,7 +2,7 @@
 #include "utilities/form_calculator.h"
 
 #include "runtime/failure.h"
-#include "tariff/amount_limits.h"
+#include "tariff/forms/amount_limits.h"
 #include "tariff/message_boxes.h"
 
 namespace orm {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/form.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 #include "utilities/calculator.h"
 
 namespace orm {

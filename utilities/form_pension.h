@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "dialogs/form.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 #include "utilities/pension_file.h"
 
 namespace orm {

@@ -3,10 +3,10 @@
 
 #include <initializer_list>
 
-#include "tariff/amount_limits.h"
-#include "tariff/class_names.h"
+#include "tariff/forms/amount_limits.h"
+#include "tariff/law/table_classes.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
-#include "tariff/tariff_tables.h"
 #include "utilities/percentage_curve.h"
 
 namespace orm {

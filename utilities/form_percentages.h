@@ -3,7 +3,7 @@
 
 #include "dialogs/form.h"
 #include "dialogs/lavagna.h"
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 #include "utilities/percentages.h"
 
 namespace orm {

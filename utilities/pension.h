@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "utilities/pension_rules.h"
+#include "tariff/law/table_pension.h"
 
 namespace orm {
 

@@ -1,8 +1,8 @@
 // Percentages of the tariff.
 #include "utilities/percentages.h"
 
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
-#include "tariff/tariff_tables.h"
 
 namespace orm {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "shell/run_state.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 

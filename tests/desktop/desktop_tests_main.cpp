@@ -6,9 +6,9 @@
 #include <QStyleFactory>
 
 #include "desktop/desktop_app.h"
-#include "desktop/desktop_stage.h"
 #include "desktop/qt_text.h"
 #include "tests/desktop/gallery_form.h"
+#include "tests/stage/desktop_stage.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "desktop/desktop_player.h"
-#include "desktop/form_dialog.h"
+#include "desktop/player/desktop_player.h"
+#include "desktop/player/form_dialog.h"
 #include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 

@@ -4,8 +4,8 @@
 #include <QMessageBox>
 #include <QTest>
 
-#include "desktop/form_lint.h"
 #include "tests/desktop/gallery_form.h"
+#include "tests/stage/form_lint.h"
 
 namespace orm {
 namespace {

@@ -9,10 +9,10 @@
 #include <QTextBlock>
 #include <QTreeWidget>
 
-#include "desktop/help_view.h"
-#include "desktop/help_window.h"
+#include "desktop/find_bar.h"
+#include "desktop/guide/help_view.h"
+#include "desktop/guide/help_window.h"
 #include "desktop/qt_text.h"
-#include "desktop/viewer_find.h"
 #include "tests/desktop/gallery_form.h"
 
 namespace orm {

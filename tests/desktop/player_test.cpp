@@ -9,12 +9,12 @@
 #include <QTest>
 #include <QTextDocument>
 
-#include "desktop/menu_keys.h"
-#include "desktop/menu_window.h"
-#include "desktop/message_window.h"
+#include "desktop/controls/rich_text_document.h"
 #include "desktop/paint_drawing.h"
+#include "desktop/player/menu_keys.h"
+#include "desktop/player/menu_window.h"
+#include "desktop/player/message_window.h"
 #include "desktop/qt_text.h"
-#include "desktop/rich_text_document.h"
 #include "runtime/failure.h"
 #include "tests/desktop/gallery_form.h"
 

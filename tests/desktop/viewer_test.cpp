@@ -15,16 +15,16 @@
 #include <QTimer>
 #include <random>
 
+#include "desktop/export/export.h"
+#include "desktop/export/pages.h"
+#include "desktop/export/zip.h"
+#include "desktop/find_bar.h"
 #include "desktop/italian_captions.h"
-#include "desktop/viewer_export.h"
-#include "desktop/viewer_file.h"
-#include "desktop/viewer_find.h"
-#include "desktop/viewer_messages.h"
-#include "desktop/viewer_notice.h"
-#include "desktop/viewer_page.h"
-#include "desktop/viewer_pages.h"
-#include "desktop/viewer_window.h"
-#include "desktop/viewer_zip.h"
+#include "desktop/viewer/viewer_file.h"
+#include "desktop/viewer/viewer_messages.h"
+#include "desktop/viewer/viewer_notice.h"
+#include "desktop/viewer/viewer_page.h"
+#include "desktop/viewer/viewer_window.h"
 #include "runtime/failure.h"
 
 namespace orm {

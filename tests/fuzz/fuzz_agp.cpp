@@ -1,6 +1,6 @@
 // INP_AGP.DAP, the lots of a note of price updating.
-#include "cases/agp.h"
-#include "cases/agp_data.h"
+#include "cases/agp/agp.h"
+#include "cases/agp/data.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,8 +1,8 @@
 // INP_COA.DAP, a testing note; its compensations come in each of the four ways.
 #include <array>
 
-#include "cases/coa.h"
-#include "cases/coa_data.h"
+#include "cases/coa/coa.h"
+#include "cases/coa/data.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

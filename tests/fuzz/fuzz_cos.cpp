@@ -1,6 +1,6 @@
 // INP_CS1.DAP, a note of static testing; every other one by the tables of 2001.
-#include "cases/cos.h"
-#include "cases/cos_data.h"
+#include "cases/cos/cos.h"
+#include "cases/cos/data.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,5 @@
 // CRITERI.PER, the criteria of calculation.
-#include "shell/settings.h"
+#include "shell/personal/settings.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

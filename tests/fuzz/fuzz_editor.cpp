@@ -1,5 +1,5 @@
 // EDITOR.PER, the programs outside.
-#include "shell/settings.h"
+#include "shell/personal/settings.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,6 +1,6 @@
 // INP_GEO.DAP, the groups of a note of geotechnical services.
-#include "cases/geo.h"
-#include "cases/geo_data.h"
+#include "cases/geo/data.h"
+#include "cases/geo/geo.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,5 @@
 // LETTERA.DAG, the data of the letter to the Order.
-#include "shell/letter.h"
+#include "shell/letter/letter.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

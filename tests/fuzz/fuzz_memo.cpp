@@ -1,5 +1,5 @@
 // MEMO.RTF: rich text read, written and read again is the same document, in the same bytes.
-#include "shell/rtf.h"
+#include "shell/memo/rtf.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,6 +1,6 @@
 // INP_PPE.DAP, the counts of an expropriation note.
-#include "cases/ppe.h"
-#include "cases/ppe_data.h"
+#include "cases/ppe/data.h"
+#include "cases/ppe/ppe.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

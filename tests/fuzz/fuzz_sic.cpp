@@ -1,6 +1,6 @@
 // INP_SC1.DAP, the lots of a note of site safety; every other one by the decree of 2001.
-#include "cases/sic.h"
-#include "cases/sic_data.h"
+#include "cases/sic/data.h"
+#include "cases/sic/sic.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,6 +1,6 @@
 // INP_STC.DAP, a condition survey.
-#include "cases/stc.h"
-#include "cases/stc_data.h"
+#include "cases/stc/data.h"
+#include "cases/stc/stc.h"
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

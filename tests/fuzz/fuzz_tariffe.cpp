@@ -1,8 +1,8 @@
 // IND.CFG, CS1.CFG and GEO.CFG, kept by the user with a text editor: read as each of the three, and
 // looked up.
-#include "cases/cos_config.h"
-#include "cases/geo_config.h"
-#include "tariff/price_index.h"
+#include "cases/cos/config.h"
+#include "cases/geo/config.h"
+#include "tariff/law/price_index.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // also calculated, under every kind of reduction and in both currencies.
 #pragma once
 
-#include "tariff/closing_line.h"
+#include "tariff/files/closing_line.h"
 #include "tariff/user_data.h"
 #include "tests/fuzz/file_fuzzer.h"
 

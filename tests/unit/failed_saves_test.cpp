@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "runtime/failure.h"
-#include "shell/form_letter.h"
-#include "shell/form_memo.h"
-#include "tariff/form_advances.h"
-#include "tariff/input_step.h"
+#include "shell/letter/form_letter.h"
+#include "shell/memo/form_memo.h"
+#include "tariff/forms/form_advances.h"
+#include "tariff/forms/input_step.h"
 #include "tests/unit/fake_player.h"
 #include "utilities/form_pension.h"
 

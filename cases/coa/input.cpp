@@ -1,0 +1,18 @@
+#include "cases/coa/coa.h"
+#include "cases/coa/data.h"
+#include "cases/coa/form.h"
+#include "tariff/forms/input_step.h"
+
+namespace orm {
+
+void InputCoa(RunState& stato) {
+  DatiCoa dati;
+  IniziaInput(stato, dati);
+  FrmCoaDati form(stato, dati);
+  stato.player.Show(form);
+  if (!form.TipodiUscita) return;
+  dati = form.Dati();
+  ConcludiInput(stato, dati);
+}
+
+}  // namespace orm

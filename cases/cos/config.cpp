@@ -1,0 +1,91 @@
+#include "cases/cos/config.h"
+
+#include <algorithm>
+
+#include "runtime/data_file.h"
+
+namespace orm {
+namespace {
+
+// Reads fields and skips the comment behind each.
+class LettoreCos {
+ public:
+  LettoreCos(const WorkFolder& folder, const std::string& codice) : file(folder, codice + ".CFG") {}
+
+  std::string Testo(const char* campo) {
+    std::string testo = file.Text(campo);
+    SaltaCommento();
+    return testo;
+  }
+  double NonNegativo(const char* campo) {
+    const double valore = file.Number(campo);
+    if (valore < 0) file.Fail(campo, "Il numero non può essere negativo.");
+    SaltaCommento();
+    return valore;
+  }
+  std::size_t Scaglioni(const char* campo) {
+    const std::uint8_t n = file.Byte(campo);
+    if (n == 0) file.Fail(campo, "Gli scaglioni devono essere almeno uno.");
+    SaltaCommento();
+    return n;
+  }
+  double MaggioreDi(double precedente, const char* campo) {
+    const double valore = file.Number(campo);
+    if (valore < 0) file.Fail(campo, "Il numero non può essere negativo.");
+    if (valore <= precedente)
+      file.Fail(campo, "Gli importi degli scaglioni devono essere crescenti.");
+    SaltaCommento();
+    return valore;
+  }
+
+ private:
+  void SaltaCommento() { RigaIgnorata = file.Text("commento"); }
+  DataReader file;
+  std::string RigaIgnorata;
+};
+
+TestataCos LeggiTestata(LettoreCos& file) {
+  TestataCos testata;
+  for (std::string& nome : testata.NomePeriodo) nome = file.Testo("nome del periodo");
+  for (std::string& nome : testata.NomeVariazione) nome = file.Testo("nome della variazione");
+  testata.UnitaArrotondamento = file.NonNegativo("UnitaArrotondamento");
+  return testata;
+}
+
+PeriodoCos LeggiBlocco(LettoreCos& file) {
+  PeriodoCos blocco;
+  blocco.ModoPeriodo = file.Testo("ModoPeriodo");
+  const std::size_t n = file.Scaglioni("ScaglioniPeriodo");
+  blocco.MinimoPeriodo = file.NonNegativo("MinimoPeriodo");
+  blocco.PercOltre = file.NonNegativo("PercOltre");
+  for (std::size_t k = 0; k < n; ++k)
+    blocco.Limite.push_back(file.MaggioreDi(k == 0 ? -1 : blocco.Limite.back(), "Limite"));
+  for (std::size_t k = 0; k < n; ++k) blocco.Valore.push_back(file.NonNegativo("Valore"));
+  return blocco;
+}
+
+}  // namespace
+
+double PeriodoCos::ValoreA(double lire) const {
+  const auto k = static_cast<std::size_t>(std::ranges::lower_bound(Limite, lire) - Limite.begin());
+  if (k == 0) return Valore.front();
+  if (k == Limite.size()) return Valore.back();
+  return Valore[k] - (Valore[k] - Valore[k - 1]) * (Limite[k] - lire) / (Limite[k] - Limite[k - 1]);
+}
+
+double PeriodoCos::OnorarioA(double lire) const { return std::max(ValoreA(lire), MinimoPeriodo); }
+
+TestataCos LeggiTestataCos(const WorkFolder& folder, const std::string& codice) {
+  LettoreCos file(folder, codice);
+  return LeggiTestata(file);
+}
+
+PeriodoCos LeggiPeriodoCos(const WorkFolder& folder, const std::string& codice,
+                           std::size_t periodo) {
+  LettoreCos file(folder, codice);
+  LeggiTestata(file);
+  for (; periodo > 0; --periodo) LeggiBlocco(file);
+  return LeggiBlocco(file);
+}
+
+}  // namespace orm

@@ -1,0 +1,44 @@
+// The tariff of static testing, kept in CS1.CFG and CS2.CFG, which the user may edit.
+//
+// Each field of the file is followed by a comment field; line ends do not matter. Names of the five
+// periods, names of the five variations, the unit of rounding; then for each period a block: mode,
+// count n, least fee, percentage beyond the last amount, n rising amounts, n values. Amounts and
+// fees are in Lire, percentages in percent.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "cases/cos/data.h"
+#include "runtime/folder.h"
+
+namespace orm {
+
+struct TestataCos {
+  std::array<std::string, kPeriodiCos> NomePeriodo;
+  std::array<std::string, kVariazioniCos> NomeVariazione;
+  double UnitaArrotondamento = 0;  // 0: no rounding
+};
+
+struct PeriodoCos {
+  std::string ModoPeriodo;  // "ONORARIO": the values are fees; any other: percentages
+  double MinimoPeriodo = 0;
+  double PercOltre = 0;
+  std::vector<double> Limite, Valore;
+
+  // The value at an amount, interpolated between two limits; the first or the last value beyond.
+  double ValoreA(double lire) const;
+  // The same as a fee, at least MinimoPeriodo.
+  double OnorarioA(double lire) const;
+};
+
+// Both read the file of the case from its head. A file that is absent, short, or holds what cannot
+// be (a count of 0, amounts that do not rise, negative figures) is a RuntimeFailure with its place;
+// what stands behind the block that is asked for is not looked at.
+TestataCos LeggiTestataCos(const WorkFolder& folder, const std::string& codice);
+// `periodo` from 0 to 4.
+PeriodoCos LeggiPeriodoCos(const WorkFolder& folder, const std::string& codice,
+                           std::size_t periodo);
+
+}  // namespace orm

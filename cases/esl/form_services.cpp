@@ -1,0 +1,142 @@
+#include "cases/esl/form_services.h"
+
+#include "runtime/numbers.h"
+
+namespace orm {
+namespace {
+
+// In the order of the tables.
+constexpr std::array<const char*, 11> kDidascalieBase = {
+    " a  - Relazioni, planimetrie, schemi grafici",
+    " b  - Calcolo sommari spesa",
+    " c  - Relazione illustrativa, elaborati grafici per ottenere autorizzazioni",
+    " d  - Disciplinare elementi tecnici",
+    " e  - Computo metrico estimativo, quadro economico",
+    " f  - Relazione generale e specialistiche, elaborati grafici, calcoli esecutivi",
+    " g  - Particolari costruttivi e decorativi.",
+    " h  - Computo metrico estimativo definitivo, quadro economico, elenco prezzi ed eventuale "
+    "analisi, quadro dell'incidenza percentuale della quantità di manodopera",
+    " i  - Schema di contratto, capitolato speciale d'appalto, cronoprogramma.",
+    " l  - Direzione Lavori, assistenza al collaudo, prove d'officina",
+    " l1 - Liquidazione.",
+};
+constexpr std::array<const char*, 17> kDidascalieIntegrative = {
+    " m  - Piano economico e finanziario di massima",
+    " n  - Capitolato speciale e prestazionale",
+    " o1 -  Relazione di indagine geotecnica",
+    " o2 -  Relazione di indagine idrologica",
+    " o3 -  Relazione di indagine idraulica",
+    " o4 -  Relazione di indagine sismica",
+    " o5 -  Relazione di indagine archeologica",
+    " p  - Studio di inserimento urbanistico",
+    " q  - Schema di contratto, capitolato speciale d'appalto",
+    " r1  - Relazione di indagine geotecnica",
+    " r2 -  Relazione di indagine idrologica",
+    " r3 -  Relazione di indagine idraulica",
+    " r4 -  Relazione di indagine sismica",
+    " s  - Piano di manutenzione dell'opera",
+    " l2  - Controllo aggiornamento elaborati di progetto, aggiornamento dei manuali d'uso e "
+    "manutenzione",
+    " l3 - Coordinamento e supervisione dell'ufficio di direzione lavori",
+    " l4 -  Ufficio della direzione lavori, per ogni addetto con qualifica di direttore operativo.",
+};
+
+// A fee with more staff than this would not fit its column where a small design gives the greatest
+// works their percentage.
+const NumberLimits kAddetti{.least = 0, .most = 15, .decimals = 0};
+
+// The codes of a string, each between two marks: "+m+o1+".
+bool Nominata(const std::string& stringa, std::string_view codice) {
+  return ("+" + stringa + "+").find("+" + std::string(codice) + "+") != std::string::npos;
+}
+
+}  // namespace
+
+FrmEslPrestazioni::FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove,
+                                     const LottoEsl& lotto, std::string stringa,
+                                     std::span<const ServizioEsl> tabella,
+                                     std::span<const char* const> didascalie)
+    : Form(std::move(nome), std::move(titolo)),
+      StringaDellePrestazioni(std::move(stringa)),
+      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
+      fraPreliminare(*this, "fraPreliminare", "PROGETTO PRELIMINARE"),
+      fraDefinitivo(*this, "fraDefinitivo", "PROGETTO DEFINITIVO"),
+      fraEsecutivo(*this, "fraEsecutivo", "PROGETTO ESECUTIVO"),
+      fraDirezione(*this, "fraDirezione", "DIREZIONE DEI LAVORI"),
+      tabella_(tabella) {
+  // All services are the default.
+  for (std::size_t i = 0; i < tabella.size(); ++i) {
+    CheckBox& check = servizi.emplace_back(*this, std::string(tabella[i].codice), didascalie[i]);
+    check.SetValue(StringaDellePrestazioni.empty() ||
+                   Nominata(StringaDellePrestazioni, tabella[i].codice));
+  }
+  const bool progetto = lotto.ImportoProgettazione > 0;
+  for (Frame* frame : {&fraPreliminare, &fraDefinitivo, &fraEsecutivo}) frame->SetVisible(progetto);
+  fraDirezione.SetVisible(lotto.ImportoDirezioneLavori > 0);
+}
+
+std::vector<Layout> FrmEslPrestazioni::ChecksOf(FaseEsl fase) {
+  std::vector<Layout> checks;
+  for (std::size_t i = 0; i < tabella_.size(); ++i)
+    if (tabella_[i].fase == fase) checks.emplace_back(servizi[i]);
+  return checks;
+}
+
+std::vector<Layout> FrmEslPrestazioni::GruppiProgetto() {
+  return {Group(fraPreliminare, ChecksOf(FaseEsl::Preliminare)),
+          Group(fraDefinitivo, ChecksOf(FaseEsl::Definitivo))};
+}
+
+Layout FrmEslPrestazioni::GruppiFinali(std::vector<Layout> ancoraDirezione) {
+  std::vector<Layout> direzione = ChecksOf(FaseEsl::Direzione);
+  for (Layout& parte : ancoraDirezione) direzione.push_back(std::move(parte));
+  return Column({Group(fraEsecutivo, ChecksOf(FaseEsl::Esecutivo)),
+                 Group(fraDirezione, std::move(direzione))});
+}
+
+// Checks of a hidden frame count as they stand.
+std::string FrmEslPrestazioni::StringaScelta() const {
+  std::string stringa;
+  for (std::size_t i = 0; i < tabella_.size(); ++i)
+    if (servizi[i].Value()) stringa += "+" + std::string(tabella_[i].codice);
+  return stringa.empty() ? stringa : stringa.substr(1);
+}
+
+void FrmEslPrestazioni::Confirm() {
+  StringaDellePrestazioni = StringaScelta();
+  Close();
+}
+
+FrmEslPrestazioniBase::FrmEslPrestazioniBase(std::string dove, const LottoEsl& lotto)
+    : FrmEslPrestazioni("frmESL_PrestazioniBase", "PRESTAZIONI DI TABELLA B EFFETTUATE",
+                        std::move(dove), lotto, lotto.PrestazioniBase, kTabellaBEsl,
+                        kDidascalieBase),
+      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+  SetContent(Column({lblLotto, Column(GruppiProgetto()), GruppiFinali({}), Buttons({Command1})}));
+  Command1.onPress = [this] { Confirm(); };
+}
+
+FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, const LottoEsl& lotto)
+    : FrmEslPrestazioni("frmESL_PrestazioniIntegrative", "PRESTAZIONI DI TABELLA B1 EFFETTUATE",
+                        std::move(dove), lotto, lotto.PrestazioniIntegrative, kTabellaB1Esl,
+                        kDidascalieIntegrative),
+      NumeroAddetti(lotto.NumeroAddetti),
+      numeroaddetti(*this, "numeroaddetti", "Numero addetti", kAddetti),
+      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+  // One column of seventeen services would be higher than the least screen.
+  SetContent(Column({lblLotto, Row(GruppiProgetto()), GruppiFinali({Fields({numeroaddetti})}),
+                     Buttons({Command1})}));
+  CheckBox& l4 = servizi.back();
+  numeroaddetti.SetValue(NumeroAddetti);
+  numeroaddetti.SetVisible(l4.Value());
+  l4.onChange = [this, &l4] {
+    numeroaddetti.SetVisible(l4.Value());
+    if (!l4.Value()) numeroaddetti.SetValue(0);
+  };
+  Command1.onPress = [this] {
+    NumeroAddetti = CheckedInt16(numeroaddetti.Value());
+    Confirm();
+  };
+}
+
+}  // namespace orm

@@ -1,0 +1,265 @@
+// The fee of geotechnical services, group by group and phase by phase.
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "cases/geo/config.h"
+#include "cases/geo/data.h"
+#include "cases/geo/geo.h"
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "tariff/files/closing_line.h"
+#include "tariff/final_account.h"
+#include "tariff/law/table_geotechnics.h"
+#include "tariff/phase_lines.h"
+#include "tariff/report.h"
+
+namespace orm {
+namespace {
+
+constexpr std::size_t kServiziProgetto = 4;  // a to d; e and f belong to the supervision
+
+std::size_t IndiceSottoclasse(const RigaGeo& riga) {
+  const std::string& s = riga.Sottoclasse;
+  if (s.size() != 1 || s < "1" || s > "4")
+    throw RuntimeFailure("La sottoclasse geotecnica \"" + s + "\" non esiste.")
+        .AtField("Sottoclasse");
+  return static_cast<std::size_t>(s[0] - '1');
+}
+
+// 1 for each service done. Letters stand at every second character of the string.
+std::array<bool, 6> ServiziFattiGeo(const RigaGeo& riga) {
+  std::array<bool, 6> fatti{};
+  if (riga.TipoDiPrestazione != "P") {
+    fatti.fill(true);
+    return fatti;
+  }
+  const std::string& lettere = riga.StringaDellePrestazioni;
+  for (std::size_t i = 0; i < lettere.size(); i += 2) {
+    const auto posto = kLettereGeo.find(lettere[i]);
+    if (posto == std::string_view::npos)
+      throw RuntimeFailure("La prestazione \"" + std::string(1, lettere[i]) + "\" non esiste.")
+          .AtField("StringaDellePrestazioni");
+    fatti[posto] = true;
+  }
+  return fatti;
+}
+
+// What a group's percentages are taken on. Works beyond the design change no fee of the design.
+struct GruppoGeo {
+  std::size_t primaRiga = 0, righe = 0;
+  double ProgettoGruppo = 0, DirezioneGruppo = 0, BaseDirezione = 0;
+  double SommaProgetto = 0, SommaDirezione = 0;  // signed, as the list of amounts shows them
+};
+
+GruppoGeo BasiDelGruppo(const DatiGeo& d, std::size_t primaRiga, std::size_t righe) {
+  GruppoGeo g{.primaRiga = primaRiga, .righe = righe};
+  for (std::size_t k = primaRiga; k < primaRiga + righe; ++k) {
+    const RigaGeo& riga = d.Righe[k];
+    g.SommaProgetto += riga.ImportoProgetto;
+    g.SommaDirezione += riga.ImportoDirezione;
+    g.ProgettoGruppo += std::fabs(riga.ImportoProgetto);
+    if (riga.ImportoDirezione > kDirezioneMinimaSommata) g.DirezioneGruppo += riga.ImportoDirezione;
+  }
+  const std::string& tipo = d.TipoDiParcella;
+  const bool suiLavori = tipo == "CONSUNTIVA" || tipo == "INTERROTTA" || tipo == "SCISSA";
+  g.BaseDirezione = suiLavori ? g.DirezioneGruppo : std::max(g.ProgettoGruppo, g.DirezioneGruppo);
+  return g;
+}
+
+class NotaGeo {
+ public:
+  NotaGeo(RunState& run, const DatiGeo& dati);
+
+  void StampaSpecifica();
+  void CalcolaCompensi();
+  void CalcolaGruppi();
+  void CalcolaCompensoAggiuntivo();
+  void Chiudi();
+
+ private:
+  // A phase of a row, or one service of it.
+  struct Blocco {
+    std::vector<const char*> titolo;
+    std::string lettere;  // of a partial service; empty: not shown
+    double quota = 0;
+  };
+  Percentuale PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const;
+  void CalcolaRiga(const GruppoGeo& gruppo, const RigaGeo& riga, int periodo);
+  Blocco BloccoDi(const RigaGeo& riga, std::vector<const char*> titolo, std::size_t primo,
+                  std::size_t ultimo, bool conLettere = true) const;
+  std::vector<Blocco> BlocchiDirezione(const RigaGeo& riga) const;
+  double OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo);
+  double OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo);
+
+  RunState& stato;
+  ReportPrinter& uscita;
+  const DatiGeo& d;
+  const TabelleGeo testata;
+  std::vector<GruppoGeo> gruppi;
+  Compensi compensi;
+  double totaleProgetto = 0, totaleDirezione = 0, compensoAggiuntivo = 0;
+};
+
+NotaGeo::NotaGeo(RunState& run, const DatiGeo& dati)
+    : stato(run), uscita(run.NumFileUscita), d(dati), testata(LeggiTabelleGeo(run.folder, 0)) {
+  std::size_t riga = 0;
+  for (const LottoARighe& gruppo : d.Gruppi) {
+    gruppi.push_back(BasiDelGruppo(d, riga, gruppo.PeriodoDelLotto.size()));
+    riga += gruppo.PeriodoDelLotto.size();
+  }
+}
+
+void NotaGeo::StampaSpecifica() {
+  uscita.Line(kRigaImporti);
+  for (std::size_t i = 0; i < gruppi.size(); ++i) {
+    const GruppoGeo& g = gruppi[i];
+    if (g.SommaProgetto == 0 && g.SommaDirezione == 0) continue;
+    uscita.Line(NumberText(static_cast<double>(i + 1)) + " - SOTTOCLASSE   " +
+                d.Righe[g.primaRiga].Sottoclasse);
+    StampaProgettoSpecifica(stato, 5, g.SommaProgetto);
+    if (g.SommaDirezione > kDirezioneMinimaStampata)
+      StampaLavori(stato, 5, VoceDirezioneSpecifica(d.TipoDiParcella), g.SommaDirezione);
+  }
+}
+
+void NotaGeo::CalcolaCompensi() {
+  double TotaleProgetto = 0, TotaleDirezione = 0;
+  for (const GruppoGeo& g : gruppi) {
+    TotaleProgetto += g.ProgettoGruppo;
+    TotaleDirezione += g.DirezioneGruppo;
+  }
+  compensi = StampaCompensiAccessori(stato, std::max(TotaleProgetto, TotaleDirezione));
+}
+
+Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const {
+  if (importo == 0) return {};
+  if (periodo < 1 || periodo > static_cast<int>(kPeriodiGeo))
+    throw RuntimeFailure("Il periodo tariffario " + NumberText(periodo) + " non esiste.")
+        .AtField("TariffaDelGruppo");
+  const double lire = ImportoInLire(stato, importo);
+  const TabelleGeo tabelle = LeggiTabelleGeo(stato.folder, periodo);
+  return PercentualeTagliata(stato, lire, tabelle.Percentuale(IndiceSottoclasse(riga), lire));
+}
+
+void NotaGeo::CalcolaGruppi() {
+  uscita.Line(kRigaOnorariCompensi);
+  for (std::size_t i = 0; i < gruppi.size(); ++i)
+    for (std::size_t j = 0; j < gruppi[i].righe; ++j)
+      CalcolaRiga(gruppi[i], d.Righe[gruppi[i].primaRiga + j], d.Gruppi[i].PeriodoDelLotto[j]);
+}
+
+void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) {
+  const bool progetto = riga.ImportoProgetto > 0;
+  const bool direzione = riga.ImportoDirezione > kDirezioneMinimaStampata;
+  if (!progetto && !direzione) return;
+  const Percentuale PProgetto = PercentualeGeo(riga, periodo, g.ProgettoGruppo);
+  const Percentuale PDirezione = PercentualeGeo(riga, periodo, g.BaseDirezione);
+  uscita.Line("SOTTOCLASSE " + riga.Sottoclasse + " ( tariffa " +
+              testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)] + " )");
+  if (progetto) StampaLavori(stato, 3, " - Lavori di progetto", riga.ImportoProgetto);
+  if (direzione)
+    StampaLavori(stato, 3, VoceDirezioneOnorari(d.TipoDiParcella), riga.ImportoDirezione);
+  if (progetto) StampaPercentuale(stato, " % Prog.  = ", PProgetto, g.ProgettoGruppo);
+  if (direzione) StampaPercentuale(stato, " % D.L.   = ", PDirezione, g.BaseDirezione);
+  if (progetto)
+    totaleProgetto += OnorarioBlocco(
+        BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0, kServiziProgetto),
+        PProgetto, riga.ImportoProgetto);
+  if (direzione)
+    for (const Blocco& blocco : BlocchiDirezione(riga))
+      totaleDirezione += OnorarioBlocco(blocco, PDirezione, riga.ImportoDirezione);
+}
+
+// The services from `primo` up to, but not with, `ultimo`.
+NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> titolo,
+                                  std::size_t primo, std::size_t ultimo, bool conLettere) const {
+  const auto& quote = kQuoteGeo[IndiceSottoclasse(riga)];
+  const auto fatti = ServiziFattiGeo(riga);
+  Blocco blocco{std::move(titolo), "", 0};
+  for (std::size_t i = primo; i < ultimo; ++i) {
+    if (!fatti[i]) continue;
+    blocco.quota += quote[i];
+    blocco.lettere += (blocco.lettere.empty() ? "" : "+") + std::string(1, kLettereGeo[i]);
+  }
+  if (riga.TipoDiPrestazione != "P" || !conLettere) blocco.lettere.clear();
+  return blocco;
+}
+
+std::vector<NotaGeo::Blocco> NotaGeo::BlocchiDirezione(const RigaGeo& riga) const {
+  if (stato.criteri.AliquoteDirezioneLavori == "UNITE")
+    return {BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI DIREZIONE LAVORI"},
+                     kServiziProgetto, 6)};
+  return {
+      BloccoDi(riga, {"CONSULENZA ED ASSISTENZA GEOTECNICA IN FASE", "DI REALIZZAZIONE DELL'OPERA"},
+               4, 5, false),
+      BloccoDi(riga, {"ASSISTENZA AL COLLAUDO E ALLE OPERAZIONI DI", "LIQUIDAZIONE LAVORI"}, 5, 6,
+               false)};
+}
+
+double NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo) {
+  if (blocco.quota == 0) return 0;
+  for (const char* riga : blocco.titolo) uscita.Line(riga);
+  if (!blocco.lettere.empty()) uscita.Line("  Prestazioni : " + blocco.lettere);
+  const double onorario = StampaOnorarioFase(
+      stato,
+      {.percentuale = P,
+       .aliquota = blocco.quota,
+       .importo = TestoImporto(stato, importo),
+       .StringaCoefficiente = compensi.StringaCoefficiente},
+      IntInLire(stato, importo * blocco.quota * P.valore / 100 * compensi.Coefficiente));
+  return onorario + OnorarioArticolo18(blocco, P, importo);
+}
+
+// With compensations there is one cut, after the product with their coefficient.
+double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo) {
+  if (d.MaggiorazioneParziale != "SI") return 0;
+  uscita.Line("INCARICO PARZIALE ( art. 18 )");
+  const bool conglobato = stato.criteri.CompensiSuMaggiorazione != "NO";
+  double onorario = 0.25 * P.valore * blocco.quota * importo / 100;
+  if (conglobato) onorario = onorario * compensi.Coefficiente;
+  return StampaOnorarioFase(
+      stato,
+      {.inizio = " 0,25 x ",
+       .percentuale = P,
+       .aliquota = blocco.quota,
+       .importo = TestoImporto(stato, importo),
+       .StringaCoefficiente = conglobato ? compensi.StringaCoefficiente : std::string_view()},
+      IntInLire(stato, onorario));
+}
+
+// It carries no compensations.
+void NotaGeo::CalcolaCompensoAggiuntivo() {
+  if (d.CostoIndagini == 0) return;
+  const std::string costo = TestoImporto(stato, d.CostoIndagini);
+  uscita.Line("Compenso aggiuntivo per tenuta rapporti contabili")
+      .Line("ed amministrativi con ditte e laboratori di prove")
+      .Text("geotecniche per un costo complessivo di ")
+      .Tab(kColonnaImporto)
+      .Line(StringaImporto(costo, TipoImporto::Onorari, stato.ModoLire));
+  compensoAggiuntivo = IntInLire(stato, 0.1 * d.CostoIndagini);
+  StampaRigaOnorario(stato, 1, costo + " x 0,10 = ", compensoAggiuntivo);
+}
+
+void NotaGeo::Chiudi() {
+  const double totale = totaleProgetto + totaleDirezione + compensoAggiuntivo;
+  std::array<double, 3> importi = {totaleProgetto, totaleDirezione, compensoAggiuntivo};
+  StampaRiepilogoPrestazioni(stato, "GEO", importi);
+  ChiudiConCompensi(stato, totale, compensi, compensoAggiuntivo);
+}
+
+}  // namespace
+
+void CalcoloGEO(RunState& stato) {
+  DatiGeo dati;
+  LeggiParcella(stato, dati);
+  NotaGeo nota(stato, dati);
+  ApriParcella(stato, stato.FileInt, "Per le prestazioni geotecniche sottoelencate relative a :");
+  nota.StampaSpecifica();
+  nota.CalcolaCompensi();
+  nota.CalcolaGruppi();
+  nota.CalcolaCompensoAggiuntivo();
+  nota.Chiudi();
+}
+
+}  // namespace orm

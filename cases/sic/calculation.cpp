@@ -1,0 +1,92 @@
+// The note of site safety: amounts, bases of the percentages, and the five duties in their order.
+#include <algorithm>
+#include <cmath>
+
+#include "cases/sic/note.h"
+#include "cases/sic/sic.h"
+#include "tariff/files/closing_line.h"
+#include "tariff/money.h"
+#include "tariff/report.h"
+
+namespace orm {
+
+NotaSic::NotaSic(RunState& run, const DatiSic& dati)
+    : stato(run),
+      uscita(run.NumFileUscita),
+      d(dati),
+      versione(VersioneDi(run.CasoDiParcella)),
+      limite(LimiteTabellaA(run)) {
+  std::size_t k = 0;
+  for (std::size_t i = 0; i < d.Gruppi.size(); ++i)
+    for (const int periodo : d.Gruppi[i].PeriodoDelLotto) {
+      const LottoSic& lotto = d.Lotti[k++];
+      lotti.push_back(
+          {lotto, k, periodo, i, std::max(lotto.ImportoProgetto, lotto.ImportoEsecuzione)});
+    }
+  CalcolaBasi();
+}
+
+// In a note in progress works beyond the design take its place.
+void NotaSic::CalcolaBasi() {
+  gruppi.resize(d.Gruppi.size());
+  for (const Lotto& lotto : lotti) {
+    const double progetto = lotto.dati.ImportoProgetto, eseguito = lotto.dati.ImportoEsecuzione;
+    Gruppo& g = gruppi[lotto.gruppo];
+    g.SommaProgetto += progetto;
+    g.SommaEseguito += eseguito;
+    g.ProgettoGruppo += std::fabs(progetto);
+    g.EseguitoGruppo += std::fabs(eseguito);
+    TotaleProgetto += std::fabs(progetto);
+    if (eseguito > kDirezioneMinimaSommata) TotaleEseguito += eseguito;
+  }
+  for (Gruppo& g : gruppi) {
+    g.BaseProgetto = std::max(g.ProgettoGruppo, g.EseguitoGruppo);
+    g.BaseEsecuzione = g.EseguitoGruppo;
+    if (d.TipoDiParcella != "NORMALE") continue;
+    g.BaseEsecuzione = g.BaseProgetto;
+    g.ProgettoGruppo = g.BaseProgetto;
+  }
+}
+
+void NotaSic::StampaSpecifica() {
+  uscita.Line(kRigaImporti);
+  for (std::size_t i = 0, k = 0; i < gruppi.size(); k += d.Gruppi[i++].PeriodoDelLotto.size()) {
+    const Gruppo& g = gruppi[i];
+    if (g.SommaProgetto == 0 && g.SommaEseguito == 0) continue;
+    uscita.Line(TitoloLotto(i + 1, d.Lotti[k].Classe, d.Lotti[k].Categoria));
+    StampaProgettoSpecifica(stato, 5, g.SommaProgetto);
+    if (g.SommaEseguito > 0) StampaLavori(stato, 5, " - LAVORI ESEGUITI         ", g.SommaEseguito);
+  }
+}
+
+void NotaSic::CalcolaCompensi() {
+  compensi = StampaCompensiAccessori(stato, std::max(TotaleProgetto, TotaleEseguito));
+}
+
+bool NotaSic::Impegnato(const Lotto& lotto, std::size_t p) const {
+  return p < lotto.dati.StringaPrestazioni.size() && lotto.dati.StringaPrestazioni[p] == '1';
+}
+
+// A duty that no lot engages prints nothing.
+void NotaSic::CalcolaPrestazioni() {
+  uscita.Line(kRigaOnorariCompensi);
+  for (std::size_t p = 0; p < kPrestazioniSic.size(); ++p) {
+    if (std::ranges::none_of(lotti, [&](const Lotto& lotto) { return Impegnato(lotto, p); }))
+      continue;
+    const double minimo = kPrestazioniSic[p].minimo;
+    totale += OnorarioFase({p, kPrestazioniSic[p], stato.ModoLire ? minimo : LireInEuro(minimo)});
+  }
+}
+
+void CalcoloSIC(RunState& stato) {
+  DatiSic dati;
+  LeggiParcella(stato, dati);
+  ApriParcella(stato, stato.FileInt, "Per le prestazioni previste dal D.Lgs 494/96 relative a :");
+  NotaSic nota(stato, dati);
+  nota.StampaSpecifica();
+  nota.CalcolaCompensi();
+  nota.CalcolaPrestazioni();
+  nota.Chiudi();
+}
+
+}  // namespace orm

@@ -1,0 +1,165 @@
+#include "cases/sic/forms.h"
+#include "runtime/numbers.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+constexpr std::size_t kCoordinatoreProgetto = 3, kCoordinatoreEsecuzione = 4;
+constexpr std::size_t kCaselleMaggiorazioni = 10;  // "SC1" shows five of them
+constexpr std::size_t kIncrementi = 3;
+
+std::string Numero(std::size_t n) { return NumberText(static_cast<double>(n)); }
+std::string Percento(double valore) { return FormattaCopia(valore, 2); }
+
+// A string of the file in its full length, whatever the file had.
+std::string Completa(std::string segni, std::size_t lunghezza) {
+  segni.resize(lunghezza, '0');
+  return segni;
+}
+
+}  // namespace
+
+FrmSicSpunte::FrmSicSpunte(std::string nome, std::string riquadro,
+                           std::span<const CondizioneSic> condizioni, std::size_t caselle,
+                           std::string segni)
+    : Form(std::move(nome), "PARCELLA PER PRESTAZIONI SICUREZZA CANTIERI"),
+      Segni(Completa(std::move(segni), condizioni.size())),
+      Frame1(*this, "Frame1", std::move(riquadro)),
+      Check([&] {
+        std::vector<std::unique_ptr<CheckBox>> boxes;
+        for (std::size_t i = 0; i < caselle; ++i)
+          boxes.push_back(std::make_unique<CheckBox>(
+              *this, "Check" + Numero(i + 1), i < condizioni.size() ? condizioni[i].testo : ""));
+        return boxes;
+      }()),
+      Command1(*this, "Command1", "&O.K.", Button::Role::Default),
+      condizioni_(condizioni) {
+  std::vector<Layout> righe;
+  for (std::size_t i = 0; i < caselle; ++i) {
+    righe.emplace_back(*Check[i]);
+    const bool offerta = i < condizioni.size();
+    Check[i]->SetVisible(offerta);
+    if (!offerta) continue;
+    Check[i]->SetValue(Segni[i] == '1');
+    Check[i]->SetEnabled(Segni[i] != '2');
+  }
+  SetContent(Column({Group(Frame1, std::move(righe)), Buttons({Command1})}));
+  Command1.onPress = [this] { Confirm(); };
+}
+
+void FrmSicSpunte::Confirm() {
+  for (std::size_t i = 0; i < condizioni_.size(); ++i)
+    if (Segni[i] != '2') Segni[i] = Check[i]->Value() ? '1' : '0';
+  Close();
+}
+
+FrmSicPrestazioni::Riga::Riga(Form& form, std::size_t i)
+    : Check(form, "Check" + Numero(i + 1), kPrestazioniSic[i].didascalia),
+      cmd_Maggiorazioni(form, "cmd_Maggiorazioni_" + Numero(i + 1), "Maggiorazioni"),
+      Txt_Maggiorazioni(form, "Txt_Maggiorazioni" + Numero(i + 1), "",
+                        {.readOnly = true, .width = 4, .unit = "%"}) {
+  if (i < kCoordinatoreProgetto) return;
+  const std::string n = Numero(i + 1 - kCoordinatoreProgetto);
+  cmd_Incrementi = std::make_unique<Button>(form, "cmd_Incrementi_" + n, "Incrementi");
+  Txt_Incrementi = std::make_unique<TestoBox>(
+      form, "Txt_Incrementi" + n, "", TextOptions{.readOnly = true, .width = 4, .unit = "%"});
+}
+
+FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove,
+                                     const LottoSic& lotto)
+    : Form("frmSIC_Prestazioni", "SICUREZZA CANTIERI : PRESTAZIONI "),
+      StringaPrestazioni(lotto.StringaPrestazioni),
+      StringaMaggiorazioni(lotto.StringaMaggiorazioni),
+      StringaIncrementi(lotto.StringaIncrementi),
+      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
+      Frame1(*this, "Frame1", versione.riquadroPrestazioni),
+      righe([&] {
+        std::vector<std::unique_ptr<Riga>> rows;
+        for (std::size_t i = 0; i < kPrestazioniSic.size(); ++i)
+          rows.push_back(std::make_unique<Riga>(*this, i));
+        return rows;
+      }()),
+      Command1(*this, "Command1", "&O.K.", Button::Role::Default),
+      player_(player),
+      versione_(versione),
+      maggiorazioni_(Completa(StringaMaggiorazioni, righe.size() * versione.maggiorazioni.size())),
+      incrementi_(Completa(StringaIncrementi, 2 * kIncrementi)) {
+  std::vector<Layout> linee;
+  for (std::size_t i = 0; i < righe.size(); ++i) {
+    Riga& riga = *righe[i];
+    std::vector<Layout> linea{riga.Check, riga.cmd_Maggiorazioni, riga.Txt_Maggiorazioni};
+    if (riga.cmd_Incrementi != nullptr) {
+      linea.emplace_back(*riga.cmd_Incrementi);
+      linea.emplace_back(*riga.Txt_Incrementi);
+      riga.cmd_Incrementi->onPress = [this, i] { AskIncrements(i); };
+    }
+    linee.push_back(Row(std::move(linea)));
+    riga.Check.SetValue(i < StringaPrestazioni.size() && StringaPrestazioni[i] == '1');
+    riga.Check.onChange = [this, i] { Tick(i); };
+    riga.cmd_Maggiorazioni.onPress = [this, i] { AskConditions(i); };
+    ShowRow(i);
+  }
+  SetContent(Column({lblLotto, Group(Frame1, {Fields(std::move(linee))}), Buttons({Command1})}));
+  Command1.onPress = [this] { Confirm(); };
+}
+
+// A duty that is not done has no conditions; increments that it never offers are marked so.
+void FrmSicPrestazioni::Tick(std::size_t i) {
+  if (!righe[i]->Check.Value()) {
+    const std::size_t n = versione_.maggiorazioni.size();
+    maggiorazioni_.replace(i * n, n, n, '0');
+    if (i == kCoordinatoreProgetto)
+      incrementi_.replace(0, kIncrementi, versione_.SC2 ? "022" : "220");
+    if (i == kCoordinatoreEsecuzione) incrementi_.replace(kIncrementi, kIncrementi, "000");
+  }
+  ShowRow(i);
+}
+
+void FrmSicPrestazioni::ShowRow(std::size_t i) {
+  Riga& riga = *righe[i];
+  const bool fatta = riga.Check.Value();
+  const std::size_t n = versione_.maggiorazioni.size();
+  riga.cmd_Maggiorazioni.SetEnabled(fatta);
+  riga.Txt_Maggiorazioni.SetEnabled(fatta);
+  riga.Txt_Maggiorazioni.SetText(
+      Percento(SommaCondizioni(versione_.maggiorazioni, maggiorazioni_.substr(i * n, n))));
+  if (riga.cmd_Incrementi == nullptr) return;
+  riga.cmd_Incrementi->SetEnabled(fatta);
+  riga.Txt_Incrementi->SetEnabled(fatta);
+  riga.Txt_Incrementi->SetText(Percento(SommaCondizioni(versione_.incrementi, Offered(i))));
+}
+
+// The coordinator of the design can have one of the three, a different one in each version.
+std::string FrmSicPrestazioni::Offered(std::size_t i) const {
+  if (i == kCoordinatoreEsecuzione) return incrementi_.substr(kIncrementi, kIncrementi);
+  return versione_.SC2 ? incrementi_.substr(0, 1) + "22" : "22" + incrementi_.substr(2, 1);
+}
+
+void FrmSicPrestazioni::AskConditions(std::size_t i) {
+  const std::size_t n = versione_.maggiorazioni.size();
+  FrmSicSpunte form("frmSIC_Maggiorazioni", versione_.riquadroMaggiorazioni,
+                    versione_.maggiorazioni, kCaselleMaggiorazioni,
+                    maggiorazioni_.substr(i * n, n));
+  player_.Show(form);
+  maggiorazioni_.replace(i * n, n, form.Segni);
+  ShowRow(i);
+}
+
+void FrmSicPrestazioni::AskIncrements(std::size_t i) {
+  FrmSicSpunte form("frmSIC_Incrementi", "INCREMENTI", versione_.incrementi, kIncrementi,
+                    Offered(i));
+  player_.Show(form);
+  incrementi_.replace(i == kCoordinatoreProgetto ? 0 : kIncrementi, kIncrementi, form.Segni);
+  ShowRow(i);
+}
+
+void FrmSicPrestazioni::Confirm() {
+  StringaPrestazioni.clear();
+  for (const auto& riga : righe) StringaPrestazioni += riga->Check.Value() ? '1' : '0';
+  StringaMaggiorazioni = maggiorazioni_;
+  StringaIncrementi = incrementi_;
+  Close();
+}
+
+}  // namespace orm

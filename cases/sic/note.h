@@ -1,0 +1,91 @@
+// The note of site safety while it is reckoned and printed.
+#pragma once
+
+#include <vector>
+
+#include "cases/sic/data.h"
+#include "tariff/law/table_site_safety.h"
+#include "tariff/table_a_slices.h"
+
+namespace orm {
+
+class NotaSic {
+ public:
+  NotaSic(RunState& run, const DatiSic& dati);
+
+  void StampaSpecifica();
+  void CalcolaCompensi();
+  void CalcolaPrestazioni();
+  void Chiudi() { ChiudiConCompensi(stato, totale, compensi); }
+
+ private:
+  // A lot with what its group and its design and execution come to.
+  struct Lotto {
+    const LottoSic& dati;
+    std::size_t numero;
+    int periodo;
+    std::size_t gruppo;
+    double ImportoBase;  // the larger of the two amounts
+  };
+  struct Gruppo {
+    double SommaProgetto = 0, SommaEseguito = 0;  // signed, as the list of amounts shows them
+    double ProgettoGruppo = 0, EseguitoGruppo = 0;
+    double BaseProgetto = 0, BaseEsecuzione = 0;
+  };
+  // A duty at work.
+  struct Fase {
+    std::size_t p;  // from 0
+    const PrestazioneSic& prestazione;
+    double Minimo;  // in the currency of the note
+  };
+  // What a lot's fee in a phase is made of.
+  struct Conto {
+    PercentualiTabellaA percentuali;
+    double importo = 0;
+    double FattoreMaggiorazioni = 1;
+    double FattoreIncrementi = 1;  // as it is printed
+    double IncrementiContati = 1;  // as it enters the fee
+  };
+  struct Fattori {
+    double maggiorazioni = 1, incrementi = 1;
+  };
+  // A fee is the sum of these, each cut by itself in Lire.
+  struct Termine {
+    QuotaImporto quota;
+    double onorario;
+  };
+
+  void CalcolaBasi();
+  bool Impegnato(const Lotto& lotto, std::size_t p) const;
+  PercentualiTabellaA PercentualeDiLotto(const Lotto& lotto, bool progetto) const;
+  Fattori FattoriDi(const Lotto& lotto, std::size_t p) const;
+  double OnorarioFase(const Fase& fase);
+  Conto ContoDi(const Fase& fase, const Lotto& lotto) const;
+  std::vector<Termine> Termini(const Fase& fase, const Conto& conto) const;
+  double Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
+                  double incrementi) const;
+  double Conteggio(const Fase& fase) const;
+  double StampaLotti(const Fase& fase);
+  double StampaLotto(const Fase& fase, const Lotto& lotto);
+  void StampaPercentuali(const Lotto& lotto, const Conto& conto);
+
+  // The least fee where it counts, printed; nothing where the reckoned fee stands.
+  bool OnorarioMinimoFase(const Fase& fase, double& risultato);
+  bool OnorarioMinimoEsecuzione(const Fase& fase, double& risultato);
+  double StampaMinimo(const Fase& fase);
+  double StampaMinimoInParte(const Fase& fase, bool ancora);
+  double OnorarioSuProgetto(const Fase& fase) const;
+
+  RunState& stato;
+  ReportPrinter& uscita;
+  const DatiSic& d;
+  const VersioneSic& versione;
+  const double limite;
+  std::vector<Lotto> lotti;
+  std::vector<Gruppo> gruppi;
+  double TotaleProgetto = 0, TotaleEseguito = 0;
+  Compensi compensi;
+  double totale = 0;
+};
+
+}  // namespace orm

@@ -1,0 +1,162 @@
+// The fee of one duty: reckoned over all lots, held against its least fee, then printed lot by lot.
+#include "cases/sic/note.h"
+#include "runtime/text.h"
+#include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
+#include "tariff/phase_lines.h"
+#include "tariff/report.h"
+
+namespace orm {
+namespace {
+
+constexpr std::size_t kCoordinatoreProgetto = 3, kCoordinatoreEsecuzione = 4;
+constexpr std::size_t kIncrementi = 3;
+
+std::string_view Fetta(std::string_view segni, std::size_t primo, std::size_t quanti) {
+  return primo < segni.size() ? segni.substr(primo, quanti) : std::string_view();
+}
+
+}  // namespace
+
+// Design and execution take the percentage of different bases; whether there are two slices is
+// decided by the group's design in both.
+PercentualiTabellaA NotaSic::PercentualeDiLotto(const Lotto& lotto, bool progetto) const {
+  const Gruppo& g = gruppi[lotto.gruppo];
+  const std::string &classe = lotto.dati.Classe, &categoria = lotto.dati.Categoria;
+  if (versione.SC2)
+    return {PercentualeDaTabellaNuova(stato, progetto ? g.BaseProgetto : g.BaseEsecuzione, classe,
+                                      categoria),
+            {}};
+  const auto tabella = [&](double importo) {
+    return PercentualeDaTabellaA(stato, importo, lotto.periodo, classe, categoria);
+  };
+  const double base = progetto ? g.ProgettoGruppo : g.BaseEsecuzione;
+  if (g.ProgettoGruppo > limite && lotto.periodo > 4) return {tabella(limite), tabella(base), true};
+  return {tabella(base), {}};
+}
+
+// The increments of the execution belong to the version of 2001 alone.
+NotaSic::Fattori NotaSic::FattoriDi(const Lotto& lotto, std::size_t p) const {
+  const std::size_t n = versione.maggiorazioni.size();
+  Fattori f;
+  f.maggiorazioni = 1 + SommaCondizioni(versione.maggiorazioni,
+                                        Fetta(lotto.dati.StringaMaggiorazioni, p * n, n)) /
+                            100;
+  const auto incrementi = [&](std::size_t primo) {
+    return 1 + SommaCondizioni(versione.incrementi,
+                               Fetta(lotto.dati.StringaIncrementi, primo, kIncrementi)) /
+                   100;
+  };
+  if (p == kCoordinatoreProgetto) f.incrementi = incrementi(0);
+  if (p == kCoordinatoreEsecuzione && versione.SC2) f.incrementi = incrementi(kIncrementi);
+  return f;
+}
+
+// In the execution the increment is shown and left out of the fee.
+NotaSic::Conto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const {
+  const Fattori f = FattoriDi(lotto, fase.p);
+  const bool progetto = fase.prestazione.progetto;
+  return {.percentuali = PercentualeDiLotto(lotto, progetto),
+          .importo = progetto ? lotto.ImportoBase : lotto.dati.ImportoEsecuzione,
+          .FattoreMaggiorazioni = f.maggiorazioni,
+          .FattoreIncrementi = f.incrementi,
+          .IncrementiContati = progetto ? f.incrementi : 1};
+}
+
+double NotaSic::Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
+                         double incrementi) const {
+  return IntInLire(stato, quota.percentuale.valore * quota.importo * aliquota / 100 *
+                              compensi.Coefficiente * maggiorazioni * incrementi);
+}
+
+// Works executed up to the limit take the first percentage alone; a design does not look at the
+// lot's amount, and the second slice may be less than nothing.
+std::vector<NotaSic::Termine> NotaSic::Termini(const Fase& fase, const Conto& conto) const {
+  const bool unaFetta = !fase.prestazione.progetto && conto.importo <= limite;
+  const auto quote = unaFetta ? std::vector<QuotaImporto>{{conto.importo, conto.percentuali.entro}}
+                              : QuoteDellImporto(conto.percentuali, conto.importo, limite);
+  std::vector<Termine> termini;
+  for (const QuotaImporto& quota : quote)
+    termini.push_back({quota, conto.importo > 0
+                                  ? Prodotto(quota, fase.prestazione.aliquota,
+                                             conto.FattoreMaggiorazioni, conto.IncrementiContati)
+                                  : 0});
+  return termini;
+}
+
+// The pass that is held against the least fee: in Euro its fees are not cut.
+double NotaSic::Conteggio(const Fase& fase) const {
+  double risultato = 0;
+  for (const Lotto& lotto : lotti) {
+    if (!Impegnato(lotto, fase.p)) continue;
+    const Conto conto = ContoDi(fase, lotto);
+    for (const Termine& termine : Termini(fase, conto)) risultato += termine.onorario;
+  }
+  return risultato;
+}
+
+double NotaSic::OnorarioFase(const Fase& fase) {
+  uscita.Line(Middle(fase.prestazione.titolo, 4));
+  double risultato = Conteggio(fase);
+  const bool minimo = fase.prestazione.progetto ? OnorarioMinimoFase(fase, risultato)
+                                                : OnorarioMinimoEsecuzione(fase, risultato);
+  return minimo ? risultato : StampaLotti(fase);
+}
+
+double NotaSic::StampaLotti(const Fase& fase) {
+  double risultato = 0;
+  for (const Lotto& lotto : lotti)
+    if (Impegnato(lotto, fase.p)) risultato += StampaLotto(fase, lotto);
+  return risultato;
+}
+
+// Behind the percentages stands what the group's design comes to, in the execution too.
+void NotaSic::StampaPercentuali(const Lotto& lotto, const Conto& conto) {
+  constexpr int colonna = 38;
+  const double base = gruppi[lotto.gruppo].ProgettoGruppo;
+  const auto& [entro, oltre, divise] = conto.percentuali;
+  if (!divise) {
+    StampaPercentuale(stato, "  - Percentuale Tab. A = ", entro, base, colonna);
+  } else {
+    StampaPercentuale(stato, "  - Percentuale Tab. A =  ", entro, limite, colonna);
+    StampaPercentuale(stato, "  - Percentuale Tab. A =  ", oltre, base - limite, colonna);
+  }
+}
+
+double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
+  const Conto conto = ContoDi(fase, lotto);
+  if (conto.importo == 0) return 0;
+  const double aliquota = fase.prestazione.aliquota;
+  uscita.Line("  " + TitoloLotto(lotto.numero, lotto.dati.Classe, lotto.dati.Categoria) + "      " +
+              NomePeriodoTariffario(lotto.periodo));
+  StampaLavori(stato, 3, "- Lavori ", conto.importo);
+  StampaPercentuali(lotto, conto);
+  uscita.Text("  - Aliquota = " + FormattaCopia(aliquota, 4));
+  std::string fattori;
+  const auto fattore = [&](int colonna, const char* voce, double valore) {
+    if (valore == 1) return;
+    uscita.Tab(colonna).Text(voce + FormattaCopia((valore - 1) * 100, 2) + "%");
+    fattori += " x " + FormattaCopia(valore, 2);
+  };
+  fattore(25, "Maggiorazione = ", conto.FattoreMaggiorazioni);
+  fattore(45, "Incremento = ", conto.FattoreIncrementi);
+  uscita.EndLine();
+
+  const std::vector<Termine> termini = Termini(fase, conto);
+  std::vector<std::string> importi;
+  for (const Termine& termine : termini)
+    importi.push_back(TestoImporto(stato, termine.quota.importo));
+  if (importi.size() == 2) PareggiaStringhe(importi[0], importi[1]);
+  double onorario = 0;
+  for (std::size_t i = 0; i < termini.size(); ++i)
+    onorario += StampaOnorarioFase(stato,
+                                   {.percentuale = termini[i].quota.percentuale,
+                                    .aliquota = aliquota,
+                                    .importo = importi[i],
+                                    .fattori = fattori,
+                                    .StringaCoefficiente = compensi.StringaCoefficiente},
+                                   termini[i].onorario);
+  return onorario;
+}
+
+}  // namespace orm

@@ -1,0 +1,134 @@
+// Lavagna on the screen, with its menu: to a file or to paper.
+#include <QBuffer>
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImage>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStyleOptionFocusRect>
+
+#include "desktop/controls/views.h"
+#include "desktop/paint_drawing.h"
+#include "desktop/qt_text.h"
+#include "runtime/failure.h"
+#include "runtime/folder.h"
+
+namespace orm {
+namespace {
+
+constexpr QSizeF kUsualRoom(560, 440), kLeastRoom(320, 240);
+constexpr int kPictureWidth = 1800;  // pixels of a saved PNG
+
+class DrawingWidget : public QWidget {
+ public:
+  DrawingWidget(Lavagna& lavagna, QWidget* parent) : QWidget(parent), lavagna_(lavagna) {
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMinimumSize(Fitted(kLeastRoom));
+    setAccessibleName("Disegno");
+    setToolTip("Il menù del tasto destro salva o stampa il disegno");
+  }
+  QSize sizeHint() const override { return Fitted(kUsualRoom); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    PaintDrawing(painter, lavagna_, rect());
+    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    QMenu menu(this);
+    menu.addAction("Salva come SVG...", this, [this] { SaveSvg(); });
+    menu.addAction("Salva come PNG...", this, [this] { SavePng(); });
+    menu.addSeparator();
+    menu.addAction("Stampa...", this, [this] { Print(); });
+    menu.exec(event->globalPos());
+  }
+
+ private:
+  // At most its size at 100 %.
+  QSize Fitted(const QSizeF& room) const {
+    const QSizeF size = DrawingSize(lavagna_);
+    const bool fits = size.width() <= room.width() && size.height() <= room.height();
+    return (fits ? size : size.scaled(room, Qt::KeepAspectRatio)).toSize();
+  }
+  // The chosen path with its ending; empty when the person gave up.
+  QString AskPath(const QString& ending) {
+    QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
+                                                ending.toUpper() + " (*." + ending + ")");
+    if (!path.isEmpty() && !path.endsWith("." + ending, Qt::CaseInsensitive)) path += "." + ending;
+    return path;
+  }
+  // An older picture of that name stays until the new one is whole.
+  void Write(const QString& path, const std::string& bytes) {
+    const QFileInfo file(path);
+    try {
+      WorkFolder(FromQt(file.absolutePath())).Replace(FromQt(file.fileName()), bytes);
+    } catch (const RuntimeFailure& failure) {
+      QMessageBox::warning(
+          this, "ATTENZIONE",
+          "Non è stato possibile scrivere il file\n" + path + "\n" + ToQt(failure.Reason()));
+    }
+  }
+  void SaveSvg() {
+    const QString path = AskPath("svg");
+    if (!path.isEmpty()) Write(path, lavagna_.AsSvg());
+  }
+  void SavePng() {
+    const QString path = AskPath("png");
+    if (path.isEmpty()) return;
+    const QSizeF size = DrawingSize(lavagna_) * (kPictureWidth / DrawingSize(lavagna_).width());
+    QImage picture(size.toSize(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    PaintDrawing(painter, lavagna_, picture.rect());
+    painter.end();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    Write(path, bytes.toStdString());
+  }
+  void Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    QPainter painter(&printer);
+    PaintDrawing(
+        painter, lavagna_,
+        printer.pageLayout()
+            .paintRectPixels(printer.resolution())
+            .translated(-printer.pageLayout().paintRectPixels(printer.resolution()).topLeft()));
+  }
+  Lavagna& lavagna_;
+};
+
+class DrawingView : public ControlView {
+ public:
+  DrawingView(Lavagna& lavagna, FormHost& host) : ControlView(lavagna, host), lavagna_(lavagna) {
+    UseBare(new DrawingWidget(lavagna, host.Window()));
+  }
+  void Refresh() override {
+    const QString tip = Field()->toolTip();
+    ControlView::Refresh();
+    Field()->setToolTip(tip);
+    Field()->update();
+  }
+  bool Grows() const override { return true; }
+  std::string Shown() const override { return lavagna_.ShownText(); }
+
+ private:
+  Lavagna& lavagna_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeDrawingView(Lavagna& lavagna, FormHost& host) {
+  return std::make_unique<DrawingView>(lavagna, host);
+}
+
+}  // namespace orm

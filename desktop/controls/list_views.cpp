@@ -1,0 +1,125 @@
+// Lists, folded and open.
+#include <QComboBox>
+#include <QListWidget>
+#include <algorithm>
+
+#include "desktop/controls/views.h"
+#include "desktop/look.h"
+#include "desktop/qt_text.h"
+
+namespace orm {
+namespace {
+
+constexpr int kWidest = 46;  // characters shown of an item; a longer one is seen whole as a tip
+constexpr int kMostRows = 8;
+
+int Characters(const std::vector<std::string>& items) {
+  qsizetype longest = 8;
+  for (const std::string& item : items) longest = std::max(longest, ToQt(item).size());
+  return static_cast<int>(std::min<qsizetype>(longest, kWidest));
+}
+
+class ComboView : public ControlView {
+ public:
+  ComboView(ComboBox& combo, FormHost& host)
+      : ControlView(combo, host), combo_(combo), box_(new QComboBox(host.Window())) {
+    box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box_->setMaxVisibleItems(12);
+    box_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    UseField(box_);
+    connect(box_, &QComboBox::currentIndexChanged, this, [this](int index) {
+      if (!refreshing_) host_.Act([this, index] { combo_.SetIndex(index); });
+    });
+  }
+  void Refresh() override {
+    ControlView::Refresh();
+    refreshing_ = true;
+    if (items_ != combo_.Items() || box_->count() == 0) Fill();
+    box_->setCurrentIndex(combo_.Index());
+    refreshing_ = false;
+    if (box_->currentText().size() > kWidest) box_->setToolTip(box_->currentText());
+  }
+  std::string Shown() const override { return FromQt(box_->currentText()); }
+
+ private:
+  void Fill() {
+    items_ = combo_.Items();
+    box_->clear();
+    for (const std::string& item : items_) {
+      box_->addItem(ToQt(item));
+      box_->setItemData(box_->count() - 1, ToQt(item), Qt::ToolTipRole);
+    }
+    // Lists that are refilled keep the greatest width, so that nothing jumps.
+    box_->setMinimumContentsLength(std::max(box_->minimumContentsLength(), Characters(items_)));
+  }
+  ComboBox& combo_;
+  QComboBox* box_;
+  std::vector<std::string> items_;
+  bool refreshing_ = false;
+};
+
+class ListWidget : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  QSize sizeHint() const override { return minimumSize(); }
+};
+
+class ListView : public ControlView {
+ public:
+  ListView(ListBox& list, FormHost& host)
+      : ControlView(list, host), list_(list), box_(new ListWidget(host.Window())) {
+    box_->setSelectionMode(QAbstractItemView::SingleSelection);
+    box_->setUniformItemSizes(true);
+    box_->setSpacing(1);
+    box_->setTextElideMode(Qt::ElideRight);
+    box_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    UseField(box_);
+    connect(box_, &QListWidget::currentRowChanged, this, [this](int index) {
+      if (!refreshing_) host_.Act([this, index] { list_.SetIndex(index); });
+    });
+  }
+  bool Grows() const override { return true; }
+  void Refresh() override {
+    ControlView::Refresh();
+    refreshing_ = true;
+    if (items_ != list_.Items() || box_->count() == 0) Fill();
+    box_->setCurrentRow(list_.Index());
+    refreshing_ = false;
+  }
+  std::string Shown() const override {
+    return box_->currentItem() == nullptr ? std::string() : FromQt(box_->currentItem()->text());
+  }
+
+ private:
+  void Fill() {
+    items_ = list_.Items();
+    box_->clear();
+    for (const std::string& item : items_) {
+      auto* row = new QListWidgetItem(ToQt(item), box_);
+      if (row->text().size() > kWidest) row->setToolTip(row->text());
+    }
+    const int rows = std::clamp(static_cast<int>(items_.size()), 3, kMostRows);
+    const int rowHeight = std::max(box_->sizeHintForRow(0), box_->fontMetrics().height());
+    box_->setMinimumHeight(
+        std::max(box_->minimumHeight(), rows * (rowHeight + 2) + 2 * box_->frameWidth()));
+    box_->setMinimumWidth(
+        std::max(box_->minimumWidth(), CharactersWide(*box_, Characters(items_)) + 30));
+  }
+  ListBox& list_;
+  QListWidget* box_;
+  std::vector<std::string> items_;
+  bool refreshing_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeComboView(ComboBox& combo, FormHost& host) {
+  return std::make_unique<ComboView>(combo, host);
+}
+
+std::unique_ptr<ControlView> MakeListView(ListBox& list, FormHost& host) {
+  return std::make_unique<ListView>(list, host);
+}
+
+}  // namespace orm

@@ -1,0 +1,41 @@
+// PDF, ODT and UTF-8 copies of a report.
+#include "desktop/export/export.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include "desktop/export/odt.h"
+#include "desktop/export/pages.h"
+#include "runtime/failure.h"
+
+namespace orm {
+
+std::string PdfOf(const QString& text, const QString& title) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&buffer);
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("ORM2002"));
+    writer.setResolution(600);
+    ReportPages::PrepareA4(writer);
+    const ReportPages pages(text, writer);
+    if (!PaintPages(pages, writer, 0, pages.Count() - 1))
+      throw RuntimeFailure("Il documento PDF non può essere composto.");
+  }
+  return bytes.toStdString();
+}
+
+std::string OdtOf(const QString& text) {
+  return OdtOf(VisibleLines(text), ReportFont(11).family());
+}
+
+std::string Utf8Of(const QString& text) {
+  QString plain = text;
+  plain.replace(QChar::LineSeparator, '\n');
+  plain.replace(QChar(0x240D), '\n');
+  return plain.toStdString();
+}
+
+}  // namespace orm

@@ -1,0 +1,147 @@
+// Pages of fixed columns: the size of the letters, the breaks and the painting.
+#include "desktop/export/pages.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <algorithm>
+
+namespace orm {
+namespace {
+
+constexpr qreal kLargestLetters = 11;
+constexpr qreal kSideMargin = 20, kTopMargin = 18, kBottomMargin = 14;  // millimetres
+constexpr int kFooterLines = 2;  // the page number and the room above it
+constexpr int kTab = 8;
+
+bool IsSectionTitle(const QString& line) { return line.startsWith(QLatin1String("=====")); }
+bool IsEmpty(const QString& line) { return line.trimmed().isEmpty(); }
+
+QString WithoutTabs(const QString& line) {
+  if (!line.contains('\t')) return line;
+  QString out;
+  for (const QChar c : line) {
+    if (c == '\t') {
+      out += QString(kTab - out.size() % kTab, ' ');
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+QStringList Folded(const QStringList& lines, int columns) {
+  QStringList out;
+  for (const QString& line : lines) {
+    out += line.left(columns);
+    for (qsizetype at = columns; at < line.size(); at += columns) out += line.mid(at, columns);
+  }
+  return out;
+}
+
+// The line behind the last one of the page that begins at `first`.
+int EndOfPage(const QStringList& lines, int first, int linesPerPage) {
+  const int full = first + linesPerPage;
+  if (full >= lines.size()) return static_cast<int>(lines.size());
+  // A good place to break lies in the last quarter of the page, the nearest to its foot.
+  for (int end = full; end > full - linesPerPage / 4; --end)
+    if (IsSectionTitle(lines[end]) || IsEmpty(lines[end]) || IsEmpty(lines[end - 1])) {
+      if (!IsSectionTitle(lines[end - 1])) return end;
+    }
+  int end = full;
+  while (end > first + 1 && IsSectionTitle(lines[end - 1])) --end;
+  return end > first + 1 ? end : full;
+}
+
+}  // namespace
+
+QFont ReportFont(qreal pointSize) {
+  static const QString dejaVu = QStringLiteral("DejaVu Sans Mono");
+  static const bool installed = QFontDatabase::hasFamily(dejaVu);
+  QFont font = installed ? QFont(dejaVu) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setFixedPitch(true);
+  font.setStyleHint(QFont::Monospace);
+  font.setKerning(false);
+  font.setPointSizeF(pointSize);
+  return font;
+}
+
+QStringList VisibleLines(const QString& text) {
+  QString plain = text;
+  plain.replace(QChar::LineSeparator, '\n');
+  QStringList lines = plain.split('\n');
+  while (lines.size() > 1 && IsEmpty(lines.last())) lines.removeLast();
+  for (QString& line : lines) line = WithoutTabs(line);
+  return lines;
+}
+
+int ColumnsOf(const QStringList& lines) {
+  qsizetype columns = kReportColumns;
+  for (const QString& line : lines) columns = std::max(columns, line.size());
+  return static_cast<int>(std::min<qsizetype>(columns, kMostColumns));
+}
+
+std::vector<QStringList> BreakIntoPages(const QStringList& lines, int linesPerPage) {
+  std::vector<QStringList> pages;
+  for (int first = 0; first < lines.size();) {
+    const int end = EndOfPage(lines, first, std::max(linesPerPage, 1));
+    pages.push_back(lines.mid(first, end - first));
+    first = end;
+    while (first < lines.size() && IsEmpty(lines[first])) ++first;  // no page begins empty
+  }
+  return pages;
+}
+
+void ReportPages::PrepareA4(QPagedPaintDevice& device) {
+  device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                   QMarginsF(kSideMargin, kTopMargin, kSideMargin, kBottomMargin),
+                                   QPageLayout::Millimeter));
+}
+
+ReportPages::ReportPages(const QString& text, QPagedPaintDevice& device) {
+  const int dpi = device.logicalDpiX();
+  area_ = device.pageLayout().paintRectPixels(dpi).size();
+  const QStringList lines = VisibleLines(text);
+  const int columns = ColumnsOf(lines);
+
+  const qreal widthAtLargest =
+      QFontMetricsF(ReportFont(kLargestLetters), &device).horizontalAdvance('0') * columns;
+  font_ = ReportFont(kLargestLetters * std::min<qreal>(1, area_.width() / widthAtLargest));
+  const QFontMetricsF metrics(font_, &device);
+  lineHeight_ = metrics.lineSpacing();
+  left_ = std::max<qreal>(0, (area_.width() - metrics.horizontalAdvance('0') * columns) / 2);
+  const int linesPerPage = static_cast<int>(area_.height() / lineHeight_) - kFooterLines;
+  pages_ = BreakIntoPages(Folded(lines, columns), linesPerPage);
+  if (pages_.empty()) pages_.push_back({});
+}
+
+void ReportPages::Paint(QPainter& painter, int page) const {
+  painter.setFont(font_);
+  painter.setPen(Qt::black);
+  const qreal ascent = QFontMetricsF(font_, painter.device()).ascent();
+  qreal y = ascent;
+  for (const QString& line : pages_[static_cast<std::size_t>(page)]) {
+    if (!IsEmpty(line)) painter.drawText(QPointF(left_, y), line);
+    y += lineHeight_;
+  }
+  QFont small = font_;
+  small.setPointSizeF(font_.pointSizeF() * 0.85);
+  painter.setFont(small);
+  const QRectF footer(0, area_.height() - lineHeight_, area_.width(), lineHeight_);
+  painter.drawText(footer, Qt::AlignHCenter | Qt::AlignBottom,
+                   QStringLiteral("Pagina %1 di %2").arg(page + 1).arg(Count()));
+}
+
+bool PaintPages(const ReportPages& pages, QPagedPaintDevice& device, int first, int last) {
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  for (int page = first; page <= last; ++page) {
+    if (page > first && !device.newPage()) return false;
+    pages.Paint(painter, page);
+  }
+  return painter.end();
+}
+
+}  // namespace orm

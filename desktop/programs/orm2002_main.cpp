@@ -1,0 +1,39 @@
+// The desktop program. Works in the current folder; no arguments.
+#include <cstdio>
+
+#include "desktop/desktop_app.h"
+#include "desktop/player/desktop_player.h"
+#include "desktop/player/menu_window.h"
+#include "desktop/screen.h"
+#include "runtime/folder.h"
+#include "shell/shell.h"
+
+int main(int argc, char** argv) {
+  orm::TellFileSizeErrors();
+  orm::PlatformChoice platform;
+  QApplication application(argc, argv);
+  if (platform.IsUnseen()) {
+    std::fputs(
+        "orm2002: non c'è uno schermo. Le parcelle si calcolano anche con orm2002-calcolo.\n",
+        stderr);
+    return 1;
+  }
+  orm::DressApplication(application);
+  const orm::WorkFolder folder(".");
+  orm::DesktopPlayer player(folder.Path());
+  const orm::FolderLock lock(folder);
+  if (!lock.Held()) {
+    player.Ask({"  ATTENZIONE !! ",
+                "ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
+                "CHIUDERE PRIMA L'ALTRO PROGRAMMA",
+                orm::MessageBox::Icon::Exclamation, orm::MessageBox::Buttons::Ok});
+    return 1;
+  }
+  orm::Shell shell(player, folder);
+  if (!shell.Load()) return 0;
+  orm::MenuWindow window(shell);
+  player.SetMainWindow(&window);
+  window.ActivateOnceShown();
+  window.show();
+  return QApplication::exec();
+}

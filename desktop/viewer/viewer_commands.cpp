@@ -1,0 +1,182 @@
+// Menus, tool bar and keys of the viewer.
+#include "desktop/viewer/viewer_commands.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <utility>
+
+#include "desktop/find_bar.h"
+#include "desktop/icons.h"
+#include "desktop/viewer/viewer_page.h"
+#include "desktop/viewer/viewer_window.h"
+
+namespace orm {
+namespace {
+
+using Keys = QList<QKeySequence>;
+
+template <typename Function>
+QAction* Command(QMenu* menu, const char* name, const QString& caption, const Keys& keys,
+                 Function&& run) {
+  QAction* action = menu->addAction(caption);
+  action->setObjectName(QString::fromLatin1(name));
+  action->setShortcuts(keys);
+  QObject::connect(action, &QAction::triggered, action, std::forward<Function>(run));
+  return action;
+}
+
+// Gives a command its place on the tool bar: drawing, short caption, and a hint with its key.
+void OnToolBar(QToolBar* bar, QAction* action, LineIcon icon, const QString& caption,
+               const QString& hint) {
+  action->setIcon(IconOf(icon));
+  action->setIconVisibleInMenu(false);
+  action->setIconText(caption);
+  const QString key = action->shortcut().toString(QKeySequence::NativeText);
+  action->setToolTip(key.isEmpty() ? hint : hint + QStringLiteral(" (") + key + ')');
+  bar->addAction(action);
+}
+
+void CopyMenu(QMenu* file, ViewerWindow& window) {
+  QMenu* copies = file->addMenu(QStringLiteral("Salva &copia come"));
+  Command(copies, "copyPdf", QStringLiteral("&PDF..."), {},
+          [&window] { window.AskCopy(CopyKind::Pdf); });
+  Command(copies, "copyOdt", QStringLiteral("&ODT (documento di testo)..."), {},
+          [&window] { window.AskCopy(CopyKind::Odt); });
+  Command(copies, "copyUtf8", QStringLiteral("&Testo UTF-8..."), {},
+          [&window] { window.AskCopy(CopyKind::Utf8); });
+}
+
+void FileMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
+  QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
+  commands.save = Command(file, "save", QStringLiteral("&Salva"), {QKeySequence::Save},
+                          [&window] { window.Save(); });
+  Command(file, "saveAs", QStringLiteral("Salva con &nome..."),
+          {QKeySequence(QStringLiteral("Ctrl+Shift+S"))}, [&window] { window.AskSaveAs(); });
+  CopyMenu(file, window);
+  QAction* reload = Command(file, "reload", QStringLiteral("&Ricarica"), {Qt::Key_F5},
+                            [&window] { window.AskReload(); });
+  file->addSeparator();
+  QAction* preview =
+      Command(file, "preview", QStringLiteral("&Anteprima di stampa..."),
+              {QKeySequence(QStringLiteral("Ctrl+Shift+P"))}, [&window] { window.Preview(); });
+  QAction* print = Command(file, "print", QStringLiteral("S&tampa..."), {QKeySequence::Print},
+                           [&window] { window.Print(); });
+  QAction* pdf = Command(file, "exportPdf", QStringLiteral("&Esporta PDF..."),
+                         {QKeySequence(QStringLiteral("Ctrl+E"))},
+                         [&window] { window.AskCopy(CopyKind::Pdf); });
+  file->addSeparator();
+  Command(file, "close", QStringLiteral("C&hiudi"),
+          {QKeySequence(QStringLiteral("Ctrl+W")), QKeySequence(QStringLiteral("Ctrl+Q"))},
+          [&window] { window.close(); });
+
+  OnToolBar(bar, print, LineIcon::Print, QStringLiteral("Stampa"),
+            QStringLiteral("Stampa il documento"));
+  OnToolBar(bar, preview, LineIcon::Preview, QStringLiteral("Anteprima"),
+            QStringLiteral("Mostra le pagine come saranno stampate"));
+  OnToolBar(bar, pdf, LineIcon::Pdf, QStringLiteral("PDF"),
+            QStringLiteral("Esporta il documento in PDF"));
+  bar->addSeparator();
+  OnToolBar(bar, commands.save, LineIcon::Save, QStringLiteral("Salva"),
+            QStringLiteral("Salva le modifiche"));
+  OnToolBar(bar, reload, LineIcon::Reload, QStringLiteral("Ricarica"),
+            QStringLiteral("Rilegge il file dal disco"));
+}
+
+void EditMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
+  QMenu* edit = window.menuBar()->addMenu(QStringLiteral("&Modifica"));
+  ViewerPage& page = window.Page();
+  commands.edit = Command(edit, "edit", QStringLiteral("&Modifica il testo"), {Qt::Key_F2}, [] {});
+  commands.edit->setCheckable(true);
+  QObject::connect(commands.edit, &QAction::toggled, &window,
+                   [&window](bool on) { window.SetEditing(on); });
+  edit->addSeparator();
+  commands.undo = Command(edit, "undo", QStringLiteral("&Annulla"),
+                          {QKeySequence(QStringLiteral("Ctrl+Z"))}, [&page] { page.undo(); });
+  commands.redo = Command(
+      edit, "redo", QStringLiteral("Ri&peti"),
+      {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))},
+      [&page] { page.redo(); });
+  edit->addSeparator();
+  commands.cut =
+      Command(edit, "cut", QStringLiteral("&Taglia"), {QKeySequence::Cut}, [&page] { page.cut(); });
+  Command(edit, "copy", QStringLiteral("&Copia"), {QKeySequence::Copy}, [&page] { page.copy(); });
+  commands.paste = Command(edit, "paste", QStringLiteral("&Incolla"), {QKeySequence::Paste},
+                           [&page] { page.paste(); });
+  Command(edit, "selectAll", QStringLiteral("&Seleziona tutto"), {QKeySequence::SelectAll},
+          [&page] { page.selectAll(); });
+  OnToolBar(bar, commands.edit, LineIcon::Edit, QStringLiteral("Modifica"),
+            QStringLiteral("Permette di modificare il testo"));
+}
+
+void FindMenu(QToolBar* bar, ViewerWindow& window) {
+  QMenu* menu = window.menuBar()->addMenu(QStringLiteral("&Cerca"));
+  FindBar& find = window.Find();
+  QAction* open = Command(menu, "find", QStringLiteral("&Trova..."), {QKeySequence::Find},
+                          [&find] { find.Open(); });
+  Command(menu, "findNextCommand", QStringLiteral("&Successivo"), {Qt::Key_F3},
+          [&find] { find.Next(); });
+  Command(menu, "findPreviousCommand", QStringLiteral("&Precedente"),
+          {QKeySequence(QStringLiteral("Shift+F3"))}, [&find] { find.Previous(); });
+  OnToolBar(bar, open, LineIcon::Find, QStringLiteral("Trova"), QStringLiteral("Cerca nel testo"));
+}
+
+void ThemeMenu(QMenu* view, ViewerWindow& window) {
+  QMenu* themes = view->addMenu(QStringLiteral("&Tema"));
+  auto* group = new QActionGroup(themes);
+  const std::pair<Theme, QString> choices[] = {{Theme::System, QStringLiteral("Del &sistema")},
+                                               {Theme::Light, QStringLiteral("&Chiaro")},
+                                               {Theme::Dark, QStringLiteral("Sc&uro")}};
+  for (const auto& [theme, caption] : choices) {
+    QAction* action =
+        Command(themes, "theme", caption, {}, [&window, theme = theme] { window.SetTheme(theme); });
+    action->setCheckable(true);
+    group->addAction(action);
+  }
+  QObject::connect(themes, &QMenu::aboutToShow, themes, [group, &window] {
+    group->actions().at(static_cast<int>(window.CurrentTheme()))->setChecked(true);
+  });
+}
+
+void ViewMenu(QToolBar* bar, ViewerWindow& window) {
+  QMenu* view = window.menuBar()->addMenu(QStringLiteral("&Visualizza"));
+  ViewerPage& page = window.Page();
+  QAction* larger =
+      Command(view, "larger", QStringLiteral("&Ingrandisci"),
+              {QKeySequence(QStringLiteral("Ctrl++")), QKeySequence(QStringLiteral("Ctrl+="))},
+              [&page] { page.ZoomBy(1); });
+  QAction* smaller =
+      Command(view, "smaller", QStringLiteral("&Riduci"), {QKeySequence(QStringLiteral("Ctrl+-"))},
+              [&page] { page.ZoomBy(-1); });
+  Command(view, "normal", QStringLiteral("&Dimensione normale"),
+          {QKeySequence(QStringLiteral("Ctrl+0"))}, [&page] { page.SetZoom(100); });
+  view->addSeparator();
+  ThemeMenu(view, window);
+  bar->addSeparator();
+  OnToolBar(bar, smaller, LineIcon::Smaller, QStringLiteral("Riduci"),
+            QStringLiteral("Riduce i caratteri"));
+  OnToolBar(bar, larger, LineIcon::Larger, QStringLiteral("Ingrandisci"),
+            QStringLiteral("Ingrandisce i caratteri"));
+}
+
+}  // namespace
+
+ViewerCommands BuildCommands(ViewerWindow& window) {
+  auto* bar = new QToolBar(QStringLiteral("Comandi"), &window);
+  bar->setObjectName(QStringLiteral("commands"));
+  bar->setMovable(false);
+  bar->setIconSize(QSize(20, 20));
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  window.addToolBar(bar);
+  ViewerCommands commands;
+  FileMenu(bar, window, commands);
+  EditMenu(bar, window, commands);
+  FindMenu(bar, window);
+  ViewMenu(bar, window);
+  return commands;
+}
+
+}  // namespace orm

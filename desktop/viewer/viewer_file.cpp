@@ -1,0 +1,170 @@
+// Encoding and line ends of a viewed file, and its place on the disk.
+#include "desktop/viewer/viewer_file.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "runtime/failure.h"
+#include "runtime/text.h"
+
+namespace orm {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
+// like follows in Windows-1252, look like one character of two bytes: «CAFFÈ» ends in one.
+bool LooksLikeCapitalAndQuote(unsigned char lead) {
+  return lead == 0xC8 || lead == 0xC9 || lead == 0xCC || lead == 0xD2 || lead == 0xD7 ||
+         lead == 0xD8 || lead == 0xD9;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  bool certain = false;
+  for (std::size_t i = 0; i < bytes.size();) {
+    const auto lead = static_cast<unsigned char>(bytes[i]);
+    const std::size_t start = i;
+    const char32_t c = NextCharacter(bytes, i);
+    if (c == 0xFFFD && i - start == 1) return false;
+    if (i - start > 2 || (i - start == 2 && !LooksLikeCapitalAndQuote(lead))) certain = true;
+  }
+  return certain;
+}
+
+void RefuseControlCharacters(std::string_view bytes) {
+  const auto isControl = [](unsigned char byte) {
+    return (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
+  };
+  if (std::any_of(bytes.begin(), bytes.end(), isControl))
+    throw RuntimeFailure(
+        "Il file contiene caratteri che non sono testo (file binario o danneggiato).");
+}
+
+LineEnd UsualLineEnd(std::string_view bytes) {
+  std::size_t crLf = 0, lf = 0, cr = 0;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (bytes[i] == '\n') ++lf;
+    if (bytes[i] != '\r') continue;
+    if (i + 1 < bytes.size() && bytes[i + 1] == '\n') {
+      ++crLf, ++i;
+    } else {
+      ++cr;
+    }
+  }
+  if (crLf >= lf && crLf >= cr) return LineEnd::CrLf;
+  return lf >= cr ? LineEnd::Lf : LineEnd::Cr;
+}
+
+std::string_view BytesOf(LineEnd end) {
+  if (end == LineEnd::CrLf) return "\r\n";
+  return end == LineEnd::Lf ? "\n" : "\r";
+}
+
+std::string WithoutLineEnds(std::string_view text, LineEnd usual) {
+  const std::string_view end = BytesOf(usual);
+  std::string out;
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text.substr(i, end.size()) == end) {
+      out += '\n';
+      i += end.size() - 1;
+    } else if (text[i] == '\n') {
+      out += kLoneLineFeed;
+    } else if (text[i] == '\r') {
+      out += kLoneReturn;
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
+std::string WithLineEnds(std::string_view text, LineEnd usual) {
+  std::string out;
+  out.reserve(text.size() + text.size() / 32);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n') {
+      out += BytesOf(usual);
+    } else if (text.substr(i, kLoneLineFeed.size()) == kLoneLineFeed) {
+      out += '\n';
+      i += kLoneLineFeed.size() - 1;
+    } else if (text.substr(i, kLoneReturn.size()) == kLoneReturn) {
+      out += '\r';
+      i += kLoneReturn.size() - 1;
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
+}  // namespace
+
+DecodedText DecodeText(std::string_view bytes) {
+  RefuseControlCharacters(bytes);
+  DecodedText result;
+  result.format.byteOrderMark = bytes.starts_with(kByteOrderMark);
+  if (result.format.byteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
+  result.format.lineEnd = UsualLineEnd(bytes);
+  if (IsUtf8(bytes) || result.format.byteOrderMark) result.format.encoding = TextEncoding::Utf8;
+  result.text = result.format.encoding == TextEncoding::Utf8
+                    ? WithoutLineEnds(bytes, result.format.lineEnd)
+                    : WithoutLineEnds(FromWindows1252(bytes), result.format.lineEnd);
+  return result;
+}
+
+std::string EncodeText(std::string_view text, const TextFormat& format) {
+  std::string out = WithLineEnds(text, format.lineEnd);
+  if (format.encoding == TextEncoding::Windows1252) return ToWindows1252(out);
+  return format.byteOrderMark ? std::string(kByteOrderMark) + out : out;
+}
+
+std::optional<LackingCharacter> FirstLackingCharacter(std::string_view text,
+                                                      const TextFormat& format) {
+  if (format.encoding == TextEncoding::Utf8) return std::nullopt;
+  int line = 1;
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t start = i;
+    const char32_t c = NextCharacter(text, i);
+    const std::string_view character = text.substr(start, i - start);
+    if (c == '\n' || character == kLoneLineFeed) {
+      ++line;
+    } else if (character != kLoneReturn && !FitsWindows1252(c)) {
+      return LackingCharacter{std::string(character), line};
+    }
+  }
+  return std::nullopt;
+}
+
+std::string FormatName(const TextFormat& format) {
+  const std::string encoding =
+      format.encoding == TextEncoding::Windows1252 ? "Windows-1252" : "UTF-8";
+  if (format.lineEnd == LineEnd::CrLf) return encoding + ", CRLF";
+  return encoding + (format.lineEnd == LineEnd::Lf ? ", LF" : ", CR");
+}
+
+bool IsRichText(const std::string& path) {
+  std::string ending = std::filesystem::path(path).extension().string();
+  for (char& c : ending) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  if (ending == ".rtf") return true;
+  const FilePlace place = FilePlace::Of(path);
+  return place.folder.Exists(place.name) && place.Read().starts_with("{\\rtf");
+}
+
+FilePlace FilePlace::Of(const std::string& path) {
+  std::error_code error;
+  std::filesystem::path whole = std::filesystem::canonical(path, error);
+  if (error) whole = path;  // not there yet, or not reachable: reading and writing tell why
+  std::string folder = whole.parent_path().string();
+  if (folder.empty()) folder = ".";
+  return {WorkFolder(folder), whole.filename().string()};
+}
+
+void FilePlace::Replace(std::string_view bytes) const {
+  std::error_code error;
+  if (!std::filesystem::is_directory(folder.Path(), error))
+    throw RuntimeFailure("La cartella \"" + folder.Path() + "\" non esiste.").AtFile(name);
+  folder.Replace(name, bytes);
+}
+
+}  // namespace orm

@@ -1,0 +1,90 @@
+// The window of the report viewer: one document, its page and its commands.
+#pragma once
+
+#include <QMainWindow>
+#include <string>
+
+#include "desktop/viewer/viewer_commands.h"
+#include "desktop/viewer/viewer_file.h"
+#include "desktop/viewer/viewer_theme.h"
+#include "desktop/viewer/viewer_watch.h"
+
+class QLabel;
+class QSettings;
+
+namespace orm {
+
+class FindBar;
+class NoticeBar;
+class ViewerPage;
+
+enum class CopyKind { Pdf, Odt, Utf8 };
+
+// A report made by the program, to be read: it opens closed to editing.
+bool IsReport(const std::string& name);
+
+class ViewerWindow : public QMainWindow {
+ public:
+  ViewerWindow();
+
+  // Reads and shows a file. A file that cannot be read or is no text is a RuntimeFailure, and the
+  // window stays as it was.
+  void Open(const std::string& path);
+
+  // Save the text in the encoding of the file. False when it was not saved: the reason has been
+  // shown and the edits stay.
+  bool Save();
+  bool SaveAs(const std::string& path);
+  bool SaveCopy(CopyKind kind, const std::string& path);
+
+  // The same after asking for the name, or for leave where edits would be lost.
+  bool AskSaveAs();
+  bool AskCopy(CopyKind kind);
+  void AskReload();
+
+  void Print();
+  void Preview();
+  void SetEditing(bool on);
+  bool Editing() const;
+  void SetTheme(Theme theme);
+  Theme CurrentTheme() const { return theme_; }
+
+  ViewerPage& Page() { return *page_; }
+  FindBar& Find() { return *find_; }
+  const TextFormat& Format() const { return format_; }
+
+  // Makes the window wide enough for the whole sheet; on a screen too small the letters shrink.
+  void FitToSheet();
+
+  // Zoom, theme and size as the user left them.
+  void TakeHabits(const QSettings& settings);
+  void KeepHabits(QSettings& settings) const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Show(const std::string& bytes);
+  bool WriteTo(const FilePlace& place);
+  bool RefusedForEncoding();
+  void LookAtDisk();
+  void ShowState();
+  QString Title() const { return QString::fromStdString(place_.name); }
+  QString AskName(const QString& title, const QString& filter, const QString& suffix,
+                  const QString& proposal);
+
+  NoticeBar* notice_;
+  ViewerPage* page_;
+  FindBar* find_;
+  QLabel *placeLabel_, *modeLabel_, *formatLabel_, *zoomLabel_;
+  ViewerCommands commands_;
+  FilePlace place_;
+  TextFormat format_;
+  std::string onDisk_;  // the bytes that the text comes from
+  std::string asked_;   // the newer bytes that the notice bar asks about
+  bool editable_ = true;
+  Theme theme_ = Theme::System;
+  FileWatch watch_;
+};
+
+}  // namespace orm

@@ -1,0 +1,46 @@
+// The memo: a window that shows and saves a rich text file.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "dialogs/form.h"
+#include "dialogs/rich_text.h"
+#include "shell/state/run_state.h"
+
+namespace orm {
+
+inline constexpr const char* kFileMemo = "MEMO.RTF";
+
+void MostraMemo(RunState& run);
+// Opens the memo in the word processor.
+void EditaMemo(RunState& run);
+
+class FrmGenVisualizzaRtf : public Form {
+ public:
+  explicit FrmGenVisualizzaRtf(RunState& run);
+
+  std::string NomeFile;  // the file to show
+
+  RichTextBox RichTextBox1{*this, "RichTextBox1"};
+
+  // Reads the file. A damaged one is a RuntimeFailure, and stays as it is.
+  void OnOpen() override;
+  // Saves what the person has written; the window stays when that fails. An untouched text is not
+  // written again.
+  void OnWindowClose() override;
+
+ private:
+  // What of the file on disk would go with a save, in Italian.
+  std::vector<std::string> Rischi() const;
+  std::string NomeDelPrecedente() const;
+  Answer ChiediSeSalvare(const std::vector<std::string>& rischi) const;
+  void Salva(bool conservaIlPrecedente);
+
+  RunState& run_;
+  std::string letto_;  // the file as it was read
+  std::vector<std::string> perdite_;
+  bool fallito_ = false;  // the last save; whoever wants to leave all the same is asked
+};
+
+}  // namespace orm

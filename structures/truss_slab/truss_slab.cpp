@@ -1,0 +1,252 @@
+#include "structures/truss_slab/truss_slab.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "runtime/numbers.h"
+#include "structures/sections/section_t.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+using Esito = EsitoSolaioT;
+
+double Square(double v) { return v * v; }
+
+class Progetto {
+ public:
+  explicit Progetto(const DatiSolaioT& dati) : d_(dati) {}
+
+  RisultatiSolaioT Esegui() {
+    r_.esito = Passi();
+    return r_;
+  }
+
+ private:
+  // The steps in order; the first that fails ends the design.
+  Esito Passi() {
+    if (d_.ferri[3] == 0.0 && d_.ferri[4] == 0.0) return Esito::SenzaMonconi;
+    r_.ammissibili = TensioniAmmissibiliSolaio(d_);
+    Sollecitazioni();
+    if (const Esito e = ArmaturaCampata(); e != Esito::Verificato) return e;
+    LunghezzeCampata();
+    ScegliMonconi();
+    ZonaPienaIniziale();
+    if (const Esito e = CercaZonePiene(r_.sinistra, Esito::SinistraCls, Esito::SinistraAcciaio);
+        e != Esito::Verificato)
+      return e;
+    if (const Esito e = CercaZonePiene(r_.destra, Esito::DestraCls, Esito::DestraAcciaio);
+        e != Esito::Verificato)
+      return e;
+    if (const Esito e = VerificaTaglio(); e != Esito::Verificato) return e;
+    LunghezzeMonconi(r_.sinistra);
+    LunghezzeMonconi(r_.destra);
+    return Esito::Verificato;
+  }
+
+  void Sollecitazioni() {
+    Lc_ = d_.luce * RapportoLuci;
+    r_.q = (d_.permanente + d_.accidentale + d_.pesoProprio) * (d_.modulo.b / 100);
+    r_.taglio = Lc_ * r_.q * 0.5;
+    r_.sinistra.momento = Square(Lc_) * r_.q / d_.cSin;
+    r_.destra.momento = Square(Lc_) * r_.q / d_.cDex;
+    r_.momentoMezzeria = Square(Lc_) * r_.q / d_.cMez;
+    // What is shown is what is reckoned with from here on.
+    for (double* valore :
+         {&r_.taglio, &r_.sinistra.momento, &r_.destra.momento, &r_.momentoMezzeria})
+      FormattaNumero(*valore, 2);
+  }
+
+  // ------------------------------------------------------------ sections
+
+  double Strato1() const {
+    const double n = d_.modulo.n;
+    return n * campata_[0] + n * AreaTraliccio + n * campata_[1];
+  }
+  double Strato2() const { return d_.modulo.n * campata_[2]; }
+
+  // A section with the lower bars that are kept, and `superiore` above; M in kg x cm. Ribs under
+  // the upper slab, or solid over the whole module.
+  RisultatiSezione Sezione(bool nervata, double superiore, double M) const {
+    DatiSezione s{};
+    s[1] = d_.modulo.b;
+    s[2] = s[3] = nervata ? d_.modulo.b0 : d_.modulo.b;
+    s[4] = d_.H();
+    s[5] = nervata ? d_.solettina : 0;
+    s[7] = superiore;
+    s[8] = CopriferroSuperiore;
+    s[9] = Strato2();
+    s[10] = d_.H() - DistanzaSecondoStrato;
+    s[11] = Strato1();
+    s[12] = d_.H() - CopriferroInferiore;
+    s[23] = M;
+    RisultatiSezione risultati{};
+    VerificaSezioneT(s, risultati);
+    return risultati;
+  }
+
+  // ------------------------------------------------------------ span
+
+  Esito ArmaturaCampata() {
+    for (int k = 1; k <= TentativiCampata; ++k) {
+      campata_ = {AreaFerro(FerroAggiuntivo, d_.ferri[0], k),
+                  AreaFerro(FerroIntegrativo1, d_.ferri[1], k),
+                  AreaFerro(FerroIntegrativo2, d_.ferri[2], k)};
+      const RisultatiSezione sezione = Sezione(true, 0, r_.momentoMezzeria * 100);
+      r_.clsMezzeria = std::fabs(sezione[2]);
+      r_.acciaioMezzeria = sezione[12];
+      if (r_.clsMezzeria <= r_.ammissibili.cls && r_.acciaioMezzeria <= r_.ammissibili.acciaio) {
+        for (std::size_t i = 0; i < campata_.size(); ++i)
+          r_.campata[i].diametro = DiametroDaArea(campata_[i]);
+        return Esito::Verificato;
+      }
+    }
+    return r_.clsMezzeria > r_.ammissibili.cls ? Esito::MezzeriaCls : Esito::MezzeriaAcciaio;
+  }
+
+  // The steel that the shear wants at the support runs there, at least the first kind; the rest
+  // stops where the moment allows, the later kinds before the earlier ones.
+  void LunghezzeCampata() {
+    const double n = d_.modulo.n;
+    const double Amin = r_.taglio / r_.ammissibili.acciaio;
+    double A = AreaTraliccio * n;
+    bool primo = true;
+    std::array<bool, 3> corre{};
+    for (std::size_t i = 0; i < campata_.size(); ++i) {
+      if (campata_[i] == 0) continue;
+      corre[i] = primo || A < Amin;
+      if (corre[i]) A += n * campata_[i];
+      primo = false;
+    }
+    const double braccio1 = 0.9 * (d_.H() - CopriferroInferiore);
+    const double braccio2 = 0.9 * (d_.H() - DistanzaSecondoStrato);
+    const double totale = Strato1() * braccio1 + Strato2() * braccio2;
+    const double L0 = std::sqrt(Square(Lc_) * 8.0 / d_.cMez);
+    double a = 0;
+    for (std::size_t i = campata_.size(); i-- > 0;) {
+      Barra& barra = r_.campata[i];
+      if (campata_[i] == 0) continue;
+      if (corre[i]) {
+        barra.lunghezza =
+            2 * AncoraggioCampata(r_.taglio, A, barra.diametro, r_.ammissibili.aderenza) + d_.luce;
+      } else {
+        a += n * campata_[i] * (i == 2 ? braccio2 : braccio1);
+        barra.lunghezza = LunghezzaFerroIntegrativo(L0, a, totale, barra.diametro);
+      }
+    }
+  }
+
+  // ------------------------------------------------------------ supports
+
+  double Monconi() const { return d_.modulo.n * (lungo_ + corto_); }
+
+  void VerificaPiena(Appoggio& appoggio) const {
+    const RisultatiSezione piena = Sezione(false, Monconi(), -appoggio.momento * 100);
+    appoggio.clsPiena = std::fabs(piena[3]);
+    appoggio.acciaioPiena = piena[12];
+  }
+
+  void VerificaNervata(Appoggio& appoggio) const {
+    const double z = r_.zonaPiena * 100;
+    const double M = (-appoggio.momento * 100) - Square(z) * (r_.q / 100 * 0.5) + z * r_.taglio;
+    const RisultatiSezione nervata = Sezione(true, Monconi(), M);
+    appoggio.clsNervata = std::fabs(nervata[3]);
+    appoggio.acciaioNervata = nervata[12];
+    appoggio.asse = nervata[1];
+  }
+
+  bool Regge(double cls, double acciaio) const {
+    return cls <= r_.ammissibili.cls && acciaio <= r_.ammissibili.acciaio;
+  }
+
+  // Stubs left free grow until the solid section holds at both supports.
+  void ScegliMonconi() {
+    for (int k = 1; k <= TentativiMonconi; ++k) {
+      lungo_ = AreaFerro(MonconeLungo, d_.ferri[3], k);
+      corto_ = AreaFerro(MonconeCorto, d_.ferri[4], k);
+      bool reggono = true;
+      for (Appoggio* appoggio : {&r_.sinistra, &r_.destra}) {
+        VerificaPiena(*appoggio);
+        reggono = reggono && Regge(appoggio->clsPiena, appoggio->acciaioPiena);
+        appoggio->lungo.diametro = DiametroDaArea(lungo_);
+        appoggio->corto.diametro = DiametroDaArea(corto_);
+      }
+      if (reggono) return;
+    }
+  }
+
+  // The blocks are 25 cm long: what they leave of the span is shared by both ends.
+  void ZonaPienaIniziale() {
+    const double resto = (d_.luce - Int(d_.luce / 0.25) * 0.25) / 2;
+    r_.zonaPiena = Int(resto * 1000 + 0.5) / 1000;
+  }
+
+  // Lengthens the zones on both sides; false when they reach their limit.
+  bool AllungaZonePiene() {
+    r_.zonaPiena += PassoZonePiene;
+    return r_.zonaPiena < LimiteZonePiene;
+  }
+
+  Esito CercaZonePiene(Appoggio& appoggio, Esito cls, Esito acciaio) {
+    bool regge = false;
+    for (int tentativo = 1; !regge && tentativo <= TentativiZonePiene; ++tentativo) {
+      VerificaPiena(appoggio);
+      VerificaNervata(appoggio);
+      regge = Regge(appoggio.clsPiena, appoggio.acciaioPiena) &&
+              Regge(appoggio.clsNervata, appoggio.acciaioNervata);
+      if (!regge && !AllungaZonePiene()) break;
+    }
+    if (appoggio.clsPiena > r_.ammissibili.cls) return cls;
+    if (appoggio.acciaioPiena > r_.ammissibili.acciaio) return acciaio;
+    return regge ? Esito::Verificato : Esito::ZonePieneMomenti;
+  }
+
+  double Tau(const Appoggio& appoggio) const {
+    const double x = appoggio.asse;
+    return (r_.taglio - r_.q * r_.zonaPiena / 2) /
+           ((2 * (d_.H() - x) / 3 + (x - CopriferroSuperiore)) * d_.modulo.b0);
+  }
+
+  Esito VerificaTaglio() {
+    for (;;) {
+      for (Appoggio* appoggio : {&r_.sinistra, &r_.destra}) {
+        VerificaPiena(*appoggio);
+        VerificaNervata(*appoggio);
+      }
+      r_.tau = std::max(Tau(r_.sinistra), Tau(r_.destra));
+      if (r_.tau <= r_.ammissibili.taglio) break;
+      if (!AllungaZonePiene()) return Esito::ZonePieneTaglio;
+    }
+    FormattaNumero(r_.tau, 2);  // compared whole, shown cut
+    return Esito::Verificato;
+  }
+
+  // A stub stops where the steel of the other one is enough, the long one where the moment ends.
+  void LunghezzeMonconi(Appoggio& appoggio) const {
+    const double M = appoggio.momento;
+    Misura(appoggio.lungo, M, appoggio);
+    Misura(appoggio.corto, M * corto_ / (lungo_ + corto_), appoggio);
+  }
+
+  void Misura(Moncone& moncone, double M, const Appoggio& appoggio) const {
+    if (moncone.diametro == 0) return;
+    const double x = std::max(DistanzaDiCaduta(r_.taglio, r_.q, M, Lc_), r_.zonaPiena);
+    moncone.campata = MinimoAncoraggio(100 * x + 2.5 * moncone.diametro);
+    moncone.incastro =
+        AncoraggioMoncone(moncone.diametro, appoggio.acciaioPiena, r_.ammissibili.aderenza);
+  }
+
+  const DatiSolaioT& d_;
+  RisultatiSolaioT r_;
+  double Lc_ = 0;                    // calculation span, m
+  std::array<double, 3> campata_{};  // areas of one bar of each kind
+  double lungo_ = 0, corto_ = 0;
+};
+
+}  // namespace
+
+RisultatiSolaioT ProgettaSolaioT(const DatiSolaioT& dati) { return Progetto(dati).Esegui(); }
+
+}  // namespace orm

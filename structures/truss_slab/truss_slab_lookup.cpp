@@ -1,0 +1,58 @@
+// Look-ups of the truss-joist slab: materials, blocks, coefficients, self weight, least height.
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "structures/truss_slab/truss_slab.h"
+#include "tariff/money.h"
+
+namespace orm {
+
+double TensioneDiFerro(std::string_view tipo) {
+  for (const TensioneFerro& ferro : TensioniFerro)
+    if (ferro.tipo == tipo) return ferro.sigma;
+  return 1.0;
+}
+
+ParametriCls ParametriDiCls(std::string_view classe) {
+  for (const ParametriCls& cls : ClassiCls)
+    if (cls.classe == classe) return cls;
+  return {};
+}
+
+double PesoLaterizio(std::string_view blocco) {
+  const std::string altezza = Right(blocco, 2);
+  for (const FiguraLaterizio& figura : PesiLaterizio)
+    if (figura.tipoS == blocco.starts_with('S') && figura.altezza == altezza) return figura.peso;
+  return 1.0;
+}
+
+double AltezzaBlocco(std::string_view blocco) {
+  return ParseNumber(blocco.substr(blocco.find_last_of(' ') + 1)).value_or(0);
+}
+
+double DatiSolaioT::H() const { return AltezzaBlocco(blocco) + solettina; }
+
+double ParteDopoBarra(std::string_view testo) {
+  const auto barra = testo.find('/');
+  if (barra == std::string_view::npos) return 0;
+  return ParseNumber(testo.substr(barra + 1)).value_or(0);
+}
+
+double PesoProprioSolaio(const ModuloSolaio& modulo, double solettina, std::string_view blocco) {
+  const double h = AltezzaBlocco(blocco);
+  const double peso = solettina * 25.0 + (h * modulo.laterizio * PesoLaterizio(blocco)) +
+                      h * 2 * modulo.travetti * 0.25;
+  return ArrotondaA5(peso, 0, 1);
+}
+
+bool AltezzaInsufficiente(double luce, double H) {
+  return luce * 100.0 * RapportoLuci / RapportoLuceAltezza > H;
+}
+
+Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati) {
+  const ParametriCls cls = ParametriDiCls(dati.classeCls);
+  const double acciaio = TensioneDiFerro(dati.tipoFerro);
+  return {acciaio, dati.solettina <= SolettinaSottile ? cls.ridotta : cls.novanta,
+          cls.tauc0 * (acciaio > TensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
+}
+
+}  // namespace orm

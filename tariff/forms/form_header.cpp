@@ -1,0 +1,37 @@
+#include "tariff/forms/form_header.h"
+
+#include "tariff/user_data.h"
+
+namespace orm {
+namespace {
+const TextOptions kSeveralLines{.longest = 1000, .lines = 4, .width = 60};
+}
+
+FrmGenIntestazione::FrmGenIntestazione(RunState& stato, std::string nomeFile)
+    : Form("frmGEN_Intestazione",
+           "                                          INTESTAZIONE PARCELLA"),
+      txtCommittente(*this, "txtCommittente", "COMMITTENTE", kSeveralLines),
+      txtIncarico(*this, "txtIncarico", "OGGETTO", kSeveralLines),
+      txtDocumenti(*this, "txtDocumenti", "DOCUMENTI DI INCARICO", kSeveralLines),
+      txtNote(*this, "txtNote", "NOTE", kSeveralLines),
+      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+  SetContent(
+      Column({Fields({txtCommittente, txtIncarico, txtDocumenti, txtNote}), Buttons({Command1})}));
+  if (stato.folder.Exists(nomeFile)) {
+    const Intestazione dati = LeggiIntestazione(stato.folder, nomeFile);
+    txtCommittente.SetText(dati.Committente);
+    txtIncarico.SetText(dati.Oggetto);
+    txtDocumenti.SetText(dati.Documenti);
+    txtNote.SetText(dati.Note);
+  }
+  Command1.onPress = [this, &stato, nomeFile = std::move(nomeFile)] {
+    TryAndStay(stato.player, [&] {
+      ScriviIntestazione(
+          stato.folder, nomeFile,
+          {txtCommittente.Text(), txtIncarico.Text(), txtDocumenti.Text(), txtNote.Text()});
+      Close();
+    });
+  };
+}
+
+}  // namespace orm

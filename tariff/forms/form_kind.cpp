@@ -1,0 +1,62 @@
+#include "tariff/forms/form_kind.h"
+
+#include <algorithm>
+
+namespace orm {
+namespace {
+
+constexpr std::array<const char*, 4> kValues = {"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"};
+
+constexpr std::array<const char*, 4> kHelp = {
+    "È L'OPZIONE DA USARE NELLA MAGGIOR PARTE DELLE SITUAZIONI (PARCELLA IN CORSO D'OPERA).\n"
+    "OCCORRE NECESSARIAMENTE UTILIZZARLA NEL CASO DI RISOLUZIONE DEL CONTRATTO NEL CORSO \n"
+    "DI ESECUZIONE DEI LAVORI PER DECISIONE DEL PROFESSIONISTA.\n"
+    "SI PUÓ USARE ANCHE PER LA STIMA PREVENTIVA DEGLI ONORARI.\n"
+    "IN QUESTO CASO SI NOTI CHE\n"
+    "CHIEDENDO LA MAGGIORAZIONE PER INCARICO PARZIALE E DANDO NEL CONTEMPO SIA IMPORTI\n"
+    "PER PROGETTAZIONE CHE PER DIREZIONE LAVORI SI OTTIENE L'IMPORTO TOTALE DEGLI ONORARI\n"
+    "CHE IL COMMITTENTE ANDRÁ A SPENDERE SE SEPARA GLI INCARICHI DI PROGETTAZIONE E D.L.",
+    "DA USARE PER IL CALCOLO DELL'ONORARIO A FINE LAVORI\n"
+    "L'OPZIONE DEVE ESSERE ATTIVATA SEMPRE IN PRESENZA DI\n"
+    "MAGGIOR LAVORI SENZA PERIZIA DI VARIANTE O DI MINOR\n"
+    "LAVORI RISPETTO ALLA STIMA DEL PROGETTO ORIGINARIO o DI PERIZIA",
+    "DA USARE PER IL CALCOLO DELL'ONORARIO NEL CASO\n"
+    "DI RISOLUZIONE DEL CONTRATTO NEL CORSO DI ESECUZIONE\n"
+    "DEI LAVORI PER DECISIONE DEL COMMITTENTE",
+    "DA USARE PER IL CALCOLO DELL'ONORARIO NEI CASI IN CUI\n"
+    "OCCORRE UTILIZZARE PERCENTUALI DISTINTE E SEPARATE\n"
+    "PER LA PROGETTAZIONE E LA DIREZIONE DEI LAVORI"};
+
+}  // namespace
+
+FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella)
+    : Form("frmGEN_Tipologia", "TIPOLOGIA DI  PARCELLA"),
+      TipoParcella(tipoParcella),
+      Frame1(*this, "Frame1"),
+      Option{{{*this, "Option1", "PREVENTIVA e IN CORSO D'OPERA", tipo},
+              {*this, "Option2", "CONSUNTIVA a Fine Lavori", tipo},
+              {*this, "Option3", "INTERROTTA per risoluzione Incarico", tipo},
+              {*this, "Option4", "A Percentuali distinte per Prog. e D.L.", tipo}}},
+      Help{{{*this, "Help1", "HELP"},
+            {*this, "Help2", "HELP"},
+            {*this, "Help3", "HELP"},
+            {*this, "Help4", "HELP"}}},
+      OKbutton(*this, "OKbutton", "&O.K.", Button::Role::Default) {
+  SetContent(Column({Group(Frame1, {Row({Option[0], Help[0]}), Row({Option[1], Help[1]}),
+                                    Row({Option[2], Help[2]}), Row({Option[3], Help[3]})}),
+                     Buttons({OKbutton})}));
+  const auto given = std::find(kValues.begin(), kValues.end(), tipoParcella);
+  tipo.Choose(given == kValues.end() ? 0 : static_cast<int>(given - kValues.begin()));
+  for (std::size_t i = 0; i < Help.size(); ++i)
+    Help[i].onPress = [&player, i] {
+      player.Ask(
+          {"  INFORMAZIONE ", kHelp[i], MessageBox::Icon::Information, MessageBox::Buttons::Ok});
+    };
+  OKbutton.onPress = [this] {
+    TipoParcella = kValues[static_cast<std::size_t>(std::max(tipo.Chosen(), 0))];
+    TipodiUscita = true;
+    Close();
+  };
+}
+
+}  // namespace orm

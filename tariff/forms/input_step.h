@@ -1,0 +1,34 @@
+// The two ends that the input step of every fee case shares: header and "new or change" before the
+// case's own dialogs, the agreements with the client behind them.
+#pragma once
+
+#include "tariff/files/closing_line.h"
+
+namespace orm {
+
+// Shows the header dialog on FileInt, then asks for a new note or a change where FileInp exists.
+// True for a change.
+bool ChiediVariazione(RunState& stato);
+
+// Header, question, and the case's fields: those of FileInp for a change, otherwise `dati` as it
+// comes, with the closing values of a new note.
+template <class Dati>
+void IniziaInput(RunState& stato, Dati& dati) {
+  if (ChiediVariazione(stato)) {
+    LeggiParcella(stato, dati);
+  } else {
+    stato.chiusura = {};
+  }
+}
+
+// Writes the body of FileInp and behind it the closing line as it stands, so that the file is whole
+// from the first write on; then shows the agreements, which put their answer in the line's place.
+void ChiediAcconti(RunState& stato, const DataWriter& corpo);
+template <class Dati>
+void ConcludiInput(RunState& stato, Dati& dati) {
+  DataWriter corpo;
+  Campi(corpo, dati);
+  ChiediAcconti(stato, corpo);
+}
+
+}  // namespace orm

@@ -1,0 +1,82 @@
+// Measurement and accounting of works.
+#include "tariff/law/accounting_fee.h"
+
+#include <cstddef>
+
+#include "runtime/text.h"
+#include "tariff/law/table_e.h"
+#include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+constexpr std::size_t kLimiti = kLimitiTabellaELire.size();
+
+// Bands count from 1; the limit of band 0 is 0.
+double Limite(std::size_t fascia, bool modoLire) {
+  if (fascia == 0) return 0;
+  return modoLire ? kLimitiTabellaELire[fascia - 1] : kLimitiTabellaEEuro[fascia - 1];
+}
+
+double Aliquota(std::size_t fascia, int periodo) {
+  const bool primi = periodo >= 1 && periodo <= 4;
+  const double moltiplicatore = primi
+                                    ? kMoltiplicatoriTabellaE[static_cast<std::size_t>(periodo - 1)]
+                                : fascia > kLimiti ? kMoltiplicatoreOltre
+                                                   : kMoltiplicatoriTabellaE.back();
+  return kAliquoteTabellaE[fascia - 1] * moltiplicatore;
+}
+
+FasciaContabilita Calcola(std::size_t fascia, const RigaContabilita& riga, double parte) {
+  const double aliquota = Aliquota(fascia, riga.periodo);
+  return {aliquota, riga.coefficiente, parte, parte * aliquota * riga.coefficiente / 100};
+}
+
+}  // namespace
+
+OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita>& righe,
+                                               bool modoLire) {
+  OnorarioContabilita esito;
+  std::size_t chiuse = 0;  // bands filled so far
+  double usata = 0;        // part of the current band that earlier rows have taken
+  const auto aggiungi = [&](std::size_t fascia, const RigaContabilita& riga, double parte) {
+    esito.fasce.push_back(Calcola(fascia, riga, parte));
+    esito.onorario += esito.fasce.back().onorario;
+  };
+
+  for (const RigaContabilita& riga : righe) {
+    esito.importo += riga.importo;
+    std::size_t raggiunte = 0;
+    for (std::size_t n = 1; n <= kLimiti; ++n)
+      if (esito.importo >= Limite(n, modoLire)) ++raggiunte;
+
+    for (std::size_t n = chiuse + 1; n <= raggiunte; ++n) {
+      const double parte = Limite(n, modoLire) - Limite(n - 1, modoLire) - usata;
+      if (!(parte > 0)) continue;
+      aggiungi(n, riga, parte);
+      usata = 0;
+    }
+    chiuse = raggiunte;
+
+    const double resto = esito.importo - Limite(chiuse, modoLire) - usata;
+    if (!(resto > 0)) continue;
+    aggiungi(chiuse + 1, riga, resto);
+    usata = esito.importo - Limite(chiuse, modoLire);
+  }
+  return esito;
+}
+
+std::string NumeroContabilita(double valore, bool modoLire) {
+  const std::string testo = FormattaCopia(valore, modoLire ? 0 : -2);
+  const std::size_t lunghezza = Characters(testo);
+  return (lunghezza < 15 ? Blanks(15 - lunghezza) : "") + testo;
+}
+
+std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire) {
+  return FormattaCopia(fascia.aliquota, -5) + "% x " + CoefficienteInStringa(fascia.coefficiente) +
+         " x " + NumeroContabilita(fascia.parte, modoLire) + " = " +
+         NumeroContabilita(fascia.onorario, modoLire);
+}
+
+}  // namespace orm

@@ -1,0 +1,75 @@
+#include "tariff/law/price_index.h"
+
+#include <algorithm>
+#include <string>
+
+#include "runtime/data_file.h"
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+
+namespace orm {
+namespace {
+
+constexpr const char* kFileIndici = "IND.CFG";
+constexpr int kAnniMassimi = 21;
+constexpr int kAnnoBase = 1993;
+
+// The coefficient 1,0009, which links the index with tobacco to the one without across February
+// 1992, has no part here: both months lie behind it.
+
+const IndiciAnno& Anno(const std::vector<IndiciAnno>& indici, int anno) {
+  const auto trovato = std::ranges::find(indici, anno, &IndiciAnno::anno);
+  if (trovato == indici.end())
+    throw RuntimeFailure("Manca la riga degli indici dell'anno " + NumberText(anno) + ".")
+        .AtFile(kFileIndici)
+        .AtField("anno");
+  return *trovato;
+}
+
+double IndicePubblicato(const std::vector<IndiciAnno>& indici, int mese, int anno) {
+  for (; anno >= kAnnoBase; --anno, mese = 12) {
+    const IndiciAnno& riga = Anno(indici, anno);
+    for (int m = mese; m >= 1; --m)
+      if (const double indice = riga.mesi[static_cast<std::size_t>(m - 1)]; indice != 0)
+        return indice;
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder) {
+  DataReader file(folder, kFileIndici);
+  std::string RigaIgnorata;
+  const int n = file.Count("numero degli anni", kAnniMassimi);
+  if (n == 0) file.Fail("numero degli anni", "Gli anni devono essere almeno uno.");
+  file.Read(Field("nota", RigaIgnorata));
+  std::vector<IndiciAnno> indici;
+  for (int i = 0; i < n; ++i) {
+    IndiciAnno riga;
+    file.Read(Field("anno", riga.anno));
+    if (std::ranges::find(indici, riga.anno, &IndiciAnno::anno) != indici.end())
+      file.Fail("anno", "L'anno " + NumberText(riga.anno) + " c'è due volte.");
+    for (double& indice : riga.mesi) {
+      file.Read(Field("indice", indice));
+      if (indice < 0) file.Fail("indice", "Un indice non può essere negativo.");
+    }
+    indici.push_back(riga);
+  }
+  file.ExpectEnd();
+  return indici;
+}
+
+double PercentualeRivalutazione(const WorkFolder& folder, int mese, int anno) {
+  const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder);
+  if (anno < kAnnoBase || mese < 1 || mese > 12)
+    throw RuntimeFailure("La rivalutazione parte da gennaio 1993: " + NumberText(mese) + "/" +
+                         NumberText(anno) + " non ha un indice.")
+        .AtFile(kFileIndici);
+  const double base = Anno(indici, kAnnoBase).mesi.front();
+  if (base == 0)
+    throw RuntimeFailure("Manca l'indice di gennaio 1993.").AtFile(kFileIndici).AtField("indice");
+  return (IndicePubblicato(indici, mese, anno) / base - 1) * 100;
+}
+
+}  // namespace orm

@@ -1,0 +1,50 @@
+// Plays scripts: by the plain player, or on the widgets of the desktop without a screen.
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "desktop/desktop_app.h"
+#include "script/run_scripts.h"
+#include "tests/stage/desktop_stage.h"
+
+namespace {
+
+struct Options {
+  bool desktop = false;
+  bool update = false;
+  std::string pictures;
+  std::vector<std::string> scripts;
+};
+
+int PlayAll(const Options& options) {
+  int failed = 0;
+  std::set<std::string> faults;
+  const orm::StageBuilder build =
+      options.desktop ? orm::DesktopStage({options.pictures, &faults}) : orm::BuildPlainStage;
+  for (const std::string& script : options.scripts) {
+    const auto mismatch = orm::RunScript(script, build, {options.update, &std::cout});
+    if (!mismatch) continue;
+    ++failed;
+    std::cerr << script << ":" << mismatch->line << ": " << mismatch->text << std::endl;
+  }
+  for (const std::string& fault : faults) std::cerr << fault << std::endl;
+  return failed == 0 && faults.empty() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  CLI::App app("Esegue i copioni di prova di ORM2002", "orm2002-copione");
+  app.add_flag("--desktop", options.desktop, "sulle finestre vere, senza schermo");
+  app.add_flag("--aggiorna", options.update, "riscrive i file attesi, da rileggere");
+  app.add_option("--immagini", options.pictures, "cartella delle immagini chieste dai copioni");
+  app.add_option("copioni", options.scripts, "file dei copioni")
+      ->required()
+      ->check(CLI::ExistingFile);
+  CLI11_PARSE(app, argc, argv);
+  if (!options.desktop) return PlayAll(options);
+  orm::UseNoScreen();
+  QApplication application(argc, argv);
+  orm::DressApplication(application);
+  return PlayAll(options);
+}

@@ -1,0 +1,135 @@
+#include "tests/stage/desktop_stage.h"
+
+#include <QAbstractButton>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTemporaryFile>
+#include <QTest>
+
+#include "desktop/player/desktop_player.h"
+#include "desktop/player/menu_window.h"
+#include "desktop/player/message_window.h"
+#include "desktop/qt_text.h"
+#include "tests/stage/widget_hand.h"
+
+namespace orm {
+namespace {
+
+// The player of the desktop with a script in the person's place.
+class ScriptedPlayer : public DesktopPlayer {
+ public:
+  ScriptedPlayer(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
+      : DesktopPlayer(folder.Path()),
+        actor_(actor),
+        folder_(folder),
+        options_(std::move(options)) {}
+
+  std::optional<std::string> ChooseFile(const FileChoice& choice) override {
+    return actor_.MeetFileChoice(choice);
+  }
+  void StartProgram(const std::string& program, const std::string& argument) override {
+    actor_.MeetProgramStart(program, argument);
+  }
+  bool ProgramExists(const std::string& path) override {
+    return ScriptProgramExists(path, folder_);
+  }
+  OutsidePrograms DefaultPrograms() override { return ScriptPrograms(); }
+  ScreenSize Screen() override { return actor_.Screen(); }
+  Date Today() override { return actor_.Today(); }
+
+ protected:
+  void Run(FormDialog& dialog) override {
+    dialog.open();
+    QCoreApplication::processEvents();
+    WidgetHand hand(dialog, options_);
+    hand.Look();
+    actor_.MeetForm(dialog.Model(), hand);
+    dialog.hide();
+  }
+  void Run(QMessageBox& shown, const MessageBox& box) override {
+    shown.open();
+    QCoreApplication::processEvents();
+    QTest::mouseClick(ButtonOf(shown, actor_.MeetMessage(box)), Qt::LeftButton);
+  }
+
+ private:
+  Actor& actor_;
+  const WorkFolder& folder_;
+  DesktopStageOptions options_;
+};
+
+void ClickIn(QMenu& menu, QAction* action) {
+  QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+}
+
+class WidgetStage : public Stage {
+ public:
+  WidgetStage(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
+      : player_(actor, folder, std::move(options)) {}
+
+  Player& People() override { return player_; }
+
+  void Raise(MainWindow& window) override {
+    if (shown_ != nullptr) return;
+    shown_ = std::make_unique<MenuWindow>(window);
+    player_.SetMainWindow(shown_.get());
+    shown_->show();
+    QCoreApplication::processEvents();
+  }
+
+  std::string Choose(MainWindow&, std::string_view command) override {
+    const std::vector<QMenu*> path = shown_->PathTo(std::string(command));
+    if (path.empty()) return "il menù non ha questo comando";
+    QMenuBar* bar = shown_->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(path[0]->menuAction()).center());
+    for (std::size_t i = 1; i < path.size(); ++i) {
+      path[i - 1]->setActiveAction(path[i]->menuAction());
+      QTest::keyClick(path[i - 1], Qt::Key_Right);
+      if (!path[i]->isVisible()) return "il menù non si apre";
+    }
+    ClickIn(*path.back(), shown_->CommandAction(std::string(command)));
+    QCoreApplication::processEvents();
+    return {};
+  }
+  void AskHelp(MainWindow& window) override {
+    Raise(window);
+    QWidget* front = QApplication::activeModalWidget();
+    QTest::keyClick(front == nullptr ? shown_.get() : front, Qt::Key_F1);
+  }
+
+ private:
+  ScriptedPlayer player_;
+  std::unique_ptr<MenuWindow> shown_;
+};
+
+}  // namespace
+
+void UseNoScreen() {
+  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+  // The scale that the user asks for makes the screen finer, not smaller.
+  const double scale = std::max(1.0, qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
+  static QTemporaryFile screen;
+  if (screen.open()) {
+    screen.write(QString(R"({"screens": [{"name": "", "x": 0, "y": 0, "width": %1, "height": %2,
+      "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                     .arg(qRound(1280 * scale))
+                     .arg(qRound(1024 * scale))
+                     .toUtf8());
+    screen.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
+  }
+  // What a platform without a screen cannot do is told at each window; all else goes out.
+  static QtMessageHandler before = nullptr;
+  before = qInstallMessageHandler(
+      [](QtMsgType type, const QMessageLogContext& place, const QString& text) {
+        if (!text.startsWith("This plugin does not support")) before(type, place, text);
+      });
+}
+
+StageBuilder DesktopStage(DesktopStageOptions options) {
+  return [options](Actor& actor, const WorkFolder& folder) {
+    return std::make_unique<WidgetStage>(actor, folder, options);
+  };
+}
+
+}  // namespace orm

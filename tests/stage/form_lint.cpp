@@ -1,0 +1,135 @@
+#include "tests/stage/form_lint.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "desktop/player/form_dialog.h"
+#include "desktop/qt_text.h"
+
+namespace orm {
+namespace {
+
+constexpr QSize kLeastScreen(1024, 768);
+using Faults = std::vector<std::string>;
+
+QRect PlaceOf(const QWidget& widget, const QWidget& window) {
+  return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+}
+
+void LintNames(const FormDialog& dialog, Faults& faults) {
+  std::set<std::string> seen;
+  for (const Control* control : dialog.Model().Controls()) {
+    const std::string& name = control->Name();
+    if (name.empty()) faults.push_back("un controllo senza nome");
+    if (!seen.insert(name).second) faults.push_back(name + ": nome doppio");
+    const QWidget* field = dialog.ViewOf(*control).Field();
+    const auto& placed = dialog.ReadingOrder();
+    if (std::find(placed.begin(), placed.end(), control) == placed.end())
+      faults.push_back(name + ": non ha posto nella finestra");
+    if (control->TakesFocus() && field->isVisible() && field->accessibleName().isEmpty())
+      faults.push_back(name + ": senza etichetta");
+  }
+}
+
+void LintOrder(const FormDialog& dialog, Faults& faults) {
+  const Control* before = nullptr;
+  for (const Control* control : dialog.ReadingOrder()) {
+    const QWidget* field = dialog.ViewOf(*control).Field();
+    if (!control->TakesFocus() || !field->isVisible()) continue;
+    if (before != nullptr) {
+      const QRect a = PlaceOf(*dialog.ViewOf(*before).Field(), dialog);
+      const QRect b = PlaceOf(*field, dialog);
+      // Beside each other in columns: the right column may begin above the left one's end.
+      const bool nextColumn = b.left() > a.right();
+      const bool below = b.top() >= a.bottom() - 2;
+      if (!below && !nextColumn)
+        faults.push_back(control->Name() + ": non sta dopo " + before->Name());
+    }
+    before = control;
+  }
+}
+
+void LintKeys(const FormDialog& dialog, Faults& faults) {
+  std::map<QString, std::string> keys;
+  int defaults = 0;
+  for (const Control* control : dialog.Model().Controls()) {
+    if (control->GetKind() != Control::Kind::Button) continue;
+    defaults += static_cast<const Button*>(control)->GetRole() == Button::Role::Default ? 1 : 0;
+    const QString key = QKeySequence::mnemonic(ToQt(control->Caption())).toString();
+    if (key.isEmpty() || !control->IsShown()) continue;
+    const auto [other, fresh] = keys.emplace(key, control->Name());
+    if (!fresh) faults.push_back(control->Name() + ": stesso tasto di " + other->second);
+  }
+  if (defaults > 1) faults.push_back("più pulsanti predefiniti");
+}
+
+// The least size in which the widget shows its text whole.
+QSize Needed(const QWidget& widget) {
+  if (const auto* label = dynamic_cast<const QLabel*>(&widget)) {
+    const int width = label->width();
+    if (label->wordWrap()) return {0, label->heightForWidth(width)};
+    return label->sizeHint();
+  }
+  if (const auto* group = dynamic_cast<const QGroupBox*>(&widget))
+    return {group->fontMetrics().horizontalAdvance(group->title()) + 16, 0};
+  if (dynamic_cast<const QAbstractButton*>(&widget) != nullptr) return widget.sizeHint();
+  if (const auto* line = dynamic_cast<const QLineEdit*>(&widget)) {
+    // Long texts scroll in their field; numbers must be seen whole.
+    const bool number = line->alignment() & Qt::AlignRight;
+    const QMargins frame = line->textMargins();
+    const int text = line->fontMetrics().horizontalAdvance(line->text());
+    return {number ? text + frame.left() + frame.right() + 8 : 0, line->minimumSizeHint().height()};
+  }
+  if (dynamic_cast<const QComboBox*>(&widget) != nullptr) return widget.minimumSizeHint();
+  return widget.minimumSizeHint();
+}
+
+void LintRoom(const FormDialog& dialog, Faults& faults) {
+  for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+    const bool ours = !widget->objectName().startsWith("qt_") && widget->isVisible() &&
+                      widget->objectName() != "avviso";
+    if (!ours || widget->window() != &dialog) continue;
+    const bool matters = dynamic_cast<const QLabel*>(widget) != nullptr ||
+                         dialog.Model().Find(FromQt(widget->objectName())) != nullptr;
+    if (!matters) continue;
+    std::string name = FromQt(widget->objectName());
+    if (const auto* label = dynamic_cast<const QLabel*>(widget))
+      name += "\"" + FromQt(label->text()) + "\"";
+    const QSize needed = Needed(*widget);
+    if (widget->width() < needed.width() || widget->height() < needed.height())
+      faults.push_back(name + ": tagliato, serve " + FromQt(QString::number(needed.width())) + "x" +
+                       FromQt(QString::number(needed.height())) + " e ha " +
+                       FromQt(QString::number(widget->width())) + "x" +
+                       FromQt(QString::number(widget->height())));
+    const QWidget* parent = widget->parentWidget();
+    if (!parent->rect().contains(widget->geometry()))
+      faults.push_back(name + ": esce dal suo riquadro");
+  }
+  const QSize whole = dialog.LeastSize() + FormDialog::kFrame;
+  if (whole.boundedTo(kLeastScreen) != whole)
+    faults.push_back("la finestra non sta nello schermo più piccolo: " +
+                     FromQt(QString("%1x%2").arg(whole.width()).arg(whole.height())));
+}
+
+}  // namespace
+
+std::vector<std::string> LintForm(const FormDialog& dialog) {
+  Faults faults;
+  LintNames(dialog, faults);
+  LintOrder(dialog, faults);
+  LintKeys(dialog, faults);
+  LintRoom(dialog, faults);
+  return faults;
+}
+
+}  // namespace orm

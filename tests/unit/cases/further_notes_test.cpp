@@ -1,0 +1,264 @@
+// The notes besides design and supervision: properties over random data of each case, the
+// conversion of their files, and the notes that no menu reaches against reports worked out apart.
+#include <regex>
+
+#include "cases/fee_case.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "tariff/files/case_files.h"
+#include "tariff/files/closing_line.h"
+#include "tests/unit/cases/note_test.h"
+#include "tests/unit/cases/random_notes.h"
+
+namespace orm {
+namespace {
+
+template <class Dati>
+std::string Bytes(Dati dati, Chiusura chiusura) {
+  DataWriter file;
+  Campi(file, dati);
+  CampiChiusura(file, chiusura);
+  return file.Bytes();
+}
+
+// A case, its random data, and the bytes that reading and writing them again gives.
+struct Prova {
+  const char* codice;
+  std::string (*bytes)(CasoNote&, const Chiusura&);
+  std::string (*riletti)(const WorkFolder&, const std::string&);
+};
+
+template <class Dati>
+std::string Rileggi(const WorkFolder& folder, const std::string& file) {
+  Dati dati;
+  Chiusura chiusura;
+  LeggiFileDati(folder, file, dati, chiusura);
+  return Bytes(dati, chiusura);
+}
+
+const Prova kProve[] = {
+    {"STC", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Stc(), k); }, Rileggi<DatiStc>},
+    {"AGP", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Agp(), k); }, Rileggi<DatiAgp>},
+    {"CS1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(true), k); }, Rileggi<DatiCos>},
+    {"CS2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(false), k); },
+     Rileggi<DatiCos>},
+    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); }, Rileggi<DatiGeo>},
+    {"SC1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc1), k); },
+     Rileggi<DatiSic>},
+    {"SC2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc2), k); },
+     Rileggi<DatiSic>}};
+
+constexpr unsigned kNote = 40;
+
+class AltreNote : public NoteTest {
+ protected:
+  AltreNote() {
+    for (const char* file : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "IND.CFG"})
+      stato.folder.Replace(file, WorkFolder(ORM_SOURCE_DIR "/data").Read(file));
+  }
+
+  void Prepara(const char* codice, const std::string& bytes) {
+    const NomiFile nomi = NomiDiCaso(codice, stato.ModoLire);
+    stato.CasoDiParcella = codice;
+    stato.FileInp = nomi.FileInp;
+    stato.FileInt = nomi.FileInt;
+    stato.folder.Replace(nomi.FileInp, bytes, Durability::Remakeable);
+    stato.folder.Replace(nomi.FileInt, stato.folder.Read("INT.DAP"), Durability::Remakeable);
+  }
+
+  void Calcola(const char* codice) {
+    stato.NumFileUscita = ReportPrinter();
+    FindFeeCase(codice)->calcolo(stato);
+  }
+
+  void CriteriA(CasoNote& caso) {
+    stato.criteri.TipoPercentualeCompensi = caso.Fra({"CALCOLATA", "NUOVA TARIFFA", "ASSEGNATA"});
+    stato.criteri.PercCompensiAssegnata = caso.Fino(61);
+    stato.criteri.AliquoteDirezioneLavori = caso.Fra({"UNITE", "SEPARATE"});
+    stato.criteri.CompensiSuMaggiorazione = caso.Fra({"SI", "NO"});
+    stato.ModoLire = caso.Uno(2);
+  }
+};
+
+// The fees printed before the totals and the total, in hundredths. A fee ends a line in a field of
+// 14 characters, an amount of works in one of 16; the cost of tests is neither.
+std::pair<long long, long long> OnorariETotale(const std::string& report) {
+  static const std::regex onorario("(?:L\\. |€)([ ]*-?[0-9.]+(?:,[0-9]+)?)$");
+  long long onorari = 0;
+  for (std::size_t da = 0, a = 0; da < report.size(); da = a + 1) {
+    a = report.find('\n', da);
+    const std::string riga = report.substr(da, a - da);
+    std::smatch m;
+    if (!std::regex_search(riga, m, onorario) || m[1].length() != 14) continue;
+    if (riga.starts_with("TOTALE (Onorari")) return {onorari, Centesimi(riga)};
+    if (!riga.starts_with("Per ") && !riga.starts_with("geotecniche")) onorari += Centesimi(riga);
+  }
+  return {onorari, -1};
+}
+
+TEST_F(AltreNote, PrintedFeesAddUp) {
+  for (const Prova& prova : kProve)
+    for (unsigned seme = 0; seme < kNote; ++seme) {
+      CasoNote criteri(seme, true);
+      CriteriA(criteri);
+      CasoNote caso(seme, stato.ModoLire);
+      const std::string bytes = prova.bytes(caso, {});
+      Prepara(prova.codice, bytes);
+      ASSERT_NO_THROW(Calcola(prova.codice)) << prova.codice << ' ' << seme << '\n' << bytes;
+      const auto [onorari, totale] = OnorariETotale(Report());
+      ASSERT_NEAR(static_cast<double>(onorari), static_cast<double>(totale), stato.ModoLire ? 0 : 1)
+          << prova.codice << ' ' << seme << '\n'
+          << Report();
+    }
+}
+
+TEST_F(AltreNote, ReadingAndWritingChangesNoByte) {
+  for (const Prova& prova : kProve)
+    for (unsigned seme = 0; seme < kNote; ++seme) {
+      CasoNote caso(seme, seme % 2 == 0);
+      const std::string bytes = prova.bytes(caso, {12.5, 1000, "CONCORDATA", 3});
+      Prepara(prova.codice, bytes);
+      ASSERT_EQ(prova.riletti(stato.folder, stato.FileInp), bytes) << prova.codice << ' ' << seme;
+    }
+}
+
+TEST_F(AltreNote, CutFileIsAFailure) {
+  stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
+  for (const Prova& prova : kProve) {
+    CasoNote caso(11, true);
+    const std::string intero = prova.bytes(caso, {});
+    for (std::size_t n = 0; n < intero.size() - 3; n += 1 + n % 29) {
+      Prepara(prova.codice, intero.substr(0, n));
+      ASSERT_THROW(Calcola(prova.codice), RuntimeFailure) << prova.codice << ' ' << n;
+    }
+  }
+}
+
+// Whatever bytes are changed, in the data or in the tariff files, there is a report or a message.
+TEST_F(AltreNote, DamagedFileIsReadOrRefused) {
+  std::mt19937 motore(5);
+  for (const Prova& prova : kProve)
+    for (unsigned giro = 0; giro < 40; ++giro) {
+      CasoNote caso(giro % 20, true);
+      Prepara(prova.codice, prova.bytes(caso, {}));
+      const std::string codice = prova.codice;
+      const std::string tariffa = codice == "STC" ? "IND.CFG" : codice + ".CFG";
+      const bool nellaTariffa = giro % 2 == 0 && stato.folder.Exists(tariffa);
+      const std::string file = nellaTariffa ? tariffa : stato.FileInp;
+      const std::string intero = stato.folder.Read(file);
+      std::string bytes = intero;
+      for (int k = 0; k < 3; ++k)
+        bytes[motore() % bytes.size()] = "0123456789\",-.+aTxE\r\n"[motore() % 21];
+      stato.folder.Replace(file, bytes, Durability::Remakeable);
+      try {
+        Calcola(prova.codice);
+      } catch (const RuntimeFailure&) {
+      }
+      stato.folder.Replace(file, intero, Durability::Remakeable);
+    }
+}
+
+// The Lire file stays, the Euro file is the same each time, and the converted note calculates.
+TEST_F(AltreNote, ConversionCopiesAndTheCopyCalculates) {
+  for (const Prova& prova : kProve)
+    for (unsigned seme = 0; seme < 8; ++seme) {
+      stato.ModoLire = true;
+      CasoNote caso(seme, true);
+      const std::string lire = prova.bytes(caso, {10, 1000000, "", 2});
+      Prepara(prova.codice, lire);
+      const NomiFile euro = NomiDiCaso(prova.codice, false);
+      FindFeeCase(prova.codice)->converti(stato.folder, prova.codice);
+      const std::string prima = stato.folder.Read(euro.FileInp);
+      FindFeeCase(prova.codice)->converti(stato.folder, prova.codice);
+      ASSERT_EQ(stato.folder.Read(euro.FileInp), prima);
+      ASSERT_EQ(stato.folder.Read(stato.FileInp), lire);
+      ASSERT_EQ(stato.folder.Read(euro.FileInt), stato.folder.Read("INT.DAP"));
+      ASSERT_TRUE(prima.ends_with("10,516.46,\"\",2\r\n")) << prima;
+      stato.ModoLire = false;
+      stato.FileInp = euro.FileInp;
+      ASSERT_NO_THROW(Calcola(prova.codice)) << prova.codice << ' ' << seme << '\n' << prima;
+    }
+}
+
+// A damaged note in Lire leaves both Euro files as they were.
+TEST_F(AltreNote, DamagedNoteIsNotConverted) {
+  stato.folder.Replace("INT_AGP_E.DAP", "prima");
+  stato.folder.Replace("INP_AGP_E.DAP", "prima");
+  Prepara("AGP", "\"NUOVE ANALISI\",\"NO\",\"5\",1\r\n\"1\",\"a\",1\r\n");
+  EXPECT_THROW(FindFeeCase("AGP")->converti(stato.folder, "AGP"), RuntimeFailure);
+  stato.folder.Replace("INP_AGP.DAP", "\"NUOVE ANALISI\",\"NO\",\"5\",0\r\n0,0,\"\",1\r\n");
+  stato.folder.Remove("INT_AGP.DAP");
+  EXPECT_THROW(FindFeeCase("AGP")->converti(stato.folder, "AGP"), RuntimeFailure);
+  EXPECT_EQ(stato.folder.Read("INT_AGP_E.DAP"), "prima");
+  EXPECT_EQ(stato.folder.Read("INP_AGP_E.DAP"), "prima");
+}
+
+// The notes in Euro of the versions that the menus leave out.
+class SenzaMenu : public AltreNote {
+ protected:
+  void Confronta(const char* codice, const std::string& nota) {
+    std::string cartella = ORM_SOURCE_DIR "/tests/scripts/";
+    cartella += codice[0] == 'C' ? "cs2" : "sc2";
+    const WorkFolder attesi(cartella);
+    stato.folder.Replace("UTENTE.DAG", attesi.Read("UTENTE.DAG"));
+    stato.folder.Replace("INT.DAP", attesi.Read("INT.DAP"));
+    Prepara(codice, attesi.Read(nota + "_INP.DAP"));
+    Calcola(codice);
+    stato.NumFileUscita.Save(stato.folder, "OUT.DOC");
+    EXPECT_EQ(FromWindows1252(stato.folder.Read("OUT.DOC")),
+              FromWindows1252(attesi.Read(nota + ".DOC")));
+  }
+};
+
+TEST_F(SenzaMenu, StaticTestingByTheTablesOf2001) {
+  Confronta("CS2", "lire");
+  stato.ModoLire = false;
+  stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
+  Confronta("CS2", "euro");
+}
+
+TEST_F(SenzaMenu, SiteSafetyOf2001InEuro) {
+  stato.ModoLire = false;
+  Confronta("SC2", "incrementi_euro");
+  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  Confronta("SC2", "interrotta_euro");
+}
+
+// The greatest amounts of the dialogs still fit the columns, with the dearest of everything.
+TEST_F(AltreNote, GreatestAmountsOfTheDialogsFit) {
+  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  stato.criteri.PercCompensiAssegnata = 60;
+  for (const bool lire : {true, false}) {
+    stato.ModoLire = lire;
+    const double massimo = lire ? 99999999999.0 : 99999999.99;
+    DatiStc stc{99999999, 99999, 99999, 99999999, 99999999, 2013, 12, 0.25};
+    DatiAgp agp{"NUOVE ANALISI", "SI", "5", {{"1", "e", massimo}}};
+    DatiCos cos;
+    cos.ImportoTotaleCS = cos.ImportoCS[4] = massimo;
+    cos.Maggiorazione.fill(100);
+    cos.RevisioneCalcoli = "SI";
+    for (int i = 1; i <= 4; ++i) {
+      cos.Lotti.push_back({static_cast<std::int16_t>(5 * i), {1, 2, 3, 4, 5}});
+      for (const char* periodo : {"1", "2", "3", "4", "5"})
+        cos.Righe.push_back({"1", "e", periodo, massimo});
+    }
+    DatiGeo geo;
+    geo.MaggiorazioneParziale = "SI";
+    geo.Gruppi = {{1, {5}}};
+    geo.Righe = {{"4", "5", massimo, massimo, "T", "a+b+c+d+e+f"}};
+    geo.CostoIndagini = massimo;
+    DatiSic sic;
+    sic.Gruppi = {{1, {5}}};
+    sic.Lotti = {{"1", "e", "5", massimo, massimo, "11111", std::string(25, '1'), "111111"}};
+    for (const auto& [codice, bytes] :
+         {std::pair{"STC", Bytes(stc, {})}, std::pair{"AGP", Bytes(agp, {})},
+          std::pair{"CS1", Bytes(cos, {})}, std::pair{"GEO", Bytes(geo, {})},
+          std::pair{"SC1", Bytes(sic, {})}}) {
+      Prepara(codice, bytes);
+      EXPECT_NO_THROW(Calcola(codice)) << codice;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orm

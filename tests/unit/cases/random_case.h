@@ -1,0 +1,184 @@
+// Random but valid notes of the cases with lots, and what a report of theirs says, for properties
+// that hold whatever the figures.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "cases/esl/data.h"
+#include "cases/pdl/data.h"
+
+namespace orm {
+
+class Caso {
+ public:
+  Caso(unsigned seme, bool modoLire) : motore_(seme), lire_(modoLire) {}
+
+  int Fino(int n) { return static_cast<int>(motore_() % static_cast<unsigned>(n)); }
+  bool Uno(int su) { return Fino(su) == 0; }
+  template <class T>
+  T Fra(std::initializer_list<T> scelte) {
+    return *(scelte.begin() + Fino(static_cast<int>(scelte.size())));
+  }
+  // Of any size that a dialog takes, in the currency of the note.
+  double Importo() {
+    const double grandezza = std::pow(10.0, Fino(lire_ ? 10 : 7));
+    const double importo = grandezza * (1 + Fino(899) / 100.0);
+    return lire_ ? std::floor(importo) : std::floor(importo * 100) / 100;
+  }
+  double ImportoONulla(int su = 3) { return Uno(su) ? 0 : Importo(); }
+  double ConSegno() { return Uno(5) ? -Importo() : ImportoONulla(5); }
+  std::string Alcune(std::initializer_list<const char*> codici) {
+    std::string testo;
+    for (const char* codice : codici)
+      if (Fino(2) != 0) testo += (testo.empty() ? "" : "+") + std::string(codice);
+    return testo;
+  }
+  void Classe(std::string& classe, std::string& categoria) {
+    classe = std::string(1, static_cast<char>('1' + Fino(9)));
+    const std::string ultime = "gccc bc c";
+    const char ultima = ultime[static_cast<std::size_t>(classe[0] - '1')];
+    categoria =
+        ultima == ' ' ? "" : std::string(1, static_cast<char>('a' + Fino(ultima - 'a' + 1)));
+  }
+
+  DatiEsl Esl() {
+    DatiEsl d;
+    d.TipoParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"});
+    d.CertificatoRegolare = Fra({"SI", "NO"});
+    int contabilita = 0;
+    for (int n = Fino(21); n > 0; --n) {
+      LottoEsl& l = d.Lotti.emplace_back();
+      Classe(l.Classe, l.Categoria);
+      l.ImportoProgettazione = ConSegno();
+      l.ImportoDirezioneLavori = ConSegno();
+      l.PrestazioniBase = Alcune({"a", "b", "c", "d", "e", "f", "g", "h", "i", "l", "l1"});
+      l.PrestazioniIntegrative = Alcune({"m", "n", "o1", "o2", "o3", "o4", "o5", "p", "q", "r1",
+                                         "r2", "r3", "r4", "s", "l2", "l3", "l4"});
+      l.NumeroAddetti = static_cast<std::int16_t>(Fino(5));
+      if (contabilita < 10 && Uno(2)) {
+        ++contabilita;
+        l.MisureContabilita = "SI";
+        l.CoefficienteContabilita = Fra({0.7, 1.0, 1.1, 1.2, 1.4});
+      }
+    }
+    return d;
+  }
+
+  DatiPdl Pdl() {
+    DatiPdl d;
+    d.TipoParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"});
+    d.IncaricoParziale = Fra({"SI", "NO"});
+    d.CertificatoRegolare = Fra({"SI", "NO"});
+    d.PeriodoMassimo = Fra({"1", "3", "5"});
+    int contabilita = 0;
+    for (int n = Fino(9); n > 0 && d.Righe.size() < 15; --n) {
+      LottoARighe& lotto = d.Lotti.emplace_back();
+      RigaPdl modello;
+      Classe(modello.Classe, modello.Categoria);
+      for (int periodo = 1; periodo <= 5; ++periodo)
+        if (Uno(2)) {
+          lotto.PeriodoDelLotto.push_back(static_cast<std::int16_t>(periodo));
+          modello.PeriodoTariffario = std::string(1, static_cast<char>('0' + periodo));
+          d.Righe.push_back(Riga(modello, contabilita));
+        }
+      lotto.UltimaRiga = static_cast<std::int16_t>(d.Righe.size());
+    }
+    return d;
+  }
+
+ private:
+  RigaPdl Riga(RigaPdl r, int& contabilita) {
+    r.ImportoProgetto = ConSegno();
+    r.ImportoEspropri = ImportoONulla(2);
+    r.ImportoSuppletivi = ImportoONulla(2);
+    r.ImportoEsproPerizie = ImportoONulla(2);
+    r.ImportoDirezione = ConSegno();
+    r.TipoPrestazione = Fra({"T", "P"});
+    if (r.TipoPrestazione == "P")
+      r.Prestazioni = Alcune({"a", "b", "c", "d", "e", "f", "g", "h", "i", "l"});
+    r.FlagSorveglianza = Fra({"S", "N"});
+    r.FlagContabilita = contabilita < 10 ? Fra({"S", "N"}) : "N";
+    if (r.FlagContabilita == "S") {
+      ++contabilita;
+      r.FlagRevisione = Fra({"S", "N"});
+      r.CoefficienteContabilita = Fra({0.7, 1.0, 1.1});
+    }
+    r.FlagPerizie = Fra({"S", "N"});
+    r.NumeroPerizie = static_cast<std::int16_t>(r.FlagPerizie == "S" ? Fino(4) : 0);
+    for (PeriziaPdl& p : r.Perizie) {
+      p.LavoriSuppletivi = ImportoONulla();
+      p.LavoriVariati = ImportoONulla();
+      p.EsproPerizia = ImportoONulla();
+      p.TipoPrestazioneVariati = Fra({"T", "P"});
+      if (p.TipoPrestazioneVariati == "P")
+        p.PrestazioniVariati = Alcune({"a", "b", "c", "d", "e", "f"});
+    }
+    return r;
+  }
+
+  std::mt19937 motore_;
+  bool lire_;
+};
+
+// The printed fees of a report: those of the lines that belong to an entry of the summary, the
+// entries of the summary, and the total, in hundredths.
+struct Stampato {
+  std::map<std::string, long long> righe, riepilogo;
+  long long totale = 0;
+};
+
+inline long long Centesimi(const std::string& riga) {
+  long long centesimi = 0;
+  bool virgola = false, negativo = false;
+  int decimali = 0;
+  for (std::size_t i = riga.find_last_of(' ') + 1; i < riga.size(); ++i) {
+    if (riga[i] == '-') negativo = true;
+    if (riga[i] == ',') virgola = true;
+    if (riga[i] < '0' || riga[i] > '9') continue;
+    centesimi = centesimi * 10 + (riga[i] - '0');
+    decimali += virgola;
+  }
+  for (; decimali < 2; ++decimali) centesimi *= 10;
+  return negativo ? -centesimi : centesimi;
+}
+
+inline Stampato LeggiStampato(const std::string& report) {
+  static const std::vector<std::pair<const char*, const char*>> kTitoli = {
+      {"PROGETT", "PROGETTAZIONE"},
+      {"PERIZIA DI", "PROGETTAZIONE"},
+      {"DIREZIONE LAVORI", "DIREZIONE LAVORI"},
+      {"PROVE DI OFFICINA", "DIREZIONE LAVORI"},
+      {"ASSISTENZA AL", "DIREZIONE LAVORI"},
+      {"LIQUIDAZIONE", "DIREZIONE LAVORI"},
+      {"SORVEGLIANZA", "SORVEGLIANZA"},
+      {"MISURE E CONT", "MISURE E CONTABILITÀ"},
+      {"CALCOLO COMPENSO", "REVISIONE PREZZI"},
+      {"CERTIFICATO", "CERTIFICATO REGOLARE ESECUZIONE"}};
+  Stampato stampato;
+  std::string voce;
+  for (std::size_t da = 0, a = 0; da < report.size(); da = a + 1) {
+    a = std::min(report.find('\n', da), report.size());
+    const std::string riga = report.substr(da, a - da);
+    for (const auto& [inizio, nome] : kTitoli)
+      if (riga.starts_with(inizio)) voce = nome;
+    const bool importo =
+        riga.find("L. ") != std::string::npos || riga.find("€") != std::string::npos;
+    const bool formula =
+        riga.find("(Tab. A)") == std::string::npos &&
+        (riga.find('=') != std::string::npos || riga.find("% x ") != std::string::npos);
+    if (importo && riga.starts_with("Per "))
+      stampato.riepilogo[riga.substr(4, riga.find("  ") - 4)] = Centesimi(riga);
+    else if (importo && riga.starts_with("TOTALE (Onorari"))
+      stampato.totale = Centesimi(riga);
+    else if (importo && formula && !voce.empty())
+      stampato.righe[voce] += Centesimi(riga);
+  }
+  return stampato;
+}
+
+}  // namespace orm

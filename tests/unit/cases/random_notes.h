@@ -1,0 +1,119 @@
+// Random but valid data of the cases besides design and supervision.
+#pragma once
+
+#include "cases/agp/data.h"
+#include "cases/cos/data.h"
+#include "cases/geo/data.h"
+#include "cases/sic/data.h"
+#include "cases/stc/data.h"
+#include "tariff/law/table_site_safety.h"
+#include "tests/unit/cases/random_case.h"
+
+namespace orm {
+
+class CasoNote : public Caso {
+ public:
+  using Caso::Caso;
+
+  DatiStc Stc() {
+    const auto fino = [this](int n) { return Uno(4) ? 0 : Fino(Uno(2) ? n : 12000); };
+    return {.Superficie = fino(99999999),
+            .NumeroPartite = fino(99999),
+            .NumeroMappali = fino(99999),
+            .VolumeAbitazioni = fino(99999999),
+            .SuperficieAgricola = fino(99999999),
+            .AnnoPrestazione = static_cast<std::int16_t>(1993 + Fino(21)),
+            .MesePrestazione = static_cast<std::int16_t>(1 + Fino(12)),
+            .Maggiorazione = Uno(2) ? 0.25 : 0};
+  }
+
+  DatiAgp Agp() {
+    DatiAgp d;
+    d.TipoDiAggiornamento = Fra({"SEMPLICE AGGIORNAMENTO", "NUOVE ANALISI"});
+    d.EsecutoreDellAggiornamento = Fra({"SI", "NO"});
+    d.PeriodoTariffario = Fra({"1", "2", "3", "4", "5"});
+    for (int n = Fino(21); n > 0; --n) {
+      LottoAgp& l = d.Lotti.emplace_back();
+      Classe(l.Classe, l.Categoria);
+      l.Importo = Importo();
+    }
+    return d;
+  }
+
+  DatiCos Cos(bool conPeriodi) {
+    DatiCos d;
+    for (double& importo : d.ImportoCS) d.ImportoTotaleCS += importo = ImportoONulla(2);
+    for (double& m : d.Maggiorazione) m = Uno(2) ? 0 : (Fino(20001) - 10000) / 100.0;
+    d.RevisioneCalcoli = Fra({"SI", "NO"});
+    RigaCos modello;
+    Righe(d.Lotti, d.Righe, conPeriodi ? 5 : 0, [&](int periodo, bool nuovo) {
+      if (nuovo) Classe(modello.Classe, modello.Categoria);
+      modello.Periodo = periodo == 0 ? "" : std::string(1, static_cast<char>('0' + periodo));
+      modello.ImportoVerificato = ImportoONulla(5);
+      return modello;
+    });
+    return d;
+  }
+
+  DatiGeo Geo() {
+    DatiGeo d;
+    d.TipoDiParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"});
+    d.MaggiorazioneParziale = Fra({"SI", "NO"});
+    d.CostoIndagini = ImportoONulla(2);
+    RigaGeo modello;
+    Righe(d.Gruppi, d.Righe, 5, [&](int periodo, bool nuovo) {
+      if (nuovo) modello.Sottoclasse = Fra({"1", "2", "3", "4"});
+      modello.Tariffa = std::string(1, static_cast<char>('0' + periodo));
+      modello.ImportoProgetto = ConSegno();
+      modello.ImportoDirezione = ConSegno();
+      modello.TipoDiPrestazione = Fra({"T", "P"});
+      modello.StringaDellePrestazioni =
+          modello.TipoDiPrestazione == "T" ? "a+b+c+d+e+f" : Alcune({"a", "b", "c", "d", "e", "f"});
+      return modello;
+    });
+    return d;
+  }
+
+  DatiSic Sic(const VersioneSic& versione) {
+    DatiSic d;
+    d.TipoDiParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA"});
+    for (int n = Fino(21); n > 0; --n) {
+      LottoSic& l = d.Lotti.emplace_back();
+      Classe(l.Classe, l.Categoria);
+      l.Tariffa = versione.SC2 ? "6" : "5";
+      l.ImportoProgetto = Uno(5) ? -Importo() : Importo();
+      // Least fees go by the part of the works done: a thousand times the design has no column.
+      l.ImportoEsecuzione = std::min(ImportoONulla(5), std::fabs(l.ImportoProgetto) * 100);
+      l.StringaPrestazioni = Segni(5);
+      l.StringaMaggiorazioni = Segni(5 * versione.maggiorazioni.size());
+      l.StringaIncrementi = Segni(6);
+      d.Gruppi.push_back({static_cast<std::int16_t>(d.Lotti.size()),
+                          {static_cast<std::int16_t>(versione.periodo)}});
+    }
+    return d;
+  }
+
+ private:
+  std::string Segni(std::size_t n) {
+    std::string segni(n, '0');
+    for (char& c : segni) c = Fra({'0', '1'});
+    return segni;
+  }
+
+  // Lots of rows in rising periods; without periods a row for each lot.
+  template <class Riga, class Nuova>
+  void Righe(std::vector<LottoARighe>& lotti, std::vector<Riga>& righe, int periodi,
+             Nuova&& nuova) {
+    for (int n = Fino(5); n > 0 && righe.size() < 15; --n) {
+      LottoARighe& lotto = lotti.emplace_back();
+      for (int periodo = periodi == 0 ? 0 : 1; periodo <= periodi; ++periodo)
+        if (periodi == 0 || Uno(2)) {
+          righe.push_back(nuova(periodo, lotto.PeriodoDelLotto.empty()));
+          lotto.PeriodoDelLotto.push_back(static_cast<std::int16_t>(periodo));
+        }
+      lotto.UltimaRiga = static_cast<std::int16_t>(righe.size());
+    }
+  }
+};
+
+}  // namespace orm

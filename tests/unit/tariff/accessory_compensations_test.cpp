@@ -1,0 +1,185 @@
+// Accessory compensations: the percentages of each criterion and their block in the report.
+#include "tariff/accessory_compensations.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/failure.h"
+#include "tests/unit/cases/note_test.h"
+
+namespace orm {
+namespace {
+
+class Compensations : public NoteTest {
+ protected:
+  Compensations() {
+    stato.folder.Replace("CAC.CFG",
+                         "2,\"prova\"\r\n100000000,30,\"Lire\"\r\n200000000,20,\"Lire\"\r\n");
+  }
+
+  double Cfg(double importo) {
+    double percentuale = -1;
+    PercCompensiAccessoriCfg(stato.folder, importo, percentuale);
+    return percentuale;
+  }
+
+  std::string FailureOf(const std::string& file) {
+    stato.folder.Replace("CAC.CFG", file);
+    try {
+      Cfg(1000);
+    } catch (const RuntimeFailure& failure) {
+      return failure.Text();
+    }
+    return "";
+  }
+
+  void Calcola(double importo, ModoCompensi modo = ModoCompensi::Stampa) {
+    CompensiAccessori(stato, importo, modo, Coefficiente, StringaCoefficiente);
+  }
+
+  double Coefficiente = -1;
+  std::string StringaCoefficiente = "?";
+};
+
+TEST_F(Compensations, StepsOfTheFile) {
+  EXPECT_EQ(Cfg(150000000), 25);
+  EXPECT_EQ(Cfg(100000000), 30);
+  EXPECT_EQ(Cfg(1), 30);
+  EXPECT_EQ(Cfg(200000000), 20);
+  EXPECT_EQ(Cfg(900000000), 20);
+  EXPECT_EQ(Cfg(0), 0);
+  EXPECT_EQ(Cfg(-5), 30);
+}
+
+TEST_F(Compensations, OneStepAndThirtySteps) {
+  stato.folder.Replace("CAC.CFG", "1,\"\"\r\n100,40,\"\"\r\n");
+  EXPECT_EQ(Cfg(50), 40);
+  EXPECT_EQ(Cfg(500), 40);
+  std::string file = "30,\"\"\r\n";
+  for (int i = 1; i <= 30; ++i)
+    file += std::to_string(i * 10) + "," + std::to_string(60 - i) + ",\"\"\r\n";
+  stato.folder.Replace("CAC.CFG", file);
+  EXPECT_EQ(Cfg(295), 30.5);
+  EXPECT_EQ(Cfg(301), 30);
+}
+
+TEST_F(Compensations, DamagedFiles) {
+  EXPECT_EQ(FailureOf("31,\"\"\r\n"),
+            "Il numero di elementi deve essere fra 0 e 30.\nFile : CAC.CFG\nRiga : 1\n"
+            "Campo : numero degli scaglioni");
+  EXPECT_EQ(FailureOf("0,\"\"\r\n"),
+            "Gli scaglioni devono essere almeno uno.\nFile : CAC.CFG\nRiga : 1\n"
+            "Campo : numero degli scaglioni");
+  EXPECT_EQ(
+      FailureOf("2,\"\"\r\n100,30,\"\"\r\n200"),
+      "Il file finisce prima di questo campo.\nFile : CAC.CFG\nRiga : 3\nCampo : percentuale");
+  EXPECT_EQ(FailureOf("2,\"\"\r\n200,30,\"\"\r\n100,20,\"\"\r\n"),
+            "Gli importi degli scaglioni devono essere crescenti.\nFile : CAC.CFG\nRiga : 3\n"
+            "Campo : importo");
+  stato.folder.Remove("CAC.CFG");
+  EXPECT_THROW(Cfg(1000), RuntimeFailure);
+}
+
+TEST_F(Compensations, NewTariff) {
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(1000), 30);
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(50000000), 30);
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(50000000.5), 0);
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(50000001), 30);
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(100000000000), 15);
+  EXPECT_EQ(PercCompensiNuovaTariffaLire(100000000001), 15);
+  EXPECT_NEAR(PercCompensiNuovaTariffaLire(50025000000.5), 22.5, 1e-9);
+  EXPECT_EQ(PercCompensiNuovaTariffaEuro(25822.84), 30);
+  EXPECT_EQ(PercCompensiNuovaTariffaEuro(25822.845), 0);
+  EXPECT_EQ(PercCompensiNuovaTariffaEuro(25822.85), 30);
+  EXPECT_EQ(PercCompensiNuovaTariffaEuro(51645689.92), 15);
+  EXPECT_NEAR(PercCompensiNuovaTariffaEuro(25835756.38), 22.5, 1e-9);
+}
+
+TEST_F(Compensations, ByTheFileInLire) {
+  Calcola(123456789);
+  EXPECT_EQ(Coefficiente, 1.27654321);  // 30 - 10 * 0,23456789 = 27,6543211, cut to 6 decimals
+  EXPECT_EQ(StringaCoefficiente, " x 1,27654321");
+  EXPECT_EQ(Report(), Page(R"(
+=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
+Percentuale : 27,654321% su                    L.      123.456.789|
+)"));
+}
+
+TEST_F(Compensations, ByTheFileInEuroWithDecimalsOfTheCriteria) {
+  stato.ModoLire = false;
+  stato.criteri.DecimaliCompensi = 2;
+  Calcola(123456789);
+  EXPECT_EQ(Coefficiente, 1.2765);
+  EXPECT_EQ(StringaCoefficiente, " x 1,2765");
+  EXPECT_EQ(Report(), Page(R"(
+=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
+Percentuale : 27,65% su                        €       63.760,11|
+)"));
+}
+
+TEST_F(Compensations, NewTariffIsReckonedInLireInBothModes) {
+  stato.ModoLire = false;
+  stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
+  Calcola(40000000);
+  EXPECT_EQ(Coefficiente, 1.3);
+  EXPECT_EQ(StringaCoefficiente, " x 1,3");
+  EXPECT_EQ(Report(), Page(R"(
+=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
+Percentuale : 30% su                           €       20.658,28|
+)"));
+}
+
+TEST_F(Compensations, GivenPercentageStandsAsAPlainNumber) {
+  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  stato.criteri.PercCompensiAssegnata = 12.5;
+  Calcola(1000000);
+  EXPECT_EQ(Coefficiente, 1.125);
+  EXPECT_EQ(StringaCoefficiente, " x 1.125");
+  EXPECT_EQ(Report(), Page(R"(
+=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
+Percentuale : 12.5%|
+)"));
+}
+
+TEST_F(Compensations, NothingPrintsNothing) {
+  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  Calcola(1000000);
+  EXPECT_EQ(Coefficiente, 1);
+  EXPECT_EQ(StringaCoefficiente, "");
+  stato.criteri.TipoPercentualeCompensi = "CALCOLATA";
+  Calcola(1000000, ModoCompensi::SoloCalcolo);
+  EXPECT_EQ(Coefficiente, 1.3);
+  Calcola(1000000, ModoCompensi::Nessuno);
+  EXPECT_EQ(Coefficiente, 1);
+  EXPECT_EQ(StringaCoefficiente, "");
+  Calcola(0);
+  EXPECT_EQ(Coefficiente, 0);
+  EXPECT_EQ(StringaCoefficiente, "");
+  EXPECT_EQ(Report(), "");
+}
+
+TEST_F(Compensations, OfTheRegionByAmountAndResidence) {
+  stato.criteri.TipoPercentualeCompensi = "CALABRIA";
+  struct {
+    double importo;
+    const char* fuori;
+    const char* oltre;
+    const char* entro;
+  } rows[] = {{1500000000, " x 1.6", " x 1.6", " x 1.6"},
+              {1500000001, " x 1.6", " x 1.45", " x 1.45"},
+              {3000000000, " x 1.6", " x 1.45", " x 1.45"},
+              {3000000001, " x 1.6", " x 1.45", " x 1.3"}};
+  for (const auto& row : rows) {
+    stato.criteri.ResidenzaCollaudatore = "FUORIREGIONE";
+    Calcola(row.importo);
+    EXPECT_EQ(StringaCoefficiente, row.fuori);
+    stato.criteri.ResidenzaCollaudatore = "OLTRE100KM";
+    Calcola(row.importo);
+    EXPECT_EQ(StringaCoefficiente, row.oltre);
+    stato.criteri.ResidenzaCollaudatore = "ENTRO100KM";
+    Calcola(row.importo);
+    EXPECT_EQ(StringaCoefficiente, row.entro);
+  }
+}
+
+}  // namespace
+}  // namespace orm

@@ -1,0 +1,318 @@
+// The final account: whole reports, worked out apart and read line by line.
+#include "tariff/final_account.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <random>
+
+#include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "tariff/money.h"
+#include "tariff/report.h"
+#include "tests/unit/cases/note_test.h"
+
+namespace orm {
+namespace {
+
+using FinalAccount = NoteTest;
+
+// clang-format off
+TEST_F(FinalAccount, LirePlain) {
+  ChiudiParcella(stato, 1000000.9, 0.9);  // fractions of a Lira are dropped each on its own
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            L.      1.000.000|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L.      1.000.000|
+ed in EURO                                                        516,46|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+)"));
+}
+
+TEST_F(FinalAccount, LireWithEverything) {
+  stato.chiusura = {7.5, 100000, "", 1};
+  Criteri& criteri = stato.criteri;
+  criteri.StampaParere = criteri.StampaSpeseAggiuntive = "SI";
+  criteri.SpesaInarcassa = criteri.SpesaInps = criteri.SpesaIva = criteri.SpesaTassaParere = "SI";
+  criteri.QuotaFissaParere = 50;
+  criteri.QuotaPercentualeParere = 1.5;
+  criteri.PresidenteOrdine = "Dott. Ing. Carlo Bianchi";
+  ChiudiParcella(stato, 3000000, 1200000);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            L.      4.200.000|
+Rid. del 7,5% Art.4 comma 12bis L. 155/89              L.        315.000|
+TOTALE RIDOTTO                                         L.      3.885.000|
+a detrarre ACCONTI                                     L.        100.000|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L.      3.785.000|
+ed in EURO                                                      1.954,79|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+|
+|
+========================================================================|
+ALTRE SPESE PER IL COMMITTENTE|
+Contributo INARCASSA 2%                                L.          39,09|
+Contributo INPS 4%                                     L.          78,19|
+I.V.A. 20%                                             L.         414,41|
+Tassa Rilascio Parere                                  L.          79,32|
+     Totale onere finanziario Committente              L.       2.565,80|
+========================================================================|
+|
+|
+                    Il Consiglio dell'Ordine degli INGEGNERI              |
+                        della Provincia di COSENZA|
+                               vista l'istanza del                        |
+              Dott. Ing. Mario Rossi|
+                                   ESPRIME PARERE                         |
+              che i compensi richiesti, per le prestazioni espletate|
+              e riassunte nelle voci dichiarate dallo stesso profes_|
+              sionista sono  rispondenti  alla tariffa professionale |
+              ed ammontano a :|
+              Compensi (Onorari e Spese) : Euro 1.954,79|
+              ( Euro millenovecentocinquantaquattro/79 )|
+              Oltre 2% INARCASSA e I.V.A.|
+              Tassa Rilascio parere Ordine Euro 79,32|
+                Cosenza, li 15/03/2002|
+                                            IL  PRESIDENTE|
+                                       Dott. Ing. Carlo Bianchi|
+)"));
+}
+
+TEST_F(FinalAccount, LireAgreedReductionOnTheFees) {
+  stato.chiusura = {10, 0, "CONCORDATA", 2};
+  ChiudiParcella(stato, 3000000, 1200000);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            L.      4.200.000|
+  Riduzione concordata del 10 % sugli Onorari          L.        300.000|
+TOTALE RIDOTTO                                         L.      3.900.000|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L.      3.900.000|
+ed in EURO                                                      2.014,18|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+)"));
+}
+
+TEST_F(FinalAccount, LireReductionOnCompensationsThatAreNotThere) {
+  stato.chiusura = {20, 0, "", 3};
+  ChiudiParcella(stato, 3000000, 0);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            L.      3.000.000|
+Rid. del 20% Art.4 comma 12bis L. 155/89 sui Compensi  L.              0|
+TOTALE RIDOTTO                                         L.      3.000.000|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L.      3.000.000|
+ed in EURO                                                      1.549,37|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+)"));
+}
+
+TEST_F(FinalAccount, EuroOfAnArchitect) {
+  DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
+  utente.Professione = "Architetto";
+  ScriviDatiProfessionista(stato.folder, utente);
+  stato.ModoLire = false;
+  stato.chiusura = {12.55, 425.31, "CONCORDATA", 2};
+  Criteri& criteri = stato.criteri;
+  criteri.StampaParere = criteri.StampaSpeseAggiuntive = criteri.SpesaIva = "SI";
+  criteri.PresidenteOrdine = "Arch. Verdi";
+  ChiudiParcella(stato, 1234.567, 345.678);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            €      1.580,24|
+  Riduzione concordata del 12,55 % sugli Onorari       €        154,93|
+TOTALE RIDOTTO                                         €      1.425,31|
+a detrarre ACCONTI                                     €        425,31|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     €      1.000,00|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                          IL  PROFESSIONISTA|
+                                        Dott. Arch. Mario Rossi|
+|
+|
+========================================================================|
+ALTRE SPESE PER IL COMMITTENTE|
+I.V.A. 20%                                             €        200,00|
+     Totale onere finanziario Committente              €      1.200,00|
+========================================================================|
+|
+|
+                    Il Consiglio dell'Ordine degli ARCHITETTI             |
+                        della Provincia di COSENZA|
+                               vista l'istanza del                        |
+              Dott. Arch. Mario Rossi|
+                                   ESPRIME PARERE                         |
+              che i compensi richiesti, per le prestazioni espletate|
+              e riassunte nelle voci dichiarate dallo stesso profes_|
+              sionista sono  rispondenti  alla tariffa professionale |
+              ed ammontano a :|
+              Compensi (Onorari e Spese) : Euro 1.000,00|
+              ( Euro mille/00 )|
+              Oltre 2% INARCASSA e I.V.A.|
+              Tassa Rilascio parere Ordine Euro 0|
+                Cosenza, li 15/03/2002|
+                                                  IL  PRESIDENTE|
+                                                    Arch. Verdi|
+)"));
+}
+
+TEST_F(FinalAccount, AdvancesAboveTheTotalEndTheAccount) {
+  stato.chiusura = {0, 2000000, "", 1};
+  stato.criteri.StampaParere = stato.criteri.StampaSpeseAggiuntive = "SI";
+  ChiudiParcella(stato, 1000000, 0);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            L.      1.000.000|
+a detrarre ACCONTI                                     L.      2.000.000|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L.     -1.000.000|
+ed in EURO                                                       -516,44|
+                                                       =================|
+Cosenza, li 15/03/2002|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+)"));
+}
+
+// The label of the reduction reaches beyond its column; without a city there is no place and date.
+TEST_F(FinalAccount, LongLabelAndNoCity) {
+  DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
+  utente.Citta = "";
+  ScriviDatiProfessionista(stato.folder, utente);
+  stato.ModoLire = false;
+  stato.chiusura = {12.55, 0, "", 2};
+  stato.criteri.StampaParere = "SI";
+  stato.criteri.QuotaFissaParere = 50;
+  ChiudiParcella(stato, 1000, 0);
+  EXPECT_EQ(Report(), Page(R"(
+================================ TOTALI ================================|
+TOTALE (Onorari e Compensi)                            €      1.000,00|
+Rid. del 12,55% Art.4 comma 12bis L. 155/89 sugli Onorari|
+                                                       €        125,50|
+TOTALE RIDOTTO                                         €        874,50|
+COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     €        874,50|
+                                                       =================|
+                                           IL  PROFESSIONISTA|
+                                         Dott. Ing. Mario Rossi|
+|
+|
+                    Il Consiglio dell'Ordine degli INGEGNERI              |
+                        della Provincia di COSENZA|
+                               vista l'istanza del                        |
+              Dott. Ing. Mario Rossi|
+                                   ESPRIME PARERE                         |
+              che i compensi richiesti, per le prestazioni espletate|
+              e riassunte nelle voci dichiarate dallo stesso profes_|
+              sionista sono  rispondenti  alla tariffa professionale |
+              ed ammontano a :|
+              Compensi (Onorari e Spese) : Euro 874,50|
+              ( Euro ottocentosettantaquattro/50 )|
+              Oltre 2% INARCASSA e I.V.A.|
+              Tassa Rilascio parere Ordine Euro 50,00|
+                                                        IL  PRESIDENTE|
+                                                               |
+)"));
+}
+// clang-format on
+
+// The amount at the end of the line that begins with `label`, 0 without such a line.
+double Printed(const std::string& report, const std::string& label) {
+  const auto at = report.find("\n" + label);
+  if (at == std::string::npos) return 0;
+  std::string line = report.substr(at + 1, report.find('\n', at + 1) - at - 1);
+  line = TogliSpazi(line.substr(line.rfind(' ')));
+  std::erase(line, '.');
+  if (const auto comma = line.find(','); comma != std::string::npos) line[comma] = '.';
+  return ParseNumber(line).value();
+}
+
+// What is printed is what is summed, to the cent, in Lire and in Euro.
+TEST_F(FinalAccount, PrintedLinesAddUpToPrintedTotals) {
+  std::mt19937 random(19490302);
+  stato.criteri.StampaSpeseAggiuntive = stato.criteri.SpesaInarcassa = stato.criteri.SpesaInps =
+      stato.criteri.SpesaIva = stato.criteri.SpesaTassaParere = "SI";
+  stato.criteri.QuotaPercentualeParere = 1.7;
+  for (int i = 0; i < 300; ++i) {
+    stato.ModoLire = i % 2 == 0;
+    const double scale = stato.ModoLire ? 1000 : 1;
+    const auto amount = [&](unsigned most) { return random() % most / 997.0 * scale; };
+    stato.chiusura = {random() % 2000 / 100.0, amount(100000), "CONCORDATA",
+                      static_cast<std::int16_t>(random() % 3 + 1)};
+    stato.NumFileUscita = {};
+    ChiudiParcella(stato, amount(9000000) + 500 * scale, amount(2000000));
+    const std::string report = Report();
+    const double total = Printed(report, "TOTALE (Onorari e Compensi)");
+    const double reduced = Printed(report, "TOTALE RIDOTTO");
+    const double net = Printed(report, "COMPETENZE");
+    if (stato.chiusura.PercDiRiduzione != 0) {
+      EXPECT_NEAR(total - Printed(report, "  Riduzione concordata"), reduced, 1e-6) << report;
+    }
+    EXPECT_NEAR(
+        (stato.chiusura.PercDiRiduzione != 0 ? reduced : total) - Printed(report, "a detrarre"),
+        net, 1e-6)
+        << report;
+    const double inEuro = stato.ModoLire ? Printed(report, "ed in EURO") : net;
+    EXPECT_NEAR(inEuro + Printed(report, "Contributo INARCASSA") +
+                    Printed(report, "Contributo INPS") + Printed(report, "I.V.A.") +
+                    Printed(report, "Tassa"),
+                Printed(report, "     Totale onere"), 1e-6)
+        << report;
+  }
+}
+
+TEST_F(FinalAccount, SummaryLeavesOutZerosAndCutsTheOthers) {
+  stato.ModoLire = false;
+  std::array<double, 6> importi = {1000.999, 0, 20.5, 3, 0, 4.009};
+  StampaRiepilogoPrestazioni(stato, "PD", importi);
+  // clang-format off
+  EXPECT_EQ(Report(), Page(R"(
+============================== RIEPILOGO ===============================|
+Per PROGETTAZIONE                                      €      1.000,99|
+Per SORVEGLIANZA                                       €         20,50|
+Per MISURE E CONTABILITÀ                               €          3,00|
+Per CERTIFICATO REGOLARE ESECUZIONE                    €          4,00|
+)"));
+  // clang-format on
+  EXPECT_EQ(importi[0], 1000.99);
+  EXPECT_EQ(importi[5], 4);
+}
+
+TEST_F(FinalAccount, SummariesOfTheOtherKinds) {
+  std::array<double, 4> importi = {0, 0, 5, 6};
+  StampaRiepilogoEsl(stato, "EL", importi);
+  StampaRiepilogoEsl(stato, "GEO", std::span(importi).first(3));
+  // clang-format off
+  EXPECT_EQ(Report(), Page(R"(
+============================== RIEPILOGO ===============================|
+Per MISURE E CONTABILITÀ                               L.              5|
+Per CERTIFICATO REGOLARE ESECUZIONE                    L.              6|
+============================== RIEPILOGO ===============================|
+Per COMPENSI AGGIUNTIVI                                L.              5|
+)"));
+  // clang-format on
+}
+
+// Too long for the fourteen characters of the column: a failure, and no report.
+TEST_F(FinalAccount, AmountTooLong) {
+  try {
+    ChiudiParcella(stato, 1e12, 0);
+    FAIL();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.Text(),
+              "L'importo 1.000.000.000.000 è troppo lungo per la sua colonna nella parcella.");
+  }
+}
+
+}  // namespace
+}  // namespace orm

@@ -1,0 +1,121 @@
+// The frame of a report and the files that it shows.
+#include "tariff/report.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "runtime/failure.h"
+#include "tests/unit/cases/note_test.h"
+
+namespace orm {
+namespace {
+
+using ReportFrame = NoteTest;
+
+TEST_F(ReportFrame, AmountField) {
+  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Onorari, true), "L.          1.000");
+  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Onorari, false), "€         1.000");
+  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Lavori, true), "L.            1.000");
+  EXPECT_EQ(StringaImporto("12.345.678,901", TipoImporto::Onorari, false), "€12.345.678,901");
+  EXPECT_THROW(StringaImporto("12.345.678,9012", TipoImporto::Onorari, false), RuntimeFailure);
+}
+
+// clang-format off
+TEST_F(ReportFrame, FeeLines) {
+  std::string corta = " Onorario", lunga = "  Onorario per la redazione del progetto esecutivo  e particolari";
+  double primo = 1234.9, secondo = 5;
+  StampaRigaOnorario(stato, 3, corta, primo);
+  StampaRigaOnorario(stato, 1, lunga, secondo);
+  // One blank parts a label that is too long even without its blanks.
+  StampaRigaOnorario(stato, 1, std::string(54, 'x'), secondo);
+  EXPECT_EQ(Report(), Page(R"(
+   Onorario                                            L.          1.234|
+  Onorarioperlaredazionedelprogettoesecutivoeparticolari L.              5|
+xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.              5|
+)"));
+  EXPECT_EQ(primo, 1234);
+  EXPECT_EQ(lunga, "  Onorarioperlaredazionedelprogettoesecutivoeparticolari");
+}
+
+// Sixty characters with their blanks, fifty-two without: the amount finds its column again. Letters
+// with accents count once.
+TEST_F(ReportFrame, LongLabelThatFitsWithoutItsBlanks) {
+  std::string lunga = "Onorario per la contabilità e le misure dei lavori à corpo  :";
+  double valore = 10;
+  stato.ModoLire = false;
+  StampaRigaOnorario(stato, 1, lunga, valore);
+  EXPECT_EQ(Report(), Page(R"(
+Onorarioperlacontabilitàelemisuredeilavoriàcorpo:      €         10,00|
+)"));
+}
+
+TEST_F(ReportFrame, Formulas) {
+  double valore = 10.7;
+  StampaFormula(stato, std::string(43, 'x'), valore);
+  StampaFormula(stato, std::string(44, 'x'), valore);
+  EXPECT_EQ(Report(), Page(R"(
+xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx            L.             10|
+xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.             10|
+)"));
+  EXPECT_EQ(valore, 10);
+}
+
+TEST_F(ReportFrame, TextsAlignedOnTheirComma) {
+  StampaAllineataVirgola(stato, "1.234,5", 20);
+  StampaAllineataVirgola(stato, "7", 20);
+  StampaAllineataVirgola(stato, "0,125", 20);
+  EXPECT_EQ(Report(), Page(R"(
+              1.234,5|
+                  7|
+                  0,125|
+)"));
+}
+
+TEST_F(ReportFrame, Heading) {
+  ApriParcella(stato, "INT.DAP", "per le prestazioni relative a :");
+  EXPECT_EQ(Report(), Page(R"(
+              PARCELLA DELLE COMPETENZE PROFESSIONALI|
+  ( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )|
+dovute da : Comune di Rende|
+all' Ingegnere Mario Rossi|
+per le prestazioni relative a :|
+Scuola media|
+Delibera n. 12|
+)"));
+}
+// clang-format on
+
+TEST_F(ReportFrame, FirstUserFile) {
+  ScriviUtentePredefinito(stato.folder);
+  std::string lines;
+  for (int i = 0; i < 10; ++i) lines += "\r\n";
+  EXPECT_EQ(stato.folder.Read(kFileUtente), lines + "\"CATANZARO\",\"\",\"\",\"Ingegnere\"\r\n");
+  const DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
+  EXPECT_EQ(utente.Nome, "");
+  EXPECT_EQ(utente.PartitaIva, "");
+  EXPECT_EQ(utente.Ordine, "CATANZARO");
+  EXPECT_EQ(utente.Professione, "Ingegnere");
+}
+
+TEST_F(ReportFrame, UserFileIsOneTextALine) {
+  DatiProfessionista utente;
+  utente.Nome = "Anna \"Nina\" Verdi";
+  utente.Citta = "Forlì";
+  ScriviDatiProfessionista(stato.folder, utente);
+  const std::string bytes = stato.folder.Read(kFileUtente);
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 14);
+  const DatiProfessionista letto = LeggiDatiProfessionista(stato.folder);
+  EXPECT_EQ(letto.Nome, utente.Nome);
+  EXPECT_EQ(letto.Citta, utente.Citta);
+}
+
+TEST_F(ReportFrame, HeaderOfEmptyTexts) {
+  ScriviIntestazione(stato.folder, "INT.DAP", {});
+  EXPECT_EQ(stato.folder.Read("INT.DAP"), "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
+  ApriParcella(stato, "INT.DAP", "relative a :");
+  EXPECT_TRUE(Report().ends_with("relative a :\n\n"));
+}
+
+}  // namespace
+}  // namespace orm
