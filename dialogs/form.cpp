@@ -79,6 +79,7 @@ void Form::MoveFocus(Control& control) {
 
 void Form::Open() {
   open_ = true;
+  TipodiUscita = Uscita::Finestra;
   OnOpen();
 }
 

@@ -82,6 +82,16 @@ class Form {
   void Close() { open_ = false; }
   bool IsOpen() const { return open_; }
 
+  // How the form was left: by its window, by the button that takes what was entered, or by the one
+  // that ends a list ("&FINE ..."). Each showing begins anew.
+  enum class Uscita { Finestra, Conferma, Fine };
+  Uscita TipodiUscita = Uscita::Finestra;
+  bool Confermato() const { return TipodiUscita == Uscita::Conferma; }
+  void Esci(Uscita uscita) {
+    TipodiUscita = uscita;
+    Close();
+  }
+
   void Attach(FormView* view) { view_ = view; }
   FormView* View() const { return view_; }
 

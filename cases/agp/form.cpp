@@ -55,8 +55,7 @@ void FrmAgpDatig::Confirm() {
   EsecutoreDellAggiornamento = OptionSI.Value() ? "NO" : "SI";
   if (Decreti.Index() >= 0)
     PeriodoTariffario = std::string(1, static_cast<char>('1' + Decreti.Index()));
-  TipodiUscita = true;
-  Close();
+  Esci(Uscita::Conferma);
 }
 
 }  // namespace orm

@@ -12,7 +12,6 @@ class FrmAgpDatig : public Form {
   FrmAgpDatig(Player& player, const DatiAgp& dati);
 
   std::string TipoDiAggiornamento, EsecutoreDellAggiornamento, PeriodoTariffario;
-  bool TipodiUscita = false;  // whether "O.K." closed the form
 
   Frame Frame1;
   OptionGroup metodo;

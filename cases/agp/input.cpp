@@ -40,7 +40,7 @@ void InputAgp(RunState& stato) {
   IniziaInput(stato, dati);
   FrmAgpDatig form(stato.player, dati);
   stato.player.Show(form);
-  if (!form.TipodiUscita) return;
+  if (!form.Confermato()) return;
   dati.TipoDiAggiornamento = form.TipoDiAggiornamento;
   dati.EsecutoreDellAggiornamento = form.EsecutoreDellAggiornamento;
   dati.PeriodoTariffario = form.PeriodoTariffario;

@@ -58,10 +58,9 @@ void FrmCoaDati::ShowFieldsOfTesting() {
 
 // A certificate has neither surcharge nor pages, whatever the fields held before they were hidden.
 void FrmCoaDati::Confirm() {
-  TipodiUscita = true;
   if (!cdMaggiorazione.IsShown()) cdMaggiorazione.SetValue(0);
   if (!ciNUMEROPAGINE.IsShown()) ciNUMEROPAGINE.SetValue(0);
-  Close();
+  Esci(Uscita::Conferma);
 }
 
 DatiCoa FrmCoaDati::Dati() const {

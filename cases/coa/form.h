@@ -11,7 +11,6 @@ class FrmCoaDati : public Form {
  public:
   FrmCoaDati(const RunState& stato, const DatiCoa& dati);
   DatiCoa Dati() const;
-  bool TipodiUscita = false;  // closed with cmdProsegui
 
   ComboBox cboDecreti, cboTipo;
   FloatBox cdImporto;

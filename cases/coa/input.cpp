@@ -10,7 +10,7 @@ void InputCoa(RunState& stato) {
   IniziaInput(stato, dati);
   FrmCoaDati form(stato, dati);
   stato.player.Show(form);
-  if (!form.TipodiUscita) return;
+  if (!form.Confermato()) return;
   dati = form.Dati();
   ConcludiInput(stato, dati);
 }

@@ -73,8 +73,7 @@ void FrmCosDati::Confirm(RunState& stato) {
   }
   for (std::size_t i = 0; i < kPeriodiCos; ++i) ImportoCS[i] = importi[i].Value();
   for (std::size_t i = 0; i < kVariazioniCos; ++i) Maggiorazione[i] = cdMaggiorazione[i].Value();
-  TipodiUscita = true;
-  Close();
+  Esci(Uscita::Conferma);
 }
 
 }  // namespace orm

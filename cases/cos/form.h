@@ -17,7 +17,6 @@ class FrmCosDati : public Form {
   // As given until "O.K." takes what the form shows.
   std::array<double, kPeriodiCos> ImportoCS;
   std::array<double, kVariazioniCos> Maggiorazione;
-  bool TipodiUscita = false;  // whether "O.K." closed the form
 
   Frame Frame1;
   std::array<ImportoBox, kPeriodiCos> importi;

@@ -48,7 +48,7 @@ class CatenaCos : public CatenaRighe<RigaCos> {
                                                       : riga.Classe + " / " + riga.Categoria);
     if (periodo != 0) form.SetTariffa("PERIODO TARIFFARIO", NomePeriodoTariffario(periodo));
     stato.player.Show(form);
-    if (form.Confermato) riga.ImportoVerificato = form.Importo();
+    if (form.Confermato()) riga.ImportoVerificato = form.Importo();
   }
 
   RunState& stato;
@@ -64,7 +64,7 @@ void InputCos(RunState& stato) {
   IniziaInput(stato, dati);
   FrmCosDati form(stato, testata, dati);
   stato.player.Show(form);
-  if (!form.TipodiUscita) return;
+  if (!form.Confermato()) return;
   dati.ImportoCS = form.ImportoCS;
   dati.Maggiorazione = form.Maggiorazione;
   dati.ImportoTotaleCS = 0;

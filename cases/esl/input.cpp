@@ -120,7 +120,7 @@ bool ChiediTipologia(RunState& stato, std::string& TipoParcella) {
   form.Help[3].SetVisible(false);
   stato.player.Show(form);
   TipoParcella = form.TipoParcella;
-  return form.TipodiUscita;
+  return form.Confermato();
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ struct GruppoGeo {
   double SommaProgetto = 0, SommaDirezione = 0;  // signed, as the list of amounts shows them
 };
 
-GruppoGeo BasiDelGruppo(const DatiGeo& d, std::size_t primaRiga, std::size_t righe) {
+GruppoGeo BasiDelGruppo(const DatiGeotecnici& d, std::size_t primaRiga, std::size_t righe) {
   GruppoGeo g{.primaRiga = primaRiga, .righe = righe};
   for (std::size_t k = primaRiga; k < primaRiga + righe; ++k) {
     const RigaGeo& riga = d.Righe[k];
@@ -69,7 +69,7 @@ GruppoGeo BasiDelGruppo(const DatiGeo& d, std::size_t primaRiga, std::size_t rig
 
 class NotaGeo {
  public:
-  NotaGeo(RunState& run, const DatiGeo& dati);
+  NotaGeo(RunState& run, const DatiGeotecnici& dati);
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -94,14 +94,14 @@ class NotaGeo {
 
   RunState& stato;
   ReportPrinter& uscita;
-  const DatiGeo& d;
+  const DatiGeotecnici& d;
   const TabelleGeo testata;
   std::vector<GruppoGeo> gruppi;
   Compensi compensi;
   double totaleProgetto = 0, totaleDirezione = 0, compensoAggiuntivo = 0;
 };
 
-NotaGeo::NotaGeo(RunState& run, const DatiGeo& dati)
+NotaGeo::NotaGeo(RunState& run, const DatiGeotecnici& dati)
     : stato(run), uscita(run.NumFileUscita), d(dati), testata(LeggiTabelleGeo(run.folder, 0)) {
   std::size_t riga = 0;
   for (const LottoARighe& gruppo : d.Gruppi) {
@@ -251,7 +251,7 @@ void NotaGeo::Chiudi() {
 }  // namespace
 
 void CalcoloGEO(RunState& stato) {
-  DatiGeo dati;
+  DatiGeotecnici dati;
   LeggiParcella(stato, dati);
   NotaGeo nota(stato, dati);
   ApriParcella(stato, stato.FileInt, "Per le prestazioni geotecniche sottoelencate relative a :");

@@ -23,7 +23,7 @@ struct RigaGeo {
   std::string StringaDellePrestazioni = "a+b+c+d+e+f";
 };
 
-struct DatiGeo {
+struct DatiGeotecnici {
   std::string TipoDiParcella = "NORMALE";    // "CONSUNTIVA", "INTERROTTA", "SCISSA"
   std::string MaggiorazioneParziale = "NO";  // "SI": increase of art. 18
   std::vector<LottoARighe> Gruppi;
@@ -32,7 +32,7 @@ struct DatiGeo {
 };
 
 template <class Archive>
-void Campi(Archive& file, DatiGeo& d) {
+void Campi(Archive& file, DatiGeotecnici& d) {
   auto NumeroGruppi = static_cast<std::int16_t>(d.Gruppi.size());
   auto NumeroLotti = static_cast<std::int16_t>(d.Righe.size());
   file.Line(Field("TipoDiParcella", d.TipoDiParcella),

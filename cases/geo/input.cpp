@@ -14,7 +14,7 @@ namespace {
 
 class CatenaGeo : public CatenaRighe<RigaGeo> {
  public:
-  CatenaGeo(RunState& run, const TabelleGeo& tabelleGeo, DatiGeo& datiDelCaso)
+  CatenaGeo(RunState& run, const TabelleGeo& tabelleGeo, DatiGeotecnici& datiDelCaso)
       : CatenaRighe(datiDelCaso.Gruppi, datiDelCaso.Righe,
                     {kGruppiGeoMassimi, kRigheGeoMassime, kPeriodiGeo, "GRUPPI"}),
         stato(run),
@@ -65,7 +65,7 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
 
   RunState& stato;
   const TabelleGeo& tabelle;
-  const DatiGeo& dati;
+  const DatiGeotecnici& dati;
 };
 
 void ChiediMaggiorazione(Player& player, std::string& risposta) {
@@ -83,17 +83,17 @@ void ChiediMaggiorazione(Player& player, std::string& risposta) {
 
 void DatiGEO(RunState& stato) {
   const TabelleGeo tabelle = LeggiTabelleGeo(stato.folder, 0);
-  DatiGeo dati;
+  DatiGeotecnici dati;
   IniziaInput(stato, dati);
   FrmGenTipologia tipologia(stato.player, dati.TipoDiParcella);
   stato.player.Show(tipologia);
-  if (!tipologia.TipodiUscita) return;
+  if (!tipologia.Confermato()) return;
   dati.TipoDiParcella = tipologia.TipoParcella;
   ChiediMaggiorazione(stato.player, dati.MaggiorazioneParziale);
   CatenaGeo(stato, tabelle, dati).Chiedi();
   FrmGenUnoImporti costo(stato, "COSTO INDAGINI E PROVE", "Costo complessivo", dati.CostoIndagini);
   stato.player.Show(costo);
-  if (costo.Confermato) dati.CostoIndagini = costo.Importo();
+  if (costo.Confermato()) dati.CostoIndagini = costo.Importo();
   ConcludiInput(stato, dati);
 }
 

@@ -70,7 +70,7 @@ void InputPdl(RunState& stato) {
   IniziaInput(stato, dati);
   FrmGenTipologia tipologia(stato.player, dati.TipoParcella);
   stato.player.Show(tipologia);
-  if (!tipologia.TipodiUscita) return;
+  if (!tipologia.Confermato()) return;
   dati.TipoParcella = tipologia.TipoParcella;
   dati.IncaricoParziale =
       ChiediSiNo(stato.player, "PARCELLA PER PROGETTAZIONE E D.L.",

@@ -24,10 +24,7 @@ FrmPpeDati::FrmPpeDati(const DatiPpe& dati)
   ciVC[0].SetValue(dati.NumParticelleVerbale);
   ciVC[1].SetValue(dati.NumFabbricati);
   ciFrazionamenti.SetValue(dati.NumFrazionamenti);
-  cmdESCI.onPress = [this] {
-    Confermato = true;
-    Close();
-  };
+  cmdESCI.onPress = [this] { Esci(Uscita::Conferma); };
 }
 
 DatiPpe FrmPpeDati::Dati() const {

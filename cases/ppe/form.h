@@ -12,7 +12,6 @@ class FrmPpeDati : public Form {
  public:
   explicit FrmPpeDati(const DatiPpe& dati);
   DatiPpe Dati() const;
-  bool Confermato = false;  // left by its button, not by its window
 
   std::array<InterBox, 2> ciPP;  // holdings, parcels
   Frame Frame2;

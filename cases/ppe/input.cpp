@@ -10,7 +10,7 @@ void InputPpe(RunState& stato) {
   IniziaInput(stato, dati);
   FrmPpeDati form(dati);
   stato.player.Show(form);
-  if (form.Confermato) dati = form.Dati();
+  if (form.Confermato()) dati = form.Dati();
   ConcludiInput(stato, dati);
 }
 

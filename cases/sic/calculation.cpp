@@ -10,7 +10,7 @@
 
 namespace orm {
 
-NotaSic::NotaSic(RunState& run, const DatiSic& dati)
+NotaSic::NotaSic(RunState& run, const DatiSicurezza& dati)
     : stato(run),
       uscita(run.NumFileUscita),
       d(dati),
@@ -79,7 +79,7 @@ void NotaSic::CalcolaPrestazioni() {
 }
 
 void CalcoloSIC(RunState& stato) {
-  DatiSic dati;
+  DatiSicurezza dati;
   LeggiParcella(stato, dati);
   ApriParcella(stato, stato.FileInt, "Per le prestazioni previste dal D.Lgs 494/96 relative a :");
   NotaSic nota(stato, dati);

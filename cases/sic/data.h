@@ -24,14 +24,14 @@ struct LottoSic {
   std::string StringaPrestazioni, StringaMaggiorazioni, StringaIncrementi;
 };
 
-struct DatiSic {
+struct DatiSicurezza {
   std::string TipoDiParcella = "NORMALE";  // "CONSUNTIVA", "INTERROTTA"
   std::vector<LottoARighe> Gruppi;
   std::vector<LottoSic> Lotti;
 };
 
 template <class Archive>
-void Campi(Archive& file, DatiSic& d) {
+void Campi(Archive& file, DatiSicurezza& d) {
   auto NumeroGruppi = static_cast<std::int16_t>(d.Gruppi.size());
   auto NumeroLotti = static_cast<std::int16_t>(d.Lotti.size());
   file.Line(Field("TipoDiParcella", d.TipoDiParcella),

@@ -15,7 +15,7 @@ namespace {
 // The dialogs of the lots, one lot after the other.
 class CatenaSic {
  public:
-  CatenaSic(RunState& run, DatiSic& datiDelCaso)
+  CatenaSic(RunState& run, DatiSicurezza& datiDelCaso)
       : stato(run), versione(VersioneDi(run.CasoDiParcella)), dati(datiDelCaso) {}
 
   void Chiedi();
@@ -26,7 +26,7 @@ class CatenaSic {
 
   RunState& stato;
   const VersioneSic& versione;
-  DatiSic& dati;
+  DatiSicurezza& dati;
   std::vector<LottoSic> fatti;
 };
 
@@ -82,13 +82,13 @@ void CatenaSic::ChiediImporti(LottoSic& lotto) {
 }  // namespace
 
 void DatiSIC(RunState& stato) {
-  DatiSic dati;
+  DatiSicurezza dati;
   IniziaInput(stato, dati);
   FrmGenTipologia tipologia(stato.player, dati.TipoDiParcella);
   tipologia.Option[3].SetVisible(false);
   tipologia.Help[3].SetVisible(false);
   stato.player.Show(tipologia);
-  if (!tipologia.TipodiUscita) return;
+  if (!tipologia.Confermato()) return;
   dati.TipoDiParcella = tipologia.TipoParcella;
   CatenaSic(stato, dati).Chiedi();
   ConcludiInput(stato, dati);

@@ -11,7 +11,7 @@ namespace orm {
 
 class NotaSic {
  public:
-  NotaSic(RunState& run, const DatiSic& dati);
+  NotaSic(RunState& run, const DatiSicurezza& dati);
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -78,7 +78,7 @@ class NotaSic {
 
   RunState& stato;
   ReportPrinter& uscita;
-  const DatiSic& d;
+  const DatiSicurezza& d;
   const VersioneSic& versione;
   const double limite;
   std::vector<Lotto> lotti;

@@ -56,16 +56,10 @@ void FrmVerPietre::TieEvents() {
     altraSigma_ = cdSigma.Value();
     altraTau_ = cdTau.Value();
   };
-  OKButton.onPress = [this] {
-    confermato_ = true;
-    Close();
-  };
+  OKButton.onPress = [this] { Esci(Uscita::Conferma); };
 }
 
-void FrmVerPietre::OnOpen() {
-  confermato_ = false;
-  prima_ = FormValues(*this);
-}
+void FrmVerPietre::OnOpen() { prima_ = FormValues(*this); }
 
 void FrmVerPietre::OnWindowClose() {
   prima_.PutInto(*this);

@@ -16,7 +16,6 @@ class FrmVerPietre : public Form {
   FrmVerPietre();
   void OnOpen() override;
   void OnWindowClose() override;
-  bool Confermato() const { return confermato_; }
   // Of the chosen stone's slider, or as typed for another stone; kg/cmq.
   double Sigma() const;
   double Tau() const;
@@ -37,7 +36,6 @@ class FrmVerPietre : public Form {
   void Mostra();
 
   FormValues prima_;
-  bool confermato_ = false;
   double altraSigma_ = 0, altraTau_ = 0;  // as typed for another stone, while one of the list shows
 };
 

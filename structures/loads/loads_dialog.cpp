@@ -7,20 +7,14 @@
 
 namespace orm {
 
-void FrmCarichi::OnOpen() {
-  confermato_ = false;
-  prima_ = FormValues(*this);
-}
+void FrmCarichi::OnOpen() { prima_ = FormValues(*this); }
 
 void FrmCarichi::OnWindowClose() {
   prima_.PutInto(*this);
   Close();
 }
 
-void FrmCarichi::Conferma() {
-  confermato_ = true;
-  Close();
-}
+void FrmCarichi::Conferma() { Esci(Uscita::Conferma); }
 
 void ChiediCarico(RunState& stato, FrmCarichi& form, FloatBox& campo) {
   stato.player.Show(form);

@@ -23,7 +23,6 @@ class FrmCarichi : public Form {
   using Form::Form;
   void OnOpen() override;
   void OnWindowClose() override;
-  bool Confermato() const { return confermato_; }
   // The figure that the dialog was asked for.
   virtual double Totale() const = 0;
 
@@ -32,7 +31,6 @@ class FrmCarichi : public Form {
 
  private:
   FormValues prima_;
-  bool confermato_ = false;
 };
 
 // Shows the dialog and gives `campo` its figure and the focus; a dialog left by its window changes

@@ -25,10 +25,7 @@ FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::str
   Image1.SetVisible(!stato.ModoLire);
   FloatBox1.SetValue(importo);
   InterBox1.SetValue(importo);
-  cmdOK.onPress = [this] {
-    Confermato = true;
-    Close();
-  };
+  cmdOK.onPress = [this] { Esci(Uscita::Conferma); };
 }
 
 double FrmGenUnoImporti::Importo() const {

@@ -16,8 +16,6 @@ class FrmGenUnoImporti : public Form {
   void SetTariffa(std::string etichetta, std::string valore);
   void SetClasseCategoria(std::string etichetta, std::string valore);
 
-  bool Confermato = false;
-
   TestoBox Label1, Label2;  // "TARIFFA", "CLASSE/CATEGORIA"
   Frame Frame1;
   FloatBox FloatBox1;

@@ -91,14 +91,12 @@ void FrmGenClasse::Confirm() {
   Categoria = comCategoria.Index() < 0
                   ? std::string()
                   : std::string(1, static_cast<char>('a' + comCategoria.Index()));
-  TipodiUscita = "CONFERMA";
-  Close();
+  Esci(Uscita::Conferma);
 }
 
 void FrmGenClasse::Finish() {
   Classe = "0";
-  TipodiUscita = "FINE";
-  Close();
+  Esci(Uscita::Fine);
 }
 
 }  // namespace orm

@@ -18,7 +18,6 @@ class FrmGenClasse : public Form {
   void SetImporto(double importo);
   std::string Classe = "1", Categoria = "a";
   double Importo = 0;
-  std::string TipodiUscita;  // "CONFERMA" or "FINE"; empty when left by its window
 
   // What the other lots of the note come to: with them the amount must still fit its column.
   double AltriLotti = 0;

@@ -54,8 +54,7 @@ FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella
     };
   OKbutton.onPress = [this] {
     TipoParcella = kValues[static_cast<std::size_t>(std::max(tipo.Chosen(), 0))];
-    TipodiUscita = true;
-    Close();
+    Esci(Uscita::Conferma);
   };
 }
 

@@ -13,8 +13,7 @@ class FrmGenTipologia : public Form {
   // Starts from `tipoParcella`: "NORMALE", "CONSUNTIVA", "INTERROTTA" or "SCISSA".
   FrmGenTipologia(Player& player, const std::string& tipoParcella);
 
-  std::string TipoParcella;   // the value chosen; as given when the form was left by its window
-  bool TipodiUscita = false;  // whether "O.K." closed the form
+  std::string TipoParcella;  // the value chosen; as given when the form was left by its window
 
   Frame Frame1;
   OptionGroup tipo;

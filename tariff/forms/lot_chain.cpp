@@ -21,10 +21,9 @@ bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, 
     form.SetClasse(Classe);
     form.SetCategoria(senzaCategorie ? "" : Categoria);
   }
-  form.TipodiUscita.clear();
   stato.player.Show(form);
-  if (form.TipodiUscita == "FINE") return false;
-  if (form.TipodiUscita.empty()) return !posto.Nuovo();
+  if (form.TipodiUscita == Form::Uscita::Fine) return false;
+  if (!form.Confermato()) return !posto.Nuovo();
   Classe = form.Classe;
   Categoria = form.Categoria;
   return true;

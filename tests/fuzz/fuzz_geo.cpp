@@ -4,7 +4,7 @@
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return orm::fuzz::CheckNote<orm::DatiGeo>(data, size, [](orm::RunState& stato) {
+  return orm::fuzz::CheckNote<orm::DatiGeotecnici>(data, size, [](orm::RunState& stato) {
     orm::fuzz::Install(stato.folder, "GEO.CFG");
     orm::CalcoloGEO(stato);
   });

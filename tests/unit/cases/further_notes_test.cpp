@@ -42,11 +42,11 @@ const Prova kProve[] = {
     {"CS1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(true), k); }, Rileggi<DatiCos>},
     {"CS2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(false), k); },
      Rileggi<DatiCos>},
-    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); }, Rileggi<DatiGeo>},
+    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); }, Rileggi<DatiGeotecnici>},
     {"SC1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc1), k); },
-     Rileggi<DatiSic>},
+     Rileggi<DatiSicurezza>},
     {"SC2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc2), k); },
-     Rileggi<DatiSic>}};
+     Rileggi<DatiSicurezza>}};
 
 constexpr unsigned kNote = 40;
 
@@ -242,12 +242,12 @@ TEST_F(AltreNote, GreatestAmountsOfTheDialogsFit) {
       for (const char* periodo : {"1", "2", "3", "4", "5"})
         cos.Righe.push_back({"1", "e", periodo, massimo});
     }
-    DatiGeo geo;
+    DatiGeotecnici geo;
     geo.MaggiorazioneParziale = "SI";
     geo.Gruppi = {{1, {5}}};
     geo.Righe = {{"4", "5", massimo, massimo, "T", "a+b+c+d+e+f"}};
     geo.CostoIndagini = massimo;
-    DatiSic sic;
+    DatiSicurezza sic;
     sic.Gruppi = {{1, {5}}};
     sic.Lotti = {{"1", "e", "5", massimo, massimo, "11111", std::string(25, '1'), "111111"}};
     for (const auto& [codice, bytes] :

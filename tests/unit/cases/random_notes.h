@@ -55,8 +55,8 @@ class CasoNote : public Caso {
     return d;
   }
 
-  DatiGeo Geo() {
-    DatiGeo d;
+  DatiGeotecnici Geo() {
+    DatiGeotecnici d;
     d.TipoDiParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"});
     d.MaggiorazioneParziale = Fra({"SI", "NO"});
     d.CostoIndagini = ImportoONulla(2);
@@ -74,8 +74,8 @@ class CasoNote : public Caso {
     return d;
   }
 
-  DatiSic Sic(const VersioneSic& versione) {
-    DatiSic d;
+  DatiSicurezza Sic(const VersioneSic& versione) {
+    DatiSicurezza d;
     d.TipoDiParcella = Fra({"NORMALE", "CONSUNTIVA", "INTERROTTA"});
     for (int n = Fino(21); n > 0; --n) {
       LottoSic& l = d.Lotti.emplace_back();

@@ -68,14 +68,15 @@ TEST_F(CommonForms, ClassWithoutAmountStaysOpenAndSaysHowToEnd) {
             "VALORE NON ACCETTABILE : importo nullo !\nPer finire l'introduzione dati occorre "
             "premere\nFINE INPUT CLASSI E CATEGORIE");
   EXPECT_TRUE(form.IsOpen());
-  EXPECT_EQ(form.TipodiUscita, "");
+  EXPECT_EQ(form.TipodiUscita, Form::Uscita::Finestra);
 
   form.SetClasse("3");
   form.SetCategoria("b");
   EXPECT_EQ(form.ciImporto.Enter("1.500.000"), "");
   form.cmdCONFERMA.Press();
   EXPECT_FALSE(form.IsOpen());
-  EXPECT_EQ(form.TipodiUscita + form.Classe + form.Categoria, "CONFERMA3b");
+  EXPECT_TRUE(form.Confermato());
+  EXPECT_EQ(form.Classe + form.Categoria, "3b");
   EXPECT_EQ(form.Importo, 1500000);
 }
 
@@ -87,7 +88,8 @@ TEST_F(CommonForms, ClassAloneAsksNoAmount) {
   form.SetClasse("2");
   form.cmdCONFERMA.Press();
   EXPECT_TRUE(player.messages.empty());
-  EXPECT_EQ(form.TipodiUscita + form.Classe + form.Categoria, "CONFERMA2a");
+  EXPECT_TRUE(form.Confermato());
+  EXPECT_EQ(form.Classe + form.Categoria, "2a");
 }
 
 TEST_F(CommonForms, ClassEndsOrRefuses) {
@@ -103,7 +105,8 @@ TEST_F(CommonForms, ClassEndsOrRefuses) {
   EXPECT_TRUE(form.IsOpen());
   form.cmdFINE.Press();
   EXPECT_FALSE(form.IsOpen());
-  EXPECT_EQ(form.TipodiUscita + form.Classe, "FINE0");
+  EXPECT_EQ(form.TipodiUscita, Form::Uscita::Fine);
+  EXPECT_EQ(form.Classe, "0");
 }
 
 TEST_F(CommonForms, KindHasFourOptionsEachWithItsHelp) {
@@ -116,7 +119,7 @@ TEST_F(CommonForms, KindHasFourOptionsEachWithItsHelp) {
     form.Option[3 - i].SetValue(true);
     form.OKbutton.Press();
     EXPECT_EQ(form.TipoParcella, values[3 - i]);
-    EXPECT_TRUE(form.TipodiUscita);
+    EXPECT_TRUE(form.Confermato());
     EXPECT_FALSE(form.IsOpen());
   }
   FrmGenTipologia form(player, "SCISSA");
@@ -136,7 +139,7 @@ TEST_F(CommonForms, KindHasFourOptionsEachWithItsHelp) {
   }
   form.OnWindowClose();
   EXPECT_EQ(form.TipoParcella, "SCISSA");
-  EXPECT_FALSE(form.TipodiUscita);
+  EXPECT_FALSE(form.Confermato());
 }
 
 TEST_F(CommonForms, QuestionIsAnsweredOrLeft) {
@@ -170,7 +173,7 @@ TEST_F(CommonForms, OneAmountGoesByTheCurrency) {
     EXPECT_EQ(form.Importo(), 12);
     (lire ? static_cast<NumberBox&>(form.InterBox1) : form.FloatBox1).Enter("34");
     form.cmdOK.Press();
-    EXPECT_TRUE(form.Confermato);
+    EXPECT_TRUE(form.Confermato());
     EXPECT_EQ(form.Importo(), 34);
   }
 }
