@@ -1,13 +1,15 @@
 // Accessory compensations.
 #include "tariff/accessory_compensations.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "runtime/data_file.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
-#include "tariff/law/tariff_tables.h"
+#include "tariff/law/table_compensations.h"
 #include "tariff/money.h"
+#include "tariff/percentages.h"
 #include "tariff/report.h"
 
 namespace orm {
@@ -49,16 +51,21 @@ std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder) {
 
 // What the criterion of the Region Calabria gives for testing fees, by the residence of the tester.
 void PercentualeCalabria(double importo, const std::string& residenza, double& P) {
-  double fuoriRegione = P, oltre100Km = P, entro100Km = P;
-  if (importo <= 1500000000)
-    fuoriRegione = oltre100Km = entro100Km = 60;
-  else if (importo >= 1500000001 && importo <= 3000000000)
-    fuoriRegione = 60, oltre100Km = entro100Km = 45;
-  else if (importo > 3000000000)
-    fuoriRegione = 60, oltre100Km = 45, entro100Km = 30;
-  if (residenza == "FUORIREGIONE") P = fuoriRegione;
-  if (residenza == "OLTRE100KM") P = oltre100Km;
-  if (residenza == "ENTRO100KM") P = entro100Km;
+  const auto fascia = std::ranges::find_if(kFasceCalabria, [importo](const FasciaCalabria& f) {
+    return importo >= f.da && importo <= f.fino;
+  });
+  if (fascia == kFasceCalabria.end()) return;
+  if (residenza == "FUORIREGIONE") P = fascia->fuoriRegione;
+  if (residenza == "OLTRE100KM") P = fascia->oltre100Km;
+  if (residenza == "ENTRO100KM") P = fascia->entro100Km;
+}
+
+double PercCompensi2001(double importo, const Compensi2001& tratto) {
+  constexpr double calo = kCompensiMassimi2001 - kCompensiMinimi2001;
+  if (importo <= tratto.fino) return kCompensiMassimi2001;
+  if (importo > tratto.a) return kCompensiMinimi2001;
+  if (importo < tratto.da) return 0;
+  return kCompensiMassimi2001 - calo * (importo - tratto.da) / tratto.ampiezza;
 }
 
 // A percentage and the coefficient that it makes, with the texts of both.
@@ -119,17 +126,11 @@ void PercCompensiAccessoriCfg(const WorkFolder& folder, double importo, double& 
 }
 
 double PercCompensiNuovaTariffaLire(double importo) {
-  if (importo <= 50000000) return 30;
-  if (importo > 100000000000) return 15;
-  if (importo < 50000001) return 0;
-  return 30 - 15 * (importo - 50000001) / (100000000000 - 50000001);
+  return PercCompensi2001(importo, kCompensi2001Lire);
 }
 
 double PercCompensiNuovaTariffaEuro(double importo) {
-  if (importo <= 25822.84) return 30;
-  if (importo > 51645689.91) return 15;
-  if (importo < 25822.85) return 0;
-  return 30 - 15 * (importo - 25822.85) / 51619867.06;
+  return PercCompensi2001(importo, kCompensi2001Euro);
 }
 
 void CompensiAccessori(RunState& stato, double importo, ModoCompensi modo, double& Coefficiente,

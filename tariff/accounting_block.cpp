@@ -4,6 +4,8 @@
 
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "tariff/law/table_e.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
 
@@ -26,6 +28,25 @@ void Riunisci(std::vector<RigaContabilita>& righe) {
 }
 
 }  // namespace
+
+std::string CoefficienteInStringa(double coefficiente) {
+  const bool noto =
+      coefficiente == kCoefficienteAltreClassi ||
+      std::ranges::count(kLavoriClasse1, coefficiente, &LavoriContabilita::coefficiente) > 0;
+  return FormattaCopia(noto ? coefficiente : kLavoriClasse1.front().coefficiente, -2);
+}
+
+std::string NumeroContabilita(double valore, bool modoLire) {
+  const std::string testo = FormattaCopia(valore, modoLire ? 0 : -2);
+  const std::size_t lunghezza = Characters(testo);
+  return (lunghezza < 15 ? Blanks(15 - lunghezza) : "") + testo;
+}
+
+std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire) {
+  return FormattaCopia(fascia.aliquota, -5) + "% x " + CoefficienteInStringa(fascia.coefficiente) +
+         " x " + NumeroContabilita(fascia.parte, modoLire) + " = " +
+         NumeroContabilita(fascia.onorario, modoLire);
+}
 
 double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
                                 std::string& testo) {

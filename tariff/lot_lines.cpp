@@ -7,6 +7,7 @@
 #include "tariff/final_account.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
+#include "tariff/percentages.h"
 #include "tariff/report.h"
 
 namespace orm {

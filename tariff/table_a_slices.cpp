@@ -1,12 +1,12 @@
 #include "tariff/table_a_slices.h"
 
+#include "tariff/law/table_a.h"
 #include "tariff/money.h"
 
 namespace orm {
 
 double LimiteTabellaA(const RunState& stato) {
-  constexpr double lire = 5000000000;
-  return stato.ModoLire ? lire : LireInEuro(lire);
+  return stato.ModoLire ? kLimiteTabellaA : LireInEuro(kLimiteTabellaA);
 }
 
 PercentualiTabellaA PercentualiDellaBase(const RunState& stato, double base, int periodo,

@@ -1,19 +1,27 @@
 // The accounting fee on screen.
 #include "utilities/form_accounting_fee.h"
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 
+#include "tariff/accounting_block.h"
 #include "tariff/forms/amount_limits.h"
-#include "tariff/law/accounting_fee.h"
+#include "tariff/law/table_e.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {
 namespace {
 
-constexpr std::array kCoefficienti = {1.0, 1.1, 1.2, 1.4, 0.7};
-constexpr int kPeriodi = 6;
-constexpr int kPeriodoProposto = 5;
+// Rising for the works of class 1, then that of the other classes.
+constexpr auto kCoefficienti = [] {
+  std::array<double, kLavoriClasse1.size() + 1> tutti{};
+  std::ranges::transform(kLavoriClasse1, tutti.begin(), &LavoriContabilita::coefficiente);
+  std::sort(tutti.begin(), tutti.end() - 1);
+  tutti.back() = kCoefficienteAltreClassi;
+  return tutti;
+}();
 
 }  // namespace
 
@@ -27,12 +35,12 @@ FrmUtiContabilita::FrmUtiContabilita(RunState& run)
       ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kWorksLire),
       cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kWorksEuro) {
   std::vector<std::string> periodi, coefficienti;
-  for (int periodo = 1; periodo <= kPeriodi; ++periodo)
+  for (int periodo = 1; periodo <= kPeriodo2001; ++periodo)
     periodi.push_back(NomePeriodoTariffario(periodo));
   for (const double coefficiente : kCoefficienti)
     coefficienti.push_back(CoefficienteInStringa(coefficiente));
   comPeriodo.SetItems(std::move(periodi));
-  comPeriodo.SetIndex(kPeriodoProposto - 1);
+  comPeriodo.SetIndex(kPeriodo1987 - 1);
   comCoefficiente.SetItems(std::move(coefficienti));
   comCoefficiente.SetIndex(0);
   valuta.Choose(run.ModoLire ? 0 : 1);

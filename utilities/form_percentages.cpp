@@ -5,17 +5,12 @@
 
 #include "tariff/forms/amount_limits.h"
 #include "tariff/law/table_classes.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "utilities/percentage_curve.h"
 
 namespace orm {
-namespace {
-
-constexpr int kPeriodi = 6;
-constexpr int kPeriodoProposto = 5;
-
-}  // namespace
 
 void MostraPercentuali(RunState& run) {
   FrmUtiPercentuali form(run);
@@ -30,12 +25,12 @@ FrmUtiPercentuali::FrmUtiPercentuali(RunState& run)
       run_(run) {
   std::vector<std::string> classi, periodi;
   for (const NomiClasse& classe : kNomiClassi) classi.emplace_back(classe.nome);
-  for (int periodo = 1; periodo <= kPeriodi; ++periodo)
+  for (int periodo = 1; periodo <= kPeriodo2001; ++periodo)
     periodi.push_back(NomePeriodoTariffario(periodo));
   comClasse.SetItems(std::move(classi));
   comClasse.SetIndex(0);
   comPeriodo.SetItems(std::move(periodi));
-  comPeriodo.SetIndex(kPeriodoProposto - 1);
+  comPeriodo.SetIndex(kPeriodo1987 - 1);
   valuta.Choose(run.ModoLire ? 0 : 1);
   MostraCategorie();
 

@@ -1,6 +1,7 @@
 // The reckoning of the pension.
 #include "utilities/pension.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -15,9 +16,8 @@ struct AnniUtili {
 };
 
 AnniUtili Scelta(int Anni) {
-  if (Anni >= 17) return {12, 5};
-  if (Anni >= 12) return {12, Anni - 12};
-  return {Anni, 0};
+  const int contati = std::min(Anni, kAnniMedia);
+  return {contati, std::min(Anni, kAnniReddito) - contati};
 }
 
 // Yield of a band for the length of contribution.
@@ -31,7 +31,7 @@ double RedditoMedio(const RedditiAnnui& redditi, int Anni) {
   // Places from 1; the eighteenth holds 0 and takes part in the ordering.
   std::array<double, kAnniReddito + 2> Reddito{};
   for (std::size_t i = 0; i < redditi.size(); ++i) {
-    const AnnoReddito& anno = kAnni[i];
+    const AnnoReddito& anno = kMassimaliReddito[i];
     Reddito[i + 1] = (redditi[i] < anno.limite ? redditi[i] : anno.valore) * anno.rivalutazione;
   }
 
@@ -50,13 +50,15 @@ double RedditoMedio(const RedditiAnnui& redditi, int Anni) {
 }
 
 void PensioneDelReddito(double medio, int Anni, int Giorni, double& Pensione) {
-  for (std::size_t n = 0; n < kFasce.size(); ++n) {
-    const bool dentro = (n == 0 || medio >= kFasce[n].da + 1) && medio <= kFasce[n].fino;
+  for (std::size_t n = 0; n < kFasceReddito.size(); ++n) {
+    const bool dentro =
+        (n == 0 || medio >= kFasceReddito[n].da + 1) && medio <= kFasceReddito[n].fino;
     if (!dentro) continue;
     Pensione = 0;
     for (std::size_t f = 0; f < n; ++f)
-      Pensione += Int(Rendimento(kFasce[f], Anni, Giorni) * (kFasce[f].fino - kFasce[f].da));
-    Pensione += Int(Rendimento(kFasce[n], Anni, Giorni) * (medio - kFasce[n].da));
+      Pensione += Int(Rendimento(kFasceReddito[f], Anni, Giorni) *
+                      (kFasceReddito[f].fino - kFasceReddito[f].da));
+    Pensione += Int(Rendimento(kFasceReddito[n], Anni, Giorni) * (medio - kFasceReddito[n].da));
     return;
   }
 }

@@ -1,13 +1,13 @@
 // Percentages of the tariff.
 #include "utilities/percentages.h"
 
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
+#include "tariff/percentages.h"
 
 namespace orm {
 namespace {
-
-constexpr int kPeriodoNuova = 6;
 
 std::string Testo(double percentuale, double importoLire, const Criteri& criteri) {
   int decimali = 0;
@@ -18,7 +18,7 @@ std::string Testo(double percentuale, double importoLire, const Criteri& criteri
 }  // namespace
 
 Percentuali CalcolaPercentuali(const RichiestaPercentuali& r, const Criteri& criteri) {
-  const bool nuova = r.periodo == kPeriodoNuova;
+  const bool nuova = r.periodo == kPeriodo2001;
   if (r.importo == 0) return nuova ? Percentuali{"", "", "0%"} : Percentuali{"0%", "0%", ""};
   // Tables A and of 2001 take whole Lire as a number without decimals, Table C by the conversion.
   double lire = r.lire ? r.importo : EuroInLire(r.importo);
@@ -46,7 +46,7 @@ Percentuali CalcolaPercentuali(const RichiestaPercentuali& r, const Criteri& cri
 
 double PercentualeDiCurva(double importoLire, const RichiestaPercentuali& r) {
   double percentuale = 0;
-  if (r.periodo == kPeriodoNuova)
+  if (r.periodo == kPeriodo2001)
     PercentualeTabellaNuova(importoLire, r.classe, r.categoria, percentuale);
   else
     PercentualeTabellaA(importoLire, r.periodo, r.classe, r.categoria, percentuale);

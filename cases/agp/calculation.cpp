@@ -4,7 +4,7 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/files/closing_line.h"
-#include "tariff/law/table_price_updating.h"
+#include "tariff/law/table_articles.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
@@ -12,16 +12,6 @@
 
 namespace orm {
 namespace {
-
-// An unknown class has none, and its fee is 0.
-double AliquotaAggiornamento(const LottoAgp& lotto) {
-  for (const AliquotaAgp& riga : kAliquoteAgp)
-    if (riga.classe == lotto.Classe &&
-        (riga.categorie.empty() || (lotto.Categoria.size() == 1 &&
-                                    riga.categorie.find(lotto.Categoria) != std::string::npos)))
-      return riga.aliquota;
-  return 0;
-}
 
 int Periodo(const DatiAgp& dati) {
   const auto periodo = ParseNumber(dati.PeriodoTariffario);
@@ -38,7 +28,9 @@ class NotaAgp {
         uscita(run.NumFileUscita),
         d(dati),
         periodo(Periodo(dati)),
-        CoefficienteMetodo(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO" ? 0.2 : 0.4) {}
+        CoefficienteMetodo(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO"
+                               ? kAggiornamentoSemplice
+                               : kNuoveAnalisi) {}
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -98,7 +90,7 @@ void NotaAgp::CalcolaLotto(std::size_t numero, const LottoAgp& lotto) {
   const auto quote = QuoteDellImporto(percentuali, lotto.Importo, LimiteTabellaA(stato));
   for (const QuotaImporto& quota : quote)
     StampaPercentuale(stato, " Percentuale tabella A = ", quota.percentuale, quota.importo, 40);
-  const double aliquota = AliquotaAggiornamento(lotto);
+  const double aliquota = AliquotaAggiornamento(lotto.Classe, lotto.Categoria);
   const std::string inizio = FormattaCopia(CoefficienteMetodo, 2) + " x ";
   for (const QuotaImporto& quota : quote)
     totale +=
@@ -117,9 +109,13 @@ void NotaAgp::CalcolaMaggiorazione() {
   uscita.Line(NumberText(static_cast<double>(d.Lotti.size() + 1)) +
               " - MAGGIORAZIONE PER INCARICO PARZIALE");
   const double base = MaggiorazioneConglobata() ? totale : SenzaCompensi(totale, compensi);
-  maggiorazione = IntInLire(
-      stato, MaggiorazioneConglobata() ? 0.25 * totale : SenzaCompensi(0.25 * totale, compensi));
-  StampaRigaOnorario(stato, 1, " 0,25 x " + TestoImporto(stato, base) + " =", maggiorazione);
+  const double quarto = kIncaricoParziale * totale;
+  maggiorazione =
+      IntInLire(stato, MaggiorazioneConglobata() ? quarto : SenzaCompensi(quarto, compensi));
+  StampaRigaOnorario(
+      stato, 1,
+      " " + FormattaCopia(kIncaricoParziale, -2) + " x " + TestoImporto(stato, base) + " =",
+      maggiorazione);
   totale += maggiorazione;
 }
 

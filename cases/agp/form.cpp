@@ -1,11 +1,10 @@
 #include "cases/agp/form.h"
 
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {
 namespace {
-
-constexpr int kPeriodi = 5;
 
 constexpr const char* kAvvertenze =
     "Per il disposto dell'articolo 23-b si ha la maggiorazione per incarico parziale\n"
@@ -16,7 +15,7 @@ constexpr const char* kAvvertenze =
 
 std::vector<std::string> NomiDeiDecreti() {
   std::vector<std::string> nomi;
-  for (int periodo = 1; periodo <= kPeriodi; ++periodo)
+  for (int periodo = 1; periodo <= kPeriodo1987; ++periodo)
     nomi.push_back(NomePeriodoTariffarioEsteso(periodo));
   return nomi;
 }

@@ -9,18 +9,16 @@
 #include "tariff/accessory_compensations.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/final_account.h"
+#include "tariff/law/table_a.h"
+#include "tariff/law/table_articles.h"
+#include "tariff/law/table_hours.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
+#include "tariff/percentages.h"
 #include "tariff/report.h"
 
 namespace orm {
 namespace {
-
-// Lire; beyond it the decree of 1987 splits the amount.
-constexpr double kLimiteScaglione = 5000000000;
-// A quarter of an hour for each page, at the hourly rate of D.M. 3-9-1997 n. 417. The figure is in
-// Lire and stands unconverted in notes in Euro too.
-constexpr double kVacazioneOraria = 110000;
 
 struct Percentuale {
   double valore;  // cut to what its text shows
@@ -101,9 +99,10 @@ void NotaCoa::StampaOnorario(const Percentuale& P, double base, double& onorario
                      onorario);
 }
 
+// Beyond the limit the decree of 1987 splits the amount.
 void NotaCoa::CalcolaOnorario() {
   if (d.ImportoCollaudo <= 0) return;
-  if (ImportoInLire <= kLimiteScaglione || d.PeriodoCollaudo <= 4)
+  if (ImportoInLire <= kLimiteTabellaA || d.PeriodoCollaudo <= 4)
     UnoScaglione();
   else
     DueScaglioni();
@@ -122,10 +121,10 @@ void NotaCoa::UnoScaglione() {
 // multiplied by the exchange rate a second time. The two fees in Lire are cut at different places.
 void NotaCoa::DueScaglioni() {
   const bool lire = stato.ModoLire;
-  const double base1 = lire ? kLimiteScaglione : LireInEuro(kLimiteScaglione);
+  const double base1 = lire ? kLimiteTabellaA : LireInEuro(kLimiteTabellaA);
   const double base2 = d.ImportoCollaudo - base1;
-  const Percentuale P1 = TabellaC(kLimiteScaglione), P2 = TabellaC(ImportoInLire);
-  StampaPercentuale(P1, lire ? kLimiteScaglione : EuroInLire(kLimiteScaglione));
+  const Percentuale P1 = TabellaC(kLimiteTabellaA), P2 = TabellaC(ImportoInLire);
+  StampaPercentuale(P1, lire ? kLimiteTabellaA : EuroInLire(kLimiteTabellaA));
   StampaPercentuale(P2, lire ? base2 : EuroInLire(base2));
   StampaTitoloOnorario();
   double Onorario1 = 0, Onorario2 = 0;
@@ -152,17 +151,20 @@ void NotaCoa::CalcolaMaggiorazione() {
                 Maggiorazione);
 }
 
-// By time, but never more than 0,40 of the fee without its compensations.
+// By time, but never more than its part of the fee without compensations. The rate of an hour is in
+// Lire and stands unconverted in notes in Euro too.
 void NotaCoa::CalcolaVacazione() {
   if (d.NumeroFacciate == 0) return;
   uscita.Line(Numero() + " Onorario a vacazione per revisione tecnico contabile");
-  Vacazione = IntInLire(d.NumeroFacciate * kVacazioneOraria / 4);
-  std::string formula =
-      "num. pagine " + NumberText(d.NumeroFacciate) + " x 0,25 x " + NumberText(kVacazioneOraria);
-  const double massimo = DivisoCoefficiente(OnorarioBase) * 0.4;
+  Vacazione = IntInLire(d.NumeroFacciate * kVacazioneProfessionista * kOrePerFacciata);
+  std::string formula = "num. pagine " + NumberText(d.NumeroFacciate) + " x " +
+                        FormattaCopia(kOrePerFacciata, -2) + " x " +
+                        NumberText(kVacazioneProfessionista);
+  const double massimo = DivisoCoefficiente(OnorarioBase) * kMassimoRevisioneContabile;
   if (massimo < Vacazione) {
     Vacazione = massimo;
-    formula = "0,40 x " + FormattaNumero(OnorarioBase, stato.DecimaliValuta()) + " / " +
+    formula = FormattaCopia(kMassimoRevisioneContabile, -2) + " x " +
+              FormattaNumero(OnorarioBase, stato.DecimaliValuta()) + " / " +
               Middle(StringaCoefficiente, 3);
   }
   StampaFormula(stato, formula + " =", Vacazione);

@@ -7,7 +7,6 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/files/closing_line.h"
-#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
 

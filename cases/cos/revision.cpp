@@ -1,18 +1,14 @@
 // The fee of the revision of stability calculations (art. 19-f).
 #include "cases/cos/note.h"
-#include "tariff/law/table_price_revision.h"
+#include "tariff/law/table_articles.h"
 #include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
 #include "tariff/report.h"
 
 namespace orm {
 
 double AliquotaRevisione(const std::string& codice, const RigaCos& riga) {
-  for (const AliquotaCos& a : kAliquoteRevisione)
-    if (a.classe == riga.Classe &&
-        (a.categorie.empty() ||
-         (riga.Categoria.size() == 1 && a.categorie.find(riga.Categoria) != std::string::npos)))
-      return codice == "CS1" ? a.cs1 : a.cs2;
-  return 0;
+  return AliquotaRevisioneCalcoli(riga.Classe, riga.Categoria, codice != "CS1");
 }
 
 void NotaCos::RevisioneCalcoliCos() {
@@ -51,16 +47,18 @@ void NotaCos::RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int per
   for (const QuotaImporto& quota : QuoteDellImporto(percentuali, SommaLotto, limite))
     StampaPercentuale(stato, kVocePercentualeProgetto, quota.percentuale, quota.importo);
   const double aliquota = AliquotaRevisione(stato.CasoDiParcella, riga);
+  const std::string inizio = FormattaCopia(kRevisioneCalcoli, -2) + " x ";
   for (const QuotaImporto& quota : QuoteDellImporto(percentuali, riga.ImportoVerificato, limite))
-    revisione += StampaOnorario(stato,
-                                {.inizio = "0,20 x ",
-                                 .aliquota = aliquota,
-                                 .decimali = 3,
-                                 .percentuale = quota.percentuale,
-                                 .importo = quota.importo,
-                                 .StringaCoefficiente = compensi.StringaCoefficiente},
-                                IntInLire(stato, quota.importo * 0.20 * quota.percentuale.valore *
-                                                     aliquota / 100 * compensi.Coefficiente));
+    revisione += StampaOnorario(
+        stato,
+        {.inizio = inizio,
+         .aliquota = aliquota,
+         .decimali = 3,
+         .percentuale = quota.percentuale,
+         .importo = quota.importo,
+         .StringaCoefficiente = compensi.StringaCoefficiente},
+        IntInLire(stato, quota.importo * kRevisioneCalcoli * quota.percentuale.valore * aliquota /
+                             100 * compensi.Coefficiente));
 }
 
 }  // namespace orm

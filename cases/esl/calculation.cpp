@@ -11,7 +11,9 @@
 #include "tariff/accounting_block.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/final_account.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/table_services_2001.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/lot_lines.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
@@ -19,13 +21,11 @@
 namespace orm {
 namespace {
 
-constexpr int kPeriodo = 5;  // of accounting and certificate, which the decree of 2001 left alone
+// Of accounting and certificate, which the decree of 2001 left alone.
+constexpr int kPeriodo = kPeriodo1987;
 
 std::size_t ColonnaTabelleB(std::string_view classe, std::string_view categoria) {
-  if (classe == "1" && categoria.size() == 1 && categoria >= "a" && categoria <= "g")
-    return categoria <= "d" ? 0 : static_cast<std::size_t>(categoria[0] - 'd');
-  if (classe.size() == 1 && classe >= "2" && classe <= "9")
-    return static_cast<std::size_t>(classe[0] - '2') + 4;
+  if (const auto colonna = ColonnaTabelle2001(classe, categoria)) return *colonna;
   throw RuntimeFailure("La classe \"" + std::string(classe) + "\", categoria \"" +
                        std::string(categoria) + "\" non è nelle tabelle.");
 }

@@ -10,14 +10,14 @@
 #include "runtime/numbers.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/final_account.h"
+#include "tariff/law/table_articles.h"
 #include "tariff/law/table_geotechnics.h"
+#include "tariff/money.h"
 #include "tariff/phase_lines.h"
 #include "tariff/report.h"
 
 namespace orm {
 namespace {
-
-constexpr std::size_t kServiziProgetto = 4;  // a to d; e and f belong to the supervision
 
 std::size_t IndiceSottoclasse(const RigaGeo& riga) {
   const std::string& s = riga.Sottoclasse;
@@ -163,9 +163,10 @@ void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) 
   if (progetto) StampaPercentuale(stato, " % Prog.  = ", PProgetto, g.ProgettoGruppo);
   if (direzione) StampaPercentuale(stato, " % D.L.   = ", PDirezione, g.BaseDirezione);
   if (progetto)
-    totaleProgetto += OnorarioBlocco(
-        BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0, kServiziProgetto),
-        PProgetto, riga.ImportoProgetto);
+    totaleProgetto +=
+        OnorarioBlocco(BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0,
+                                kServiziProgettoGeo),
+                       PProgetto, riga.ImportoProgetto);
   if (direzione)
     for (const Blocco& blocco : BlocchiDirezione(riga))
       totaleDirezione += OnorarioBlocco(blocco, PDirezione, riga.ImportoDirezione);
@@ -189,7 +190,7 @@ NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> 
 std::vector<NotaGeo::Blocco> NotaGeo::BlocchiDirezione(const RigaGeo& riga) const {
   if (stato.criteri.AliquoteDirezioneLavori == "UNITE")
     return {BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI DIREZIONE LAVORI"},
-                     kServiziProgetto, 6)};
+                     kServiziProgettoGeo, 6)};
   return {
       BloccoDi(riga, {"CONSULENZA ED ASSISTENZA GEOTECNICA IN FASE", "DI REALIZZAZIONE DELL'OPERA"},
                4, 5, false),
@@ -216,11 +217,12 @@ double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, d
   if (d.MaggiorazioneParziale != "SI") return 0;
   uscita.Line("INCARICO PARZIALE ( art. 18 )");
   const bool conglobato = stato.criteri.CompensiSuMaggiorazione != "NO";
-  double onorario = 0.25 * P.valore * blocco.quota * importo / 100;
+  const std::string inizio = " " + FormattaCopia(kIncaricoParziale, -2) + " x ";
+  double onorario = kIncaricoParziale * P.valore * blocco.quota * importo / 100;
   if (conglobato) onorario = onorario * compensi.Coefficiente;
   return StampaOnorarioFase(
       stato,
-      {.inizio = " 0,25 x ",
+      {.inizio = inizio,
        .percentuale = P,
        .aliquota = blocco.quota,
        .importo = TestoImporto(stato, importo),
@@ -237,8 +239,9 @@ void NotaGeo::CalcolaCompensoAggiuntivo() {
       .Text("geotecniche per un costo complessivo di ")
       .Tab(kColonnaImporto)
       .Line(StringaImporto(costo, TipoImporto::Onorari, stato.ModoLire));
-  compensoAggiuntivo = IntInLire(stato, 0.1 * d.CostoIndagini);
-  StampaRigaOnorario(stato, 1, costo + " x 0,10 = ", compensoAggiuntivo);
+  compensoAggiuntivo = IntInLire(stato, kCompensoIndagini * d.CostoIndagini);
+  StampaRigaOnorario(stato, 1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",
+                     compensoAggiuntivo);
 }
 
 void NotaGeo::Chiudi() {

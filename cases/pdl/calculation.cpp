@@ -8,6 +8,8 @@
 #include "runtime/numbers.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/final_account.h"
+#include "tariff/law/table_articles.h"
+#include "tariff/money.h"
 #include "tariff/report.h"
 
 namespace orm {
@@ -141,8 +143,11 @@ void NotaPdl::CalcolaRevisione() {
   if (totali[3] == 0 || d.Righe.back().FlagRevisione != "S" || d.Righe.back().ImportoDirezione == 0)
     return;
   uscita.Line("CALCOLO COMPENSO REVISIONALE");
-  totali[4] = IntInLire(stato, 0.2 * 0.75 * totali[3]);
-  StampaRigaOnorario(stato, 1, " 0,20 x 0,75 x " + TestoImporto(stato, totali[3]) + " =",
+  totali[4] = IntInLire(stato, kRevisionePrezzi * kRevisionePrezziSu * totali[3]);
+  StampaRigaOnorario(stato, 1,
+                     " " + FormattaCopia(kRevisionePrezzi, -2) + " x " +
+                         FormattaCopia(kRevisionePrezziSu, -2) + " x " +
+                         TestoImporto(stato, totali[3]) + " =",
                      totali[4]);
 }
 

@@ -1,9 +1,8 @@
 #include "cases/pdl/form_services.h"
 
+#include "tariff/law/table_b.h"
+
 namespace orm {
-namespace {
-constexpr std::size_t kServiziProgetto = 6;
-}
 
 FrmPdlPrestazio::FrmPdlPrestazio(std::string titolo, std::string dove, const std::string& tipo,
                                  const std::string& stringa, Modo modo)
@@ -29,7 +28,7 @@ FrmPdlPrestazio::FrmPdlPrestazio(std::string titolo, std::string dove, const std
   SetContent(Column({lblLotto, Group(Frame1, {Option1, Option2}),
                      Group(Frame2, {servizi.begin(), servizi.end()}), Buttons({Command1})}));
   for (std::size_t i = 0; i < servizi.size(); ++i) {
-    const bool offerta = modo == Modo::Riga || i < kServiziProgetto;
+    const bool offerta = modo == Modo::Riga || i < kServiziProgettoTabellaB;
     servizi[i].SetVisible(offerta);
     servizi[i].SetValue(offerta && tipo != "T" &&
                         ("+" + stringa + "+").find("+" + servizi[i].Name() + "+") !=

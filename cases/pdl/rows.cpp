@@ -2,8 +2,16 @@
 #include <cmath>
 
 #include "cases/pdl/note.h"
+#include "tariff/law/table_articles.h"
+#include "tariff/money.h"
 
 namespace orm {
+namespace {
+
+// " 0,25 x", the start of a formula.
+std::string Inizio(double quota) { return " " + FormattaCopia(quota, -2) + " x"; }
+
+}  // namespace
 
 double NotaPdl::StampaQuota(double aliquota, const QuotaImporto& quota) {
   const double onorario =
@@ -20,11 +28,12 @@ double NotaPdl::StampaQuota(double aliquota, const QuotaImporto& quota) {
 // limit the text lacks a blank.
 double NotaPdl::OnorarioArticolo18(double aliquota, const QuotaImporto& quota, bool oltreLimite) {
   const bool conCompensi = stato.criteri.CompensiSuMaggiorazione != "NO";
-  double onorario = 0.25 * aliquota * quota.percentuale.valore * quota.importo / 100;
+  const std::string inizio = Inizio(kIncaricoParziale) + (oltreLimite && !conCompensi ? "" : " ");
+  double onorario = kIncaricoParziale * aliquota * quota.percentuale.valore * quota.importo / 100;
   if (conCompensi) onorario *= compensi.Coefficiente;
   onorario = StampaOnorario(
       stato,
-      {.inizio = oltreLimite && !conCompensi ? " 0,25 x" : " 0,25 x ",
+      {.inizio = inizio,
        .aliquota = aliquota,
        .percentuale = quota.percentuale,
        .importo = quota.importo,
@@ -92,12 +101,13 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
 // Above the limit the report's whole decides, and each of its amounts is split.
 double NotaPdl::OnorarioPerizia(double aliquota, double importo,
                                 const PercentualiTabellaA& percentuali) {
+  const std::string inizio = Inizio(kPerizie) + " ";
   double totale = 0;
   for (const QuotaImporto& quota : QuoteDellImporto(percentuali, importo, limite)) {
-    const double onorario =
-        0.75 * quota.importo * quota.percentuale.valore * aliquota / 100 * compensi.Coefficiente;
+    const double onorario = kPerizie * quota.importo * quota.percentuale.valore * aliquota / 100 *
+                            compensi.Coefficiente;
     totale += StampaOnorario(stato,
-                             {.inizio = " 0,75 x ",
+                             {.inizio = inizio,
                               .aliquota = aliquota,
                               .percentuale = quota.percentuale,
                               .importo = quota.importo,
@@ -154,14 +164,15 @@ double NotaPdl::OnorarioSorveglianza(const Conto& conto) {
   const double aliquota = conto.aliquote[7];  // done or not
   const bool conCompensi = stato.criteri.CompensiSuSorveglianza != "NO";
   uscita.Line("SORVEGLIANZA ( art. 17 )");
+  const std::string inizio = Inizio(kSorveglianza) + " ";
   double totale = 0;
   for (const QuotaImporto& quota : QuoteProgressive(conto.direzione, conto.riga.ImportoDirezione,
                                                     conto.direzionePrima, limite)) {
-    double onorario = 0.5 * aliquota * quota.importo * quota.percentuale.valore / 100;
+    double onorario = kSorveglianza * aliquota * quota.importo * quota.percentuale.valore / 100;
     if (conCompensi) onorario *= compensi.Coefficiente;
     totale += StampaOnorario(
         stato,
-        {.inizio = " 0,50 x ",
+        {.inizio = inizio,
          .aliquota = aliquota,
          .percentuale = quota.percentuale,
          .importo = quota.importo,

@@ -3,11 +3,10 @@
 #include <cmath>
 
 #include "runtime/failure.h"
+#include "tariff/law/table_b.h"
 
 namespace orm {
 namespace {
-
-constexpr std::string_view kLettere = "abcdefghil";
 
 // Place in the tariff, from 1: there is no j and no k.
 std::size_t IndiceServizio(char lettera, const char* campo) {
@@ -59,7 +58,8 @@ std::string TestoPrestazioni(const Aliquote& fatti, GruppoServiziPdl gruppo) {
   const bool progetto = gruppo == GruppoServiziPdl::Progetto;
   std::string testo;
   for (std::size_t i = progetto ? 1 : 7; i <= (progetto ? 6U : 10U); ++i)
-    if (fatti[i] != 0) testo += (testo.empty() ? "" : "+") + std::string(1, kLettere[i - 1]);
+    if (fatti[i] != 0)
+      testo += (testo.empty() ? "" : "+") + std::string(1, kLettereTabellaB[i - 1]);
   return testo;
 }
 

@@ -9,7 +9,7 @@
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
 #include "tariff/forms/amount_box.h"
-#include "tariff/law/table_site_safety.h"
+#include "tariff/law/site_safety.h"
 
 namespace orm {
 

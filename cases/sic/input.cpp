@@ -7,7 +7,6 @@
 #include "tariff/forms/form_kind.h"
 #include "tariff/forms/input_step.h"
 #include "tariff/forms/lot_chain.h"
-#include "tariff/law/tariff_tables.h"
 
 namespace orm {
 namespace {

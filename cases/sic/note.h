@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cases/sic/data.h"
-#include "tariff/law/table_site_safety.h"
+#include "tariff/law/site_safety.h"
 #include "tariff/table_a_slices.h"
 
 namespace orm {

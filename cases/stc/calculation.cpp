@@ -7,9 +7,9 @@
 #include "runtime/numbers.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/final_account.h"
-#include "tariff/law/price_index.h"
 #include "tariff/law/table_condition_surveys.h"
 #include "tariff/money.h"
+#include "tariff/price_index.h"
 #include "tariff/report.h"
 
 namespace orm {

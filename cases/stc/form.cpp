@@ -1,6 +1,7 @@
 #include "cases/stc/form.h"
 
 #include "runtime/numbers.h"
+#include "tariff/law/table_condition_surveys.h"
 
 namespace orm {
 namespace {
@@ -8,8 +9,6 @@ namespace {
 // As much of each as the report has room for, with everything else at its greatest.
 const NumberLimits kCount{.most = 99999, .decimals = 0};
 NumberLimits Size(const char* unit) { return {.most = 99999999, .decimals = 0, .unit = unit}; }
-
-constexpr double kFrontiStradali = 0.25;
 
 }  // namespace
 

@@ -5,14 +5,16 @@
 #include "runtime/numbers.h"
 #include "tariff/accounting_block.h"
 #include "tariff/forms/lot_chain.h"
+#include "tariff/law/table_e.h"
 #include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {
 
-// In the order of the options.
-constexpr std::array<double, 4> kCoefficienti = {1.0, 1.2, 1.1, 1.4};
-constexpr double kAltreClassi = 0.7;
+// The option of a kind of works, its coefficient behind its name.
+std::string Voce(std::size_t i) {
+  return kLavoriClasse1[i].nome + CoefficienteInStringa(kLavoriClasse1[i].coefficiente);
+}
 
 }  // namespace
 
@@ -63,12 +65,10 @@ FrmPdlCont::FrmPdlCont(std::string dove, const std::string& risposta)
       Risposta(risposta),
       lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
       Frame1(*this, "Frame1", "TIPO DI LAVORI EDILI "),
-      Option{
-          {{*this, "Option1", "NORMALI LAVORI EDILI                                       1,00",
-            tipo},
-           {*this, "Option2", "RIPARAZIONI E TRASFORMAZIONI                    1,20", tipo},
-           {*this, "Option3", "AGGIUNTE ED AMPLIAMENTI                             1,10", tipo},
-           {*this, "Option4", "ORDINARIE MANUTENZIONI                              1,40", tipo}}},
+      Option{{{*this, "Option1", Voce(0), tipo},
+              {*this, "Option2", Voce(1), tipo},
+              {*this, "Option3", Voce(2), tipo},
+              {*this, "Option4", Voce(3), tipo}}},
       Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
   SetContent(Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}),
                      Buttons({Command1})}));
@@ -82,13 +82,13 @@ FrmPdlCont::FrmPdlCont(std::string dove, const std::string& risposta)
 
 double ChiediCoefficienteContabilita(Player& player, const std::string& dove,
                                      const std::string& Classe, double attuale) {
-  if (Classe != "1") return kAltreClassi;
-  const auto noto = std::ranges::find(kCoefficienti, attuale);
-  const auto indice = noto - kCoefficienti.begin();
+  if (Classe != "1") return kCoefficienteAltreClassi;
+  const auto noto = std::ranges::find(kLavoriClasse1, attuale, &LavoriContabilita::coefficiente);
+  const auto indice = noto - kLavoriClasse1.begin();
   FrmPdlCont form(
-      dove, noto == kCoefficienti.end() ? "" : std::string(1, static_cast<char>('1' + indice)));
+      dove, noto == kLavoriClasse1.end() ? "" : std::string(1, static_cast<char>('1' + indice)));
   player.Show(form);
-  return kCoefficienti[static_cast<std::size_t>(form.Risposta[0] - '1')];
+  return kLavoriClasse1[static_cast<std::size_t>(form.Risposta[0] - '1')].coefficiente;
 }
 
 std::string RifiutoContabilita(std::size_t righe) {

@@ -11,7 +11,7 @@ std::string Intero(std::size_t numero) { return NumberText(static_cast<double>(n
 bool ChiediClasse(RunState& stato, FrmGenClasse& form, const PostoLotto& posto, std::string& Classe,
                   std::string& Categoria, const TestiClasse& testi) {
   const std::string lotto = "LOTTO n° " + Intero(posto.numero);
-  const bool senzaCategorie = Classe == "8" || Classe == "5";
+  const bool senzaCategorie = SenzaCategorie(Classe);
   form.Label1.SetText(posto.Nuovo() ? "NUOVO LOTTO" : testi.etichetta ? lotto : "");
   form.SetTitle(testi.titolo.empty() ? "CLASSE E CATEGORIA per il " + lotto : testi.titolo);
   if (posto.Nuovo()) {

@@ -3,10 +3,8 @@
 
 #include <cstddef>
 
-#include "runtime/text.h"
 #include "tariff/law/table_e.h"
-#include "tariff/law/tariff_tables.h"
-#include "tariff/money.h"
+#include "tariff/law/table_periods.h"
 
 namespace orm {
 namespace {
@@ -20,12 +18,10 @@ double Limite(std::size_t fascia, bool modoLire) {
 }
 
 double Aliquota(std::size_t fascia, int periodo) {
-  const bool primi = periodo >= 1 && periodo <= 4;
-  const double moltiplicatore = primi
-                                    ? kMoltiplicatoriTabellaE[static_cast<std::size_t>(periodo - 1)]
-                                : fascia > kLimiti ? kMoltiplicatoreOltre
-                                                   : kMoltiplicatoriTabellaE.back();
-  return kAliquoteTabellaE[fascia - 1] * moltiplicatore;
+  if (periodo < 1 || periodo > kPeriodo1987) periodo = kPeriodo1987;
+  const DecretoTariffario& decreto = kDecreti[static_cast<std::size_t>(periodo - 1)];
+  return kAliquoteTabellaE[fascia - 1] *
+         (fascia > kLimiti ? decreto.coefficienteOltre : decreto.coefficiente);
 }
 
 FasciaContabilita Calcola(std::size_t fascia, const RigaContabilita& riga, double parte) {
@@ -65,18 +61,6 @@ OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita
     usata = esito.importo - Limite(chiuse, modoLire);
   }
   return esito;
-}
-
-std::string NumeroContabilita(double valore, bool modoLire) {
-  const std::string testo = FormattaCopia(valore, modoLire ? 0 : -2);
-  const std::size_t lunghezza = Characters(testo);
-  return (lunghezza < 15 ? Blanks(15 - lunghezza) : "") + testo;
-}
-
-std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire) {
-  return FormattaCopia(fascia.aliquota, -5) + "% x " + CoefficienteInStringa(fascia.coefficiente) +
-         " x " + NumeroContabilita(fascia.parte, modoLire) + " = " +
-         NumeroContabilita(fascia.onorario, modoLire);
 }
 
 }  // namespace orm

@@ -1,7 +1,6 @@
 // Measurement and accounting of works: the progressive scale of Table E.
 #pragma once
 
-#include <string>
 #include <vector>
 
 namespace orm {
@@ -30,12 +29,5 @@ struct OnorarioContabilita {
 // before has stopped. A row of zero or below counts with its sign in the sum.
 OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita>& righe,
                                                bool modoLire);
-
-// "1,83965% x 1,00 x       5.000.000 =          91.982", without line end.
-std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire);
-
-// A number right-justified in 15 characters, with the decimals of the currency. A longer one stands
-// as it is. The value is not cut.
-std::string NumeroContabilita(double valore, bool modoLire);
 
 }  // namespace orm

@@ -1,12 +1,12 @@
 // Table A: percentages of the fee by class and category of the works.
 //
-// Source: Tabella A annexed to Legge 2-3-1949 n. 143, in the text of D.M. 25-2-1965, in force
-// from 18-3-1965 to 18-12-1971. The later decrees (18-11-1971, 13-4-1976, 29-6-1981, 11-6-1987)
-// raised all of it in proportion: their values are these, times the period coefficients.
+// Source: Tabella A annexed to Legge 2-3-1949 n. 143 (Gazzetta Ufficiale 19-4-1949 n. 90), art. 15,
+// in the text of D.M. 25-2-1965, in force from 18-3-1965 to 18-12-1971. The later decrees raised
+// all of it in proportion: their values are these, times the rises of table_periods.h.
 // Unit: percent of the amount of the works; amounts in Lire.
 // Oddities: below the first amount the percentage falls to 0 with the amount, because the table
 // begins with a row of zeros. The row after the last holds the last percentage again, one Lira
-// further on: amounts beyond the table have it, without the last period coefficient.
+// further on: amounts beyond the table have it, without the last rise.
 #pragma once
 
 #include <array>
@@ -21,8 +21,12 @@ inline constexpr std::array<double, 28> kImportiTabellaA = {
     250000000, 300000000,  400000000,  500000000,  600000000,  700000000,  800000000,
     900000000, 1000000000, 1500000000, 2000000000, 3000000000, 4000000000, 5000000000};
 
+// Beyond it notes take one percentage for what lies within and one for the rest; the last rise
+// stops at it in Table C too.
+inline constexpr double kLimiteTabellaA = kImportiTabellaA.back();
+
 struct RigaTabellaA {
-  std::string_view chiave;  // class and category
+  std::string_view chiave;  // works, as in class_rows.h
   std::array<double, 28> percentuali;
 };
 

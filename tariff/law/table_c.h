@@ -1,7 +1,7 @@
 // Table C: percentages for measuring, accounting and testing of the works.
 //
-// Source: Tabella C annexed to Legge 2-3-1949 n. 143, in the text of D.M. 25-2-1965, in force from
-// 18-3-1965; the later decrees multiply it like Table A.
+// Source: Tabella C annexed to Legge 2-3-1949 n. 143 (Gazzetta Ufficiale 19-4-1949 n. 90), in the
+// text of D.M. 25-2-1965, in force from 18-3-1965; the later decrees multiply it like Table A.
 // Unit: percent of the amount of the works; amounts in Lire.
 // Oddities: the first percentage holds from 0, without a fall, and the last two steps are equal, so
 // that the percentage stays where it is beyond 500 million.

@@ -1,7 +1,8 @@
 // Names of the nine classes of works and of their categories, as the dialogs show them.
 //
-// Source: art. 14 of Legge 2-3-1949 n. 143. The texts are kept letter by letter as users know them,
-// with their spacing and their misspellings.
+// Source: art. 14 of Legge 2-3-1949 n. 143 (Gazzetta Ufficiale 19-4-1949 n. 90).
+// Oddities: the texts are kept letter by letter as users know them, with their spacing and their
+// misspellings.
 #pragma once
 
 #include <array>

@@ -1,8 +1,10 @@
 // The stepped formulas of condition surveys, at prices of January 1993.
 //
-// Fixed compensations under the tariff of Legge 2-3-1949 n. 143, in Lire; those in Euro are figures
-// of their own and not the conversion of the others. Above `oltre` units the fee is `fisso` and
-// `unitario` for each unit beyond; the text stands in the report before the figure of these units.
+// Source: fixed compensations under the tariff of Legge 2-3-1949 n. 143 (Gazzetta Ufficiale
+// 19-4-1949 n. 90). Unit: Lire and Euro.
+// Oddities: the figures in Euro are of their own and not the conversion of the others.
+// Above `oltre` units the fee is `fisso` and `unitario` for each unit beyond; the text stands in
+// the report before the figure of these units.
 #pragma once
 
 #include <array>
@@ -58,5 +60,8 @@ inline constexpr std::array<ScaglioneStc, 3> kFormulaAgricole = {{
      {525000, 115, "350.000 + 175x1.000 + 115x"},
      {270.76, 0.06, "180,76 + 0,09x1.000 + 0,06x"}},
 }};
+
+// Surcharge for fronts of roads that are widened, of the fee of surface, holdings and parcels.
+inline constexpr double kFrontiStradali = 0.25;
 
 }  // namespace orm

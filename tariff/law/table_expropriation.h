@@ -1,9 +1,10 @@
 // The fixed rates of expropriation plans.
 //
-// Fixed compensations a unit, whole Lire, under the tariff of Legge 2-3-1949 n. 143. The texts
-// stand in the report as written, each beside its rate: the one of the holdings has four zeros
-// behind its point, the one of the parcels of the condition report is a constant in Euro and not
-// the conversion of the Lire.
+// Source: fixed compensations under the tariff of Legge 2-3-1949 n. 143 (Gazzetta Ufficiale
+// 19-4-1949 n. 90). Unit: whole Lire a piece.
+// Oddities: the texts stand in the report as written, each beside its rate, and that of the
+// holdings has four zeros behind its point. The rate of the parcels of the condition report is a
+// constant in Euro and not the conversion of the Lire.
 #pragma once
 
 #include <cstdint>

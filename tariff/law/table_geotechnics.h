@@ -1,6 +1,8 @@
 // The subclasses and the services of geotechnics, and the share of each service in the fee.
 //
-// Shares by subclass, each row sums to 1; a to d belong to the design, e and f to the supervision.
+// Unit: parts of the whole, a row for each subclass; each adds up to 1. a to d belong to the
+// design, e and f to the supervision. The percentages that they share stand in GEO.CFG.
+// Oddities: the texts are kept letter by letter as users know them.
 #pragma once
 
 #include <array>
@@ -21,6 +23,10 @@ inline constexpr std::array<std::array<double, 6>, 4> kQuoteGeo = {{
 }};
 
 inline constexpr std::string_view kLettereGeo = "abcdef";
+inline constexpr std::size_t kServiziProgettoGeo = 4;
+
+// For the accounts with those who make the investigations: a part of their cost.
+inline constexpr double kCompensoIndagini = 0.10;
 
 inline constexpr std::array<const char*, 6> kPrestazioniGeo = {
     "INDIVIDUAZIONE DEI PROBLEMI GEOTECNICI, COMPLILAZIONE DEL PROGRAMMA DI INDAGINI E PROVE. "

@@ -1,14 +1,18 @@
 // The rules of the INARCASSA pension for the year 2001: caps, revaluation, bands and yields.
 //
-// Source: law 3 January 1981 n. 6 with the figures that the institute made known for the pensions
-// of 2001. Amounts in Lire. They are rules of that year, not parameters.
+// Source: Legge 3-1-1981 n. 6, with the figures that the institute made known for the pensions of
+// 2001: rules of that year, not parameters.
+// Unit: Lire; yields in percent.
+// Oddities: the cap of 1994 is lower than the limit that it is tested by.
 #pragma once
 
 #include <array>
 
 namespace orm {
 
+// The incomes that are looked at, and the best of them that make the mean.
 inline constexpr int kAnniReddito = 17;
+inline constexpr int kAnniMedia = 12;
 inline constexpr int kPrimoAnno = 1984;
 
 struct AnnoReddito {
@@ -17,7 +21,7 @@ struct AnnoReddito {
   double rivalutazione;  // coefficient to the year 2001
 };
 
-inline constexpr std::array<AnnoReddito, kAnniReddito> kAnni{{
+inline constexpr std::array<AnnoReddito, kAnniReddito> kMassimaliReddito{{
     {55200000, 55200000, 2.0531},    // 1984
     {63500000, 63500000, 1.8906},    // 1985
     {70200000, 70200000, 1.7819},    // 1986
@@ -48,7 +52,7 @@ struct FasciaReddito {
   double perAnno, perGiorno;
 };
 
-inline constexpr std::array<FasciaReddito, 4> kFasce{{
+inline constexpr std::array<FasciaReddito, 4> kFasceReddito{{
     {0, 67400000, 2, 0.00555},
     {67400000, 101400000, 1.71, 0.00475},
     {101400000, 118400000, 1.43, 0.003972},

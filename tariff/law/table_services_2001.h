@@ -2,7 +2,7 @@
 //
 // Source: Tables B and B1 annexed to D.M. 4-4-2001, Gazzetta Ufficiale 26-4-2001 n. 96.
 // Unit: fractions of the whole fee. Columns: class 1 in categories a to d, 1/e, 1/f, 1/g, then
-// classes 2 to 9.
+// classes 2 to 9. Class 1 has no other category.
 // Oddities: o4 in class 3 and o5 in 1/e are 0.15, ten times their row, and stay so. The share of q
 // goes with the choice of p.
 #pragma once
@@ -14,13 +14,17 @@ namespace orm {
 
 enum class FaseEsl { Preliminare, Definitivo, Esecutivo, Direzione };
 
-inline constexpr std::size_t kColonneTabelleB = 12;
+struct ColonnaTabelleB {
+  std::string_view chiave;  // works, as in class_rows.h
+};
+inline constexpr std::array<ColonnaTabelleB, 12> kColonneTabelleB = {
+    {{"1abcd"}, {"1e"}, {"1f"}, {"1g"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}, {"7"}, {"8"}, {"9"}}};
 
 struct ServizioEsl {
   std::string_view codice;
   std::string_view scelta;  // the code whose choice counts the share
   FaseEsl fase;
-  std::array<double, kColonneTabelleB> aliquote;
+  std::array<double, kColonneTabelleB.size()> aliquote;
 };
 
 // clang-format off

@@ -1,13 +1,17 @@
 // Duties, aggravating conditions and increments of site safety.
 //
-// Source: the agreement of the national councils of engineers and architects on D.Lgs 494/96, and
-// D.M. 4-4-2001. Aliquots, least fees (Lire) and increments are the same in both; the conditions
-// differ. Percentages are in percent. The texts are kept letter by letter as users know them.
+// Source: D.Lgs 14-8-1996 n. 494 for the duties; for their fees the agreement of the national
+// councils of engineers and architects ("SC1") and D.M. 4-4-2001, Gazzetta Ufficiale 26-4-2001
+// n. 96 ("SC2"). Aliquots, least fees and increments are the same in both; the conditions differ.
+// Unit: aliquots in parts of 1, least fees in Lire, conditions and increments in percent.
+// Oddities: the texts are kept letter by letter as users know them.
 #pragma once
 
 #include <array>
 #include <span>
 #include <string_view>
+
+#include "tariff/law/table_periods.h"
 
 namespace orm {
 
@@ -88,7 +92,7 @@ struct VersioneSic {
   std::span<const CondizioneSic> maggiorazioni, incrementi;
   const char* riquadroMaggiorazioni;
   const char* riquadroPrestazioni;
-  int periodo;
+  int periodo;  // of the tariff
 };
 
 inline constexpr VersioneSic kVersioneSc1{false,
@@ -96,26 +100,12 @@ inline constexpr VersioneSic kVersioneSc1{false,
                                           kIncrementiSc1,
                                           "MAGGIORAZIONI Versione C.N.I e C.N.A.",
                                           "PRESTAZIONI PARZIALI o FASI : Versione C.N.I. e A.",
-                                          5};
+                                          kPeriodo1987};
 inline constexpr VersioneSic kVersioneSc2{true,
                                           kMaggiorazioniSc2,
                                           kIncrementiSc2,
                                           "MAGGIORAZIONI D.M. 4-4-01",
                                           "PRESTAZIONI PARZIALI o FASI : Versione D.M. 4-4-01",
-                                          6};
-
-constexpr const VersioneSic& VersioneDi(std::string_view codice) {
-  return codice == "SC2" ? kVersioneSc2 : kVersioneSc1;
-}
-
-// The percentages of the conditions marked "1"; no other character counts. These are the routines
-// SommaMaggiorazioni and SommaIncrementi, by the list that they are given.
-constexpr double SommaCondizioni(std::span<const CondizioneSic> condizioni,
-                                 std::string_view segni) {
-  double somma = 0;
-  for (std::size_t i = 0; i < condizioni.size() && i < segni.size(); ++i)
-    if (segni[i] == '1') somma += condizioni[i].percentuale;
-  return somma;
-}
+                                          kPeriodo2001};
 
 }  // namespace orm

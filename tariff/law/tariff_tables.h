@@ -1,15 +1,15 @@
 // Looking up the tables of the tariff.
 //
-// Amounts are in Lire but for the routines named "DaEuro"; percentages are in percent. Periods are
-// 1 to 5 for the decrees from 1965 to 1987 and 6 for that of 2001, which has a curve of its own.
-// An amount that falls between two ranges of a rule leaves the output as it was.
+// Amounts are in Lire, percentages in percent, aliquots in parts of 1. Periods are 1 to 5 for the
+// decrees from 1965 to 1987 and 6 for that of 2001, which has a curve of its own. An amount that
+// falls between two ranges of a rule leaves the output as it was.
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
-
-#include "shell/state/run_state.h"
 
 namespace orm {
 
@@ -18,16 +18,11 @@ namespace orm {
 // RuntimeFailure.
 void PercentualeTabellaA(double& importo, int periodo, std::string_view classe,
                          std::string_view categoria, double& percentuale);
-// The same for an amount in Euro, which goes to the table as whole Lire (rounded to the nearest).
-void PercentualeTabellaADaEuro(double importo, int periodo, std::string_view classe,
-                               std::string_view categoria, double& percentuale);
 
 // The curve of D.M. 4-4-2001. `importo` becomes its absolute value. An unknown class or category,
 // and an amount in the Lira above 50 or above 1,000 million, leave `percentuale` as it was.
 void PercentualeTabellaNuova(double& importo, std::string_view classe, std::string_view categoria,
                              double& percentuale);
-void PercentualeTabellaNuovaDaEuro(double importo, std::string_view classe,
-                                   std::string_view categoria, double& percentuale);
 
 // Table C, of accounting and testing. 0 gives 0; an amount below 0 is a RuntimeFailure.
 void PercentualeTabellaContabilita(int periodo, double importo, double& percentuale);
@@ -41,24 +36,26 @@ void TabellaBAliquote(std::string_view classe, std::string_view categoria,
                       const Aliquote& selezione, Aliquote& aliquote, double& sommaProgettazione,
                       double& sommaDirezione);
 
-// Decimals that a percentage is printed with, and cut to: those of the criteria (`criterio`) when
-// they are not 0, otherwise by the amount in Lire.
-void DecimaliPercentuale(double importo, int& decimali, int criterio);
+// The aliquot of one letter of Table B; 0 where it has no row.
+double AliquotaTabellaB(std::string_view classe, std::string_view categoria, char lettera);
+// Updating of prices (art. 23): letter d, the detailed estimate. Class 7 in a category that Table B
+// does not know counts as c.
+double AliquotaAggiornamento(std::string_view classe, std::string_view categoria);
+// Revision of stability calculations (art. 19-f): the detailed design, letter c of Table B or f of
+// the tables of 2001. Unlike there, categories that the law does not name have none, 0.
+double AliquotaRevisioneCalcoli(std::string_view classe, std::string_view categoria,
+                                bool tabelle2001);
 
-// Percentage of Table A cut to its decimals, and its text, "4,36916%" ("0 %" for an amount of 0):
-// fees are reckoned with the cut one, so that a reader can check them on the printed figures.
-void StringaPercentualeTabellaA(double& importo, int periodo, std::string_view classe,
-                                std::string_view categoria, const Criteri& criteri,
-                                double& percentuale, std::string& testo);
+// The column of Tables B and B1 of D.M. 4-4-2001; nothing for works that they do not know.
+std::optional<std::size_t> ColonnaTabelle2001(std::string_view classe, std::string_view categoria);
 
 // "D.M. 25-febbraio-1965", and the same with the dates of validity.
 std::string NomePeriodoTariffario(int periodo);
 std::string NomePeriodoTariffarioEsteso(int periodo);
 
-// "0,70", "1,10", "1,20", "1,40"; "1,00" for every other number.
-std::string CoefficienteInStringa(double coefficiente);
-
-// "1/a"; the class alone for "5" and "8", which have no categories.
+// Classes "5" and "8" have no categories.
+bool SenzaCategorie(std::string_view classe);
+// "1/a"; the class alone for those without categories.
 std::string StringaClasseCategoria(std::string_view classe, std::string_view categoria);
 
 }  // namespace orm

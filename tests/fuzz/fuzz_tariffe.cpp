@@ -2,7 +2,7 @@
 // looked up.
 #include "cases/cos/config.h"
 #include "cases/geo/config.h"
-#include "tariff/law/price_index.h"
+#include "tariff/price_index.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include "cases/stc/data.h"
 #include "cases/stc/stc.h"
 #include "runtime/failure.h"
-#include "tariff/law/price_index.h"
+#include "tariff/price_index.h"
 #include "tests/unit/cases/note_test.h"
 
 namespace orm {

@@ -6,7 +6,7 @@
 #include "cases/geo/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
-#include "tariff/law/table_site_safety.h"
+#include "tariff/law/site_safety.h"
 #include "tests/unit/cases/random_case.h"
 
 namespace orm {

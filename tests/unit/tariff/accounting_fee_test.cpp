@@ -5,6 +5,8 @@
 
 #include <random>
 
+#include "tariff/accounting_block.h"
+
 namespace orm {
 namespace {
 

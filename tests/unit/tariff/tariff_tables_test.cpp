@@ -7,11 +7,13 @@
 #include <random>
 
 #include "runtime/failure.h"
-#include "tariff/law/table_2001.h"
+#include "tariff/accounting_block.h"
 #include "tariff/law/table_a.h"
 #include "tariff/law/table_b.h"
 #include "tariff/law/table_c.h"
+#include "tariff/law/table_curve_2001.h"
 #include "tariff/money.h"
+#include "tariff/percentages.h"
 
 namespace orm {
 namespace {
@@ -172,6 +174,18 @@ TEST(TableB, SumsWhatIsChosen) {
   EXPECT_DOUBLE_EQ(progettazione, 0.40);
   TabellaBAliquote("1", "g", scelte, aliquote, progettazione, direzione);
   EXPECT_DOUBLE_EQ(progettazione, 0.36);
+}
+
+// Both go their own way where the law has no such category.
+TEST(TableB, SingleLettersPayPricesAndStability) {
+  EXPECT_EQ(AliquotaAggiornamento("7", "b"), 0.045);
+  EXPECT_EQ(AliquotaAggiornamento("7", "d"), 0.04);
+  EXPECT_EQ(AliquotaAggiornamento("1", "z"), 0.08);
+  EXPECT_EQ(AliquotaAggiornamento("0", "a"), 0);
+  EXPECT_EQ(AliquotaRevisioneCalcoli("1", "g", true), 0.16);
+  for (const bool tabelle2001 : {false, true})
+    for (const char* classe : {"0", "1", "7"})
+      EXPECT_EQ(AliquotaRevisioneCalcoli(classe, "z", tabelle2001), 0) << classe;
 }
 
 int Decimali(double importo, int criterio = 0) {

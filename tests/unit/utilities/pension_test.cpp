@@ -102,7 +102,7 @@ TEST(Pension, TheBestTwelveOfTheYearsSeen) {
     const auto visti = static_cast<std::size_t>(std::min(anni, kAnniReddito));
     std::vector<double> rivalutati;
     for (std::size_t i = 0; i < visti; ++i)
-      rivalutati.push_back(redditi[i] * kAnni[i].rivalutazione);
+      rivalutati.push_back(redditi[i] * kMassimaliReddito[i].rivalutazione);
     std::sort(rivalutati.begin(), rivalutati.end(), std::greater<>());
     double somma = 0;
     for (std::size_t i = 0; i < 12; ++i) somma += rivalutati[i];

@@ -1,7 +1,7 @@
 // The fee curve of the year 2001, by class and category of the works.
 //
-// Source: tables annexed to D.M. 4-4-2001, given there as curves in place of steps; in force for
-// public works after Table A.
+// Source: Tabella A annexed to D.M. 4-4-2001, Gazzetta Ufficiale 26-4-2001 n. 96, given there as a
+// curve in place of steps; in force for public works after Table A of 1949.
 // Unit: the percentage of an amount X in Lire is 10^p * X^b + q.
 // Oddities: the curve is flat up to 50 million and, for class 5, from 1,000 million on; for the
 // other classes from 100,000 million on.
@@ -12,8 +12,12 @@
 
 namespace orm {
 
+// Lire: where the curve begins to fall, and where it ends.
+inline constexpr double kCurvaDa = 50000000, kCurvaFino = 100000000000;
+inline constexpr double kCurvaFinoClasse5 = 1000000000;
+
 struct CurvaTariffa {
-  std::string_view chiave;  // class and category
+  std::string_view chiave;  // works, as in class_rows.h
   double b, p, q;
 };
 

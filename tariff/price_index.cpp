@@ -1,4 +1,4 @@
-#include "tariff/law/price_index.h"
+#include "tariff/price_index.h"
 
 #include <algorithm>
 #include <string>

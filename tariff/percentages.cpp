@@ -1,0 +1,60 @@
+#include "tariff/percentages.h"
+
+#include "runtime/numbers.h"
+#include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+
+double LireIntere(double euro) { return RoundOnText(euro * kLirePerEuro, 0); }
+
+}  // namespace
+
+void PercentualeTabellaADaEuro(double importo, int periodo, std::string_view classe,
+                               std::string_view categoria, double& percentuale) {
+  double lire = LireIntere(importo);
+  PercentualeTabellaA(lire, periodo, classe, categoria, percentuale);
+}
+
+void PercentualeTabellaNuovaDaEuro(double importo, std::string_view classe,
+                                   std::string_view categoria, double& percentuale) {
+  double lire = LireIntere(importo);
+  PercentualeTabellaNuova(lire, classe, categoria, percentuale);
+}
+
+void DecimaliPercentuale(double importo, int& decimali, int criterio) {
+  const auto fra = [importo](double da, double a) { return importo >= da && importo <= a; };
+  if (criterio != 0)
+    decimali = criterio;
+  else if (importo < 100000)
+    decimali = 3;
+  else if (fra(100000, 1000000))
+    decimali = 4;
+  else if (fra(1000001, 10000000))
+    decimali = 5;
+  else if (fra(10000001, 500000000))
+    decimali = 6;
+  else if (fra(500000001, 1000000000))
+    decimali = 7;
+  else if (fra(1000000001, 100000000000))
+    decimali = 8;
+  else if (importo > 10000000001)  // a zero short of the row before, which has taken what it lacks
+    decimali = 9;
+}
+
+void StringaPercentualeTabellaA(double& importo, int periodo, std::string_view classe,
+                                std::string_view categoria, const Criteri& criteri,
+                                double& percentuale, std::string& testo) {
+  if (importo == 0) {
+    percentuale = 0;
+    testo = "0 %";
+    return;
+  }
+  PercentualeTabellaA(importo, periodo, classe, categoria, percentuale);
+  int decimali = 0;
+  DecimaliPercentuale(importo, decimali, criteri.DecimaliTabelle);
+  testo = FormattaNumero(percentuale, decimali) + "%";
+}
+
+}  // namespace orm
