@@ -42,4 +42,8 @@ mkdir "$work/prima" && cp "$work"/*.* "$work/prima"
 expects 0 '' "$calcolo" --tutti --cartella "$work" --data 15/03/2002
 for file in "$work/prima"/*; do cmp "$file" "$work/$(basename "$file")" || broken=1; done
 [ -e "$work/OUT_PPE_E.DOC" ] || broken=1
+
+# The sample notes that an installation brings.
+mkdir "$work/esempi" && cp "$scripts"/../../data/*.CFG "$scripts"/../../data/sample/* "$work/esempi"
+expects 0 '' "$calcolo" --tutti --cartella "$work/esempi"
 exit $broken

@@ -6,7 +6,7 @@
 #include <initializer_list>
 
 #include "tariff/accounting_block.h"
-#include "tariff/forms/amount_limits.h"
+#include "tariff/forms/amount_box.h"
 #include "tariff/law/table_e.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
@@ -32,8 +32,8 @@ void MostraContabilita(RunState& run) {
 
 FrmUtiContabilita::FrmUtiContabilita(RunState& run)
     : Form("frmUTI_CONTABILITA", "ONORARI A VIDEO - CONTABILITÀ LAVORI ( tab. E )"),
-      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kWorksLire),
-      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kWorksEuro) {
+      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kLavori.lire),
+      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kLavori.euro) {
   std::vector<std::string> periodi, coefficienti;
   for (int periodo = 1; periodo <= kPeriodo2001; ++periodo)
     periodi.push_back(NomePeriodoTariffario(periodo));

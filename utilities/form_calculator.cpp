@@ -2,7 +2,7 @@
 #include "utilities/form_calculator.h"
 
 #include "runtime/failure.h"
-#include "tariff/forms/amount_limits.h"
+#include "tariff/forms/amount_box.h"
 #include "tariff/message_boxes.h"
 
 namespace orm {
@@ -20,8 +20,8 @@ void MostraCalcolatrice(RunState& run) {
 FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& run)
     : Form("frmUTI_CALCOLATRICE", "CALCOLATRICE - CONVERTITORE"),
       cdNumero(*this, "cdNumero", "Numero", {.least = -kMassimo, .most = kMassimo, .decimals = 10}),
-      ciLire(*this, "ciLire", "Lire", kWorksLire),
-      cdEuro(*this, "cdEuro", "Euro", kWorksEuro),
+      ciLire(*this, "ciLire", "Lire", kLavori.lire),
+      cdEuro(*this, "cdEuro", "Euro", kLavori.euro),
       Text1(*this, "Text1", "Nastro",
             {.longest = 100000, .lines = 10, .readOnly = true, .width = 40, .columns = true}),
       run_(run) {

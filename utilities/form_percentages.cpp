@@ -3,7 +3,7 @@
 
 #include <initializer_list>
 
-#include "tariff/forms/amount_limits.h"
+#include "tariff/forms/amount_box.h"
 #include "tariff/law/table_classes.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
@@ -19,8 +19,8 @@ void MostraPercentuali(RunState& run) {
 
 FrmUtiPercentuali::FrmUtiPercentuali(RunState& run)
     : Form("frmUTI_PERCENTUALI", "PERCENTUALI A VIDEO"),
-      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kWorksLire),
-      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kWorksEuro),
+      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kLavori.lire),
+      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kLavori.euro),
       picCurva(*this, "picCurva", kLarghezzaCurva, kAltezzaCurva),
       run_(run) {
   std::vector<std::string> classi, periodi;

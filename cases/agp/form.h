@@ -9,22 +9,25 @@ namespace orm {
 
 class FrmAgpDatig : public Form {
  public:
-  FrmAgpDatig(Player& player, const DatiAgp& dati);
+  FrmAgpDatig(Player& player, DatiAgp& dati);
 
-  std::string TipoDiAggiornamento, EsecutoreDellAggiornamento, PeriodoTariffario;
-
-  Frame Frame1;
+  Frame Frame1{*this, "Frame1", "AGGIORNAMENTO ESEGUITO IN BASE A"};
   OptionGroup metodo;
-  OptionButton Option1, Option2;
-  Frame Frame2;
+  OptionButton Option1{*this, "Option1", "SEMPLICI VARIAZIONI PERCENTUALI DEI PRIMITIVI PREZZI",
+                       metodo};
+  OptionButton Option2{*this, "Option2", "NUOVE ANALISI PREZZI", metodo};
+  Frame Frame2{*this, "Frame2", "AGGIORNAMENTO ESEGUITO DALLO STESSO PROGETTISTA"};
   OptionGroup progettista;
-  OptionButton OptionSI, OptionNO;
-  Frame Frame3;
-  ComboBox Decreti;
-  Button cmdAvvertenze, Command1;
+  OptionButton OptionSI{*this, "OptionSI", "SI", progettista};
+  OptionButton OptionNO{*this, "OptionNO", "NO", progettista};
+  Frame Frame3{*this, "Frame3", "PRESTAZIONE ESEGUITA NEL PERIODO DI VALIDITA' DEL"};
+  ComboBox Decreti{*this, "Decreti", ""};
+  Button cmdAvvertenze{*this, "cmdAvvertenze", "Avvertenze"};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm();
+  void Conferma();
+  DatiAgp& dati_;
 };
 
 }  // namespace orm

@@ -2,30 +2,41 @@
 #pragma once
 
 #include "cases/coa/data.h"
-#include "dialogs/form.h"
-#include "shell/state/run_state.h"
+#include "tariff/forms/input_form.h"
 
 namespace orm {
 
-class FrmCoaDati : public Form {
+class FrmCoaDati : public FormInput {
  public:
-  FrmCoaDati(const RunState& stato, const DatiCoa& dati);
-  DatiCoa Dati() const;
+  FrmCoaDati(RunState& stato, DatiCoa& dati);
 
-  ComboBox cboDecreti, cboTipo;
-  FloatBox cdImporto;
-  InterBox ciImporto;
-  Image Image1;
-  FloatBox cdMaggiorazione;
-  InterBox ciNUMEROPAGINE;
-  Button cmdProsegui;
+  ComboBox cboDecreti{
+      *this,
+      "cboDecreti",
+      "PERIODO TARIFFARIO",
+      {"D.M. 13-04-1976  dal   06/05/76  al  18/07/81",
+       "D.M. 29-06-1981  dal   19/07/81  al  30/06/87", "D.M. 11-06-1987  dopo lo 01/07/87"}};
+  ComboBox cboTipo{*this,
+                   "cboTipo",
+                   "TIPOLOGIA DI COLLAUDO",
+                   {"1 - COLLAUDO AMMINISTRATIVO", "2 - CERTIFICATO REGOLARE ESECUZIONE"}};
+  ImportoBox importo{*this, stato_, "Importo", "IMPORTO DEI LAVORI COLLAUDATI"};
+  MarchioEuro Image1{*this, stato_};
+  // The 30 % are a note; nothing enforces them.
+  FloatBox cdMaggiorazione{*this,
+                           "cdMaggiorazione",
+                           "MAGGIORAZIONE PER COLLAUDO IN CORSO D'OPERA",
+                           {.most = 999.99, .decimals = 2, .unit = "%   max 30%"}};
+  InterBox ciNUMEROPAGINE{*this,
+                          "ciNUMEROPAGINE",
+                          "NUMERO FACCIATE DEI DOCUMENTI CONTABILI REVISIONATI",
+                          {.most = 32767, .decimals = 0}};
+  Button cmdProsegui{*this, "cmdProsegui", "&O.K.", Button::Role::Default};
 
  private:
-  void ShowFieldsOfTesting();
-  void Confirm();
-
-  const bool lire_;
-  const DatiCoa given_;
+  void MostraCampiDelCollaudo();
+  void Conferma();
+  DatiCoa& dati_;
 };
 
 }  // namespace orm

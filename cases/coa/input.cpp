@@ -7,11 +7,10 @@ namespace orm {
 
 void InputCoa(RunState& stato) {
   DatiCoa dati;
-  IniziaInput(stato, dati);
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   FrmCoaDati form(stato, dati);
   stato.player.Show(form);
   if (!form.Confermato()) return;
-  dati = form.Dati();
   ConcludiInput(stato, dati);
 }
 

@@ -1,14 +1,7 @@
 #include "cases/cos/form.h"
 
-#include <utility>
-
-#include "runtime/numbers.h"
-#include "tariff/message_boxes.h"
-
 namespace orm {
 namespace {
-
-const NumberLimits kVariazione{.least = -100, .most = 100, .decimals = 5, .unit = "%"};
 
 constexpr const char* kAvvertenza =
     "Dare l'importo delle strutture collaudate nella corrispondente casella del periodo "
@@ -16,63 +9,40 @@ constexpr const char* kAvvertenza =
     "in cui il collaudo è avvenuto.\n"
     "Nel caso, è possibile suddividere l'importo totale in più periodi tariffari.";
 
-std::string Numero(std::size_t i) { return NumberText(static_cast<double>(i + 1)); }
-
-template <std::size_t... i>
-std::array<ImportoBox, sizeof...(i)> Importi(Form& form, const RunState& stato,
-                                             const TestataCos& testata, std::index_sequence<i...>) {
-  return {{{form, stato, "ImportoCS" + Numero(i), testata.NomePeriodo[i]}...}};
-}
-
-template <std::size_t... i>
-std::array<FloatBox, sizeof...(i)> Variazioni(Form& form, const TestataCos& testata,
-                                              std::index_sequence<i...>) {
-  return {{{form, "cdMaggiorazione" + Numero(i), testata.NomeVariazione[i], kVariazione}...}};
-}
-
 }  // namespace
 
-FrmCosDati::FrmCosDati(RunState& stato, const TestataCos& testata, const DatiCos& dati)
-    : Form("frmCOS_Dati", "COLLAUDO STATICO"),
-      ImportoCS(dati.ImportoCS),
-      Maggiorazione(dati.Maggiorazione),
-      Frame1(*this, "Frame1", "IMPORTO SUDDIVISO NEI PERIODI TARIFFARI"),
-      importi(Importi(*this, stato, testata, std::make_index_sequence<kPeriodiCos>())),
-      Image1(*this, "Image1", Image::Subject::Euro),
-      Frame2(*this, "Frame2", "MAGGIORAZIONI E RIDUZIONI in %"),
-      cdMaggiorazione(Variazioni(*this, testata, std::make_index_sequence<kVariazioniCos>())),
-      cmdAvvertenza(*this, "cmdAvvertenza", "Avvertenza"),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  std::vector<Layout> righeImporti, righeVariazioni;
-  for (ImportoBox& importo : importi) {
-    righeImporti.emplace_back(importo.cd);
-    righeImporti.emplace_back(importo.ci);
+FrmCosDati::FrmCosDati(RunState& stato, const TestataCos& testata, DatiCos& dati)
+    : FormInput(stato, "frmCOS_Dati", "COLLAUDO STATICO"), dati_(dati) {
+  auto& [i1, i2, i3, i4, i5] = importi;
+  auto& [m1, m2, m3, m4, m5] = cdMaggiorazione;
+  SetContent(
+      Column({Group(Frame1, {Row({AmountFields({i1, i2, i3, i4, i5}), Image1})}),
+              Group(Frame2, {Fields({m1, m2, m3, m4, m5})}), Buttons({cmdAvvertenza, Command1})}));
+  for (std::size_t i = 0; i < kPeriodiCos; ++i) {
+    importi[i].SetCaption(testata.NomePeriodo[i]);
+    importi[i].Chiedi({&dati.ImportoCS[i]});
   }
-  for (FloatBox& variazione : cdMaggiorazione) righeVariazioni.emplace_back(variazione);
-  SetContent(Column({Group(Frame1, {Row({Fields(std::move(righeImporti)), Image1})}),
-                     Group(Frame2, {Fields(std::move(righeVariazioni))}),
-                     Buttons({cmdAvvertenza, Command1})}));
-  Image1.SetVisible(!stato.ModoLire);
-  for (std::size_t i = 0; i < kPeriodiCos; ++i) importi[i].SetValue(ImportoCS[i]);
-  for (std::size_t i = 0; i < kVariazioniCos; ++i) cdMaggiorazione[i].SetValue(Maggiorazione[i]);
-  cmdAvvertenza.onPress = [&stato] {
-    stato.player.Ask(
+  for (std::size_t i = 0; i < kVariazioniCos; ++i) {
+    cdMaggiorazione[i].SetCaption(testata.NomeVariazione[i]);
+    cdMaggiorazione[i].SetValue(dati.Maggiorazione[i]);
+  }
+  cmdAvvertenza.onPress = [this] {
+    stato_.player.Ask(
         {"AVVERTENZA ", kAvvertenza, MessageBox::Icon::Information, MessageBox::Buttons::Ok});
   };
-  Command1.onPress = [this, &stato] { Confirm(stato); };
+  Command1.onPress = [this] { Conferma(); };
 }
 
-void FrmCosDati::Confirm(RunState& stato) {
-  double altri = 0;
+void FrmCosDati::Conferma() {
+  double totale = 0;
   for (const ImportoBox& importo : importi) {
-    if (const std::string motivo = SommaEccessiva(importo, altri); !motivo.empty()) {
-      stato.player.Ask(Avviso(motivo));
-      return;
-    }
-    altri += importo.Value();
+    if (Rifiuta(importo.Eccesso(totale))) return;
+    totale += importo.Value();
   }
-  for (std::size_t i = 0; i < kPeriodiCos; ++i) ImportoCS[i] = importi[i].Value();
-  for (std::size_t i = 0; i < kVariazioniCos; ++i) Maggiorazione[i] = cdMaggiorazione[i].Value();
+  for (const ImportoBox& importo : importi) importo.Prendi();
+  dati_.ImportoTotaleCS = totale;
+  for (std::size_t i = 0; i < kVariazioniCos; ++i)
+    dati_.Maggiorazione[i] = cdMaggiorazione[i].Value();
   Esci(Uscita::Conferma);
 }
 

@@ -4,29 +4,37 @@
 #include <array>
 
 #include "cases/cos/config.h"
-#include "dialogs/form.h"
-#include "shell/state/run_state.h"
-#include "tariff/forms/amount_box.h"
+#include "tariff/forms/input_form.h"
 
 namespace orm {
 
-class FrmCosDati : public Form {
+class FrmCosDati : public FormInput {
  public:
-  FrmCosDati(RunState& stato, const TestataCos& testata, const DatiCos& dati);
+  FrmCosDati(RunState& stato, const TestataCos& testata, DatiCos& dati);
 
-  // As given until "O.K." takes what the form shows.
-  std::array<double, kPeriodiCos> ImportoCS;
-  std::array<double, kVariazioniCos> Maggiorazione;
-
-  Frame Frame1;
-  std::array<ImportoBox, kPeriodiCos> importi;
-  Image Image1;
-  Frame Frame2;
-  std::array<FloatBox, kVariazioniCos> cdMaggiorazione;
-  Button cmdAvvertenza, Command1;
+  Frame Frame1{*this, "Frame1", "IMPORTO SUDDIVISO NEI PERIODI TARIFFARI"};
+  // Under the names that CS1.CFG or CS2.CFG has for periods and variations.
+  std::array<ImportoBox, kPeriodiCos> importi{{{*this, stato_, "ImportoCS1", ""},
+                                               {*this, stato_, "ImportoCS2", ""},
+                                               {*this, stato_, "ImportoCS3", ""},
+                                               {*this, stato_, "ImportoCS4", ""},
+                                               {*this, stato_, "ImportoCS5", ""}}};
+  MarchioEuro Image1{*this, stato_};
+  Frame Frame2{*this, "Frame2", "MAGGIORAZIONI E RIDUZIONI in %"};
+  static inline const NumberLimits kVariazione{
+      .least = -100, .most = 100, .decimals = 5, .unit = "%"};
+  std::array<FloatBox, kVariazioniCos> cdMaggiorazione{
+      {{*this, "cdMaggiorazione1", "", kVariazione},
+       {*this, "cdMaggiorazione2", "", kVariazione},
+       {*this, "cdMaggiorazione3", "", kVariazione},
+       {*this, "cdMaggiorazione4", "", kVariazione},
+       {*this, "cdMaggiorazione5", "", kVariazione}}};
+  Button cmdAvvertenza{*this, "cmdAvvertenza", "Avvertenza"};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm(RunState& stato);
+  void Conferma();
+  DatiCos& dati_;
 };
 
 }  // namespace orm

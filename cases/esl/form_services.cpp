@@ -41,10 +41,6 @@ constexpr std::array<const char*, 17> kDidascalieIntegrative = {
     " l4 -  Ufficio della direzione lavori, per ogni addetto con qualifica di direttore operativo.",
 };
 
-// A fee with more staff than this would not fit its column where a small design gives the greatest
-// works their percentage.
-const NumberLimits kAddetti{.least = 0, .most = 15, .decimals = 0};
-
 // The codes of a string, each between two marks: "+m+o1+".
 bool Nominata(const std::string& stringa, std::string_view codice) {
   return ("+" + stringa + "+").find("+" + std::string(codice) + "+") != std::string::npos;
@@ -53,26 +49,20 @@ bool Nominata(const std::string& stringa, std::string_view codice) {
 }  // namespace
 
 FrmEslPrestazioni::FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove,
-                                     const LottoEsl& lotto, std::string stringa,
+                                     const LottoEsl& lotto, std::string& stringa,
                                      std::span<const ServizioEsl> tabella,
                                      std::span<const char* const> didascalie)
-    : Form(std::move(nome), std::move(titolo)),
-      StringaDellePrestazioni(std::move(stringa)),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      fraPreliminare(*this, "fraPreliminare", "PROGETTO PRELIMINARE"),
-      fraDefinitivo(*this, "fraDefinitivo", "PROGETTO DEFINITIVO"),
-      fraEsecutivo(*this, "fraEsecutivo", "PROGETTO ESECUTIVO"),
-      fraDirezione(*this, "fraDirezione", "DIREZIONE DEI LAVORI"),
-      tabella_(tabella) {
+    : Form(std::move(nome), std::move(titolo)), stringa_(stringa), tabella_(tabella) {
+  lblLotto.SetText(std::move(dove));
   // All services are the default.
   for (std::size_t i = 0; i < tabella.size(); ++i) {
     CheckBox& check = servizi.emplace_back(*this, std::string(tabella[i].codice), didascalie[i]);
-    check.SetValue(StringaDellePrestazioni.empty() ||
-                   Nominata(StringaDellePrestazioni, tabella[i].codice));
+    check.SetValue(stringa.empty() || Nominata(stringa, tabella[i].codice));
   }
   const bool progetto = lotto.ImportoProgettazione > 0;
   for (Frame* frame : {&fraPreliminare, &fraDefinitivo, &fraEsecutivo}) frame->SetVisible(progetto);
   fraDirezione.SetVisible(lotto.ImportoDirezioneLavori > 0);
+  Command1.onPress = [this] { Conferma(); };
 }
 
 std::vector<Layout> FrmEslPrestazioni::ChecksOf(FaseEsl fase) {
@@ -95,47 +85,38 @@ Layout FrmEslPrestazioni::GruppiFinali(std::vector<Layout> ancoraDirezione) {
 }
 
 // Checks of a hidden frame count as they stand.
-std::string FrmEslPrestazioni::StringaScelta() const {
-  std::string stringa;
+void FrmEslPrestazioni::Conferma() {
+  stringa_.clear();
   for (std::size_t i = 0; i < tabella_.size(); ++i)
-    if (servizi[i].Value()) stringa += "+" + std::string(tabella_[i].codice);
-  return stringa.empty() ? stringa : stringa.substr(1);
+    if (servizi[i].Value())
+      stringa_ += (stringa_.empty() ? "" : "+") + std::string(tabella_[i].codice);
+  Esci(Uscita::Conferma);
 }
 
-void FrmEslPrestazioni::Confirm() {
-  StringaDellePrestazioni = StringaScelta();
-  Close();
-}
-
-FrmEslPrestazioniBase::FrmEslPrestazioniBase(std::string dove, const LottoEsl& lotto)
+FrmEslPrestazioniBase::FrmEslPrestazioniBase(std::string dove, LottoEsl& lotto)
     : FrmEslPrestazioni("frmESL_PrestazioniBase", "PRESTAZIONI DI TABELLA B EFFETTUATE",
                         std::move(dove), lotto, lotto.PrestazioniBase, kTabellaBEsl,
-                        kDidascalieBase),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+                        kDidascalieBase) {
   SetContent(Column({lblLotto, Column(GruppiProgetto()), GruppiFinali({}), Buttons({Command1})}));
-  Command1.onPress = [this] { Confirm(); };
 }
 
-FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, const LottoEsl& lotto)
+FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, LottoEsl& lotto)
     : FrmEslPrestazioni("frmESL_PrestazioniIntegrative", "PRESTAZIONI DI TABELLA B1 EFFETTUATE",
                         std::move(dove), lotto, lotto.PrestazioniIntegrative, kTabellaB1Esl,
-                        kDidascalieIntegrative),
-      NumeroAddetti(lotto.NumeroAddetti),
-      numeroaddetti(*this, "numeroaddetti", "Numero addetti", kAddetti),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+                        kDidascalieIntegrative) {
   // One column of seventeen services would be higher than the least screen.
   SetContent(Column({lblLotto, Row(GruppiProgetto()), GruppiFinali({Fields({numeroaddetti})}),
                      Buttons({Command1})}));
   CheckBox& l4 = servizi.back();
-  numeroaddetti.SetValue(NumeroAddetti);
+  numeroaddetti.SetValue(lotto.NumeroAddetti);
   numeroaddetti.SetVisible(l4.Value());
   l4.onChange = [this, &l4] {
     numeroaddetti.SetVisible(l4.Value());
     if (!l4.Value()) numeroaddetti.SetValue(0);
   };
-  Command1.onPress = [this] {
-    NumeroAddetti = CheckedInt16(numeroaddetti.Value());
-    Confirm();
+  Command1.onPress = [this, &lotto] {
+    lotto.NumeroAddetti = CheckedInt16(numeroaddetti.Value());
+    Conferma();
   };
 }
 

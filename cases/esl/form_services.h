@@ -13,41 +13,43 @@ namespace orm {
 // One dialog for a table. Each service has a check with its code as name.
 class FrmEslPrestazioni : public Form {
  public:
-  // As given when the form was left by its window.
-  std::string StringaDellePrestazioni;
-
-  Label lblLotto;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   std::deque<CheckBox> servizi;  // in the order of the table
-  Frame fraPreliminare, fraDefinitivo, fraEsecutivo, fraDirezione;
+  Frame fraPreliminare{*this, "fraPreliminare", "PROGETTO PRELIMINARE"};
+  Frame fraDefinitivo{*this, "fraDefinitivo", "PROGETTO DEFINITIVO"};
+  Frame fraEsecutivo{*this, "fraEsecutivo", "PROGETTO ESECUTIVO"};
+  Frame fraDirezione{*this, "fraDirezione", "DIREZIONE DEI LAVORI"};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  protected:
+  // `stringa`: the services of the lot by their codes, "a+b+f"; taken when they are confirmed.
   FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove, const LottoEsl& lotto,
-                    std::string stringa, std::span<const ServizioEsl> tabella,
+                    std::string& stringa, std::span<const ServizioEsl> tabella,
                     std::span<const char* const> didascalie);
   // The groups of services: preliminary and definitive design; executive design and supervision,
   // with what else belongs to supervision.
   std::vector<Layout> GruppiProgetto();
   Layout GruppiFinali(std::vector<Layout> ancoraDirezione);
-  void Confirm();
+  void Conferma();
 
  private:
   std::vector<Layout> ChecksOf(FaseEsl fase);
-  std::string StringaScelta() const;
+  std::string& stringa_;
   std::span<const ServizioEsl> tabella_;
 };
 
 class FrmEslPrestazioniBase : public FrmEslPrestazioni {
  public:
-  FrmEslPrestazioniBase(std::string dove, const LottoEsl& lotto);
-  Button Command1;
+  FrmEslPrestazioniBase(std::string dove, LottoEsl& lotto);
 };
 
 class FrmEslPrestazioniIntegrative : public FrmEslPrestazioni {
  public:
-  FrmEslPrestazioniIntegrative(std::string dove, const LottoEsl& lotto);
-  std::int16_t NumeroAddetti;
-  InterBox numeroaddetti;
-  Button Command1;
+  FrmEslPrestazioniIntegrative(std::string dove, LottoEsl& lotto);
+
+  // A fee with more staff than this would not fit its column where a small design gives the
+  // greatest works their percentage.
+  InterBox numeroaddetti{*this, "numeroaddetti", "Numero addetti", {.most = 15, .decimals = 0}};
 };
 
 }  // namespace orm

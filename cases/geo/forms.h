@@ -1,80 +1,80 @@
-// The dialogs of geotechnical services: subclass, period, amounts and services of a row.
+// The dialogs of geotechnical services: subclass, period, amounts and services of a row. What they
+// show is taken when it is confirmed.
 #pragma once
 
 #include <array>
 
 #include "cases/geo/config.h"
 #include "cases/geo/data.h"
-#include "dialogs/form.h"
-#include "shell/state/run_state.h"
-#include "tariff/forms/amount_box.h"
 #include "tariff/forms/form_period.h"
-#include "tariff/forms/lot_chain.h"
+#include "tariff/forms/input_form.h"
+#include "tariff/law/table_geotechnics.h"
 
 namespace orm {
 
-class FrmGeoClassi : public Form {
+class FrmGeoClassi : public FormRiga {
  public:
-  FrmGeoClassi(Player& player, const PostoLotto& posto, const std::string& sottoclasse);
+  FrmGeoClassi(RunState& stato, const PostoRiga& posto, std::string& sottoclasse);
 
-  // When not empty, why no further group can be entered: shown instead of taking it.
-  std::string Rifiuto;
-  // "1" to "4", "0" at the end of the input. Leaving the form by its window keeps a group that
-  // exists and ends the input where a new one was asked.
-  std::string Classe;
-
-  Label Label1;
-  Frame Frame1;
+  Label Label1{*this, "Label1", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "SOTTOCLASSI"};
   OptionGroup tipo;
-  std::array<OptionButton, kSottoclassiGeo> Option;
-  Button Command2, Command1;
+  std::array<OptionButton, kSottoclassiGeo> Option{
+      {{*this, "Option1", kSottoclassiGeotecniche[0], tipo},
+       {*this, "Option2", kSottoclassiGeotecniche[1], tipo},
+       {*this, "Option3", kSottoclassiGeotecniche[2], tipo},
+       {*this, "Option4", kSottoclassiGeotecniche[3], tipo}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
+  Button Command2{*this, "Command2", "FINE INPUT SOTTOCLASSI"};
 };
 
-class FrmGeoTariffe : public FrmTariffe {
+// frmGEO_Tariffe: the periods that GEO.CFG names.
+TestiTariffe TestiGeoTariffe(const TabelleGeo& tabelle);
+
+class FrmGeoImporti : public FormInput {
  public:
-  FrmGeoTariffe(Player& player, const TabelleGeo& tabelle, std::string dove, int ultimo,
-                const std::string& periodo, bool esiste);
-};
+  // `tipo`: kind of fee note, which names the works supervised.
+  FrmGeoImporti(RunState& stato, const std::string& tipo, std::string periodo,
+                const ImportoChiesto& progetto, const ImportoChiesto& direzione);
 
-class FrmGeoImporti : public Form {
- public:
-  // `altriProgetto`, `altriDirezione`: what the note holds of each besides.
-  FrmGeoImporti(RunState& stato, const std::string& tipo, std::string periodo, const RigaGeo& riga,
-                double altriProgetto, double altriDirezione);
-
-  std::string Tipo;                          // kind of fee note, which names the works supervised
-  double ImportoProgetto, ImportoDirezione;  // as given until "O.K." takes new ones
-
-  Frame Frame1;
-  Label Label6;
-  Image Image1;
-  Frame Frame2;
-  ImportoBox importo1;
-  Label lblProgettazione;
-  Frame Frame3;
-  ImportoBox importo2;
-  Label lblDirezione;
-  Label lblNegativo;
-  Button Command1;
+  Frame Frame1{*this, "Frame1", "Importi nel Periodo Tariffario"};
+  Label Label6{*this, "Label6", "", Label::Style::Title};
+  MarchioEuro Image1{*this, stato_};
+  Frame Frame2{*this, "Frame2", "PROGETTAZIONE"};
+  Frame Frame3{*this, "Frame3", "DIREZIONE LAVORI"};
+  std::array<ImportoBox, 2> importo{
+      {{*this, stato_, "Importo1", "Importo a base d'asta dei Lavori di progetto", kLavoriConSegno},
+       {*this, stato_, "Importo2", "Importo dei Lavori diretti", kLavoriConSegno}}};
+  Label lblProgettazione{*this, "lblProgettazione", "VALE LA DATA DI ESPLETAMENTO DELL'INCARICO",
+                         Label::Style::Note};
+  Label lblDirezione{*this, "lblDirezione", "VALE LA DATA DI EMISSIONE DEL S.A.L.",
+                     Label::Style::Note};
+  Label lblNegativo{*this, "lblNegativo", "Negativo per escluderlo dal calcolo dell'onorario",
+                    Label::Style::Note};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 class FrmGeoPrestazio : public Form {
  public:
-  explicit FrmGeoPrestazio(std::string dove, const RigaGeo& riga);
+  FrmGeoPrestazio(std::string dove, RigaGeo& riga);
 
-  // "T" or "P" and the letters joined by "+"; as given until "O.K." takes new ones.
-  std::string TipoDiPrestazione, StringaDellePrestazioni;
-
-  Label lblLotto;
-  Frame Frame1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "PRESTAZIONI"};
   OptionGroup tipo;
-  OptionButton Option1, Option2;
-  Frame Frame2;
-  std::array<CheckBox, 6> Check;
-  Button Command1;
+  OptionButton Option1{*this, "Option1", "COMPLETE", tipo};
+  OptionButton Option2{*this, "Option2", "PARZIALI", tipo};
+  Frame Frame2{*this, "Frame2", "PRESTAZIONI "};
+  std::array<CheckBox, 6> Check{{{*this, "Check1", kPrestazioniGeo[0]},
+                                 {*this, "Check2", kPrestazioniGeo[1]},
+                                 {*this, "Check3", kPrestazioniGeo[2]},
+                                 {*this, "Check4", kPrestazioniGeo[3]},
+                                 {*this, "Check5", kPrestazioniGeo[4]},
+                                 {*this, "Check6", kPrestazioniGeo[5]}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm();
+  void Conferma();
+  RigaGeo& riga_;
 };
 
 }  // namespace orm

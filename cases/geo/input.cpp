@@ -1,9 +1,7 @@
-#include <cmath>
-
 #include "cases/geo/forms.h"
 #include "cases/geo/geo.h"
 #include "runtime/numbers.h"
-#include "tariff/forms/form_amount.h"
+#include "tariff/forms/form_amounts.h"
 #include "tariff/forms/form_kind.h"
 #include "tariff/forms/form_question.h"
 #include "tariff/forms/input_step.h"
@@ -22,45 +20,30 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
         dati(datiDelCaso) {}
 
  private:
-  static std::string Dove(const PostoLotto& posto, const RigaGeo& riga) {
-    return DoveSiamo(posto, "GRUPPO") + "   SOTTOCLASSE " + riga.Sottoclasse;
+  static std::string Dove(const PostoPeriodo& qui) {
+    return DoveSiamo(qui.lotto, "GRUPPO") + "   SOTTOCLASSE " + qui.modello.Sottoclasse;
   }
 
-  bool ChiediTestata(const PostoLotto& posto, const std::string& rifiuto,
-                     RigaGeo& modello) override {
-    FrmGeoClassi form(stato.player, posto, modello.Sottoclasse);
-    form.Rifiuto = rifiuto;
-    stato.player.Show(form);
-    if (form.Classe == "0") return false;
-    modello.Sottoclasse = form.Classe;
-    return true;
+  bool ChiediTestata(const PostoRiga& lotto, RigaGeo& modello) override {
+    return FrmGeoClassi(stato, lotto, modello.Sottoclasse).Chiedi();
   }
 
-  std::optional<std::int16_t> ChiediPeriodo(const PostoRiga& posto, const RigaGeo& riga) override {
-    FrmGeoTariffe form(stato.player, tabelle, Dove(posto.lotto, posto.modello), posto.ultimo,
-                       riga.Tariffa, posto.esiste);
-    form.Rifiuto = posto.rifiuto;
-    stato.player.Show(form);
-    return form.Periodo();
+  std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const RigaGeo& riga) override {
+    return FrmTariffe(stato, TestiGeoTariffe(tabelle), Dove(qui), qui.posto, qui.ultimo,
+                      riga.Tariffa)
+        .ChiediPeriodo();
   }
 
-  void ChiediRiga(const PostoRiga& posto, std::int16_t periodo, RigaGeo& riga) override {
-    riga.Sottoclasse = posto.modello.Sottoclasse;
+  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaGeo& riga) override {
+    riga.Sottoclasse = qui.modello.Sottoclasse;
     riga.Tariffa = NumberText(periodo);
-    double progetto = 0, direzione = 0;
-    for (const RigaGeo& r : Fatte()) {
-      progetto += std::fabs(r.ImportoProgetto);
-      direzione += std::fabs(r.ImportoDirezione);
-    }
     const std::string nome = tabelle.NomePeriodo[static_cast<std::size_t>(periodo - 1)];
-    FrmGeoImporti importi(stato, dati.TipoDiParcella, nome, riga, progetto, direzione);
+    FrmGeoImporti importi(stato, dati.TipoDiParcella, nome,
+                          Chiesto(riga, &RigaGeo::ImportoProgetto, Fatte()),
+                          Chiesto(riga, &RigaGeo::ImportoDirezione, Fatte()));
     stato.player.Show(importi);
-    riga.ImportoProgetto = importi.ImportoProgetto;
-    riga.ImportoDirezione = importi.ImportoDirezione;
-    FrmGeoPrestazio prestazioni(Dove(posto.lotto, riga) + "   " + nome, riga);
+    FrmGeoPrestazio prestazioni(Dove(qui) + "   " + nome, riga);
     stato.player.Show(prestazioni);
-    riga.TipoDiPrestazione = prestazioni.TipoDiPrestazione;
-    riga.StringaDellePrestazioni = prestazioni.StringaDellePrestazioni;
   }
 
   RunState& stato;
@@ -69,14 +52,11 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
 };
 
 void ChiediMaggiorazione(Player& player, std::string& risposta) {
-  risposta = ChiediSiNo(player, "PARCELLA PER PRESTAZIONI GEOTECNICHE",
-                        "MAGGIORAZIONE PER INCARICO PARZIALE ?", "", risposta);
-  if (risposta != "SI") return;
-  player.Ask({"ATTENZIONE !",
-              "La procedura non esegue alcun controllo di leggittimità : \n"
-              "per cui se indebitamente richiesta, la maggiorazione potrebbe essere applicata "
-              "contemporaneamente sia alla Progettazione sia alla Direzione Lavori.",
-              MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
+  risposta = ChiediSiNo(player, "PARCELLA PER PRESTAZIONI GEOTECNICHE", kMaggiorazioneParziale, "",
+                        risposta);
+  if (risposta == "SI")
+    player.Ask({"ATTENZIONE !", kAvvertenzaParziale, MessageBox::Icon::Exclamation,
+                MessageBox::Buttons::Ok});
 }
 
 }  // namespace
@@ -84,16 +64,12 @@ void ChiediMaggiorazione(Player& player, std::string& risposta) {
 void DatiGEO(RunState& stato) {
   const TabelleGeo tabelle = LeggiTabelleGeo(stato.folder, 0);
   DatiGeotecnici dati;
-  IniziaInput(stato, dati);
-  FrmGenTipologia tipologia(stato.player, dati.TipoDiParcella);
-  stato.player.Show(tipologia);
-  if (!tipologia.Confermato()) return;
-  dati.TipoDiParcella = tipologia.TipoParcella;
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
+  if (!ChiediTipologia(stato.player, dati.TipoDiParcella, true)) return;
   ChiediMaggiorazione(stato.player, dati.MaggiorazioneParziale);
   CatenaGeo(stato, tabelle, dati).Chiedi();
   FrmGenUnoImporti costo(stato, "COSTO INDAGINI E PROVE", "Costo complessivo", dati.CostoIndagini);
   stato.player.Show(costo);
-  if (costo.Confermato()) dati.CostoIndagini = costo.Importo();
   ConcludiInput(stato, dati);
 }
 

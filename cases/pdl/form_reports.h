@@ -4,44 +4,44 @@
 #include <array>
 
 #include "cases/pdl/data.h"
-#include "dialogs/form.h"
-#include "shell/state/run_state.h"
-#include "tariff/forms/amount_box.h"
+#include "tariff/forms/input_form.h"
 
 namespace orm {
 
-class FrmPdlPerizie : public Form {
+class FrmPdlPerizie : public FormInput {
  public:
-  FrmPdlPerizie(Player& player, std::string dove, std::int16_t numero);
-  std::int16_t NumeroPerizie;  // 0 to 10; as given when the form was left by its window
+  // `numero`, 0 to 10, is taken when it is confirmed.
+  FrmPdlPerizie(RunState& stato, std::string dove, std::int16_t& numero);
 
-  Label lblLotto;
-  InterBox ciNumeroPerizie;
-  Button Command1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  // More than a row takes, so that the refusal can say how many it takes.
+  InterBox ciNumeroPerizie{*this,
+                           "ciNumeroPerizie",
+                           "NUMERO  PERIZIE NEL PERIODO TARIFFARIO",
+                           {.most = 99, .decimals = 0}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm(Player& player);
+  void Conferma();
+  std::int16_t& numero_;
 };
 
-// Additional works, expropriations, works varied.
-using ImportiPerizia = std::array<double, 3>;
+// What the note's other reports hold: additional works, expropriations, works varied.
+using AltrePerizie = std::array<double, 3>;
 
-class FrmPdlImpPer : public Form {
+class FrmPdlImpPer : public FormInput {
  public:
-  // `altri`: what the note's other reports hold of each amount.
-  FrmPdlImpPer(RunState& stato, std::string dove, const PeriziaPdl& perizia,
-               const ImportiPerizia& altri);
-  PeriziaPdl Perizia;  // as given when the form was left by its window
+  // `perizia` is taken when it is confirmed.
+  FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia, const AltrePerizie& altre);
 
-  Label lblLotto;
-  Frame Frame1;
-  ComboBox Combo1;
-  Image Image1;
-  std::array<ImportoBox, 3> importo;
-  Button Command1;
-
- private:
-  void Confirm(RunState& stato, const ImportiPerizia& altri);
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "TIPO DI PERIZIA"};
+  ComboBox Combo1{*this, "Combo1", "", {"1 - di variante e suppletiva", "2 - di assestamento!"}};
+  MarchioEuro Image1{*this, stato_};
+  std::array<ImportoBox, 3> importo{{{*this, stato_, "Importo1", "IMPORTO LAVORI SUPPLETIVI"},
+                                     {*this, stato_, "Importo2", "IMPORTO ESPROPRI IN PERIZIA"},
+                                     {*this, stato_, "Importo3", "IMPORTO LAVORI VARIATI"}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 }  // namespace orm

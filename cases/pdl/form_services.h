@@ -11,21 +11,32 @@ class FrmPdlPrestazio : public Form {
  public:
   enum class Modo { Riga, Perizia };  // a variation report has services of design alone
 
-  FrmPdlPrestazio(std::string titolo, std::string dove, const std::string& tipo,
-                  const std::string& stringa, Modo modo);
-  // "T" or "P", and with "P" the letters; as given when the form was left by its window.
-  std::string TipoDiPrestazione, StringaDellePrestazioni;
+  // "T" or "P", and with "P" the letters; taken when they are confirmed.
+  FrmPdlPrestazio(std::string titolo, std::string dove, std::string& tipo, std::string& stringa,
+                  Modo modo);
 
-  Label lblLotto;
-  Frame Frame1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "PRESTAZIONI"};
   OptionGroup scelta;
-  OptionButton Option1, Option2;  // complete, partial
-  Frame Frame2;
-  std::array<CheckBox, 10> servizi;  // named by their letters
-  Button Command1;
+  OptionButton Option1{*this, "Option1", "COMPLETE", scelta};
+  OptionButton Option2{*this, "Option2", "PARZIALI", scelta};
+  Frame Frame2{*this, "Frame2", "PRESTAZIONI"};
+  // Named by their letters.
+  std::array<CheckBox, 10> servizi{{{*this, "a", "a   PROGETTO DI MASSIMA"},
+                                    {*this, "b", "b   PREVENTIVO SOMMARIO"},
+                                    {*this, "c", "c   PROGETTO ESECUTIVO"},
+                                    {*this, "d", "d   PREVENTIVO PARTICOLAREGGIATO"},
+                                    {*this, "e", "e   PARTICOLARI COSTRUTTIVI E DECORATIVI"},
+                                    {*this, "f", "f   CAPITOLATI E CONTRATTI"},
+                                    {*this, "g", "g   DIREZIONE LAVORI"},
+                                    {*this, "h", "h   PROVE DI OFFICINA"},
+                                    {*this, "i", "i   ASSISTENZA AL COLLAUDO"},
+                                    {*this, "l", "l   LIQUIDAZIONE"}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm();
+  void Conferma();
+  std::string &tipo_, &stringa_;
 };
 
 }  // namespace orm

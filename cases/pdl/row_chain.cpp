@@ -1,12 +1,11 @@
 #include "cases/pdl/row_chain.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "cases/pdl/form_reports.h"
 #include "cases/pdl/form_services.h"
 #include "runtime/numbers.h"
-#include "tariff/forms/form_pdl_amounts.h"
+#include "tariff/forms/form_amounts.h"
 #include "tariff/forms/form_pdl_extras.h"
 #include "tariff/message_boxes.h"
 
@@ -28,7 +27,7 @@ class CatenaRiga {
  private:
   std::string RifiutoDiContabilita() const;
   void ChiediPerizia(std::size_t j);
-  ImportiPerizia AltrePerizie(std::size_t j) const;
+  AltrePerizie PerizieGiaDate(std::size_t j) const;
 
   RunState& stato;
   const std::string& dove;
@@ -37,33 +36,19 @@ class CatenaRiga {
 };
 
 void CatenaRiga::ChiediImporti() {
-  ImportiPdl altri{};
-  for (const RigaPdl& r : fatte) {
-    altri[0] += std::fabs(r.ImportoProgetto);
-    altri[1] += r.ImportoEspropri;
-    altri[2] += r.ImportoSuppletivi;
-    altri[3] += r.ImportoEsproPerizie;
-    altri[4] += std::fabs(r.ImportoDirezione);
-  }
+  const auto chiesto = [this](double RigaPdl::*importo) { return Chiesto(riga, importo, fatte); };
   FrmPdlImporti form(
       stato, "PARCELLA PROGETTAZIONE E D.L.ante D.M. 4-4-01 : IMPORTI DEI LAVORI NEL LOTTO ", dove,
-      {riga.ImportoProgetto, riga.ImportoEspropri, riga.ImportoSuppletivi, riga.ImportoEsproPerizie,
-       riga.ImportoDirezione},
-      altri);
+      {chiesto(&RigaPdl::ImportoProgetto), chiesto(&RigaPdl::ImportoEspropri),
+       chiesto(&RigaPdl::ImportoSuppletivi), chiesto(&RigaPdl::ImportoEsproPerizie),
+       chiesto(&RigaPdl::ImportoDirezione)});
   stato.player.Show(form);
-  riga.ImportoProgetto = form.Importi[0];
-  riga.ImportoEspropri = form.Importi[1];
-  riga.ImportoSuppletivi = form.Importi[2];
-  riga.ImportoEsproPerizie = form.Importi[3];
-  riga.ImportoDirezione = form.Importi[4];
 }
 
 void CatenaRiga::ChiediPrestazioni() {
   FrmPdlPrestazio form("PRESTAZIONI DI TABELLA B EFFETTUATE", dove, riga.TipoPrestazione,
                        riga.Prestazioni, FrmPdlPrestazio::Modo::Riga);
   stato.player.Show(form);
-  riga.TipoPrestazione = form.TipoDiPrestazione;
-  riga.Prestazioni = form.StringaDellePrestazioni;
 }
 
 // Accounting is paid on supervision alone.
@@ -76,18 +61,18 @@ std::string CatenaRiga::RifiutoDiContabilita() const {
 void CatenaRiga::ChiediAggiuntive() {
   if (riga.ImportoDirezione <= 0) return;
   const bool perizie = riga.ImportoSuppletivi != 0 || riga.ImportoEsproPerizie != 0;
-  FrmPdlAltri form(stato.player, "LAVORI PRIVATI e LL.PP. ante D.M. 4-4-2001", dove,
-                   {riga.FlagSorveglianza == "S", riga.FlagContabilita == "S",
-                    riga.FlagRevisione == "S", perizie || riga.FlagPerizie == "S"});
-  form.Rifiuto = RifiutoDiContabilita();
+  const std::string rifiuto = RifiutoDiContabilita();
+  PrestazioniAggiuntive chieste{riga.FlagSorveglianza == "S", riga.FlagContabilita == "S",
+                                riga.FlagRevisione == "S", perizie || riga.FlagPerizie == "S"};
+  FrmPdlAltri form(stato, "LAVORI PRIVATI e LL.PP. ante D.M. 4-4-2001", dove, rifiuto, chieste);
   stato.player.Show(form);
   const auto flag = [](bool scelta) { return scelta ? "S" : "N"; };
-  riga.FlagSorveglianza = flag(form.Prestazioni.Sorveglianza);
-  riga.FlagContabilita = flag(form.Prestazioni.Contabilita);
-  riga.FlagRevisione = flag(form.Prestazioni.Revisione);
-  riga.FlagPerizie = flag(form.Prestazioni.Perizie);
-  if (riga.FlagContabilita == "N" || form.Rifiuto.empty()) return;
-  stato.player.Ask(Avviso(form.Rifiuto));
+  riga.FlagSorveglianza = flag(chieste.Sorveglianza);
+  riga.FlagContabilita = flag(chieste.Contabilita);
+  riga.FlagRevisione = flag(chieste.Revisione);
+  riga.FlagPerizie = flag(chieste.Perizie);
+  if (riga.FlagContabilita == "N" || rifiuto.empty()) return;
+  stato.player.Ask(Avviso(rifiuto));
   riga.FlagContabilita = riga.FlagRevisione = "N";
 }
 
@@ -103,14 +88,13 @@ void CatenaRiga::ChiediPerizie() {
     riga.NumeroPerizie = 0;
     return;
   }
-  FrmPdlPerizie form(stato.player, dove, riga.NumeroPerizie);
+  FrmPdlPerizie form(stato, dove, riga.NumeroPerizie);
   stato.player.Show(form);
-  riga.NumeroPerizie = form.NumeroPerizie;
   for (std::size_t j = 0; j < static_cast<std::size_t>(riga.NumeroPerizie); ++j) ChiediPerizia(j);
 }
 
-ImportiPerizia CatenaRiga::AltrePerizie(std::size_t j) const {
-  ImportiPerizia altri{};
+AltrePerizie CatenaRiga::PerizieGiaDate(std::size_t j) const {
+  AltrePerizie altri{};
   const auto somma = [&altri](const RigaPdl& r, std::size_t quante) {
     for (std::size_t k = 0; k < quante; ++k) {
       altri[0] += r.Perizie[k].LavoriSuppletivi;
@@ -126,10 +110,9 @@ ImportiPerizia CatenaRiga::AltrePerizie(std::size_t j) const {
 void CatenaRiga::ChiediPerizia(std::size_t j) {
   const std::string quale = dove + "\nPERIZIA n° " + NumberText(static_cast<double>(j + 1)) +
                             " di " + NumberText(riga.NumeroPerizie);
-  FrmPdlImpPer importi(stato, quale, riga.Perizie[j], AltrePerizie(j));
-  stato.player.Show(importi);
   PeriziaPdl& perizia = riga.Perizie[j];
-  perizia = importi.Perizia;
+  FrmPdlImpPer importi(stato, quale, perizia, PerizieGiaDate(j));
+  stato.player.Show(importi);
   if (perizia.LavoriVariati == 0) {
     perizia.TipoPrestazioneVariati = "T";
     perizia.PrestazioniVariati.clear();
@@ -139,8 +122,6 @@ void CatenaRiga::ChiediPerizia(std::size_t j) {
                        perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati,
                        FrmPdlPrestazio::Modo::Perizia);
   stato.player.Show(form);
-  perizia.TipoPrestazioneVariati = form.TipoDiPrestazione;
-  perizia.PrestazioniVariati = form.StringaDellePrestazioni;
 }
 
 }  // namespace

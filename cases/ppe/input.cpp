@@ -7,10 +7,9 @@ namespace orm {
 
 void InputPpe(RunState& stato) {
   DatiPpe dati;
-  IniziaInput(stato, dati);
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   FrmPpeDati form(dati);
   stato.player.Show(form);
-  if (form.Confermato()) dati = form.Dati();
   ConcludiInput(stato, dati);
 }
 

@@ -24,34 +24,26 @@ FrmSicSpunte::FrmSicSpunte(std::string nome, std::string riquadro,
                            std::span<const CondizioneSic> condizioni, std::size_t caselle,
                            std::string segni)
     : Form(std::move(nome), "PARCELLA PER PRESTAZIONI SICUREZZA CANTIERI"),
-      Segni(Completa(std::move(segni), condizioni.size())),
-      Frame1(*this, "Frame1", std::move(riquadro)),
-      Check([&] {
-        std::vector<std::unique_ptr<CheckBox>> boxes;
-        for (std::size_t i = 0; i < caselle; ++i)
-          boxes.push_back(std::make_unique<CheckBox>(
-              *this, "Check" + Numero(i + 1), i < condizioni.size() ? condizioni[i].testo : ""));
-        return boxes;
-      }()),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default),
-      condizioni_(condizioni) {
+      Segni(Completa(std::move(segni), condizioni.size())) {
   std::vector<Layout> righe;
   for (std::size_t i = 0; i < caselle; ++i) {
-    righe.emplace_back(*Check[i]);
     const bool offerta = i < condizioni.size();
-    Check[i]->SetVisible(offerta);
-    if (!offerta) continue;
-    Check[i]->SetValue(Segni[i] == '1');
-    Check[i]->SetEnabled(Segni[i] != '2');
+    CheckBox& check =
+        Check.emplace_back(*this, "Check" + Numero(i + 1), offerta ? condizioni[i].testo : "");
+    righe.emplace_back(check);
+    check.SetVisible(offerta);
+    check.SetValue(offerta && Segni[i] == '1');
+    check.SetEnabled(!offerta || Segni[i] != '2');
   }
   SetContent(Column({Group(Frame1, std::move(righe)), Buttons({Command1})}));
-  Command1.onPress = [this] { Confirm(); };
+  Frame1.SetCaption(std::move(riquadro));
+  Command1.onPress = [this] { Conferma(); };
 }
 
-void FrmSicSpunte::Confirm() {
-  for (std::size_t i = 0; i < condizioni_.size(); ++i)
-    if (Segni[i] != '2') Segni[i] = Check[i]->Value() ? '1' : '0';
-  Close();
+void FrmSicSpunte::Conferma() {
+  for (std::size_t i = 0; i < Segni.size(); ++i)
+    if (Segni[i] != '2') Segni[i] = Check[i].Value() ? '1' : '0';
+  Esci(Uscita::Conferma);
 }
 
 FrmSicPrestazioni::Riga::Riga(Form& form, std::size_t i)
@@ -61,105 +53,97 @@ FrmSicPrestazioni::Riga::Riga(Form& form, std::size_t i)
                         {.readOnly = true, .width = 4, .unit = "%"}) {
   if (i < kCoordinatoreProgetto) return;
   const std::string n = Numero(i + 1 - kCoordinatoreProgetto);
-  cmd_Incrementi = std::make_unique<Button>(form, "cmd_Incrementi_" + n, "Incrementi");
-  Txt_Incrementi = std::make_unique<TestoBox>(
-      form, "Txt_Incrementi" + n, "", TextOptions{.readOnly = true, .width = 4, .unit = "%"});
+  cmd_Incrementi.emplace(form, "cmd_Incrementi_" + n, "Incrementi");
+  Txt_Incrementi.emplace(form, "Txt_Incrementi" + n, "",
+                         TextOptions{.readOnly = true, .width = 4, .unit = "%"});
 }
 
 FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove,
-                                     const LottoSic& lotto)
+                                     LottoSic& lotto)
     : Form("frmSIC_Prestazioni", "SICUREZZA CANTIERI : PRESTAZIONI "),
-      StringaPrestazioni(lotto.StringaPrestazioni),
-      StringaMaggiorazioni(lotto.StringaMaggiorazioni),
-      StringaIncrementi(lotto.StringaIncrementi),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      Frame1(*this, "Frame1", versione.riquadroPrestazioni),
-      righe([&] {
-        std::vector<std::unique_ptr<Riga>> rows;
-        for (std::size_t i = 0; i < kPrestazioniSic.size(); ++i)
-          rows.push_back(std::make_unique<Riga>(*this, i));
-        return rows;
-      }()),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default),
       player_(player),
       versione_(versione),
-      maggiorazioni_(Completa(StringaMaggiorazioni, righe.size() * versione.maggiorazioni.size())),
-      incrementi_(Completa(StringaIncrementi, 2 * kIncrementi)) {
+      lotto_(lotto),
+      maggiorazioni_(Completa(lotto.StringaMaggiorazioni,
+                              kPrestazioniSic.size() * versione.maggiorazioni.size())),
+      incrementi_(Completa(lotto.StringaIncrementi, 2 * kIncrementi)) {
   std::vector<Layout> linee;
-  for (std::size_t i = 0; i < righe.size(); ++i) {
-    Riga& riga = *righe[i];
+  for (std::size_t i = 0; i < kPrestazioniSic.size(); ++i) {
+    Riga& riga = righe.emplace_back(*this, i);
     std::vector<Layout> linea{riga.Check, riga.cmd_Maggiorazioni, riga.Txt_Maggiorazioni};
-    if (riga.cmd_Incrementi != nullptr) {
+    if (riga.cmd_Incrementi) {
       linea.emplace_back(*riga.cmd_Incrementi);
       linea.emplace_back(*riga.Txt_Incrementi);
-      riga.cmd_Incrementi->onPress = [this, i] { AskIncrements(i); };
+      riga.cmd_Incrementi->onPress = [this, i] { ChiediIncrementi(i); };
     }
     linee.push_back(Row(std::move(linea)));
-    riga.Check.SetValue(i < StringaPrestazioni.size() && StringaPrestazioni[i] == '1');
-    riga.Check.onChange = [this, i] { Tick(i); };
-    riga.cmd_Maggiorazioni.onPress = [this, i] { AskConditions(i); };
-    ShowRow(i);
+    riga.Check.SetValue(i < lotto.StringaPrestazioni.size() && lotto.StringaPrestazioni[i] == '1');
+    riga.Check.onChange = [this, i] { Spunta(i); };
+    riga.cmd_Maggiorazioni.onPress = [this, i] { ChiediMaggiorazioni(i); };
+    MostraRiga(i);
   }
   SetContent(Column({lblLotto, Group(Frame1, {Fields(std::move(linee))}), Buttons({Command1})}));
-  Command1.onPress = [this] { Confirm(); };
+  lblLotto.SetText(std::move(dove));
+  Frame1.SetCaption(versione.riquadroPrestazioni);
+  Command1.onPress = [this] { Conferma(); };
 }
 
 // A duty that is not done has no conditions; increments that it never offers are marked so.
-void FrmSicPrestazioni::Tick(std::size_t i) {
-  if (!righe[i]->Check.Value()) {
+void FrmSicPrestazioni::Spunta(std::size_t i) {
+  if (!righe[i].Check.Value()) {
     const std::size_t n = versione_.maggiorazioni.size();
     maggiorazioni_.replace(i * n, n, n, '0');
     if (i == kCoordinatoreProgetto)
       incrementi_.replace(0, kIncrementi, versione_.SC2 ? "022" : "220");
     if (i == kCoordinatoreEsecuzione) incrementi_.replace(kIncrementi, kIncrementi, "000");
   }
-  ShowRow(i);
+  MostraRiga(i);
 }
 
-void FrmSicPrestazioni::ShowRow(std::size_t i) {
-  Riga& riga = *righe[i];
+void FrmSicPrestazioni::MostraRiga(std::size_t i) {
+  Riga& riga = righe[i];
   const bool fatta = riga.Check.Value();
   const std::size_t n = versione_.maggiorazioni.size();
   riga.cmd_Maggiorazioni.SetEnabled(fatta);
   riga.Txt_Maggiorazioni.SetEnabled(fatta);
   riga.Txt_Maggiorazioni.SetText(
       Percento(SommaCondizioni(versione_.maggiorazioni, maggiorazioni_.substr(i * n, n))));
-  if (riga.cmd_Incrementi == nullptr) return;
+  if (!riga.cmd_Incrementi) return;
   riga.cmd_Incrementi->SetEnabled(fatta);
   riga.Txt_Incrementi->SetEnabled(fatta);
-  riga.Txt_Incrementi->SetText(Percento(SommaCondizioni(versione_.incrementi, Offered(i))));
+  riga.Txt_Incrementi->SetText(Percento(SommaCondizioni(versione_.incrementi, Offerti(i))));
 }
 
 // The coordinator of the design can have one of the three, a different one in each version.
-std::string FrmSicPrestazioni::Offered(std::size_t i) const {
+std::string FrmSicPrestazioni::Offerti(std::size_t i) const {
   if (i == kCoordinatoreEsecuzione) return incrementi_.substr(kIncrementi, kIncrementi);
   return versione_.SC2 ? incrementi_.substr(0, 1) + "22" : "22" + incrementi_.substr(2, 1);
 }
 
-void FrmSicPrestazioni::AskConditions(std::size_t i) {
+void FrmSicPrestazioni::ChiediMaggiorazioni(std::size_t i) {
   const std::size_t n = versione_.maggiorazioni.size();
   FrmSicSpunte form("frmSIC_Maggiorazioni", versione_.riquadroMaggiorazioni,
                     versione_.maggiorazioni, kCaselleMaggiorazioni,
                     maggiorazioni_.substr(i * n, n));
   player_.Show(form);
   maggiorazioni_.replace(i * n, n, form.Segni);
-  ShowRow(i);
+  MostraRiga(i);
 }
 
-void FrmSicPrestazioni::AskIncrements(std::size_t i) {
+void FrmSicPrestazioni::ChiediIncrementi(std::size_t i) {
   FrmSicSpunte form("frmSIC_Incrementi", "INCREMENTI", versione_.incrementi, kIncrementi,
-                    Offered(i));
+                    Offerti(i));
   player_.Show(form);
   incrementi_.replace(i == kCoordinatoreProgetto ? 0 : kIncrementi, kIncrementi, form.Segni);
-  ShowRow(i);
+  MostraRiga(i);
 }
 
-void FrmSicPrestazioni::Confirm() {
-  StringaPrestazioni.clear();
-  for (const auto& riga : righe) StringaPrestazioni += riga->Check.Value() ? '1' : '0';
-  StringaMaggiorazioni = maggiorazioni_;
-  StringaIncrementi = incrementi_;
-  Close();
+void FrmSicPrestazioni::Conferma() {
+  lotto_.StringaPrestazioni.clear();
+  for (const Riga& riga : righe) lotto_.StringaPrestazioni += riga.Check.Value() ? '1' : '0';
+  lotto_.StringaMaggiorazioni = maggiorazioni_;
+  lotto_.StringaIncrementi = incrementi_;
+  Esci(Uscita::Conferma);
 }
 
 }  // namespace orm

@@ -1,34 +1,33 @@
-// The dialogs of site safety: the amounts of a lot, its duties, and the conditions of a duty.
+// The dialogs of site safety: the amounts of a lot, its duties, and the conditions of a duty. What
+// they show is taken when it is confirmed.
 #pragma once
 
 #include <array>
-#include <memory>
-#include <vector>
+#include <deque>
+#include <optional>
 
 #include "cases/sic/data.h"
-#include "dialogs/form.h"
-#include "shell/state/run_state.h"
-#include "tariff/forms/amount_box.h"
+#include "tariff/forms/input_form.h"
 #include "tariff/law/site_safety.h"
 
 namespace orm {
 
 // frmSIC_Importi.
-class FrmSicImporti : public Form {
+class FrmSicImporti : public FormInput {
  public:
-  // `altriProgetto`, `altriEsecuzione`: what the note holds of each besides.
-  FrmSicImporti(RunState& stato, std::string titolo, const LottoSic& lotto, double altriProgetto,
-                double altriEsecuzione);
+  // `fatti`: the lots of the note entered before.
+  FrmSicImporti(RunState& stato, LottoSic& lotto, const std::vector<LottoSic>& fatti);
 
-  double ImportoProgetto, ImportoEsecuzione;  // as given until "O.K." takes new ones
-
-  Label lblClasse, lblCategoria, lblTariffa;
-  Image Image1;
-  Frame Frame1;
-  ImportoBox importo1;
-  Frame Frame2;
-  ImportoBox importo2;
-  Button Command1;
+  Label lblClasse{*this, "lblClasse"};
+  Label lblCategoria{*this, "lblCategoria"};
+  Label lblTariffa{*this, "lblTariffa"};
+  MarchioEuro Image1{*this, stato_};
+  Frame Frame1{*this, "Frame1", "PROGETTAZIONE"};
+  Frame Frame2{*this, "Frame2", "ESECUZIONE"};
+  std::array<ImportoBox, 2> importo{
+      {{*this, stato_, "Importo1", "IMPORTO LAVORI ", kLavoriConSegno},
+       {*this, stato_, "Importo2", "IMPORTO LAVORI "}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 // frmSIC_Maggiorazioni and frmSIC_Incrementi: boxes to tick, one for each condition.
@@ -39,50 +38,45 @@ class FrmSicSpunte : public Form {
                std::size_t caselle, std::string segni);
 
   std::string Segni;  // as given until "O.K." takes new ones
-  double Percentuale() const { return SommaCondizioni(condizioni_, Segni); }
 
-  Frame Frame1;
-  std::vector<std::unique_ptr<CheckBox>> Check;
-  Button Command1;
+  Frame Frame1{*this, "Frame1"};
+  std::deque<CheckBox> Check;
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Confirm();
-  std::span<const CondizioneSic> condizioni_;
+  void Conferma();
 };
 
 // frmSIC_Prestazioni.
 class FrmSicPrestazioni : public Form {
  public:
-  FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove,
-                    const LottoSic& lotto);
+  FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove, LottoSic& lotto);
 
-  // As given until "O.K." takes new ones.
-  std::string StringaPrestazioni, StringaMaggiorazioni, StringaIncrementi;
-
-  Label lblLotto;
-  Frame Frame1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1"};
   // A duty with its conditions; increments belong to the two coordinators alone.
   struct Riga {
     Riga(Form& form, std::size_t i);
     CheckBox Check;
     Button cmd_Maggiorazioni;
     TestoBox Txt_Maggiorazioni;
-    std::unique_ptr<Button> cmd_Incrementi;
-    std::unique_ptr<TestoBox> Txt_Incrementi;
+    std::optional<Button> cmd_Incrementi;
+    std::optional<TestoBox> Txt_Incrementi;
   };
-  std::vector<std::unique_ptr<Riga>> righe;
-  Button Command1;
+  std::deque<Riga> righe;
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void Tick(std::size_t i);
-  void ShowRow(std::size_t i);
-  void AskConditions(std::size_t i);
-  void AskIncrements(std::size_t i);
-  std::string Offered(std::size_t i) const;
-  void Confirm();
+  void Spunta(std::size_t i);
+  void MostraRiga(std::size_t i);
+  void ChiediMaggiorazioni(std::size_t i);
+  void ChiediIncrementi(std::size_t i);
+  std::string Offerti(std::size_t i) const;
+  void Conferma();
 
   Player& player_;
   const VersioneSic& versione_;
+  LottoSic& lotto_;
   // What the rows hold before "O.K."
   std::string maggiorazioni_, incrementi_;
 };

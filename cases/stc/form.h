@@ -8,20 +8,26 @@ namespace orm {
 
 class FrmStcDati : public Form {
  public:
-  explicit FrmStcDati(const DatiStc& dati);
-  DatiStc Dati() const;  // as given when the form was left by its window
+  explicit FrmStcDati(DatiStc& dati);
 
-  double Maggiorazione;
-  InterBox casellainteri1, casellainteri2, casellainteri3;
-  CheckBox Check1;
-  InterBox casellainteri4, casellainteri5;
-  DatePicker DTPicker1;
-  Label lblGiorno;
-  Button Command1;
+  // As much of each as the report has room for, with everything else at its greatest.
+  static inline const NumberLimits kNumero{.most = 99999, .decimals = 0};
+  static inline const NumberLimits kArea{.most = 99999999, .decimals = 0, .unit = "metri quadri"};
+  static inline const NumberLimits kVolume{.most = 99999999, .decimals = 0, .unit = "metri cubi"};
+  InterBox casellainteri1{*this, "casellainteri1", "SUPERFICIE INTERESSATA DALL'INCARICO", kArea};
+  InterBox casellainteri2{*this, "casellainteri2", "Numero delle PARTITE", kNumero};
+  InterBox casellainteri3{*this, "casellainteri3", "Numero dei MAPPALI", kNumero};
+  CheckBox Check1{*this, "Check1", "Maggiorazione per fronti stradali in allargamento"};
+  InterBox casellainteri4{*this, "casellainteri4", "COSTRUZIONI ADIBITE AD ABITAZIONI OD UFFICI",
+                          kVolume};
+  InterBox casellainteri5{*this, "casellainteri5", "COSTRUZIONI ADIBITE AD USO AGRICOLO", kArea};
+  DatePicker DTPicker1{*this, "DTPicker1", "DATA DI ESPLETAMENTO DELLA PRESTAZIONE"};
+  Label lblGiorno{*this, "lblGiorno", "( il giorno è ininfluente)", Label::Style::Note};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  DatiStc dati_;
-  void Confirm();
+  void Conferma();
+  DatiStc& dati_;
 };
 
 }  // namespace orm

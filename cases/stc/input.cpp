@@ -7,10 +7,9 @@ namespace orm {
 
 void InputStc(RunState& stato) {
   DatiStc dati;
-  IniziaInput(stato, dati);
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   FrmStcDati form(dati);
   stato.player.Show(form);
-  dati = form.Dati();
   ConcludiInput(stato, dati);
 }
 

@@ -1,20 +1,58 @@
 #include "tariff/forms/amount_box.h"
 
-#include <cmath>
-
 #include "runtime/text.h"
 #include "tariff/money.h"
 
 namespace orm {
 
-std::string SommaEccessiva(std::string_view voce, double importo, double altri, double massimo) {
-  if (std::fabs(importo) + altri <= massimo) return "";
-  return TrimRight(voce) + (altri == 0 ? ":" : ": CON GLI ALTRI LOTTI LA SOMMA") +
+ImportoBox::ImportoBox(Form& form, const RunState& stato, std::string nomeEuro,
+                       std::string nomeLire, const std::string& didascalia,
+                       const LimitiImporto& limiti)
+    : cd(form, std::move(nomeEuro), didascalia, limiti.euro),
+      ci(form, std::move(nomeLire), didascalia, limiti.lire),
+      lire_(stato.ModoLire) {
+  SetVisible(true);
+}
+
+void ImportoBox::SetValue(double valore) {
+  cd.SetValue(valore);
+  ci.SetValue(valore);
+}
+
+void ImportoBox::SetVisible(bool visibile) {
+  cd.SetVisible(visibile && !lire_);
+  ci.SetVisible(visibile && lire_);
+}
+
+void ImportoBox::SetCaption(const std::string& didascalia) {
+  cd.SetCaption(didascalia);
+  ci.SetCaption(didascalia);
+}
+
+void ImportoBox::Chiedi(const ImportoChiesto& importo) {
+  chiesto_ = importo;
+  SetVisible(importo.posto != nullptr);
+  if (importo.posto != nullptr) SetValue(*importo.posto);
+}
+
+std::string ImportoBox::Eccesso(double altri) const {
+  const double massimo = (lire_ ? ci.Limits() : cd.Limits()).most;
+  if (std::fabs(Value()) + altri <= massimo) return "";
+  return TrimRight(ci.Caption()) + (altri == 0 ? ":" : ": CON GLI ALTRI LOTTI LA SOMMA") +
          " NON PUÒ SUPERARE " + FormattaCopia(massimo, 2) + ".";
 }
 
-std::string SommaEccessiva(const ImportoBox& importo, double altri) {
-  return SommaEccessiva(importo.ci.Caption(), importo.Value(), altri, importo.Massimo());
+void ImportoBox::Prendi() const {
+  if (chiesto_.posto != nullptr) *chiesto_.posto = Value();
+}
+
+Layout AmountFields(std::initializer_list<std::reference_wrapper<ImportoBox>> importi) {
+  std::vector<Layout> campi;
+  for (ImportoBox& importo : importi) {
+    campi.emplace_back(importo.cd);
+    campi.emplace_back(importo.ci);
+  }
+  return Fields(std::move(campi));
 }
 
 }  // namespace orm

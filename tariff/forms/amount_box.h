@@ -1,46 +1,89 @@
-// An amount of works on a form: two fields on one place, whole in Lire and with decimals in Euro,
+// An amount of money on a form: two fields on one place, whole in Lire and with decimals in Euro,
 // of which the currency of the note shows one.
 #pragma once
 
+#include <cmath>
+
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
-#include "tariff/forms/amount_limits.h"
 
 namespace orm {
 
-struct ImportoBox {
-  enum class Segno { Positivo, Libero };
+// How long an amount may be that a person types: every text that the note prints of it, negative
+// sums included, fits the field of its column.
+struct LimitiImporto {
+  NumberLimits lire, euro;
+};
 
+// Amounts of works: 16 characters in the column, thousands points included; a fee on the whole
+// amount, coefficients included, still fits its 14.
+inline const LimitiImporto kLavori = {{.most = 99999999999.0, .decimals = 0},
+                                      {.most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+// The same where a negative amount has a meaning of its own.
+inline const LimitiImporto kLavoriConSegno = {
+    {.least = -99999999999.0, .most = 99999999999.0, .decimals = 0},
+    {.least = -99999999.99, .most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+// Advances: 14 characters in the column, and a net amount below zero takes one for its sign.
+inline const LimitiImporto kAcconti = {{.most = 9999999999.0, .decimals = 0},
+                                       {.most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+
+// What a field for an amount asks: the place of the amount in its row, and what the note's other
+// rows hold of it, all counted without their sign. Without a place it asks nothing.
+struct ImportoChiesto {
+  double* posto = nullptr;
+  double altri = 0;
+};
+
+template <class Riga>
+double SommaSenzaSegno(const std::vector<Riga>& righe, double Riga::*importo) {
+  double somma = 0;
+  for (const Riga& riga : righe) somma += std::fabs(riga.*importo);
+  return somma;
+}
+
+// An amount of `riga`, which is none of the rows entered so far, `fatte`.
+template <class Riga>
+ImportoChiesto Chiesto(Riga& riga, double Riga::*importo, const std::vector<Riga>& fatte) {
+  return {&(riga.*importo), SommaSenzaSegno(fatte, importo)};
+}
+
+struct ImportoBox {
   // `nome` without its prefix: "Importo1" makes cdImporto1 and ciImporto1.
   ImportoBox(Form& form, const RunState& stato, const std::string& nome,
-             const std::string& didascalia, Segno segno = Segno::Positivo)
-      : cd(form, "cd" + nome, didascalia, segno == Segno::Libero ? kSignedWorksEuro : kWorksEuro),
-        ci(form, "ci" + nome, didascalia, segno == Segno::Libero ? kSignedWorksLire : kWorksLire),
-        lire_(stato.ModoLire) {
-    SetVisible(true);
-  }
+             const std::string& didascalia, const LimitiImporto& limiti = kLavori)
+      : ImportoBox(form, stato, "cd" + nome, "ci" + nome, didascalia, limiti) {}
+  ImportoBox(Form& form, const RunState& stato, std::string nomeEuro, std::string nomeLire,
+             const std::string& didascalia, const LimitiImporto& limiti);
 
   double Value() const { return lire_ ? ci.Value() : cd.Value(); }
-  double Massimo() const { return lire_ ? ci.Limits().most : cd.Limits().most; }
-  void SetValue(double valore) {
-    cd.SetValue(valore);
-    ci.SetValue(valore);
-  }
-  void SetVisible(bool visibile) {
-    cd.SetVisible(visibile && !lire_);
-    ci.SetVisible(visibile && lire_);
-  }
+  void SetValue(double valore);
+  void SetVisible(bool visibile);
+  void SetCaption(const std::string& didascalia);
+
+  // Shows the amount that is asked, or nothing at all. The form keeps it a draft until its
+  // confirming button has seen that nothing stands against it, and takes it.
+  void Chiedi(const ImportoChiesto& importo);
+  // Why the sum with the others is too great for the report; empty when it is not.
+  std::string Eccesso(double altri) const;
+  std::string Eccesso() const { return Eccesso(chiesto_.altri); }
+  void Prendi() const;
 
   FloatBox cd;
   InterBox ci;
 
  private:
   bool lire_;
+  ImportoChiesto chiesto_;
 };
 
-// The sum that an amount makes with the others of its kind in the note, `altri`, all counted
-// without their sign: empty, or why it is too great for the report.
-std::string SommaEccessiva(std::string_view voce, double importo, double altri, double massimo);
-std::string SommaEccessiva(const ImportoBox& importo, double altri);
+// The fields of amounts, one below the other.
+Layout AmountFields(std::initializer_list<std::reference_wrapper<ImportoBox>> importi);
+
+// The Euro mark, on the forms with amounts of a note in Euro.
+struct MarchioEuro : Image {
+  MarchioEuro(Form& form, const RunState& stato) : Image(form, "Image1", Subject::Euro) {
+    SetVisible(!stato.ModoLire);
+  }
+};
 
 }  // namespace orm

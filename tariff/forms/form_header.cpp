@@ -3,18 +3,10 @@
 #include "tariff/user_data.h"
 
 namespace orm {
-namespace {
-const TextOptions kSeveralLines{.longest = 1000, .lines = 4, .width = 60};
-}
 
 FrmGenIntestazione::FrmGenIntestazione(RunState& stato, std::string nomeFile)
     : Form("frmGEN_Intestazione",
-           "                                          INTESTAZIONE PARCELLA"),
-      txtCommittente(*this, "txtCommittente", "COMMITTENTE", kSeveralLines),
-      txtIncarico(*this, "txtIncarico", "OGGETTO", kSeveralLines),
-      txtDocumenti(*this, "txtDocumenti", "DOCUMENTI DI INCARICO", kSeveralLines),
-      txtNote(*this, "txtNote", "NOTE", kSeveralLines),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+           "                                          INTESTAZIONE PARCELLA") {
   SetContent(
       Column({Fields({txtCommittente, txtIncarico, txtDocumenti, txtNote}), Buttons({Command1})}));
   if (stato.folder.Exists(nomeFile)) {
@@ -29,7 +21,7 @@ FrmGenIntestazione::FrmGenIntestazione(RunState& stato, std::string nomeFile)
       ScriviIntestazione(
           stato.folder, nomeFile,
           {txtCommittente.Text(), txtIncarico.Text(), txtDocumenti.Text(), txtNote.Text()});
-      Close();
+      Esci(Uscita::Conferma);
     });
   };
 }

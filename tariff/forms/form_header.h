@@ -12,8 +12,12 @@ class FrmGenIntestazione : public Form {
   // not.
   FrmGenIntestazione(RunState& stato, std::string nomeFile);
 
-  TestoBox txtCommittente, txtIncarico, txtDocumenti, txtNote;
-  Button Command1;
+  static inline const TextOptions kPiuRighe{.longest = 1000, .lines = 4, .width = 60};
+  TestoBox txtCommittente{*this, "txtCommittente", "COMMITTENTE", kPiuRighe};
+  TestoBox txtIncarico{*this, "txtIncarico", "OGGETTO", kPiuRighe};
+  TestoBox txtDocumenti{*this, "txtDocumenti", "DOCUMENTI DI INCARICO", kPiuRighe};
+  TestoBox txtNote{*this, "txtNote", "NOTE", kPiuRighe};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 }  // namespace orm

@@ -30,18 +30,7 @@ constexpr std::array<const char*, 4> kHelp = {
 }  // namespace
 
 FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella)
-    : Form("frmGEN_Tipologia", "TIPOLOGIA DI  PARCELLA"),
-      TipoParcella(tipoParcella),
-      Frame1(*this, "Frame1"),
-      Option{{{*this, "Option1", "PREVENTIVA e IN CORSO D'OPERA", tipo},
-              {*this, "Option2", "CONSUNTIVA a Fine Lavori", tipo},
-              {*this, "Option3", "INTERROTTA per risoluzione Incarico", tipo},
-              {*this, "Option4", "A Percentuali distinte per Prog. e D.L.", tipo}}},
-      Help{{{*this, "Help1", "HELP"},
-            {*this, "Help2", "HELP"},
-            {*this, "Help3", "HELP"},
-            {*this, "Help4", "HELP"}}},
-      OKbutton(*this, "OKbutton", "&O.K.", Button::Role::Default) {
+    : Form("frmGEN_Tipologia", "TIPOLOGIA DI  PARCELLA"), TipoParcella(tipoParcella) {
   SetContent(Column({Group(Frame1, {Row({Option[0], Help[0]}), Row({Option[1], Help[1]}),
                                     Row({Option[2], Help[2]}), Row({Option[3], Help[3]})}),
                      Buttons({OKbutton})}));
@@ -56,6 +45,15 @@ FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella
     TipoParcella = kValues[static_cast<std::size_t>(std::max(tipo.Chosen(), 0))];
     Esci(Uscita::Conferma);
   };
+}
+
+bool ChiediTipologia(Player& player, std::string& TipoParcella, bool scissa) {
+  FrmGenTipologia form(player, TipoParcella);
+  form.Option[3].SetVisible(scissa);
+  form.Help[3].SetVisible(scissa);
+  player.Show(form);
+  TipoParcella = form.TipoParcella;
+  return form.Confermato();
 }
 
 }  // namespace orm

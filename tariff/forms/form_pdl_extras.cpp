@@ -2,46 +2,38 @@
 
 #include <algorithm>
 
-#include "runtime/numbers.h"
 #include "tariff/accounting_block.h"
-#include "tariff/forms/lot_chain.h"
 #include "tariff/law/table_e.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {
 
 // The option of a kind of works, its coefficient behind its name.
-std::string Voce(std::size_t i) {
-  return kLavoriClasse1[i].nome + CoefficienteInStringa(kLavoriClasse1[i].coefficiente);
+std::string Voce(const LavoriContabilita& lavori) {
+  return lavori.nome + CoefficienteInStringa(lavori.coefficiente);
 }
 
 }  // namespace
 
-FrmPdlAltri::FrmPdlAltri(Player& player, std::string titolo, std::string dove,
-                         const PrestazioniAggiuntive& date)
-    : Form("frmPDL_Altri", std::move(titolo)),
-      Prestazioni(date),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      Frame1(*this, "Frame1", "PRESTAZIONI AGGIUNTIVE"),
-      Check1(*this, "Check1", "SORVEGLIANZA"),
-      Check2(*this, "Check2", "MISURE e CONTABILITA'"),
-      Check3(*this, "Check3", "REVISIONE PREZZI"),
-      Check4(*this, "Check4", "PERIZIE DI VARIANTE"),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+FrmPdlAltri::FrmPdlAltri(RunState& stato, std::string titolo, std::string dove, std::string rifiuto,
+                         PrestazioniAggiuntive& prestazioni)
+    : FormInput(stato, "frmPDL_Altri", std::move(titolo)),
+      rifiuto_(std::move(rifiuto)),
+      prestazioni_(prestazioni) {
   SetContent(
       Column({lblLotto, Group(Frame1, {Check1, Check2, Check3, Check4}), Buttons({Command1})}));
-  Check1.SetValue(date.Sorveglianza);
-  Check2.SetValue(date.Contabilita);
-  Check3.SetValue(date.Revisione);
-  Check4.SetValue(date.Perizie);
-  Check2.onChange = [this] { ShowRevision(); };
-  ShowRevision();
-  Command1.onPress = [this, &player] { Confirm(player); };
+  lblLotto.SetText(std::move(dove));
+  Check1.SetValue(prestazioni.Sorveglianza);
+  Check2.SetValue(prestazioni.Contabilita);
+  Check3.SetValue(prestazioni.Revisione);
+  Check4.SetValue(prestazioni.Perizie);
+  Check2.onChange = [this] { MostraRevisione(); };
+  MostraRevisione();
+  Command1.onPress = [this] { Conferma(); };
 }
 
 // A revision of prices is nothing without accounting.
-void FrmPdlAltri::ShowRevision() {
+void FrmPdlAltri::MostraRevisione() {
   Check3.SetVisible(Check2.Value());
   if (!Check2.Value()) Check3.SetValue(false);
 }
@@ -51,32 +43,23 @@ void FrmPdlAltri::SoloContabilita() {
   for (CheckBox* check : {&Check1, &Check3, &Check4}) check->SetVisible(false);
 }
 
-void FrmPdlAltri::Confirm(Player& player) {
-  if (Check2.Value() && !Rifiuto.empty()) {
-    player.Ask(Avviso(Rifiuto));
-    return;
-  }
-  Prestazioni = {Check1.Value(), Check2.Value(), Check3.Value(), Check4.Value()};
-  Close();
+void FrmPdlAltri::Conferma() {
+  if (Check2.Value() && Rifiuta(rifiuto_)) return;
+  prestazioni_ = {Check1.Value(), Check2.Value(), Check3.Value(), Check4.Value()};
+  Esci(Uscita::Conferma);
 }
 
 FrmPdlCont::FrmPdlCont(std::string dove, const std::string& risposta)
-    : Form("frmPDL_Cont", "MISURE e CONTABILITA'"),
-      Risposta(risposta),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      Frame1(*this, "Frame1", "TIPO DI LAVORI EDILI "),
-      Option{{{*this, "Option1", Voce(0), tipo},
-              {*this, "Option2", Voce(1), tipo},
-              {*this, "Option3", Voce(2), tipo},
-              {*this, "Option4", Voce(3), tipo}}},
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+    : Form("frmPDL_Cont", "MISURE e CONTABILITA'"), Risposta(risposta) {
   SetContent(Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}),
                      Buttons({Command1})}));
+  lblLotto.SetText(std::move(dove));
+  for (std::size_t i = 0; i < Option.size(); ++i) Option[i].SetCaption(Voce(kLavoriClasse1[i]));
   if (risposta < "1" || risposta > "4") Risposta = "1";
   tipo.Choose(Risposta[0] - '1');
   Command1.onPress = [this] {
     Risposta = std::string(1, static_cast<char>('1' + std::max(tipo.Chosen(), 0)));
-    Close();
+    Esci(Uscita::Conferma);
   };
 }
 

@@ -4,8 +4,7 @@
 
 #include <array>
 
-#include "dialogs/form.h"
-#include "dialogs/player.h"
+#include "tariff/forms/input_form.h"
 
 namespace orm {
 
@@ -13,24 +12,26 @@ struct PrestazioniAggiuntive {
   bool Sorveglianza = false, Contabilita = false, Revisione = false, Perizie = false;
 };
 
-class FrmPdlAltri : public Form {
+class FrmPdlAltri : public FormInput {
  public:
-  FrmPdlAltri(Player& player, std::string titolo, std::string dove,
-              const PrestazioniAggiuntive& date);
+  // `rifiuto`: why the row can have no accounting; empty when it can.
+  FrmPdlAltri(RunState& stato, std::string titolo, std::string dove, std::string rifiuto,
+              PrestazioniAggiuntive& prestazioni);
   void SoloContabilita();  // the others are not offered
 
-  // When not empty, why no further row can have its accounting: shown instead of taking the answer.
-  std::string Rifiuto;
-  PrestazioniAggiuntive Prestazioni;  // as given when the form was left by its window
-
-  Label lblLotto;
-  Frame Frame1;
-  CheckBox Check1, Check2, Check3, Check4;
-  Button Command1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "PRESTAZIONI AGGIUNTIVE"};
+  CheckBox Check1{*this, "Check1", "SORVEGLIANZA"};
+  CheckBox Check2{*this, "Check2", "MISURE e CONTABILITA'"};
+  CheckBox Check3{*this, "Check3", "REVISIONE PREZZI"};
+  CheckBox Check4{*this, "Check4", "PERIZIE DI VARIANTE"};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
-  void ShowRevision();
-  void Confirm(Player& player);
+  void MostraRevisione();
+  void Conferma();
+  const std::string rifiuto_;
+  PrestazioniAggiuntive& prestazioni_;
 };
 
 class FrmPdlCont : public Form {
@@ -39,11 +40,14 @@ class FrmPdlCont : public Form {
   FrmPdlCont(std::string dove, const std::string& risposta);
   std::string Risposta;
 
-  Label lblLotto;
-  Frame Frame1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1", "TIPO DI LAVORI EDILI "};
   OptionGroup tipo;
-  std::array<OptionButton, 4> Option;
-  Button Command1;
+  std::array<OptionButton, 4> Option{{{*this, "Option1", "", tipo},
+                                      {*this, "Option2", "", tipo},
+                                      {*this, "Option3", "", tipo},
+                                      {*this, "Option4", "", tipo}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 // The coefficient of accounting for a class; class "1" asks for the kind of works.

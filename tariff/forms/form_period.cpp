@@ -1,50 +1,46 @@
 #include "tariff/forms/form_period.h"
 
-#include "tariff/message_boxes.h"
+#include "tariff/law/tariff_tables.h"
 
 namespace orm {
 
-FrmTariffe::FrmTariffe(Player& player, const TestiTariffe& testi, std::string dove, int ultimo,
-                       const std::string& periodo, bool esiste)
-    : Form(testi.nome, testi.titolo),
-      lblLotto(*this, "lblLotto", std::move(dove), Label::Style::Title),
-      Frame1(*this, "Frame1", testi.riquadro),
-      Option{{{*this, "Option1", testi.periodi[1 - 1], tipo},
-              {*this, "Option2", testi.periodi[2 - 1], tipo},
-              {*this, "Option3", testi.periodi[3 - 1], tipo},
-              {*this, "Option4", testi.periodi[4 - 1], tipo},
-              {*this, "Option5", testi.periodi[5 - 1], tipo}}},
-      Command2(*this, "Command2", "FINE INPUT PERIODI"),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+TestiTariffe TestiPdlTariffe() {
+  TestiTariffe testi{
+      "frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE", "PERIODO DI VALIDITA' DEL", {}};
+  for (int i = 1; i <= 5; ++i)
+    testi.periodi[static_cast<std::size_t>(i - 1)] = NomePeriodoTariffarioEsteso(i);
+  return testi;
+}
+
+FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove,
+                       const PostoRiga& posto, int ultimo, const std::string& periodo)
+    : FormRiga(stato, testi.nome, testi.titolo, posto, Command2) {
   SetContent(
       Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3], Option[4]}),
               Buttons({Command1, Command2})}));
-  int scelta = -1;
-  for (int i = ultimo; i < 5; ++i)
-    if (scelta < 0 || periodo == std::string(1, static_cast<char>('1' + i))) scelta = i;
-  for (int i = 0; i < 5; ++i) Option[static_cast<std::size_t>(i)].SetVisible(i >= ultimo);
-  tipo.Choose(scelta);
-  Command1.SetEnabled(scelta >= 0);
-  Tariffa = esiste && scelta >= 0 ? std::string(1, static_cast<char>('1' + scelta)) : "0";
-  Command1.onPress = [this, &player] { Confirm(player); };
-  Command2.onPress = [this] {
-    Tariffa = "0";
-    Close();
-  };
-}
-
-std::optional<std::int16_t> FrmTariffe::Periodo() const {
-  if (Tariffa == "0") return std::nullopt;
-  return static_cast<std::int16_t>(Tariffa[0] - '0');
-}
-
-void FrmTariffe::Confirm(Player& player) {
-  if (!Rifiuto.empty()) {
-    player.Ask(Avviso(Rifiuto));
-    return;
+  lblLotto.SetText(std::move(dove));
+  Frame1.SetCaption(testi.riquadro);
+  for (int i = 0; i < 5; ++i) {
+    OptionButton& opzione = Option[static_cast<std::size_t>(i)];
+    opzione.SetCaption(testi.periodi[static_cast<std::size_t>(i)]);
+    opzione.SetVisible(i >= ultimo);
+    const bool suo = periodo == std::string(1, static_cast<char>('1' + i));
+    if (i >= ultimo && (periodo_ == 0 || suo)) periodo_ = static_cast<std::int16_t>(i + 1);
   }
-  Tariffa = std::string(1, static_cast<char>('1' + tipo.Chosen()));
-  Close();
+  tipo.Choose(periodo_ - 1);
+  Command1.SetEnabled(periodo_ != 0);
+  Command1.onPress = [this] { Conferma(); };
+}
+
+std::optional<std::int16_t> FrmTariffe::ChiediPeriodo() {
+  if (!Chiedi() || periodo_ == 0) return std::nullopt;
+  return periodo_;
+}
+
+void FrmTariffe::Conferma() {
+  if (Rifiuta(posto_.rifiuto)) return;
+  periodo_ = static_cast<std::int16_t>(tipo.Chosen() + 1);
+  Esci(Uscita::Conferma);
 }
 
 }  // namespace orm

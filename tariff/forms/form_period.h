@@ -6,8 +6,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "dialogs/form.h"
-#include "dialogs/player.h"
+#include "tariff/forms/input_form.h"
 
 namespace orm {
 
@@ -16,27 +15,33 @@ struct TestiTariffe {
   std::array<std::string, 5> periodi;
 };
 
-class FrmTariffe : public Form {
+// frmPDL_Tariffe: the periods of the tariff.
+TestiTariffe TestiPdlTariffe();
+
+class FrmTariffe : public FormRiga {
  public:
   // Periods of a lot only go forward: those up to `ultimo`, the last one used, are not offered.
-  // `periodo` is chosen at first, or the first one offered. `esiste`: the row is there already, and
-  // leaving the form by its window keeps it; otherwise it ends the periods.
-  FrmTariffe(Player& player, const TestiTariffe& testi, std::string dove, int ultimo,
-             const std::string& periodo, bool esiste);
+  // `periodo` is chosen at first, or the first one offered.
+  FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove, const PostoRiga& posto,
+             int ultimo, const std::string& periodo);
 
-  // When not empty, why no further row can be entered: shown instead of taking the period.
-  std::string Rifiuto;
-  std::string Tariffa;  // "1" to "5", "0" at the end of the periods
-  std::optional<std::int16_t> Periodo() const;
+  // Shows the form: 1 to 5, or nothing at the end of the periods.
+  std::optional<std::int16_t> ChiediPeriodo();
 
-  Label lblLotto;
-  Frame Frame1;
+  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
+  Frame Frame1{*this, "Frame1"};
   OptionGroup tipo;
-  std::array<OptionButton, 5> Option;
-  Button Command2, Command1;
+  std::array<OptionButton, 5> Option{{{*this, "Option1", "", tipo},
+                                      {*this, "Option2", "", tipo},
+                                      {*this, "Option3", "", tipo},
+                                      {*this, "Option4", "", tipo},
+                                      {*this, "Option5", "", tipo}}};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
+  Button Command2{*this, "Command2", "FINE INPUT PERIODI"};
 
  private:
-  void Confirm(Player& player);
+  void Conferma();
+  std::int16_t periodo_ = 0;  // at first what is chosen then, 0 where none is left to choose
 };
 
 }  // namespace orm

@@ -2,22 +2,28 @@
 
 namespace orm {
 
+FrmGenNuovoCaso::FrmGenNuovoCaso() : Form("frmGEN_NuovoCaso", " ORM 2002 :  INTRODUZIONE DATI ") {
+  SetContent(Row({cmdVARIAZIONE, cmdNuova}));
+  const auto rispondi = [this](Inizio risposta) {
+    Risposta = risposta;
+    Esci(Uscita::Conferma);
+  };
+  cmdVARIAZIONE.onPress = [rispondi] { rispondi(Inizio::Variazione); };
+  cmdNuova.onPress = [rispondi] { rispondi(Inizio::Nuova); };
+}
+
 FrmGenSiNo::FrmGenSiNo(std::string titolo, std::string domanda, std::string avvertenza,
                        const std::string& risposta)
-    : Form("frmGEN_SiNo", std::move(titolo)),
-      Risposta(risposta == "SI" ? "SI" : "NO"),
-      Label1(*this, "Label1", std::move(domanda)),
-      OptionSI(*this, "OptionSI", "- SI", scelta),
-      OptionNO(*this, "OptionNO", "- NO", scelta),
-      Avvertenza(*this, "Avvertenza", std::move(avvertenza), Label::Style::Warning),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
+    : Form("frmGEN_SiNo", std::move(titolo)), Risposta(risposta == "SI" ? "SI" : "NO") {
   SetContent(
       Column({Row({Label1, Column({OptionSI, OptionNO})}), Avvertenza, Buttons({Command1})}));
+  Label1.SetText(std::move(domanda));
   scelta.Choose(risposta == "SI" ? 0 : 1);
-  Avvertenza.SetVisible(!Avvertenza.Text().empty());
+  Avvertenza.SetVisible(!avvertenza.empty());
+  Avvertenza.SetText(std::move(avvertenza));
   Command1.onPress = [this] {
     Risposta = OptionSI.Value() ? "SI" : "NO";
-    Close();
+    Esci(Uscita::Conferma);
   };
 }
 
@@ -26,6 +32,13 @@ std::string ChiediSiNo(Player& player, std::string titolo, std::string domanda,
   FrmGenSiNo form(std::move(titolo), std::move(domanda), std::move(avvertenza), risposta);
   player.Show(form);
   return form.Risposta;
+}
+
+std::string ChiediCertificato(Player& player, std::string titolo, bool conDirezione,
+                              const std::string& risposta) {
+  if (!conDirezione) return "NO";
+  return ChiediSiNo(player, std::move(titolo), "COLLAUDO o CERTIFICATO REGOLARE ESECUZIONE ?", "",
+                    risposta);
 }
 
 }  // namespace orm

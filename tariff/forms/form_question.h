@@ -1,10 +1,25 @@
-// frmGEN_SiNo: a question with the answers "SI" and "NO".
+// frmGEN_NuovoCaso and frmGEN_SiNo: the question at the beginning of an input step, and questions
+// with the answers "SI" and "NO".
 #pragma once
 
 #include "dialogs/form.h"
 #include "dialogs/player.h"
 
 namespace orm {
+
+// How an input begins: with a new note, with a change of the one stored, or not at all.
+enum class Inizio { Nuova, Variazione, Rinuncia };
+
+class FrmGenNuovoCaso : public Form {
+ public:
+  FrmGenNuovoCaso();
+
+  // Left by its window, the form lets the note that is there stand.
+  Inizio Risposta = Inizio::Variazione;
+
+  Button cmdVARIAZIONE{*this, "cmdVARIAZIONE", "VARIAZIONE DATI", Button::Role::Default};
+  Button cmdNuova{*this, "cmdNuova", "NUOVA PARCELLA"};
+};
 
 class FrmGenSiNo : public Form {
  public:
@@ -14,15 +29,27 @@ class FrmGenSiNo : public Form {
 
   std::string Risposta;  // "SI" or "NO"; as given when the form was left by its window
 
-  Label Label1;
+  Label Label1{*this, "Label1"};
   OptionGroup scelta;
-  OptionButton OptionSI, OptionNO;
-  Label Avvertenza;
-  Button Command1;
+  OptionButton OptionSI{*this, "OptionSI", "- SI", scelta};
+  OptionButton OptionNO{*this, "OptionNO", "- NO", scelta};
+  Label Avvertenza{*this, "Avvertenza", "", Label::Style::Warning};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 
 // Shows the question; the answer.
 std::string ChiediSiNo(Player& player, std::string titolo, std::string domanda,
                        std::string avvertenza, const std::string& risposta);
+
+// Whether a testing or a certificate is wanted; without supervision there is none.
+std::string ChiediCertificato(Player& player, std::string titolo, bool conDirezione,
+                              const std::string& risposta);
+
+// The question of the increase for a partial commission (art. 18), and what it warns of.
+inline constexpr const char* kMaggiorazioneParziale = "MAGGIORAZIONE PER INCARICO PARZIALE ?";
+inline constexpr const char* kAvvertenzaParziale =
+    "La procedura non esegue alcun controllo di leggittimità : \n"
+    "per cui se indebitamente richiesta, la maggiorazione potrebbe essere applicata "
+    "contemporaneamente sia alla Progettazione sia alla Direzione Lavori.";
 
 }  // namespace orm

@@ -2,17 +2,16 @@
 
 #include "tariff/forms/form_advances.h"
 #include "tariff/forms/form_header.h"
-#include "tariff/forms/form_new_case.h"
 
 namespace orm {
 
-bool ChiediVariazione(RunState& stato) {
+Inizio ChiediInizio(RunState& stato) {
   FrmGenIntestazione intestazione(stato, stato.FileInt);
   stato.player.Show(intestazione);
-  if (!stato.folder.Exists(stato.FileInp)) return false;
+  if (!stato.folder.Exists(stato.FileInp)) return Inizio::Nuova;
   FrmGenNuovoCaso nuovoCaso;
   stato.player.Show(nuovoCaso);
-  return nuovoCaso.Risposta == "VARIAZIONE";
+  return nuovoCaso.Risposta;
 }
 
 void ChiediAcconti(RunState& stato, const DataWriter& corpo) {

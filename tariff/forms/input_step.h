@@ -3,22 +3,21 @@
 #pragma once
 
 #include "tariff/files/closing_line.h"
+#include "tariff/forms/form_question.h"
 
 namespace orm {
 
 // Shows the header dialog on FileInt, then asks for a new note or a change where FileInp exists.
-// True for a change.
-bool ChiediVariazione(RunState& stato);
+Inizio ChiediInizio(RunState& stato);
 
 // Header, question, and the case's fields: those of FileInp for a change, otherwise `dati` as it
 // comes, with the closing values of a new note.
 template <class Dati>
-void IniziaInput(RunState& stato, Dati& dati) {
-  if (ChiediVariazione(stato)) {
-    LeggiParcella(stato, dati);
-  } else {
-    stato.chiusura = {};
-  }
+Inizio IniziaInput(RunState& stato, Dati& dati) {
+  const Inizio inizio = ChiediInizio(stato);
+  if (inizio == Inizio::Variazione) LeggiParcella(stato, dati);
+  if (inizio == Inizio::Nuova) stato.chiusura = {};
+  return inizio;
 }
 
 // Writes the body of FileInp and behind it the closing line as it stands, so that the file is whole

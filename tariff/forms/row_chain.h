@@ -2,13 +2,12 @@
 // row for each.
 #pragma once
 
-#include <algorithm>
 #include <optional>
-#include <string>
-#include <vector>
 
+#include "runtime/numbers.h"
 #include "tariff/files/row_lots.h"
-#include "tariff/forms/lot_chain.h"
+#include "tariff/forms/form_class.h"
+#include "tariff/forms/form_period.h"
 
 namespace orm {
 
@@ -25,93 +24,130 @@ class CatenaRighe {
  public:
   CatenaRighe(std::vector<LottoARighe>& lottiDelCaso, std::vector<Riga>& righeDelCaso,
               LimitiCatena limitiDelCaso)
-      : lotti(lottiDelCaso), righe(righeDelCaso), limiti(std::move(limitiDelCaso)) {
-    Separa();
-  }
+      : lotti(lottiDelCaso), righe(righeDelCaso), limiti(std::move(limitiDelCaso)) {}
   virtual ~CatenaRighe() = default;
 
   void Chiedi() {
-    for (std::size_t i = 0;; ++i) {
-      const PostoLotto posto{i + 1, vecchi.size()};
-      const std::vector<Riga> sue = posto.Nuovo() ? std::vector<Riga>() : vecchi[i];
-      Riga modello = sue.empty() ? Riga() : sue.front();
-      if (!ChiediTestata(posto, RifiutoLotto(posto), modello)) return;
-      ChiediPeriodi(posto, sue, modello);
-    }
+    std::vector<std::vector<Riga>> perLotto = Separa();
+    ChiediElenco(
+        perLotto, [this](const PostoRiga& posto) { return RifiutoLotto(posto); },
+        [this](const PostoRiga& posto, std::vector<Riga>& sue) {
+          righeDopo -= sue.size();
+          Riga modello = sue.empty() ? Riga() : sue.front();
+          if (!ChiediTestata(posto, modello)) return false;
+          ChiediPeriodi(posto, modello, sue);
+          return true;
+        });
   }
 
  protected:
-  // `rifiuto`: why there is no place for what is asked, shown instead of taking it; often empty.
-  // False at the end of the lots.
-  virtual bool ChiediTestata(const PostoLotto& posto, const std::string& rifiuto,
-                             Riga& modello) = 0;
-  // A row on its way through the dialogs. Its heading is that of `modello`, also where the row that
-  // existed had another one.
-  struct PostoRiga {
-    const PostoLotto& lotto;
+  // The heading of a lot, into `modello`. False at the end of the lots.
+  virtual bool ChiediTestata(const PostoRiga& lotto, Riga& modello) = 0;
+  // What the row at `posto` of a lot starts from: the lot's heading is that of `modello`, also
+  // where the row that existed had another one; `ultimo` is the last period before it, 0 for none.
+  struct PostoPeriodo {
+    const PostoRiga &lotto, &posto;
     const Riga& modello;
-    const std::string rifiuto;
-    int ultimo;  // the last period of the lot before it, 0 for none
-    bool esiste;
+    int ultimo;
   };
   // The period of a row, nothing at the end of the periods.
-  virtual std::optional<std::int16_t> ChiediPeriodo(const PostoRiga& posto, const Riga& riga) = 0;
+  virtual std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const Riga& riga) = 0;
   // The rest of a row.
-  virtual void ChiediRiga(const PostoRiga& posto, std::int16_t periodo, Riga& riga) = 0;
+  virtual void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, Riga& riga) = 0;
 
   // The rows of the note entered so far.
   const std::vector<Riga>& Fatte() const { return righe; }
 
  private:
   // The rows lot by lot. A lot without rows has no heading to show and is left out.
-  void Separa() {
+  std::vector<std::vector<Riga>> Separa() {
+    std::vector<std::vector<Riga>> perLotto;
     auto riga = righe.begin();
     for (const LottoARighe& lotto : lotti) {
       const auto fine = riga + static_cast<std::ptrdiff_t>(lotto.PeriodoDelLotto.size());
-      if (riga != fine) vecchi.emplace_back(riga, fine);
+      if (riga != fine) perLotto.emplace_back(riga, fine);
       riga = fine;
     }
+    righeDopo = righe.size();
     lotti.clear();
     righe.clear();
+    return perLotto;
   }
 
-  std::string RifiutoLotto(const PostoLotto& posto) const {
+  std::string RifiutoLotto(const PostoRiga& posto) const {
     if (posto.numero > limiti.lotti) return OltreIlMassimo(limiti.lotti, limiti.nomeLotti);
-    return posto.Nuovo() && righe.size() >= limiti.righe ? RifiutoRiga() : "";
+    return RifiutoRiga(posto);
   }
-  std::string RifiutoRiga() const {
+  // A new row must leave those of the lots behind it their place.
+  std::string RifiutoRiga(const PostoRiga& posto) const {
+    if (!posto.Nuova() || righe.size() + righeDopo < limiti.righe) return "";
     return OltreIlMassimo(limiti.righe, "RIGHE IN TUTTI I " + limiti.nomeLotti);
   }
 
-  // How many rows the lots behind this one still have: a new row must leave them their place.
-  std::size_t RigheDopo(const PostoLotto& posto) const {
-    std::size_t somma = 0;
-    for (std::size_t i = posto.numero; i < vecchi.size(); ++i) somma += vecchi[i].size();
-    return somma;
-  }
-
-  void ChiediPeriodi(const PostoLotto& posto, const std::vector<Riga>& sue, const Riga& modello) {
-    LottoARighe lotto;
-    for (std::size_t j = 0; j < limiti.periodiPerLotto; ++j) {
-      const bool esiste = j < sue.size();
-      Riga riga = esiste ? sue[j] : Riga();
-      const int ultimo = lotto.PeriodoDelLotto.empty() ? 0 : lotto.PeriodoDelLotto.back();
-      const bool pieno = !esiste && righe.size() + RigheDopo(posto) >= limiti.righe;
-      const PostoRiga qui{posto, modello, pieno ? RifiutoRiga() : "", ultimo, esiste};
-      const auto periodo = ChiediPeriodo(qui, riga);
-      if (!periodo) break;
-      ChiediRiga(qui, *periodo, riga);
-      righe.push_back(std::move(riga));
-      lotto.PeriodoDelLotto.push_back(*periodo);
-    }
-    lotto.UltimaRiga = static_cast<std::int16_t>(righe.size());
-    lotti.push_back(std::move(lotto));
+  void ChiediPeriodi(const PostoRiga& lotto, const Riga& modello, std::vector<Riga>& sue) {
+    LottoARighe fatto;
+    ChiediElenco(
+        sue, [this](const PostoRiga& posto) { return RifiutoRiga(posto); },
+        [&](const PostoRiga& posto, Riga& riga) {
+          const auto& periodi = fatto.PeriodoDelLotto;
+          if (posto.numero > limiti.periodiPerLotto) return false;
+          const PostoPeriodo qui{lotto, posto, modello, periodi.empty() ? 0 : periodi.back()};
+          const auto periodo = ChiediPeriodo(qui, riga);
+          if (!periodo) return false;
+          ChiediRiga(qui, *periodo, riga);
+          righe.push_back(riga);
+          fatto.PeriodoDelLotto.push_back(*periodo);
+          return true;
+        });
+    fatto.UltimaRiga = static_cast<std::int16_t>(righe.size());
+    lotti.push_back(std::move(fatto));
   }
 
   std::vector<LottoARighe>& lotti;
   std::vector<Riga>& righe;
   const LimitiCatena limiti;
-  std::vector<std::vector<Riga>> vecchi;
+  std::size_t righeDopo = 0;  // rows of the lots behind the one at work
+};
+
+// The chain whose lots are classes of the tariff and whose rows are periods of it.
+template <class Riga>
+class CatenaClassi : public CatenaRighe<Riga> {
+ public:
+  // `periodoDellaRiga`: where a row keeps the code of its period.
+  CatenaClassi(RunState& run, std::vector<LottoARighe>& lottiDelCaso,
+               std::vector<Riga>& righeDelCaso, LimitiCatena limitiDelCaso,
+               std::string Riga::*periodoDellaRiga)
+      : CatenaRighe<Riga>(lottiDelCaso, righeDelCaso, std::move(limitiDelCaso)),
+        stato(run),
+        Periodo(periodoDellaRiga) {}
+
+ protected:
+  using PostoPeriodo = typename CatenaRighe<Riga>::PostoPeriodo;
+
+  static std::string Dove(const PostoPeriodo& qui) {
+    return DoveSiamo(qui.lotto, qui.modello.Classe, qui.modello.Categoria);
+  }
+
+  bool ChiediTestata(const PostoRiga& lotto, Riga& modello) override {
+    return ChiediClasse(stato, lotto, modello.Classe, modello.Categoria);
+  }
+
+  std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const Riga& riga) override {
+    return FrmTariffe(stato, TestiPdlTariffe(), Dove(qui), qui.posto, qui.ultimo, riga.*Periodo)
+        .ChiediPeriodo();
+  }
+
+  // Class, category and period of a row. 0: its lot has no periods.
+  void Intesta(const PostoPeriodo& qui, std::int16_t periodo, Riga& riga) const {
+    riga.Classe = qui.modello.Classe;
+    riga.Categoria = qui.modello.Categoria;
+    riga.*Periodo = periodo == 0 ? "" : NumberText(periodo);
+  }
+
+  RunState& stato;
+
+ private:
+  std::string Riga::*const Periodo;
 };
 
 }  // namespace orm

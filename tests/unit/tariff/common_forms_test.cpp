@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/personal/form_program_choice.h"
-#include "tariff/forms/form_amount.h"
+#include "tariff/forms/form_amounts.h"
 #include "tariff/forms/form_class.h"
 #include "tariff/forms/form_kind.h"
 #include "tariff/forms/form_question.h"
@@ -17,22 +17,24 @@ class CommonForms : public ::testing::Test {
  protected:
   FakePlayer player;
   RunState stato{player, WorkFolder(".")};
+  double importo = 0;
 };
 
 void ExpectRules(const Form& form) {
   for (const std::string& fault : FormRules::Broken(form)) ADD_FAILURE() << fault;
 }
 
-TEST_F(CommonForms, ClassStartsFromTheFirstAndShowsItsTexts) {
+TEST_F(CommonForms, ClassShowsItsTextsAndCategories) {
   stato.ModoLire = true;
-  FrmGenClasse form(stato, true);
+  std::string classe, categoria;
+  FrmGenClasse form(stato, {}, classe, categoria, {.proposta = true}, {&importo});
   ExpectRules(form);
   form.Open();
   EXPECT_EQ(form.comClasse.Items().size(), 9U);
   EXPECT_EQ(form.comClasse.Index(), 0);
   EXPECT_EQ(form.lblClasse.Text(), form.comClasse.ShownText());
   EXPECT_TRUE(form.lblCategoria.Text().starts_with("a - Costruzioni  informate"));
-  EXPECT_TRUE(form.ciImporto.IsShown() && !form.cdImporto.IsShown() && !form.Image1.IsShown());
+  EXPECT_TRUE(form.importo.ci.IsShown() && !form.importo.cd.IsShown() && !form.Image1.IsShown());
 
   form.comClasse.SetIndex(6);
   EXPECT_EQ(form.comCategoria.Items().size(), 3U);
@@ -42,25 +44,29 @@ TEST_F(CommonForms, ClassStartsFromTheFirstAndShowsItsTexts) {
 }
 
 TEST_F(CommonForms, ClassesFiveAndEightHaveNoCategory) {
-  FrmGenClasse form(stato, true);
-  form.Open();
-  for (const char* classe : {"5", "8"}) {
-    form.SetClasse(classe);
-    EXPECT_FALSE(form.comCategoria.IsShown());
-    EXPECT_FALSE(form.lblCategoria.IsShown());
-    form.cdImporto.SetValue(10);
+  for (const std::string classe : {"5", "8"}) {
+    std::string presa = classe, categoria = "a";
+    FrmGenClasse form(stato, {.numero = 1, .esistenti = 1}, presa, categoria);
+    ExpectRules(form);
+    form.Open();
+    EXPECT_FALSE(form.comCategoria.IsShown() || form.lblCategoria.IsShown());
+    EXPECT_FALSE(form.importo.cd.IsShown() || form.importo.ci.IsShown());
     form.cmdCONFERMA.Press();
-    EXPECT_EQ(form.Classe, classe);
-    EXPECT_EQ(form.Categoria, "");
+    EXPECT_TRUE(player.messages.empty() && form.Confermato());
+    EXPECT_EQ(presa, classe);
+    EXPECT_EQ(categoria, "");
+    form.comClasse.SetIndex(8);
+    EXPECT_TRUE(form.comCategoria.IsShown());
   }
-  form.SetClasse("9");
-  EXPECT_TRUE(form.comCategoria.IsShown());
 }
 
 TEST_F(CommonForms, ClassWithoutAmountStaysOpenAndSaysHowToEnd) {
   stato.ModoLire = true;
-  FrmGenClasse form(stato, true);
+  std::string classe, categoria;
+  FrmGenClasse form(stato, {}, classe, categoria, {}, {&importo});
   form.Open();
+  form.comClasse.SetIndex(2);
+  form.comCategoria.SetIndex(1);
   form.cmdCONFERMA.Press();
   ASSERT_EQ(player.messages.size(), 1U);
   EXPECT_EQ(player.messages[0].title, "  ATTENZIONE !! ");
@@ -70,46 +76,33 @@ TEST_F(CommonForms, ClassWithoutAmountStaysOpenAndSaysHowToEnd) {
   EXPECT_TRUE(form.IsOpen());
   EXPECT_EQ(form.TipodiUscita, Form::Uscita::Finestra);
 
-  form.SetClasse("3");
-  form.SetCategoria("b");
-  EXPECT_EQ(form.ciImporto.Enter("1.500.000"), "");
+  EXPECT_EQ(form.importo.ci.Enter("1.500.000"), "");
   form.cmdCONFERMA.Press();
   EXPECT_FALSE(form.IsOpen());
   EXPECT_TRUE(form.Confermato());
-  EXPECT_EQ(form.Classe + form.Categoria, "3b");
-  EXPECT_EQ(form.Importo, 1500000);
-}
-
-TEST_F(CommonForms, ClassAloneAsksNoAmount) {
-  FrmGenClasse form(stato, false);
-  ExpectRules(form);
-  form.Open();
-  EXPECT_FALSE(form.cdImporto.IsShown() || form.ciImporto.IsShown());
-  form.SetClasse("2");
-  form.cmdCONFERMA.Press();
-  EXPECT_TRUE(player.messages.empty());
-  EXPECT_TRUE(form.Confermato());
-  EXPECT_EQ(form.Classe + form.Categoria, "2a");
+  EXPECT_EQ(classe + categoria, "3b");
+  EXPECT_EQ(importo, 1500000);
 }
 
 TEST_F(CommonForms, ClassEndsOrRefuses) {
-  FrmGenClasse form(stato, true);
+  std::string classe = "1", categoria = "a";
+  importo = 5;
+  FrmGenClasse form(stato, {1, 1, "NON SI POSSONO INTRODURRE ALTRI LOTTI"}, classe, categoria, {},
+                    {&importo});
   form.Open();
-  form.Rifiuto = "NON SI POSSONO INTRODURRE ALTRI LOTTI";
-  form.SetImporto(5);
   form.cmdCONFERMA.Press();
   ASSERT_EQ(player.messages.size(), 1U);
-  EXPECT_EQ(player.messages[0].text, form.Rifiuto +
-                                         "\nPer finire l'introduzione dati occorre premere\n" +
-                                         form.cmdFINE.ShownText());
+  EXPECT_EQ(
+      player.messages[0].text,
+      "NON SI POSSONO INTRODURRE ALTRI LOTTI\nPer finire l'introduzione dati occorre premere\n" +
+          form.cmdFINE.ShownText());
   EXPECT_TRUE(form.IsOpen());
   form.cmdFINE.Press();
   EXPECT_FALSE(form.IsOpen());
   EXPECT_EQ(form.TipodiUscita, Form::Uscita::Fine);
-  EXPECT_EQ(form.Classe, "0");
 }
 
-TEST_F(CommonForms, KindHasFourOptionsEachWithItsHelp) {
+TEST_F(CommonForms, KindHasFourOptions) {
   const std::array<std::string, 4> values = {"NORMALE", "CONSUNTIVA", "INTERROTTA", "SCISSA"};
   for (std::size_t i = 0; i < values.size(); ++i) {
     FrmGenTipologia form(player, values[i]);
@@ -124,19 +117,6 @@ TEST_F(CommonForms, KindHasFourOptionsEachWithItsHelp) {
   }
   FrmGenTipologia form(player, "SCISSA");
   form.Open();
-  for (Button& help : form.Help) help.Press();
-  ASSERT_EQ(player.messages.size(), 4U);
-  const std::array<const char*, 4> endings = {
-      "SE SEPARA GLI INCARICHI DI PROGETTAZIONE E D.L.",
-      "LAVORI RISPETTO ALLA STIMA DEL PROGETTO ORIGINARIO o DI PERIZIA",
-      "DEI LAVORI PER DECISIONE DEL COMMITTENTE", "PER LA PROGETTAZIONE E LA DIREZIONE DEI LAVORI"};
-  const std::array<int, 4> lines = {8, 4, 3, 3};
-  for (std::size_t i = 0; i < endings.size(); ++i) {
-    const MessageBox& box = player.messages[i];
-    EXPECT_EQ(box.title, "  INFORMAZIONE ");
-    EXPECT_TRUE(box.text.ends_with(endings[i])) << box.text;
-    EXPECT_EQ(std::count(box.text.begin(), box.text.end(), '\n') + 1, lines[i]);
-  }
   form.OnWindowClose();
   EXPECT_EQ(form.TipoParcella, "SCISSA");
   EXPECT_FALSE(form.Confermato());
@@ -161,20 +141,22 @@ TEST_F(CommonForms, QuestionIsAnsweredOrLeft) {
 TEST_F(CommonForms, OneAmountGoesByTheCurrency) {
   for (const bool lire : {true, false}) {
     stato.ModoLire = lire;
-    FrmGenUnoImporti form(stato, "COSTO", "Importo dei lavori", 12);
+    importo = 12;
+    FrmGenUnoImporti form(stato, "COSTO", "Importo dei lavori", importo);
     ExpectRules(form);
     form.Open();
-    EXPECT_EQ(form.InterBox1.IsShown(), lire);
-    EXPECT_EQ(form.FloatBox1.IsShown(), !lire);
+    EXPECT_EQ(form.importo.ci.IsShown(), lire);
+    EXPECT_EQ(form.importo.cd.IsShown(), !lire);
     EXPECT_EQ(form.Image1.IsShown(), !lire);
     EXPECT_FALSE(form.Label1.IsShown() || form.Label2.IsShown());
     form.SetTariffa("TARIFFA", "D.M. 4-4-2001");
     EXPECT_TRUE(form.Label1.IsShown());
-    EXPECT_EQ(form.Importo(), 12);
-    (lire ? static_cast<NumberBox&>(form.InterBox1) : form.FloatBox1).Enter("34");
+    EXPECT_EQ(form.importo.Value(), 12);
+    form.Find(lire ? "InterBox1" : "FloatBox1")->Enter("34");
+    EXPECT_EQ(importo, 12);
     form.cmdOK.Press();
     EXPECT_TRUE(form.Confermato());
-    EXPECT_EQ(form.Importo(), 34);
+    EXPECT_EQ(importo, 34);
   }
 }
 

@@ -1,0 +1,50 @@
+// The forms of an input step: what they say when they do not take what was entered, and how one
+// that asks a row of a list is left.
+#pragma once
+
+#include <span>
+
+#include "tariff/forms/amount_box.h"
+#include "tariff/forms/row_list.h"
+
+namespace orm {
+
+class FormInput : public Form {
+ public:
+  FormInput(RunState& stato, std::string nome, std::string titolo)
+      : Form(std::move(nome), std::move(titolo)), stato_(stato) {}
+
+ protected:
+  // Tells why what was entered is not taken: the form stays open. False for an empty reason, which
+  // refuses nothing.
+  bool Rifiuta(const std::string& motivo);
+  // Takes amounts and leaves the form, or refuses the first that is too great for the report.
+  void Conferma(std::span<const ImportoBox> importi);
+
+  RunState& stato_;
+};
+
+class FormRiga : public FormInput {
+ public:
+  // Shows the form. False at the end of the list. Closing the window keeps a row that exists as it
+  // is, and ends the list where a new one was asked.
+  bool Chiedi();
+
+ protected:
+  // `fine`: the button that ends the list.
+  FormRiga(RunState& stato, std::string nome, std::string titolo, PostoRiga posto, Button& fine)
+      : FormInput(stato, std::move(nome), std::move(titolo)),
+        posto_(std::move(posto)),
+        fine_(fine) {}
+  void OnOpen() override;
+
+  // The same as Rifiuta, with the words that tell how the list ends.
+  bool RifiutaRiga(const std::string& motivo);
+
+  const PostoRiga posto_;
+
+ private:
+  Button& fine_;
+};
+
+}  // namespace orm

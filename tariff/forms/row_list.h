@@ -1,0 +1,54 @@
+// The list of rows that a person goes through in windows, one row after the other: lots of a note,
+// periods of a lot, and whatever else a case has several of.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orm {
+
+// A row on its way through the dialogs.
+struct PostoRiga {
+  std::size_t numero = 1;     // from 1
+  std::size_t esistenti = 0;  // rows that the list had before
+  std::string rifiuto = {};   // why the note has no place for the row; empty when it has
+  bool Nuova() const { return numero > esistenti; }
+};
+
+// "LOTTO n° 2".
+std::string ConNumero(const PostoRiga& posto, std::string_view cosa);
+// The same, for a new row "NUOVO LOTTO".
+std::string Etichetta(const PostoRiga& posto, std::string_view cosa,
+                      std::string_view nuova = "NUOVO");
+// "LOTTO n° 2 di 3"; a new one has no "di".
+std::string DoveSiamo(const PostoRiga& posto, std::string_view cosa);
+
+// "UNA PARCELLA PUÒ AVERE AL MASSIMO 20 LOTTI."
+std::string OltreIlMassimo(std::size_t massimo, std::string_view cose);
+
+// The rows that the list had are gone through in turn, then new ones are asked, until `chiedi` says
+// that the list ends there: the row on which it ends is dropped with those after it. `righe` holds
+// the rows entered so far, which the one being asked may look at.
+//   std::string rifiuto(const PostoRiga&)       why there is no place for the row; empty: there is
+//   bool chiedi(const PostoRiga&, Riga& riga)   shows its dialogs; false at the end of the list
+template <class Riga, class Rifiuto, class Chiedi>
+void ChiediElenco(std::vector<Riga>& righe, Rifiuto&& rifiuto, Chiedi&& chiedi) {
+  const std::vector<Riga> prima = std::move(righe);
+  for (righe.clear();;) {
+    PostoRiga posto{righe.size() + 1, prima.size()};
+    posto.rifiuto = rifiuto(posto);
+    Riga riga = posto.Nuova() ? Riga() : prima[righe.size()];
+    if (!chiedi(posto, riga)) return;
+    righe.push_back(std::move(riga));
+  }
+}
+
+// The refusal of one row too many: "LOTTI" are 20 at most.
+inline auto AlMassimo(std::size_t massimo, std::string_view cose) {
+  return [massimo, cose](const PostoRiga& posto) {
+    return posto.numero > massimo ? OltreIlMassimo(massimo, cose) : std::string();
+  };
+}
+
+}  // namespace orm
