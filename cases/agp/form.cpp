@@ -1,8 +1,5 @@
 #include "cases/agp/form.h"
 
-#include "tariff/law/table_periods.h"
-#include "tariff/law/tariff_tables.h"
-
 namespace orm {
 namespace {
 
@@ -13,13 +10,6 @@ constexpr const char* kAvvertenze =
     "Se, in ogni caso, non si desidera tale maggiorazione basta porre a SI l'opzione\n"
     "relativa all'aggiornamento eseguito dallo stesso progettista.";
 
-std::vector<std::string> NomiDeiDecreti() {
-  std::vector<std::string> nomi;
-  for (int periodo = 1; periodo <= kPeriodo1987; ++periodo)
-    nomi.push_back(NomePeriodoTariffarioEsteso(periodo));
-  return nomi;
-}
-
 }  // namespace
 
 FrmAgpDatig::FrmAgpDatig(Player& player, DatiAgp& dati)
@@ -28,9 +18,7 @@ FrmAgpDatig::FrmAgpDatig(Player& player, DatiAgp& dati)
                      Group(Frame3, {Decreti}), Buttons({cmdAvvertenze, Command1})}));
   metodo.Choose(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO" ? 0 : 1);
   progettista.Choose(dati.EsecutoreDellAggiornamento == "SI" ? 1 : 0);
-  Decreti.SetItems(NomiDeiDecreti());
-  const std::string& periodo = dati.PeriodoTariffario;
-  Decreti.SetIndex(periodo.size() == 1 ? periodo[0] - '1' : -1);
+  Decreti.Mostra(dati.PeriodoTariffario);
   cmdAvvertenze.onPress = [&player] {
     player.Ask({"AVVERTENZA", kAvvertenze, MessageBox::Icon::Information, MessageBox::Buttons::Ok});
   };
@@ -41,8 +29,7 @@ FrmAgpDatig::FrmAgpDatig(Player& player, DatiAgp& dati)
 void FrmAgpDatig::Conferma() {
   dati_.TipoDiAggiornamento = Option1.Value() ? "SEMPLICE AGGIORNAMENTO" : "NUOVE ANALISI";
   dati_.EsecutoreDellAggiornamento = OptionSI.Value() ? "NO" : "SI";
-  if (Decreti.Index() >= 0)
-    dati_.PeriodoTariffario = std::string(1, static_cast<char>('1' + Decreti.Index()));
+  Decreti.Prendi(dati_.PeriodoTariffario);
   Esci(Uscita::Conferma);
 }
 

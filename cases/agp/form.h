@@ -2,8 +2,7 @@
 #pragma once
 
 #include "cases/agp/data.h"
-#include "dialogs/form.h"
-#include "dialogs/player.h"
+#include "tariff/forms/form_period.h"
 
 namespace orm {
 
@@ -21,7 +20,7 @@ class FrmAgpDatig : public Form {
   OptionButton OptionSI{*this, "OptionSI", "SI", progettista};
   OptionButton OptionNO{*this, "OptionNO", "NO", progettista};
   Frame Frame3{*this, "Frame3", "PRESTAZIONE ESEGUITA NEL PERIODO DI VALIDITA' DEL"};
-  ComboBox Decreti{*this, "Decreti", ""};
+  ElencoDecreti Decreti{*this};
   Button cmdAvvertenze{*this, "cmdAvvertenze", "Avvertenze"};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 

@@ -53,8 +53,7 @@ void FrmGenClasse::Conferma() {
       comClasse.Index() < 0 || (!comCategoria.Items().empty() && comCategoria.Index() < 0);
   if (RifiutaRiga(posto_.rifiuto)) return;
   if (manca && RifiutaRiga("SCEGLIERE LA CLASSE E LA CATEGORIA.")) return;
-  if (chiedeImporto_ && importo.Value() == 0 &&
-      RifiutaRiga("VALORE NON ACCETTABILE : importo nullo !"))
+  if (chiedeImporto_ && RifiutaNullo(importo.Value(), "VALORE NON ACCETTABILE : importo nullo !"))
     return;
   if (Rifiuta(importo.Eccesso())) return;
   importo.Prendi();

@@ -4,12 +4,29 @@
 
 namespace orm {
 
-TestiTariffe TestiPdlTariffe() {
-  TestiTariffe testi{
-      "frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE", "PERIODO DI VALIDITA' DEL", {}};
+NomiPeriodi NomiDeiDecreti() {
+  NomiPeriodi nomi;
   for (int i = 1; i <= 5; ++i)
-    testi.periodi[static_cast<std::size_t>(i - 1)] = NomePeriodoTariffarioEsteso(i);
-  return testi;
+    nomi[static_cast<std::size_t>(i - 1)] = NomePeriodoTariffarioEsteso(i);
+  return nomi;
+}
+
+ElencoDecreti::ElencoDecreti(Form& form) : ComboBox(form, "Decreti", "") {
+  const NomiPeriodi nomi = NomiDeiDecreti();
+  SetItems({nomi.begin(), nomi.end()});
+}
+
+void ElencoDecreti::Mostra(const std::string& periodo) {
+  SetIndex(periodo.size() == 1 ? periodo[0] - '1' : -1);
+}
+
+void ElencoDecreti::Prendi(std::string& periodo) const {
+  if (Index() >= 0) periodo = std::string(1, static_cast<char>('1' + Index()));
+}
+
+TestiTariffe TestiPdlTariffe() {
+  return {"frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE", "PERIODO DI VALIDITA' DEL",
+          NomiDeiDecreti()};
 }
 
 FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove,

@@ -1,5 +1,5 @@
-// The dialog of the tariff period of a row, as the cases with lots of rows show it under their own
-// names.
+// The tariff period of a note, in a list of a case's dialog, and that of a row, in a dialog which
+// the cases with lots of rows show under their own names.
 #pragma once
 
 #include <array>
@@ -10,9 +10,20 @@
 
 namespace orm {
 
+// The decrees from 1965 to 1987, with the dates of their validity.
+using NomiPeriodi = std::array<std::string, 5>;
+NomiPeriodi NomiDeiDecreti();
+
+// The list of these decrees. A period that it lacks shows none, and stays.
+struct ElencoDecreti : ComboBox {
+  explicit ElencoDecreti(Form& form);
+  void Mostra(const std::string& periodo);  // "1" to "5"
+  void Prendi(std::string& periodo) const;
+};
+
 struct TestiTariffe {
   std::string nome, titolo, riquadro;
-  std::array<std::string, 5> periodi;
+  NomiPeriodi periodi;
 };
 
 // frmPDL_Tariffe: the periods of the tariff.

@@ -40,6 +40,10 @@ class FormRiga : public FormInput {
 
   // The same as Rifiuta, with the words that tell how the list ends.
   bool RifiutaRiga(const std::string& motivo);
+  // Of a value that must not be 0.
+  bool RifiutaNullo(double valore, const std::string& motivo) {
+    return valore == 0 && RifiutaRiga(motivo);
+  }
 
   const PostoRiga posto_;
 

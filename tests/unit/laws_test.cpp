@@ -111,8 +111,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"tariff"},
     {"tariff/files"},
     {"tariff/forms"},
-    {"cases/agp", "cases/coa", "cases/cos", "cases/esl", "cases/geo", "cases/pdl", "cases/ppe",
-     "cases/sic", "cases/stc"},
+    {"cases/*"},  // each case a room
     {"cases", "utilities", "structures"},
     {"structures/loads"},
     {"structures/balcony", "structures/sections", "structures/steel_beams",
@@ -128,7 +127,8 @@ const std::vector<std::vector<std::string>> kFloors = {
 
 std::string RoomOf(const std::string& file) { return file.substr(0, file.rfind('/')); }
 
-int FloorOf(const std::string& room) {
+int FloorOf(std::string room) {
+  if (room.starts_with("cases/")) room = "cases/*";
   for (std::size_t floor = 0; floor < kFloors.size(); ++floor)
     if (std::count(kFloors[floor].begin(), kFloors[floor].end(), room) > 0)
       return static_cast<int>(floor);
