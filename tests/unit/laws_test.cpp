@@ -289,5 +289,42 @@ TEST(Laws, CommandsNotYetThereAreListed) {
   ExpectListed(commands, "docs/not-yet.txt");
 }
 
+// ---------------------------------------------------------------- fee cases
+
+// All files of a folder, one behind the other.
+std::string TextOf(const std::string& folder) {
+  std::string text;
+  for (const std::string& file : FilesOf(folder, [](const fs::path&) { return true; }))
+    text += kRoot.Read(file);
+  return text;
+}
+
+// What makes a case whole, where the laws above and those of the help do not ask for it already.
+TEST(Laws, AFeeCaseIsWhole) {
+  const std::string random = TextOf("tests/unit/cases"), fuzzers = TextOf("tests/fuzz"),
+                    changes = kRoot.Read("CHANGELOG.md");
+  for (const FeeCase& fee : FeeCases()) {
+    if (fee.calcolo == nullptr || fee.stem == nullptr) continue;
+    const std::string code = fee.code;
+    EXPECT_TRUE(fee.input != nullptr && fee.converti != nullptr) << code;
+    for (const std::string& file : {"data/sample/INT_" + code, "data/sample/INP_" + code})
+      EXPECT_TRUE(kRoot.Exists(file + ".DAP")) << "no sample " << file;
+    std::string folder = "tests/scripts/" + code;
+    std::ranges::transform(folder, folder.begin(),
+                           [](char c) { return static_cast<char>(c < 'A' ? c : c | 0x20); });
+    EXPECT_NE(TextOf(folder).find("failure \""), std::string::npos) << "no failure in " << folder;
+    const auto tellsItsFile = [&](const fs::path& p) {
+      return p.filename() == "data.h" &&
+             WorkFolder(p.parent_path()).Read("data.h").find("INP_" + code + "[") !=
+                 std::string::npos;
+    };
+    const std::vector<std::string> data = FilesOf("cases", tellsItsFile);
+    ASSERT_EQ(data.size(), 1U) << "no data.h of a case names INP_" << code << "[_E].DAP";
+    EXPECT_NE(random.find(data[0]), std::string::npos) << "no random notes of " << data[0];
+    EXPECT_NE(fuzzers.find(data[0]), std::string::npos) << "no fuzzer of " << data[0];
+    EXPECT_NE(changes.find(code), std::string::npos) << code << " is no news to users";
+  }
+}
+
 }  // namespace
 }  // namespace orm
