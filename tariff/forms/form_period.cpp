@@ -6,7 +6,7 @@ namespace orm {
 
 NomiPeriodi NomiDeiDecreti() {
   NomiPeriodi nomi;
-  for (int i = 1; i <= 5; ++i)
+  for (int i = 1; i <= kPeriodo1987; ++i)
     nomi[static_cast<std::size_t>(i - 1)] = NomePeriodoTariffarioEsteso(i);
   return nomi;
 }
@@ -37,7 +37,7 @@ FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string d
               Buttons({Command1, Command2})}));
   lblLotto.SetText(std::move(dove));
   Frame1.SetCaption(testi.riquadro);
-  for (int i = 0; i < 5; ++i) {
+  for (int i = 0; i < kPeriodo1987; ++i) {
     OptionButton& opzione = Option[static_cast<std::size_t>(i)];
     opzione.SetCaption(testi.periodi[static_cast<std::size_t>(i)]);
     opzione.SetVisible(i >= ultimo);

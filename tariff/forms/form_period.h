@@ -7,11 +7,12 @@
 #include <optional>
 
 #include "tariff/forms/input_form.h"
+#include "tariff/law/table_periods.h"
 
 namespace orm {
 
 // The decrees from 1965 to 1987, with the dates of their validity.
-using NomiPeriodi = std::array<std::string, 5>;
+using NomiPeriodi = std::array<std::string, kPeriodo1987>;
 NomiPeriodi NomiDeiDecreti();
 
 // The list of these decrees. A period that it lacks shows none, and stays.
@@ -42,11 +43,11 @@ class FrmTariffe : public FormRiga {
   Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1"};
   OptionGroup tipo;
-  std::array<OptionButton, 5> Option{{{*this, "Option1", "", tipo},
-                                      {*this, "Option2", "", tipo},
-                                      {*this, "Option3", "", tipo},
-                                      {*this, "Option4", "", tipo},
-                                      {*this, "Option5", "", tipo}}};
+  std::array<OptionButton, kPeriodo1987> Option{{{*this, "Option1", "", tipo},
+                                                 {*this, "Option2", "", tipo},
+                                                 {*this, "Option3", "", tipo},
+                                                 {*this, "Option4", "", tipo},
+                                                 {*this, "Option5", "", tipo}}};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
   Button Command2{*this, "Command2", "FINE INPUT PERIODI"};
 
