@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -1,7 +1,7 @@
 #include "cases/geo/forms.h"
 
+#include "dialogs/message_boxes.h"
 #include "tariff/law/table_geotechnics.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 

@@ -1,8 +1,8 @@
 #include "cases/pdl/form_reports.h"
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "tariff/forms/form_pdl_amounts.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

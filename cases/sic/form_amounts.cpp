@@ -1,6 +1,6 @@
 #include "cases/sic/forms.h"
+#include "dialogs/message_boxes.h"
 #include "tariff/law/tariff_tables.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 

@@ -1,8 +1,8 @@
 #include "tariff/forms/form_class.h"
 
+#include "dialogs/message_boxes.h"
 #include "tariff/forms/amount_box.h"
 #include "tariff/law/table_classes.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "tariff/accounting_block.h"
 #include "tariff/forms/lot_chain.h"
 #include "tariff/law/table_e.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -2,6 +2,7 @@
 // case's own dialogs, the agreements with the client behind them.
 #pragma once
 
+#include "shell/state/run_state.h"
 #include "tariff/files/closing_line.h"
 
 namespace orm {
@@ -15,7 +16,7 @@ bool ChiediVariazione(RunState& stato);
 template <class Dati>
 void IniziaInput(RunState& stato, Dati& dati) {
   if (ChiediVariazione(stato)) {
-    LeggiParcella(stato, dati);
+    LeggiFileDati(stato.folder, stato.FileInp, dati, stato.chiusura);
   } else {
     stato.chiusura = {};
   }
