@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "cases/calculation_step.h"
 #include "cases/pdl/data.h"
 #include "cases/pdl/pdl.h"
 #include "tariff/files/closing_line.h"
-#include "tariff/lot_lines.h"
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 #include "tests/unit/fake_player.h"
 
 namespace orm {
@@ -68,6 +68,11 @@ struct Nota {
     std::string nome = std::filesystem::temp_directory_path() / "orm-bench-XXXXXX";
     return mkdtemp(nome.data());
   }
+  long RigheDelReport() {
+    const Parcella parcella = CalcolaDaFile<CalcoloPdl>(stato);
+    return std::ranges::count(parcella.uscita.Contents(), '\n');
+  }
+
   std::string cartella = NuovaCartella();
   FakePlayer player;
   RunState stato{player, WorkFolder(cartella)};
@@ -75,42 +80,37 @@ struct Nota {
 
 void NotaPdlIntera(benchmark::State& misura) {
   Nota nota;
-  for (auto _ : misura) {
-    nota.stato.NumFileUscita = ReportPrinter();
-    CalcoloPdl(nota.stato);
-  }
-  const std::string& report = nota.stato.NumFileUscita.Contents();
-  misura.counters["righe"] = static_cast<double>(std::ranges::count(report, '\n'));
+  for (auto _ : misura) benchmark::DoNotOptimize(CalcolaDaFile<CalcoloPdl>(nota.stato));
+  misura.counters["righe"] = static_cast<double>(nota.RigheDelReport());
 }
 BENCHMARK(NotaPdlIntera);
 
 // The look-ups of that note: above the limit two for the design and two for the supervision of each
 // row, and one for its report.
 void TabelleDellaNota(benchmark::State& misura) {
-  Nota nota;
+  Parcella parcella;
+  parcella.ModoLire = true;
   for (auto _ : misura)
     for (int i = 0; i < kLottiDellaNota * kRighePerLotto * 5; ++i)
       benchmark::DoNotOptimize(
-          PercentualeDaTabellaA(nota.stato, 6000000.0 * (i + 1), 1 + i % 5, "1", "c"));
+          parcella.PercentualeDaTabellaA(6000000.0 * (i + 1), 1 + i % 5, "1", "c"));
 }
 BENCHMARK(TabelleDellaNota);
 
 // As many lines, each with a label and the fixed figures of a formula.
 void StesseRigheConNumeriFissi(benchmark::State& misura) {
-  Nota nota;
-  nota.stato.NumFileUscita = ReportPrinter();
-  CalcoloPdl(nota.stato);
-  const auto righe = std::ranges::count(nota.stato.NumFileUscita.Contents(), '\n');
+  const long righe = Nota().RigheDelReport();
   const Percentuale percentuale{4.7513351, "4,7513351%"};
+  Parcella parcella;
+  parcella.ModoLire = true;
+  parcella.StringaCoefficiente = " x 1,4027";
   for (auto _ : misura) {
-    nota.stato.NumFileUscita = ReportPrinter();
+    parcella.uscita = ReportPrinter();
     for (auto i = righe; i > 0; --i)
-      StampaOnorario(nota.stato,
-                     {.aliquota = 0.65,
-                      .percentuale = percentuale,
-                      .importo = 665000000,
-                      .StringaCoefficiente = " x 1,4027"},
-                     28808156);
+      parcella.StampaOnorario({.aliquota = 0.65,
+                               .percentuale = percentuale,
+                               .importo = parcella.TestoImporto(665000000)},
+                              28808156);
   }
 }
 BENCHMARK(StesseRigheConNumeriFissi);

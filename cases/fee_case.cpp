@@ -4,12 +4,15 @@
 
 #include "cases/agp/agp.h"
 #include "cases/agp/data.h"
+#include "cases/calculation_step.h"
 #include "cases/coa/coa.h"
 #include "cases/coa/data.h"
+#include "cases/cos/config.h"
 #include "cases/cos/cos.h"
 #include "cases/cos/data.h"
 #include "cases/esl/data.h"
 #include "cases/esl/esl.h"
+#include "cases/geo/config.h"
 #include "cases/geo/data.h"
 #include "cases/geo/geo.h"
 #include "cases/pdl/data.h"
@@ -20,18 +23,12 @@
 #include "cases/sic/sic.h"
 #include "cases/stc/data.h"
 #include "cases/stc/stc.h"
+#include "tariff/config/price_index.h"
 #include "tariff/files/conversion.h"
 
 namespace orm {
 
 namespace {
-
-// The sum of the fees, which some cases hand out, has no use here.
-template <void (*calcolo)(RunState&, double&)>
-void SenzaTotale(RunState& stato) {
-  double totale = 0;
-  calcolo(stato, totale);
-}
 
 constexpr auto kCompensiETabelle = static_cast<CriteriaGroups>(kCompensiAccessori | kTabelle);
 constexpr auto kTabelleCompensiVoci =
@@ -42,20 +39,20 @@ constexpr auto kTabelleCompensiVoci =
 const std::vector<FeeCase>& FeeCases() {
   // clang-format off
   static const std::vector<FeeCase> kCases = {
-      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcoloAgp, ConvertiParcella<DatiAgp>},
-      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcoloCoa, ConvertiParcella<DatiCoa>},
-      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcoloCos, ConvertiParcella<DatiCos>},
+      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcolaDaFile<CalcoloAgp>, ConvertiParcella<DatiAgp>},
+      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcolaDaFile<CalcoloCoa>, ConvertiParcella<DatiCoa>},
+      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
-      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcoloCos, ConvertiParcella<DatiCos>},
+      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>},
       {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr, nullptr},
-      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcoloPdl, ConvertiParcella<DatiPdl>},
-      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, SenzaTotale<CalcoloEsl>, ConvertiParcella<DatiEsl>},
-      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcoloGEO, ConvertiParcella<DatiGeotecnici>},
-      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kCompensiETabelle, DatiSIC, CalcoloSIC, ConvertiParcella<DatiSicurezza>},
-      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kCompensiETabelle, DatiSIC, CalcoloSIC, ConvertiParcella<DatiSicurezza>},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcolaDaFile<CalcoloPdl>, ConvertiParcella<DatiPdl>},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, CalcolaDaFile<CalcoloEsl>, ConvertiParcella<DatiEsl>},
+      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcolaDaFile<CalcoloGEO>, ConvertiParcella<DatiGeotecnici>},
+      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>},
+      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>},
       {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr, nullptr},
-      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, SenzaTotale<CalcoloPpe>, ConvertiParcella<DatiPpe>},
-      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcoloStc, ConvertiParcella<DatiStc>},
+      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcolaDaFile<CalcoloPpe>, ConvertiParcella<DatiPpe>},
+      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcolaDaFile<CalcoloStc>, ConvertiParcella<DatiStc>},
       {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kAllCriteria, nullptr, nullptr, nullptr},

@@ -11,6 +11,8 @@
 
 namespace orm {
 
+class Parcella;
+
 // The groups of criteria that count for a case; the criteria dialog leaves the others inactive.
 enum CriteriaGroups : std::uint8_t {
   kNoCriteria = 0,
@@ -34,7 +36,7 @@ struct FeeCase {
   CriteriaGroups criteria;
   // nullptr: not there yet, or (input of "CS2") not meant to be.
   void (*input)(RunState&);
-  void (*calcolo)(RunState&);
+  Parcella (*calcolo)(RunState&);
   // From Lire to Euro, the data files of the case with this code.
   void (*converti)(const WorkFolder&, const std::string& codice);
 };

@@ -108,7 +108,9 @@ struct CaseCommand {
   bool isInput = false;
   bool isEuro = false;
   bool Acts() const { return !isEuro || fee->actsInEuroMenu; }
-  bool IsThere() const { return (isInput ? fee->input : fee->calcolo) != nullptr || !Acts(); }
+  bool IsThere() const {
+    return (isInput ? fee->input != nullptr : fee->calcolo != nullptr) || !Acts();
+  }
 };
 
 CaseCommand FindCaseCommand(std::string_view name) {

@@ -1,12 +1,12 @@
 #include "shell/dispatch.h"
 
 #include "cases/fee_case.h"
-#include "runtime/failure.h"
+#include "dialogs/message_boxes.h"
 #include "shell/personal/form_criteria.h"
 #include "shell/shell_boxes.h"
 #include "tariff/files/case_files.h"
-#include "tariff/message_boxes.h"
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -54,15 +54,9 @@ bool CalcoloParcella(RunState& stato) {
     stato.player.Ask(*missing);
     return false;
   }
-  stato.NumFileUscita = ReportPrinter();
   FrmPerCriteri criteri(stato);
   stato.player.Show(criteri);
-  try {
-    fee->calcolo(stato);
-  } catch (RuntimeFailure& failure) {
-    throw failure.AtFile(stato.FileInp);  // unless another file is known to be the reason
-  }
-  stato.NumFileUscita.Save(stato.folder, report);
+  fee->calcolo(stato).uscita.Save(stato.folder, report);
   stato.player.StartProgram(stato.editors.EditorTesti, report);
   return true;
 }

@@ -10,7 +10,7 @@
 #include "shell/personal/form_editor.h"
 #include "shell/personal/settings.h"
 #include "shell/shell_boxes.h"
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 
 namespace orm {
 

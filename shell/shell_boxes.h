@@ -1,7 +1,7 @@
 // The message boxes of the main window, with their words and their line ends.
 #pragma once
 
-#include "tariff/message_boxes.h"
+#include "dialogs/message_boxes.h"
 
 namespace orm {
 

@@ -3,9 +3,9 @@
 #include <map>
 #include <utility>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

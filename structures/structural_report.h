@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/report_printer.h"
 #include "shell/state/run_state.h"
 
 namespace orm {

@@ -7,7 +7,7 @@
 #include "runtime/text.h"
 #include "tariff/law/table_e.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -48,36 +48,35 @@ std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLir
          NumeroContabilita(fascia.onorario, modoLire);
 }
 
-double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
-                                std::string& testo) {
-  if (righe.size() > kRigheContabilita)
+void Parcella::CalcoloMisureContabilita(double& onorario, std::string& testo) {
+  if (contemp.size() > kRigheContabilita)
     throw RuntimeFailure("La contabilità dei lavori è chiesta per più di " +
                          NumberText(kRigheContabilita) + " lotti o righe della parcella.");
-  std::ranges::stable_sort(righe, {}, &RigaContabilita::periodo);
-  Riunisci(righe);
-  const OnorarioContabilita conto = CalcoloOnorarioContabilita(righe, stato.ModoLire);
-  testo = FormattaCopia(conto.onorario, stato.DecimaliValuta());
+  std::ranges::stable_sort(contemp, {}, &RigaContabilita::periodo);
+  Riunisci(contemp);
+  const OnorarioContabilita conto = CalcoloOnorarioContabilita(contemp, ModoLire);
+  onorario = conto.onorario;
+  testo = TestoImporto(onorario);
+  contemp.clear();
 
   // Only a line feed stands between the lines of the block. The totals lie behind the cursor and
   // so begin lines of their own.
-  ReportPrinter& stampa = stato.NumFileUscita;
-  stampa.Text("MISURE E CONTABILITÀ LAVORI ( tab. E )");
+  uscita.Text("MISURE E CONTABILITÀ LAVORI ( tab. E )");
   for (const FasciaContabilita& fascia : conto.fasce)
-    stampa.LineFeed().Text(TestoFasciaContabilita(fascia, stato.ModoLire));
-  stampa.Tab(23).Text("------------------------------ ");
-  stampa.Tab(10).Text("Totali  ");
-  stampa.Tab(20).Text(NumeroContabilita(conto.importo, stato.ModoLire));
-  stampa.Tab(38).Line(NumeroContabilita(conto.onorario, stato.ModoLire));
-  return conto.onorario;
+    uscita.LineFeed().Text(TestoFasciaContabilita(fascia, ModoLire));
+  uscita.Tab(23).Text("------------------------------ ");
+  uscita.Tab(10).Text("Totali  ");
+  uscita.Tab(20).Text(NumeroContabilita(conto.importo, ModoLire));
+  uscita.Tab(38).Line(NumeroContabilita(conto.onorario, ModoLire));
 }
 
-double StampaContabilita(RunState& stato, const std::vector<RigaContabilita>& righe,
-                         const Compensi& compensi) {
-  if (righe.empty()) return 0;
+double Parcella::StampaContabilita() {
+  if (contemp.empty()) return 0;
+  double onorario = 0;
   std::string testo;
-  const double onorario = CalcoloMisureContabilita(stato, righe, testo);
-  double compenso = IntInLire(stato, onorario * compensi.Coefficiente);
-  StampaRigaOnorario(stato, 1, " " + testo + compensi.StringaCoefficiente + " =", compenso);
+  CalcoloMisureContabilita(onorario, testo);
+  double compenso = IntInLire(onorario * Coefficiente);
+  StampaRigaOnorario(1, " " + testo + StringaCoefficiente + " =", compenso);
   return compenso;
 }
 

@@ -1,11 +1,10 @@
 // The block of measuring and accounting on a report, and the texts of its figures.
 #pragma once
 
+#include <cstddef>
 #include <string>
-#include <vector>
 
 #include "tariff/law/accounting_fee.h"
-#include "tariff/lot_lines.h"
 
 namespace orm {
 
@@ -19,17 +18,7 @@ std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLir
 // as it is. The value is not cut.
 std::string NumeroContabilita(double valore, bool modoLire);
 
-// As many rows as a note takes; an eleventh is a RuntimeFailure.
+// As many rows of `contemp` as a note takes; an eleventh is a RuntimeFailure.
 inline constexpr std::size_t kRigheContabilita = 10;
-
-// Prints the bands and the totals of the rows, sorted by period and those of one period and
-// coefficient taken together. Returns the fee, neither cut nor rounded, and in `testo` its text.
-double CalcoloMisureContabilita(RunState& stato, std::vector<RigaContabilita> righe,
-                                std::string& testo);
-
-// The block and, under it, the line of the fee with its compensations: that fee, cut as printed.
-// Without rows nothing is printed.
-double StampaContabilita(RunState& stato, const std::vector<RigaContabilita>& righe,
-                         const Compensi& compensi);
 
 }  // namespace orm

@@ -1,14 +1,13 @@
 // The end of every fee note.
-#include "tariff/final_account.h"
-
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "tariff/amount_in_words.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
-#include "tariff/user_data.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -22,14 +21,15 @@ std::string Percento(double valore) { return FormattaCopia(valore, 2) + "% "; }
 
 class ContoFinale {
  public:
-  explicit ContoFinale(RunState& run)
-      : stato(run),
-        stampa(run.NumFileUscita),
-        DecimaliValuta(run.DecimaliValuta()),
-        utente(LeggiDatiProfessionista(run.folder)),
+  explicit ContoFinale(Parcella& parcella)
+      : nota(parcella),
+        stampa(nota.uscita),
+        utente(nota.utente),
+        criteri(nota.criteri),
+        DecimaliValuta(nota.DecimaliValuta()),
         Titolo(TitoloDi(utente)),
         luogoEData(TrimRight(utente.Citta)) {
-    if (!luogoEData.empty()) luogoEData += ", li " + ShortDate(run.player.Today());
+    if (!luogoEData.empty()) luogoEData += ", li " + ShortDate(nota.oggi);
   }
 
   void StampaTotali(double onorari, double compensi);
@@ -43,19 +43,16 @@ class ContoFinale {
   void StampaParere();
 
  private:
-  // Ends a line with an amount, cut to what is printed.
-  void Importo(double& valore) {
-    const std::string testo = FormattaNumero(valore, DecimaliValuta);
-    stampa.Tab(kColonnaImporto).Line(StringaImporto(testo, TipoImporto::Onorari, stato.ModoLire));
-  }
+  void Importo(double& valore) { nota.StampaImporto(valore, DecimaliValuta); }
   double Contributo(const std::string& spesa, const char* nome, double percentuale, double base);
   double BaseRiduzione() const;
   void StampaFirma(std::string_view ruolo, const std::string& nome);
 
-  RunState& stato;
+  Parcella& nota;
   ReportPrinter& stampa;
+  const DatiProfessionista& utente;
+  const Criteri& criteri;
   int DecimaliValuta;
-  DatiProfessionista utente;
   std::string Titolo;
   std::string luogoEData;  // empty without a city
   double Onorari = 0, Compensi = 0, Totale = 0;
@@ -64,8 +61,8 @@ class ContoFinale {
 };
 
 void ContoFinale::StampaTotali(double onorari, double compensi) {
-  Onorari = stato.ModoLire ? Int(onorari) : onorari;
-  Compensi = stato.ModoLire ? Int(compensi) : compensi;
+  Onorari = nota.IntInLire(onorari);
+  Compensi = nota.IntInLire(compensi);
   Totale = Onorari + Compensi;
   stampa.Line(kRigaTotali);
   stampa.Text("TOTALE (Onorari e Compensi)");
@@ -73,7 +70,7 @@ void ContoFinale::StampaTotali(double onorari, double compensi) {
 }
 
 double ContoFinale::BaseRiduzione() const {
-  switch (stato.chiusura.ApplicazioneRiduzione) {
+  switch (nota.chiusura.ApplicazioneRiduzione) {
     case 1:
       return Onorari + Compensi;
     case 2:
@@ -86,7 +83,7 @@ double ContoFinale::BaseRiduzione() const {
 }
 
 void ContoFinale::Riduci() {
-  const Chiusura& patti = stato.chiusura;
+  const Chiusura& patti = nota.chiusura;
   if (patti.PercDiRiduzione == 0) return;
   if (patti.TipoRiduzione.empty()) {
     stampa.Text("Rid. del " + Percento(patti.PercDiRiduzione) + "Art.4 comma 12bis L. 155/89");
@@ -103,7 +100,7 @@ void ContoFinale::Riduci() {
 }
 
 void ContoFinale::Detrai() {
-  double Acconti = stato.chiusura.Acconti;
+  double Acconti = nota.chiusura.Acconti;
   if (Acconti == 0) return;
   stampa.Text("a detrarre ACCONTI");
   Importo(Acconti);
@@ -115,7 +112,7 @@ void ContoFinale::StampaNetto() {
   stampa.Text("COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )");
   Importo(Totale);
   DecimaliValuta = kDecimaliEuro;
-  if (!stato.ModoLire) return;
+  if (!nota.ModoLire) return;
   Totale = LireInEuro(Totale);
   const std::string testo = FormattaNumero(Totale, DecimaliValuta);
   const int inizio = static_cast<int>(kLarghezzaParcella - Characters(testo)) + 1;
@@ -137,7 +134,6 @@ void ContoFinale::Firma() {
 }
 
 void ContoFinale::CalcolaTassaParere() {
-  const Criteri& criteri = stato.criteri;
   TassaParere = criteri.QuotaPercentualeParere * Totale / 100 + criteri.QuotaFissaParere;
   TestoTassa = "Euro " + FormattaNumero(TassaParere, DecimaliValuta);
 }
@@ -153,7 +149,6 @@ double ContoFinale::Contributo(const std::string& spesa, const char* nome, doubl
 }
 
 void ContoFinale::StampaSpeseAggiuntive() {
-  const Criteri& criteri = stato.criteri;
   if (criteri.StampaSpeseAggiuntive != "SI") return;
   const std::string riga(kLarghezzaParcella, '=');
   stampa.Line().Line().Line(riga).Line("ALTRE SPESE PER IL COMMITTENTE");
@@ -176,7 +171,7 @@ void ContoFinale::StampaSpeseAggiuntive() {
 }
 
 void ContoFinale::StampaParere() {
-  if (stato.criteri.StampaParere != "SI") return;
+  if (criteri.StampaParere != "SI") return;
   const std::string testoTotale = FormattaNumero(Totale, DecimaliValuta);
   std::string lettere;
   ImportoInLettere(lettere, Totale);
@@ -200,7 +195,7 @@ void ContoFinale::StampaParere() {
        })
     stampa.Tab(kColonnaParere).Line(riga);
   if (!luogoEData.empty()) stampa.Tab(17).Line(luogoEData);
-  StampaFirma("IL  PRESIDENTE", stato.criteri.PresidenteOrdine);
+  StampaFirma("IL  PRESIDENTE", criteri.PresidenteOrdine);
 }
 
 constexpr std::string_view kPrestazioniPd[] = {
@@ -219,17 +214,17 @@ std::span<const std::string_view> PrestazioniDi(std::string_view tipo) {
   return {};
 }
 
-void StampaRiepilogo(RunState& stato, std::string_view tipo, std::span<double> importi) {
-  const auto prestazioni = PrestazioniDi(tipo);
-  stato.NumFileUscita.Line(kRigaRiepilogo);
-  for (std::size_t i = 0; i < prestazioni.size() && i < importi.size(); ++i)
-    if (importi[i] != 0) StampaRigaOnorario(stato, 1, std::string(prestazioni[i]), importi[i]);
-}
-
 }  // namespace
 
-void ChiudiParcella(RunState& stato, double onorari, double compensi) {
-  ContoFinale conto(stato);
+void Parcella::StampaRiepilogoPrestazioni(std::string_view tipo, std::span<double> importi) {
+  const auto prestazioni = PrestazioniDi(tipo);
+  uscita.Line(kRigaRiepilogo);
+  for (std::size_t i = 0; i < prestazioni.size() && i < importi.size(); ++i)
+    if (importi[i] != 0) StampaRigaOnorario(1, std::string(prestazioni[i]), importi[i]);
+}
+
+void Parcella::ChiudiParcella(double onorari, double compensi) {
+  ContoFinale conto(*this);
   conto.StampaTotali(onorari, compensi);
   conto.Riduci();
   conto.Detrai();
@@ -241,12 +236,9 @@ void ChiudiParcella(RunState& stato, double onorari, double compensi) {
   conto.StampaParere();
 }
 
-void StampaRiepilogoPrestazioni(RunState& stato, std::string_view tipo, std::span<double> importi) {
-  StampaRiepilogo(stato, tipo, importi);
-}
-
-void StampaRiepilogoEsl(RunState& stato, std::string_view tipo, std::span<double> importi) {
-  StampaRiepilogo(stato, tipo, importi);
+void Parcella::ChiudiConCompensi(double NonConglobati) {
+  const double onorari = IntInLire(SenzaCompensi(TotaleGenerale - NonConglobati) + NonConglobati);
+  ChiudiParcella(onorari, TotaleGenerale - onorari);
 }
 
 }  // namespace orm

@@ -3,144 +3,108 @@
 #include <cmath>
 
 #include "runtime/numbers.h"
-#include "tariff/accessory_compensations.h"
-#include "tariff/final_account.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
+#include "tariff/parcella.h"
 #include "tariff/percentages.h"
-#include "tariff/report.h"
 
 namespace orm {
-namespace {
-
-constexpr int kColonnaLavori = 48;
-
-// Cuts the percentage of an amount in Lire to its decimals.
-std::string TestoPercentuale(const RunState& stato, double lire, double& valore) {
-  int decimali = 0;
-  DecimaliPercentuale(lire, decimali, stato.criteri.DecimaliTabelle);
-  return FormattaNumero(valore, decimali);
-}
-
-std::string ImportoLavori(const RunState& stato, double importo) {
-  return StringaImporto(TestoImporto(stato, importo), TipoImporto::Lavori, stato.ModoLire);
-}
-
-}  // namespace
-
-double ImportoInLire(const RunState& stato, double importo) {
-  return stato.ModoLire ? importo : EuroInLire(importo);
-}
-
-double IntInLire(const RunState& stato, double valore) {
-  return stato.ModoLire ? Int(valore) : valore;
-}
-
-Percentuale PercentualeTagliata(const RunState& stato, double lire, double valore) {
-  Percentuale p{valore, ""};
-  p.testo = TestoPercentuale(stato, lire, p.valore) + "%";
-  return p;
-}
-
-Percentuale PercentualeDaTabellaA(const RunState& stato, double importo, int periodo,
-                                  std::string_view classe, std::string_view categoria) {
-  Percentuale p;
-  double lire = ImportoInLire(stato, importo);
-  StringaPercentualeTabellaA(lire, periodo, classe, categoria, stato.criteri, p.valore, p.testo);
-  return p;
-}
-
-Percentuale PercentualeDaTabellaNuova(const RunState& stato, double importo,
-                                      std::string_view classe, std::string_view categoria) {
-  if (importo == 0) return {0, "0 %"};
-  double lire = ImportoInLire(stato, importo), valore = 0;
-  PercentualeTabellaNuova(lire, classe, categoria, valore);
-  return PercentualeTagliata(stato, lire, valore);
-}
-
-Compensi StampaCompensiAccessori(RunState& stato, double importo) {
-  Compensi compensi;
-  CompensiAccessori(stato, ImportoInLire(stato, importo), ModoCompensi::Stampa,
-                    compensi.Coefficiente, compensi.StringaCoefficiente);
-  return compensi;
-}
-
-std::string TestoImporto(const RunState& stato, double importo) {
-  return FormattaCopia(importo, stato.DecimaliValuta());
-}
 
 std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string_view categoria) {
   return NumberText(static_cast<double>(numero)) + " - CLASSE/CATEGORIA    " +
          StringaClasseCategoria(classe, categoria);
 }
 
-void StampaLavori(RunState& stato, int colonna, std::string_view voce, double importo) {
-  stato.NumFileUscita.Tab(colonna)
-      .Text(voce)
-      .Tab(kColonnaLavori)
-      .Line(ImportoLavori(stato, importo));
+std::string TestoQuota(double quota) { return FormattaCopia(quota, -2) + " x "; }
+
+Percentuale Parcella::PercentualeTagliata(double lire, double valore) const {
+  int decimali = 0;
+  DecimaliPercentuale(lire, decimali, criteri.DecimaliTabelle);
+  Percentuale p{valore, ""};
+  p.testo = FormattaNumero(p.valore, decimali) + "%";
+  return p;
 }
 
-void StampaProgettoSpecifica(RunState& stato, int colonna, double importo) {
+Percentuale Parcella::PercentualeDaTabellaA(double importo, int periodo, std::string_view classe,
+                                            std::string_view categoria) const {
+  Percentuale p;
+  double lire = ImportoInLire(importo);
+  StringaPercentualeTabellaA(lire, periodo, classe, categoria, criteri, p.valore, p.testo);
+  return p;
+}
+
+Percentuale Parcella::PercentualeDaTabellaNuova(double importo, std::string_view classe,
+                                                std::string_view categoria) const {
+  if (importo == 0) return {0, "0 %"};
+  double lire = ImportoInLire(importo), valore = 0;
+  PercentualeTabellaNuova(lire, classe, categoria, valore);
+  return PercentualeTagliata(lire, valore);
+}
+
+Percentuale Parcella::PercentualeDaTabellaC(int periodo, double lire) const {
+  double valore = 0;
+  PercentualeTabellaContabilita(periodo, lire, valore);
+  return PercentualeTagliata(lire, valore);
+}
+
+void Parcella::StampaLavori(double importo) {
+  uscita.Tab(kColonnaLavori).Line(StringaImporto(TestoImporto(importo), TipoImporto::Lavori));
+}
+
+void Parcella::StampaLavori(int colonna, std::string_view voce, double importo) {
+  uscita.Tab(colonna).Text(voce);
+  StampaLavori(importo);
+}
+
+void Parcella::StampaProgettoSpecifica(int colonna, double importo) {
   if (importo == 0) return;
-  StampaLavori(stato, colonna,
-               importo > 0 ? " - LAVORI DI PROGETTO" : " - LAVORI PROGETTO ORIGINARIO",
+  StampaLavori(colonna, importo > 0 ? " - LAVORI DI PROGETTO" : " - LAVORI PROGETTO ORIGINARIO",
                std::fabs(importo));
 }
 
-void StampaPercentuale(RunState& stato, std::string_view voce, const Percentuale& percentuale,
-                       double base, int colonna) {
-  stato.NumFileUscita.Text(voce)
-      .Text(percentuale.testo)
-      .Tab(colonna)
-      .Text(" su  ")
-      .Tab(kColonnaLavori)
-      .Line(ImportoLavori(stato, base));
+void Parcella::StampaDirezioneSpecifica(int colonna, std::string_view TipoParcella,
+                                        double importo) {
+  if (importo > kDirezioneMinimaStampata)
+    StampaLavori(colonna,
+                 TipoParcella == "CONSUNTIVA" ? " - IMPORTO CONSUNTIVO LORDO"
+                                              : " - LAVORI DIRETTI          ",
+                 importo);
 }
 
-std::string_view VoceDirezioneSpecifica(std::string_view TipoParcella) {
-  return TipoParcella == "CONSUNTIVA" ? " - IMPORTO CONSUNTIVO LORDO"
-                                      : " - LAVORI DIRETTI          ";
+void Parcella::StampaDirezioneOnorari(std::string_view TipoParcella, double importo) {
+  if (importo > kDirezioneMinimaStampata)
+    StampaLavori(3,
+                 TipoParcella == "CONSUNTIVA" ? " - Importo consuntivo lordo" : " - Lavori diretti",
+                 importo);
 }
 
-std::string_view VoceDirezioneOnorari(std::string_view TipoParcella) {
-  return TipoParcella == "CONSUNTIVA" ? " - Importo consuntivo lordo" : " - Lavori diretti";
+void Parcella::StampaPercentuale(std::string_view voce, const Percentuale& percentuale, double base,
+                                 int colonna) {
+  uscita.Text(voce).Text(percentuale.testo).Tab(colonna).Text(" su  ");
+  StampaLavori(base);
 }
 
-double StampaOnorario(RunState& stato, const RigaFormula& f, double onorario) {
+double Parcella::StampaOnorario(const RigaFormula& f, double onorario) {
+  const std::string aliquota = FormattaCopia(f.aliquota, f.decimali);
   std::string etichetta(f.inizio);
-  etichetta += FormattaCopia(f.aliquota, f.decimali) + " x " + f.percentuale.testo + " x " +
-               TestoImporto(stato, f.importo);
-  etichetta += f.StringaCoefficiente;
-  StampaRigaOnorario(stato, 1, etichetta + " =", onorario);
+  etichetta += f.percentualePrima ? f.percentuale.testo + " x " + aliquota
+                                  : aliquota + " x " + f.percentuale.testo;
+  etichetta += " x " + f.importo;
+  etichetta += f.fattori;
+  if (f.conCompensi) etichetta += StringaCoefficiente;
+  onorario = IntInLire(onorario);
+  StampaRigaOnorario(1, etichetta + " =", onorario);
   return onorario;
 }
 
 // In Lire the cut comes before the division by 100, as nowhere else in these notes.
-double StampaCertificato(RunState& stato, int periodo, double SommaDirezione,
-                         const Compensi& compensi) {
-  stato.NumFileUscita.Line("CERTIFICATO REGOLARE ESECUZIONE  ( tab. C )");
-  const double lire = ImportoInLire(stato, SommaDirezione);
-  double percentuale = 0;
-  PercentualeTabellaContabilita(periodo, lire, percentuale);
-  const std::string testo = TestoPercentuale(stato, lire, percentuale);
-  double compenso = IntInLire(stato, percentuale * SommaDirezione * compensi.Coefficiente) / 100;
-  StampaRigaOnorario(
-      stato, 1,
-      " " + testo + "% x " + TestoImporto(stato, SommaDirezione) + compensi.StringaCoefficiente,
-      compenso);
+double Parcella::StampaCertificato(int periodo, double SommaDirezione) {
+  uscita.Line("CERTIFICATO REGOLARE ESECUZIONE  ( tab. C )");
+  const Percentuale p = PercentualeDaTabellaC(periodo, ImportoInLire(SommaDirezione));
+  double compenso = IntInLire(p.valore * SommaDirezione * Coefficiente) / 100;
+  StampaRigaOnorario(1, " " + p.testo + " x " + TestoImporto(SommaDirezione) + StringaCoefficiente,
+                     compenso);
   return compenso;
-}
-
-double SenzaCompensi(double onorario, const Compensi& compensi) {
-  return compensi.Coefficiente == 0 ? 0 : onorario / compensi.Coefficiente;
-}
-
-void ChiudiConCompensi(RunState& stato, double totale, const Compensi& compensi,
-                       double NonConglobati) {
-  const double onorari =
-      IntInLire(stato, SenzaCompensi(totale - NonConglobati, compensi) + NonConglobati);
-  ChiudiParcella(stato, onorari, totale - onorari);
 }
 
 }  // namespace orm

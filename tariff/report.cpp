@@ -1,79 +1,84 @@
-// The frame of a report.
+// The money of a note and the frame of its report.
 #include "tariff/report.h"
 
 #include <algorithm>
 
 #include "runtime/failure.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
 #include "tariff/money.h"
-#include "tariff/user_data.h"
+#include "tariff/parcella.h"
 
 namespace orm {
-namespace {
 
-// The text of a fee, which is cut to it.
-std::string ImportoOnorario(const RunState& stato, double& valore) {
-  return StringaImporto(FormattaNumero(valore, stato.DecimaliValuta()), TipoImporto::Onorari,
-                        stato.ModoLire);
+double Parcella::ImportoInLire(double importo) const {
+  return ModoLire ? importo : EuroInLire(importo);
 }
 
-}  // namespace
+double Parcella::InValuta(double lire) const { return ModoLire ? lire : LireInEuro(lire); }
 
-std::string StringaImporto(std::string_view testo, TipoImporto tipo, bool modoLire) {
+double Parcella::IntInLire(double valore) const { return ModoLire ? Int(valore) : valore; }
+
+std::string Parcella::TestoImporto(double importo) const {
+  return FormattaCopia(importo, DecimaliValuta());
+}
+
+std::string Parcella::StringaImporto(std::string_view testo, TipoImporto tipo) const {
   const std::size_t larghezza = tipo == TipoImporto::Lavori ? 16 : 14;
   const std::size_t lunghezza = Characters(testo);
   if (lunghezza > larghezza)
     throw RuntimeFailure("L'importo " + std::string(testo) +
                          " è troppo lungo per la sua colonna nella parcella.");
-  return (modoLire ? "L. " : "€") + Blanks(larghezza - lunghezza) + std::string(testo);
+  return (ModoLire ? "L. " : "€") + Blanks(larghezza - lunghezza) + std::string(testo);
 }
 
-void StampaRigaOnorario(RunState& stato, int tab, std::string& etichetta, double& valore) {
+void Parcella::ApriParcella(std::string_view frase) {
+  uscita.Tab(15).Line("PARCELLA DELLE COMPETENZE PROFESSIONALI");
+  uscita.Tab(3).Line("( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )");
+  uscita.Line("dovute da : " + intestazione.Committente);
+  uscita.Line("all' " + utente.Professione + " " + utente.Nome);
+  uscita.Line(frase);
+  uscita.Line(intestazione.Oggetto);
+  if (!intestazione.Documenti.empty()) uscita.Line(intestazione.Documenti);
+  if (!intestazione.Note.empty()) uscita.Line(intestazione.Note);
+}
+
+std::string Parcella::Numero() { return NumberText(static_cast<double>(++progressivo)) + " -"; }
+
+void Parcella::ConcludiRiga(double& valore, int decimali, bool inColonna) {
+  const std::string testo = FormattaNumero(valore, decimali);
+  if (inColonna)
+    uscita.Tab(kColonnaImporto);
+  else
+    uscita.Text(" ");
+  uscita.Line(StringaImporto(testo, TipoImporto::Onorari));
+}
+
+void Parcella::StampaRigaOnorario(int tab, std::string& etichetta, double& valore) {
   constexpr std::size_t lunga = 54;
-  const std::string importo = ImportoOnorario(stato, valore);
   if (Characters(etichetta) >= lunga) {
     const auto rientro = std::min(etichetta.find_first_not_of(' '), etichetta.size());
     etichetta = Blanks(rientro) + TogliSpazi(etichetta);
   }
-  ReportPrinter& stampa = stato.NumFileUscita;
-  if (Characters(etichetta) < lunga)
-    stampa.Tab(tab).Text(etichetta).Tab(kColonnaImporto).Line(importo);
-  else
-    stampa.Line(etichetta + " " + importo);
+  const bool inColonna = Characters(etichetta) < lunga;
+  if (inColonna) uscita.Tab(tab);
+  uscita.Text(etichetta);
+  ConcludiRiga(valore, DecimaliValuta(), inColonna);
 }
 
-void StampaRigaOnorario(RunState& stato, int tab, std::string&& etichetta, double& valore) {
-  StampaRigaOnorario(stato, tab, etichetta, valore);
+void Parcella::StampaRigaOnorario(int tab, std::string&& etichetta, double& valore) {
+  StampaRigaOnorario(tab, etichetta, valore);
 }
 
-void StampaFormula(RunState& stato, std::string_view formula, double& valore) {
+void Parcella::StampaFormula(std::string_view formula, double& valore) {
   constexpr std::size_t lunga = 44;
-  const std::string importo = ImportoOnorario(stato, valore);
-  ReportPrinter& stampa = stato.NumFileUscita;
-  stampa.Text(formula);
-  if (Characters(formula) < lunga)
-    stampa.Tab(kColonnaImporto).Line(importo);
-  else
-    stampa.Line(" " + importo);
+  uscita.Text(formula);
+  ConcludiRiga(valore, DecimaliValuta(), Characters(formula) < lunga);
 }
 
-void StampaAllineataVirgola(RunState& stato, std::string_view testo, int colonna) {
-  const auto virgola = testo.find(',');
-  const auto prima = static_cast<int>(Characters(testo.substr(0, virgola)));
-  stato.NumFileUscita.Tab(colonna - prima).Line(testo);
-}
-
-void ApriParcella(RunState& stato, const std::string& fileIntestazione, std::string_view frase) {
-  const DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
-  const Intestazione intestazione = LeggiIntestazione(stato.folder, fileIntestazione);
-  ReportPrinter& stampa = stato.NumFileUscita;
-  stampa.Tab(15).Line("PARCELLA DELLE COMPETENZE PROFESSIONALI");
-  stampa.Tab(3).Line("( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )");
-  stampa.Line("dovute da : " + intestazione.Committente);
-  stampa.Line("all' " + utente.Professione + " " + utente.Nome);
-  stampa.Line(frase);
-  stampa.Line(intestazione.Oggetto);
-  if (!intestazione.Documenti.empty()) stampa.Line(intestazione.Documenti);
-  if (!intestazione.Note.empty()) stampa.Line(intestazione.Note);
+void Parcella::StampaAllineataVirgola(std::string_view testo, int colonna) {
+  const auto prima = static_cast<int>(Characters(testo.substr(0, testo.find(','))));
+  uscita.Tab(colonna - prima).Line(testo);
 }
 
 }  // namespace orm

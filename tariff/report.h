@@ -1,12 +1,8 @@
-// The frame of a report: section rules, heading, and the line with a label and an amount.
-// Everything is printed on `stato.NumFileUscita`; columns count from 1.
+// The frame of a report: its section rules and its columns, which count from 1.
 #pragma once
 
-#include <string>
+#include <cstddef>
 #include <string_view>
-
-#include "runtime/text.h"
-#include "shell/state/run_state.h"
 
 namespace orm {
 
@@ -48,31 +44,10 @@ static_assert(kRigaAggiornamentoPrezzi.size() == kLarghezzaParcella);
 static_assert(kRigaBaseGennaio1993.size() == kLarghezzaParcella);
 static_assert(kRigaRivalutazione.size() == kLarghezzaParcella);
 
-// Where the amount of a fee line begins.
+// Where the amount of a fee line begins, and an amount of works.
 inline constexpr int kColonnaImporto = 56;
+inline constexpr int kColonnaLavori = 48;
 
 enum class TipoImporto { Lavori, Onorari };
-
-// Currency symbol and, right-justified behind it, a text of figures: a field of 16 characters for
-// amounts of works, of 14 for fees. "L. " is two characters longer than "€", so a Euro line ends
-// two columns before a line in Lire. A text too long for the field is a RuntimeFailure.
-std::string StringaImporto(std::string_view testo, TipoImporto tipo, bool modoLire);
-
-// One line: the label from column `tab`, the amount from column 56. `valore` is cut to what is
-// printed. A label of 54 characters or more loses its inner blanks, and keeps the loss; if it is
-// too long even so, the amount follows it after one blank.
-void StampaRigaOnorario(RunState& stato, int tab, std::string& etichetta, double& valore);
-void StampaRigaOnorario(RunState& stato, int tab, std::string&& etichetta, double& valore);
-
-// One line with a formula and what it comes to: the amount from column 56, or after one blank where
-// the formula has 44 characters or more. `valore` is cut to what is printed.
-void StampaFormula(RunState& stato, std::string_view formula, double& valore);
-
-// One line with the text before `colonna`, or with its comma at `colonna`.
-void StampaAllineataVirgola(RunState& stato, std::string_view testo, int colonna);
-
-// The heading of a fee note: title, client, professional, `frase` that names the work, and the
-// texts of the header file `fileIntestazione`. Reads UTENTE.DAG too.
-void ApriParcella(RunState& stato, const std::string& fileIntestazione, std::string_view frase);
 
 }  // namespace orm

@@ -1,32 +1,33 @@
 #include "tariff/table_a_slices.h"
 
 #include "tariff/law/table_a.h"
-#include "tariff/money.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 
-double LimiteTabellaA(const RunState& stato) {
-  return stato.ModoLire ? kLimiteTabellaA : LireInEuro(kLimiteTabellaA);
-}
+double Parcella::LimiteTabellaA() const { return InValuta(kLimiteTabellaA); }
 
-PercentualiTabellaA PercentualiDellaBase(const RunState& stato, double base, int periodo,
-                                         std::string_view classe, std::string_view categoria) {
+PercentualiTabellaA Parcella::PercentualiDellaBase(double base, int periodo,
+                                                   std::string_view classe,
+                                                   std::string_view categoria) const {
   const auto tabella = [&](double importo) {
-    return PercentualeDaTabellaA(stato, importo, periodo, classe, categoria);
+    return PercentualeDaTabellaA(importo, periodo, classe, categoria);
   };
-  const double limite = LimiteTabellaA(stato);
+  const double limite = LimiteTabellaA();
   if (base > limite) return {tabella(limite), tabella(base), true};
   return {tabella(base), {}, false};
 }
 
-std::vector<QuotaImporto> QuoteDellImporto(const PercentualiTabellaA& percentuali, double importo,
-                                           double limite) {
+std::vector<QuotaImporto> Parcella::QuoteDellImporto(const PercentualiTabellaA& percentuali,
+                                                     double importo) const {
   if (!percentuali.divise) return {{importo, percentuali.entro}};
+  const double limite = LimiteTabellaA();
   return {{limite, percentuali.entro}, {importo - limite, percentuali.oltre}};
 }
 
-std::vector<QuotaImporto> QuoteProgressive(const PercentualiTabellaA& percentuali, double importo,
-                                           double prima, double limite) {
+std::vector<QuotaImporto> Parcella::QuoteProgressive(const PercentualiTabellaA& percentuali,
+                                                     double importo, double prima) const {
+  const double limite = LimiteTabellaA();
   if (!percentuali.divise || prima + importo <= limite) return {{importo, percentuali.entro}};
   if (prima >= limite) return {{importo, percentuali.oltre}};
   const double entro = limite - prima;

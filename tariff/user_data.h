@@ -1,14 +1,11 @@
-// The professional's data (UTENTE.DAG) and the header of a fee note (INT_<case>.DAP).
+// The professional's data and the header of a fee note, with the fields of their files.
 #pragma once
 
 #include <string>
 
 #include "runtime/data_file.h"
-#include "runtime/folder.h"
 
 namespace orm {
-
-inline constexpr const char* kFileUtente = "UTENTE.DAG";
 
 // Fourteen texts, one a line. A new installation knows the Order's province and the profession.
 struct DatiProfessionista {
@@ -37,14 +34,10 @@ void Campi(Archive& file, DatiProfessionista& dati) {
   file.Line(Field("Professione", dati.Professione));
 }
 
-DatiProfessionista LeggiDatiProfessionista(const WorkFolder& folder);
-void ScriviDatiProfessionista(const WorkFolder& folder, DatiProfessionista dati);
-// The file of a new installation: ten empty lines and one line with the four last fields. It reads
-// like any other, because a line end only parts two fields.
-void ScriviUtentePredefinito(const WorkFolder& folder);
-
 // "Dott. Arch. " or "Dott. Ing. ", by the first letter of the profession.
-std::string TitoloDi(const DatiProfessionista& dati);
+inline std::string TitoloDi(const DatiProfessionista& dati) {
+  return dati.Professione.starts_with('A') ? "Dott. Arch. " : "Dott. Ing. ";
+}
 
 // The header of a fee note.
 struct Intestazione {
@@ -61,8 +54,5 @@ void Campi(Archive& file, Intestazione& dati) {
   file.Line(Field("DOCUMENTI DI INCARICO", dati.Documenti));
   file.Line(Field("NOTE", dati.Note));
 }
-
-Intestazione LeggiIntestazione(const WorkFolder& folder, const std::string& nomeFile);
-void ScriviIntestazione(const WorkFolder& folder, const std::string& nomeFile, Intestazione dati);
 
 }  // namespace orm

@@ -1,9 +1,9 @@
 // The calculator and converter.
 #include "utilities/form_calculator.h"
 
+#include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
 #include "tariff/forms/amount_box.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -3,12 +3,10 @@
 #include "cases/agp/data.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
-#include "tariff/table_a_slices.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -21,11 +19,10 @@ int Periodo(const DatiAgp& dati) {
   return static_cast<int>(*periodo);
 }
 
-class NotaAgp {
+class NotaAgp : public Parcella {
  public:
-  NotaAgp(RunState& run, const DatiAgp& dati)
-      : stato(run),
-        uscita(run.NumFileUscita),
+  NotaAgp(Parcella parcella, const DatiAgp& dati)
+      : Parcella(std::move(parcella)),
         d(dati),
         periodo(Periodo(dati)),
         CoefficienteMetodo(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO"
@@ -37,34 +34,31 @@ class NotaAgp {
   void StampaMetodologia();
   void CalcolaLotti();
   void CalcolaMaggiorazione();
-  void Chiudi();
+  void Chiudi() { ChiudiConCompensi(MaggiorazioneConglobata() ? 0 : maggiorazione); }
 
  private:
-  void CalcolaLotto(std::size_t numero, const LottoAgp& lotto);
+  void CalcolaLotto(const LottoAgp& lotto);
   // Compensations are in the surcharge too.
-  bool MaggiorazioneConglobata() const { return stato.criteri.CompensiSuMaggiorazione == "SI"; }
+  bool MaggiorazioneConglobata() const { return criteri.CompensiSuMaggiorazione == "SI"; }
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiAgp& d;
   const int periodo;
   const double CoefficienteMetodo;
-  Compensi compensi;
-  double totale = 0, maggiorazione = 0;
+  double maggiorazione = 0;
 };
 
 void NotaAgp::StampaSpecifica() {
   uscita.Line(kRigaImporti);
   for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
     uscita.Line(TitoloLotto(i + 1, d.Lotti[i].Classe, d.Lotti[i].Categoria));
-    StampaLavori(stato, 5, " - Importo aggiornato LAVORI ", d.Lotti[i].Importo);
+    StampaLavori(5, " - Importo aggiornato LAVORI ", d.Lotti[i].Importo);
   }
 }
 
 void NotaAgp::CalcolaCompensi() {
   double somma = 0;
   for (const LottoAgp& lotto : d.Lotti) somma += lotto.Importo;
-  compensi = StampaCompensiAccessori(stato, somma);
+  CompensiAccessori(ImportoInLire(somma));
 }
 
 void NotaAgp::StampaMetodologia() {
@@ -78,64 +72,53 @@ void NotaAgp::StampaMetodologia() {
 
 void NotaAgp::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
-  for (std::size_t i = 0; i < d.Lotti.size(); ++i) CalcolaLotto(i + 1, d.Lotti[i]);
+  for (const LottoAgp& lotto : d.Lotti) CalcolaLotto(lotto);
 }
 
 // Beyond the limit of Table A both percentages stand before both fees.
-void NotaAgp::CalcolaLotto(std::size_t numero, const LottoAgp& lotto) {
-  uscita.Line(TitoloLotto(numero, lotto.Classe, lotto.Categoria) + " (" +
+void NotaAgp::CalcolaLotto(const LottoAgp& lotto) {
+  uscita.Line(TitoloLotto(++progressivo, lotto.Classe, lotto.Categoria) + " (" +
               NomePeriodoTariffario(periodo) + ")");
   const auto percentuali =
-      PercentualiDellaBase(stato, lotto.Importo, periodo, lotto.Classe, lotto.Categoria);
-  const auto quote = QuoteDellImporto(percentuali, lotto.Importo, LimiteTabellaA(stato));
-  for (const QuotaImporto& quota : quote)
-    StampaPercentuale(stato, " Percentuale tabella A = ", quota.percentuale, quota.importo, 40);
+      PercentualiDellaBase(lotto.Importo, periodo, lotto.Classe, lotto.Categoria);
+  const auto quote = QuoteDellImporto(percentuali, lotto.Importo);
+  for (const auto& [importo, P] : quote)
+    StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
   const double aliquota = AliquotaAggiornamento(lotto.Classe, lotto.Categoria);
   const std::string inizio = FormattaCopia(CoefficienteMetodo, 2) + " x ";
-  for (const QuotaImporto& quota : quote)
-    totale +=
-        StampaOnorario(stato,
-                       {.inizio = inizio,
+  for (const auto& [importo, P] : quote)
+    TotaleGenerale +=
+        StampaOnorario({.inizio = inizio,
                         .aliquota = aliquota,
-                        .percentuale = quota.percentuale,
-                        .importo = quota.importo,
-                        .StringaCoefficiente = compensi.StringaCoefficiente},
-                       IntInLire(stato, quota.percentuale.valore * quota.importo * aliquota *
-                                            CoefficienteMetodo / 100 * compensi.Coefficiente));
+                        .percentuale = P,
+                        .importo = TestoImporto(importo)},
+                       P.valore * importo * aliquota * CoefficienteMetodo / 100 * Coefficiente);
 }
 
 void NotaAgp::CalcolaMaggiorazione() {
   if (d.EsecutoreDellAggiornamento != "SI") return;
-  uscita.Line(NumberText(static_cast<double>(d.Lotti.size() + 1)) +
-              " - MAGGIORAZIONE PER INCARICO PARZIALE");
-  const double base = MaggiorazioneConglobata() ? totale : SenzaCompensi(totale, compensi);
-  const double quarto = kIncaricoParziale * totale;
-  maggiorazione =
-      IntInLire(stato, MaggiorazioneConglobata() ? quarto : SenzaCompensi(quarto, compensi));
-  StampaRigaOnorario(
-      stato, 1,
-      " " + FormattaCopia(kIncaricoParziale, -2) + " x " + TestoImporto(stato, base) + " =",
-      maggiorazione);
-  totale += maggiorazione;
-}
-
-void NotaAgp::Chiudi() {
-  ChiudiConCompensi(stato, totale, compensi, MaggiorazioneConglobata() ? 0 : maggiorazione);
+  uscita.Line(Numero() + " MAGGIORAZIONE PER INCARICO PARZIALE");
+  const double quota = kIncaricoParziale * TotaleGenerale;
+  const bool conglobata = MaggiorazioneConglobata();
+  const double base = conglobata ? TotaleGenerale : SenzaCompensi(TotaleGenerale);
+  maggiorazione = IntInLire(conglobata ? quota : SenzaCompensi(quota));
+  StampaRigaOnorario(1, " " + TestoQuota(kIncaricoParziale) + TestoImporto(base) + " =",
+                     maggiorazione);
+  TotaleGenerale += maggiorazione;
 }
 
 }  // namespace
 
-void CalcoloAgp(RunState& stato) {
-  DatiAgp dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt, "Per l'aggiornamento prezzi relativo a :");
-  NotaAgp nota(stato, dati);
+Parcella CalcoloAgp(Parcella parcella, const DatiAgp& dati) {
+  NotaAgp nota(std::move(parcella), dati);
+  nota.ApriParcella("Per l'aggiornamento prezzi relativo a :");
   nota.StampaSpecifica();
   nota.CalcolaCompensi();
   nota.StampaMetodologia();
   nota.CalcolaLotti();
   nota.CalcolaMaggiorazione();
   nota.Chiudi();
+  return nota;
 }
 
 }  // namespace orm

@@ -1,13 +1,15 @@
 // Administrative testing of works, and the certificate of their regular execution.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiCoa;
+class Parcella;
+struct RunState;
 
 void InputCoa(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita.
-void CalcoloCoa(RunState& stato);
+// The note of the data, printed on a blank one.
+Parcella CalcoloCoa(Parcella parcella, const DatiCoa& dati);
 
 }  // namespace orm

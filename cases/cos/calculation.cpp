@@ -5,44 +5,27 @@
 #include "cases/cos/cos.h"
 #include "cases/cos/note.h"
 #include "runtime/failure.h"
-#include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
 
 namespace orm {
 
-double ArrotondaAlleCifreDi(const RunState& stato, double onorario, double unita) {
+double ArrotondaAlleCifreDi(const Parcella& nota, double onorario, double unita) {
   if (unita == 0) return onorario;
-  const double lire = stato.ModoLire ? onorario : EuroInLire(onorario);
-  const double arrotondato = std::round(lire / unita) * unita;
-  return stato.ModoLire ? arrotondato : LireInEuro(arrotondato);
+  return nota.InValuta(std::round(nota.ImportoInLire(onorario) / unita) * unita);
 }
-
-NotaCos::NotaCos(RunState& run, const DatiCos& dati)
-    : stato(run),
-      uscita(run.NumFileUscita),
-      d(dati),
-      testata(LeggiTestataCos(run.folder, run.CasoDiParcella)),
-      TotaleInLire(ImportoInLire(run, dati.ImportoTotaleCS)) {}
-
-// Amounts of the tariff file are in Lire.
-double NotaCos::InValuta(double lire) const { return stato.ModoLire ? lire : LireInEuro(lire); }
-
-std::string NotaCos::Numero() { return NumberText(++numero) + " -"; }
 
 std::string NotaCos::Uguale() const {
-  return testata.UnitaArrotondamento != 0 ? " = ( arrot. )" : " =";
+  return tariffa.testata.UnitaArrotondamento != 0 ? " = ( arrot. )" : " =";
 }
 
-void NotaCos::StampaTotale() {
+void NotaCos::StampaSpecifica() {
   uscita.Line(kRigaImporti);
-  StampaLavori(stato, 1, "IMPORTO TOTALE OPERE COLLAUDATE ", d.ImportoTotaleCS);
-  compensi = StampaCompensiAccessori(stato, d.ImportoTotaleCS);
-  uscita.Line(kRigaOnorariCompensi);
+  StampaLavori(1, "IMPORTO TOTALE OPERE COLLAUDATE ", d.ImportoTotaleCS);
+  CompensiAccessori(TotaleInLire);
 }
 
 void NotaCos::CalcolaPeriodi() {
+  uscita.Line(kRigaOnorariCompensi);
   for (std::size_t i = 0; i < kPeriodiCos; ++i)
     if (d.ImportoCS[i] > 0) CalcolaPeriodo(i);
 }
@@ -50,12 +33,11 @@ void NotaCos::CalcolaPeriodi() {
 void NotaCos::CalcolaPeriodo(std::size_t i) {
   if (d.ImportoTotaleCS == 0)
     throw RuntimeFailure("Divisione per zero: l'importo totale delle opere è 0.")
-        .AtFile(stato.FileInp)
         .AtField("ImportoTotaleCS");
   const double importo = d.ImportoCS[i];
-  const PeriodoCos periodo = LeggiPeriodoCos(stato.folder, stato.CasoDiParcella, i);
-  uscita.Line(Numero() + " Periodo tariffario n. " + testata.NomePeriodo[i]);
-  StampaLavori(stato, 1, " Importo Strutture Collaudate", importo);
+  const PeriodoCos periodo = tariffa.Periodo(i);
+  uscita.Line(Numero() + " Periodo tariffario n. " + tariffa.testata.NomePeriodo[i]);
+  StampaLavori(1, " Importo Strutture Collaudate", importo);
 
   Conto conto;
   if (periodo.ModoPeriodo == "ONORARIO") {
@@ -66,20 +48,20 @@ void NotaCos::CalcolaPeriodo(std::size_t i) {
     conto = d.ImportoTotaleCS * P.valore / 100 < minimo ? ConQuota(minimo, importo)
                                                         : ConPercentuale(periodo, P, importo);
   }
-  double onorario = Arrotonda(IntInLire(stato, conto.onorario));
+  double onorario = Arrotonda(IntInLire(conto.onorario));
   uscita.Line(" Onorario Collaudo Statico");
-  StampaFormula(stato, conto.formula + Uguale(), onorario);
+  StampaFormula(conto.formula + Uguale(), onorario);
   OnorarioBase += onorario;
 }
 
 // The period's share of a fee for the whole.
 NotaCos::Conto NotaCos::ConQuota(double onorarioIntero, double importo) const {
   const double Quota = onorarioIntero * importo / d.ImportoTotaleCS;
-  return {compensi.Coefficiente * Quota, TestoImporto(stato, Quota) + compensi.StringaCoefficiente};
+  return {Coefficiente * Quota, TestoImporto(Quota) + StringaCoefficiente};
 }
 
 Percentuale NotaCos::PercentualeDaTabellaCS(const PeriodoCos& periodo) const {
-  return PercentualeTagliata(stato, TotaleInLire, periodo.ValoreA(TotaleInLire));
+  return PercentualeTagliata(TotaleInLire, periodo.ValoreA(TotaleInLire));
 }
 
 // The percentage of the whole on the period's amount; what this has beyond the last limit has a
@@ -89,18 +71,18 @@ NotaCos::Conto NotaCos::ConPercentuale(const PeriodoCos& periodo, const Percentu
   constexpr std::string_view voce = " % d'applicazione  = ";
   const double limite = InValuta(periodo.Limite.back());
   if (importo <= limite || periodo.PercOltre == 0) {
-    StampaPercentuale(stato, voce, P, importo);
-    return {P.valore * importo / 100 * compensi.Coefficiente,
-            P.testo + " x " + TestoImporto(stato, importo) + compensi.StringaCoefficiente};
+    StampaPercentuale(voce, P, importo);
+    return {P.valore * importo / 100 * Coefficiente,
+            P.testo + " x " + TestoImporto(importo) + StringaCoefficiente};
   }
-  const Percentuale oltre = PercentualeTagliata(stato, TotaleInLire, periodo.PercOltre);
-  StampaPercentuale(stato, voce, P, limite);
-  StampaPercentuale(stato, voce, oltre, importo - limite);
+  const Percentuale oltre = PercentualeTagliata(TotaleInLire, periodo.PercOltre);
+  StampaPercentuale(voce, P, limite);
+  StampaPercentuale(voce, oltre, importo - limite);
   const double parteOltre = (importo - limite) * oltre.valore / 100;
   const double parteEntro = P.valore * limite / 100;
-  return {(parteOltre + parteEntro) * compensi.Coefficiente,
-          "( " + TestoImporto(stato, parteEntro) + " + " + TestoImporto(stato, parteOltre) + " )" +
-              compensi.StringaCoefficiente};
+  return {(parteOltre + parteEntro) * Coefficiente, "( " + TestoImporto(parteEntro) + " + " +
+                                                        TestoImporto(parteOltre) + " )" +
+                                                        StringaCoefficiente};
 }
 
 void NotaCos::CalcolaVariazioni() {
@@ -109,26 +91,29 @@ void NotaCos::CalcolaVariazioni() {
   for (std::size_t i = 0; i < kVariazioniCos; ++i) {
     double Maggiorazione = d.Maggiorazione[i];
     if (Maggiorazione == 0) continue;
-    uscita.Line(testata.NomeVariazione[i] + " " + FormattaNumero(Maggiorazione, 5) + "%");
-    double variazione = Arrotonda(IntInLire(stato, OnorarioBase * Maggiorazione / 100));
-    StampaRigaOnorario(stato, 1,
-                       FormattaCopia(Maggiorazione / 100, 7) + " x " +
-                           TestoImporto(stato, OnorarioBase) + Uguale(),
-                       variazione);
+    uscita.Line(tariffa.testata.NomeVariazione[i] + " " + FormattaNumero(Maggiorazione, 5) + "%");
+    double variazione = Arrotonda(IntInLire(OnorarioBase * Maggiorazione / 100));
+    StampaRigaOnorario(
+        1, FormattaCopia(Maggiorazione / 100, 7) + " x " + TestoImporto(OnorarioBase) + Uguale(),
+        variazione);
     variazioni += variazione;
   }
 }
 
-void CalcoloCos(RunState& stato) {
-  DatiCos dati;
-  LeggiParcella(stato, dati);
-  NotaCos nota(stato, dati);
-  ApriParcella(stato, stato.FileInt, "per le prestazioni di collaudo statico relative a :");
-  nota.StampaTotale();
+void NotaCos::Chiudi() {
+  TotaleGenerale = OnorarioBase + variazioni + revisione;
+  ChiudiConCompensi();
+}
+
+Parcella CalcoloCos(Parcella parcella, const DatiCos& dati, const TariffaCos& tariffa) {
+  NotaCos nota(std::move(parcella), dati, tariffa);
+  nota.ApriParcella("per le prestazioni di collaudo statico relative a :");
+  nota.StampaSpecifica();
   nota.CalcolaPeriodi();
   nota.CalcolaVariazioni();
   nota.RevisioneCalcoliCos();
   nota.Chiudi();
+  return nota;
 }
 
 }  // namespace orm

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cases/cos/data.h"
@@ -40,5 +41,24 @@ TestataCos LeggiTestataCos(const WorkFolder& folder, const std::string& codice);
 // `periodo` from 0 to 4.
 PeriodoCos LeggiPeriodoCos(const WorkFolder& folder, const std::string& codice,
                            std::size_t periodo);
+
+// The tariff of a case for its calculation, which sees no folder: the head, read at once, and the
+// block of a period, read when it is asked for.
+class TariffaCos {
+ public:
+  TariffaCos(WorkFolder folder, std::string codice)
+      : testata(LeggiTestataCos(folder, codice)),
+        folder_(std::move(folder)),
+        codice_(std::move(codice)) {}
+
+  const TestataCos testata;
+  PeriodoCos Periodo(std::size_t periodo) const {
+    return LeggiPeriodoCos(folder_, codice_, periodo);
+  }
+
+ private:
+  WorkFolder folder_;
+  std::string codice_;
+};
 
 }  // namespace orm

@@ -2,13 +2,16 @@
 // the tables of the revision of the stability calculations. CasoDiParcella tells which.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiCos;
+class Parcella;
+struct RunState;
+class TariffaCos;
 
 void InputCos(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita, by the tariff of CS1.CFG or CS2.CFG.
-void CalcoloCos(RunState& stato);
+// The note of the data, printed on a blank one, by the tariff of CS1.CFG or CS2.CFG.
+Parcella CalcoloCos(Parcella parcella, const DatiCos& dati, const TariffaCos& tariffa);
 
 }  // namespace orm

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cases/cos/config.h"
-#include "tariff/table_a_slices.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 
@@ -10,17 +10,21 @@ namespace orm {
 double AliquotaRevisione(const std::string& codice, const RigaCos& riga);
 
 // A fee to the nearest whole multiple of `unita` Lire, halves away from zero; 0: as it is.
-double ArrotondaAlleCifreDi(const RunState& stato, double onorario, double unita);
+double ArrotondaAlleCifreDi(const Parcella& nota, double onorario, double unita);
 
-class NotaCos {
+class NotaCos : public Parcella {
  public:
-  NotaCos(RunState& run, const DatiCos& dati);
+  NotaCos(Parcella parcella, const DatiCos& dati, const TariffaCos& tariffaCos)
+      : Parcella(std::move(parcella)),
+        d(dati),
+        tariffa(tariffaCos),
+        TotaleInLire(ImportoInLire(dati.ImportoTotaleCS)) {}
 
-  void StampaTotale();
+  void StampaSpecifica();
   void CalcolaPeriodi();
   void CalcolaVariazioni();
   void RevisioneCalcoliCos();
-  void Chiudi() { ChiudiConCompensi(stato, OnorarioBase + variazioni + revisione, compensi); }
+  void Chiudi();
 
  private:
   // A fee and how it comes about.
@@ -32,23 +36,19 @@ class NotaCos {
   Conto ConQuota(double onorarioIntero, double importo) const;
   Conto ConPercentuale(const PeriodoCos& periodo, const Percentuale& P, double importo);
   Percentuale PercentualeDaTabellaCS(const PeriodoCos& periodo) const;
+  PercentualiTabellaA PercentualiRevisione(const RigaCos& riga, int periodo,
+                                           double SommaLotto) const;
   void RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto);
-  void RevisioneRiga(std::size_t numero, const RigaCos& riga, int periodo, double SommaLotto);
+  void RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int periodo, double SommaLotto);
 
-  double InValuta(double lire) const;
-  std::string Numero();  // of the next heading, "3 -"
   std::string Uguale() const;
   double Arrotonda(double onorario) const {
-    return ArrotondaAlleCifreDi(stato, onorario, testata.UnitaArrotondamento);
+    return ArrotondaAlleCifreDi(*this, onorario, tariffa.testata.UnitaArrotondamento);
   }
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiCos& d;
-  const TestataCos testata;
+  const TariffaCos& tariffa;
   const double TotaleInLire;
-  Compensi compensi;
-  int numero = 0;
   double OnorarioBase = 0, variazioni = 0, revisione = 0;
 };
 

@@ -2,8 +2,6 @@
 #include "cases/cos/note.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/tariff_tables.h"
-#include "tariff/money.h"
-#include "tariff/report.h"
 
 namespace orm {
 
@@ -29,36 +27,33 @@ void NotaCos::RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto) {
     RevisioneRiga(primaRiga + j + 1, d.Righe[primaRiga + j], lotto.PeriodoDelLotto[j], SommaLotto);
 }
 
-// Percentages are those of the whole lot, its rows in each period's own table. The curve of 2001
-// knows no limit and no slices.
+// Of the whole lot, in each period's own table. The curve of 2001 knows no limit and no slices.
+PercentualiTabellaA NotaCos::PercentualiRevisione(const RigaCos& riga, int periodo,
+                                                  double SommaLotto) const {
+  if (CasoDiParcella == "CS1")
+    return PercentualiDellaBase(SommaLotto, periodo, riga.Classe, riga.Categoria);
+  return {PercentualeDaTabellaNuova(SommaLotto, riga.Classe, riga.Categoria), {}};
+}
+
 void NotaCos::RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int periodo,
                             double SommaLotto) {
-  const bool tabellaA = stato.CasoDiParcella == "CS1";
-  const PercentualiTabellaA percentuali =
-      tabellaA ? PercentualiDellaBase(stato, SommaLotto, periodo, riga.Classe, riga.Categoria)
-               : PercentualiTabellaA{
-                     PercentualeDaTabellaNuova(stato, SommaLotto, riga.Classe, riga.Categoria), {}};
-  const double limite = LimiteTabellaA(stato);
-
+  const PercentualiTabellaA percentuali = PercentualiRevisione(riga, periodo, SommaLotto);
   uscita.Text(TitoloLotto(numeroRiga, riga.Classe, riga.Categoria));
-  if (tabellaA) uscita.Tab(32).Text(NomePeriodoTariffario(periodo));
+  if (CasoDiParcella == "CS1") uscita.Tab(32).Text(NomePeriodoTariffario(periodo));
   uscita.EndLine();
-  StampaLavori(stato, 6, "  - Importo dei Lavori verificati", riga.ImportoVerificato);
-  for (const QuotaImporto& quota : QuoteDellImporto(percentuali, SommaLotto, limite))
-    StampaPercentuale(stato, kVocePercentualeProgetto, quota.percentuale, quota.importo);
-  const double aliquota = AliquotaRevisione(stato.CasoDiParcella, riga);
-  const std::string inizio = FormattaCopia(kRevisioneCalcoli, -2) + " x ";
-  for (const QuotaImporto& quota : QuoteDellImporto(percentuali, riga.ImportoVerificato, limite))
-    revisione += StampaOnorario(
-        stato,
-        {.inizio = inizio,
-         .aliquota = aliquota,
-         .decimali = 3,
-         .percentuale = quota.percentuale,
-         .importo = quota.importo,
-         .StringaCoefficiente = compensi.StringaCoefficiente},
-        IntInLire(stato, quota.importo * kRevisioneCalcoli * quota.percentuale.valore * aliquota /
-                             100 * compensi.Coefficiente));
+  StampaLavori(6, "  - Importo dei Lavori verificati", riga.ImportoVerificato);
+  for (const auto& [importo, P] : QuoteDellImporto(percentuali, SommaLotto))
+    StampaPercentuale(kVocePercentualeProgetto, P, importo);
+  const double aliquota = AliquotaRevisione(CasoDiParcella, riga);
+  const std::string inizio = TestoQuota(kRevisioneCalcoli);
+  for (const auto& [importo, P] : QuoteDellImporto(percentuali, riga.ImportoVerificato))
+    revisione +=
+        StampaOnorario({.inizio = inizio,
+                        .aliquota = aliquota,
+                        .decimali = 3,
+                        .percentuale = P,
+                        .importo = TestoImporto(importo)},
+                       importo * kRevisioneCalcoli * P.valore * aliquota / 100 * Coefficiente);
 }
 
 }  // namespace orm

@@ -8,15 +8,10 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "tariff/accounting_block.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/final_account.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/table_services_2001.h"
 #include "tariff/law/tariff_tables.h"
-#include "tariff/lot_lines.h"
-#include "tariff/money.h"
-#include "tariff/report.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -69,9 +64,9 @@ GruppoServizi ServiziDi(std::span<const ServizioEsl> tabella, FaseEsl fase, std:
   return gruppo;
 }
 
-class NotaEsl {
+class NotaEsl : public Parcella {
  public:
-  NotaEsl(RunState& run, const DatiEsl& dati) : stato(run), uscita(run.NumFileUscita), d(dati) {}
+  NotaEsl(Parcella parcella, const DatiEsl& dati) : Parcella(std::move(parcella)), d(dati) {}
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -79,8 +74,6 @@ class NotaEsl {
   void CalcolaContabilita();
   void CalcolaCertificato();
   void StampaRiepilogo();
-  double Totale() const { return TotaleGenerale; }
-  void Chiudi() { ChiudiConCompensi(stato, TotaleGenerale, compensi); }
 
  private:
   // What one side of a lot, design or supervision, is reckoned on.
@@ -90,31 +83,25 @@ class NotaEsl {
     Percentuale percentuale;
   };
   double BaseDirezione(const LottoEsl& lotto) const;
-  void StampaImporti(std::size_t numero, const LottoEsl& lotto);
-  double OnorarioFase(FaseEsl fase, const Lavori& lavori);
+  void CalcolaLotto(std::size_t numeroLotto, const LottoEsl& lotto);
+  void StampaImporti(std::size_t numeroLotto, const LottoEsl& lotto);
   double OnorarioProgetto(const Lavori& lavori);
   double OnorarioDirezione(const Lavori& lavori);
+  double OnorarioFase(FaseEsl fase, const Lavori& lavori);
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiEsl& d;
-  Compensi compensi;
   double SommaDirezione = 0;
-  std::vector<RigaContabilita> contemp;
   double TotaleProgetto = 0, TotaleDirezione = 0, TotaleContabilita = 0, TotaleCertificato = 0;
-  double TotaleGenerale = 0;
 };
 
 void NotaEsl::StampaSpecifica() {
   uscita.Line(kRigaImporti);
   for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
     const LottoEsl& lotto = d.Lotti[i];
-    const double progetto = lotto.ImportoProgettazione, direzione = lotto.ImportoDirezioneLavori;
-    if (progetto != 0 || direzione != 0)
+    if (lotto.ImportoProgettazione != 0 || lotto.ImportoDirezioneLavori != 0)
       uscita.Line(TitoloLotto(i + 1, lotto.Classe, lotto.Categoria));
-    StampaProgettoSpecifica(stato, 5, progetto);
-    if (direzione > kDirezioneMinimaStampata)
-      StampaLavori(stato, 5, VoceDirezioneSpecifica(d.TipoParcella), direzione);
+    StampaProgettoSpecifica(5, lotto.ImportoProgettazione);
+    StampaDirezioneSpecifica(5, d.TipoParcella, lotto.ImportoDirezioneLavori);
   }
 }
 
@@ -131,45 +118,45 @@ void NotaEsl::CalcolaCompensi() {
     if (lotto.ImportoDirezioneLavori > kDirezioneMinimaSommata)
       SommaDirezione += lotto.ImportoDirezioneLavori;
   }
-  compensi = StampaCompensiAccessori(stato, std::max(SommaProgetto, SommaDirezione));
-}
-
-void NotaEsl::StampaImporti(std::size_t numero, const LottoEsl& lotto) {
-  if (lotto.ImportoProgettazione > 0 || lotto.ImportoDirezioneLavori > 0)
-    uscita.Text(TitoloLotto(numero, lotto.Classe, lotto.Categoria))
-        .Tab(32)
-        .Line("Decreto 4-4-2001");
-  if (lotto.ImportoProgettazione > 3)
-    StampaLavori(stato, 3, " - Lavori di progetto", lotto.ImportoProgettazione);
-  if (lotto.ImportoDirezioneLavori > kDirezioneMinimaStampata)
-    StampaLavori(stato, 3, VoceDirezioneOnorari(d.TipoParcella), lotto.ImportoDirezioneLavori);
+  CompensiAccessori(ImportoInLire(std::max(SommaProgetto, SommaDirezione)));
 }
 
 void NotaEsl::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
-  for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
-    const LottoEsl& lotto = d.Lotti[i];
-    const double BaseProgetto = std::fabs(lotto.ImportoProgettazione);
-    const auto percentuale = [&](double base) {
-      return PercentualeDaTabellaNuova(stato, base, lotto.Classe, lotto.Categoria);
-    };
-    const Lavori progetto{lotto, lotto.ImportoProgettazione, percentuale(BaseProgetto)};
-    const Lavori direzione{lotto, lotto.ImportoDirezioneLavori, percentuale(BaseDirezione(lotto))};
+  for (std::size_t i = 0; i < d.Lotti.size(); ++i) CalcolaLotto(i + 1, d.Lotti[i]);
+}
 
-    StampaImporti(i + 1, lotto);
-    if (progetto.importo > 0)
-      StampaPercentuale(stato, kVocePercentualeProgetto, progetto.percentuale, BaseProgetto);
-    if (direzione.importo > 0)
-      StampaPercentuale(stato, kVocePercentualeDirezione, direzione.percentuale,
-                        BaseDirezione(lotto));
-    const double onorarioProgetto = OnorarioProgetto(progetto);
-    const double onorarioDirezione = OnorarioDirezione(direzione);
-    TotaleProgetto += onorarioProgetto;
-    TotaleDirezione += onorarioDirezione;
-    if (lotto.MisureContabilita != "NO")
-      contemp.push_back({kPeriodo, lotto.CoefficienteContabilita, lotto.ImportoDirezioneLavori});
-    TotaleGenerale += onorarioProgetto + onorarioDirezione;
-  }
+void NotaEsl::CalcolaLotto(std::size_t numeroLotto, const LottoEsl& lotto) {
+  const double baseProgetto = std::fabs(lotto.ImportoProgettazione);
+  const double baseDirezione = BaseDirezione(lotto);
+  const auto percentuale = [&](double base) {
+    return PercentualeDaTabellaNuova(base, lotto.Classe, lotto.Categoria);
+  };
+  const Lavori progetto{lotto, lotto.ImportoProgettazione, percentuale(baseProgetto)};
+  const Lavori direzione{lotto, lotto.ImportoDirezioneLavori, percentuale(baseDirezione)};
+
+  StampaImporti(numeroLotto, lotto);
+  if (progetto.importo > 0)
+    StampaPercentuale(kVocePercentualeProgetto, progetto.percentuale, baseProgetto);
+  if (direzione.importo > 0)
+    StampaPercentuale(kVocePercentualeDirezione, direzione.percentuale, baseDirezione);
+  const double onorarioProgetto = OnorarioProgetto(progetto);
+  const double onorarioDirezione = OnorarioDirezione(direzione);
+  TotaleProgetto += onorarioProgetto;
+  TotaleDirezione += onorarioDirezione;
+  if (lotto.MisureContabilita != "NO")
+    contemp.push_back({kPeriodo, lotto.CoefficienteContabilita, lotto.ImportoDirezioneLavori});
+  TotaleGenerale += onorarioProgetto + onorarioDirezione;
+}
+
+void NotaEsl::StampaImporti(std::size_t numeroLotto, const LottoEsl& lotto) {
+  if (lotto.ImportoProgettazione > 0 || lotto.ImportoDirezioneLavori > 0)
+    uscita.Text(TitoloLotto(numeroLotto, lotto.Classe, lotto.Categoria))
+        .Tab(32)
+        .Line("Decreto 4-4-2001");
+  if (lotto.ImportoProgettazione > 3)
+    StampaLavori(3, " - Lavori di progetto", lotto.ImportoProgettazione);
+  StampaDirezioneOnorari(d.TipoParcella, lotto.ImportoDirezioneLavori);
 }
 
 double NotaEsl::OnorarioProgetto(const Lavori& lavori) {
@@ -188,26 +175,23 @@ double NotaEsl::OnorarioDirezione(const Lavori& lavori) {
 // group of share 0 prints nothing.
 double NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
   const LottoEsl& lotto = lavori.lotto;
+  const std::size_t colonna = ColonnaTabelleB(lotto.Classe, lotto.Categoria);
   double totale = 0;
   bool titolo = false;
   const auto gruppo = [&](std::string_view voce, std::span<const ServizioEsl> tabella,
                           const std::string& prestazioni, int decimali,
                           const std::string& addetti) {
-    const auto servizi = ServiziDi(tabella, fase, ColonnaTabelleB(lotto.Classe, lotto.Categoria),
-                                   prestazioni, lotto.NumeroAddetti);
+    const auto servizi = ServiziDi(tabella, fase, colonna, prestazioni, lotto.NumeroAddetti);
     if (servizi.aliquota == 0) return;
     if (!titolo) uscita.Line(NomeFase(fase));
     titolo = true;
     uscita.Text(voce).Text(servizi.testo).Line(addetti);
-    const double onorario =
-        lavori.importo * lavori.percentuale.valore * servizi.aliquota / 100 * compensi.Coefficiente;
-    totale += StampaOnorario(stato,
-                             {.aliquota = servizi.aliquota,
-                              .decimali = decimali,
-                              .percentuale = lavori.percentuale,
-                              .importo = lavori.importo,
-                              .StringaCoefficiente = compensi.StringaCoefficiente},
-                             IntInLire(stato, onorario));
+    totale += StampaOnorario(
+        {.aliquota = servizi.aliquota,
+         .decimali = decimali,
+         .percentuale = lavori.percentuale,
+         .importo = TestoImporto(lavori.importo)},
+        lavori.importo * lavori.percentuale.valore * servizi.aliquota / 100 * Coefficiente);
   };
   const bool piuAddetti = fase == FaseEsl::Direzione && lotto.NumeroAddetti > 1;
   gruppo(" aliquote base : ", kTabellaBEsl, lotto.PrestazioniBase, 2, "");
@@ -217,37 +201,35 @@ double NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
 }
 
 void NotaEsl::CalcolaContabilita() {
-  TotaleContabilita = StampaContabilita(stato, contemp, compensi);
+  TotaleContabilita = StampaContabilita();
   TotaleGenerale += TotaleContabilita;
 }
 
 void NotaEsl::CalcolaCertificato() {
   if (d.CertificatoRegolare != "SI" || SommaDirezione == 0) return;
-  TotaleCertificato = StampaCertificato(stato, kPeriodo, SommaDirezione, compensi);
+  TotaleCertificato = StampaCertificato(kPeriodo, SommaDirezione);
   TotaleGenerale += TotaleCertificato;
 }
 
 void NotaEsl::StampaRiepilogo() {
   std::array<double, 4> importi = {TotaleProgetto, TotaleDirezione, TotaleContabilita,
                                    TotaleCertificato};
-  StampaRiepilogoEsl(stato, "EL", importi);
+  StampaRiepilogoEsl("EL", importi);
 }
 
 }  // namespace
 
-void CalcoloEsl(RunState& stato, double& totale) {
-  DatiEsl dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt, "Per le prestazioni sottoelencate relative a :");
-  NotaEsl nota(stato, dati);
+Parcella CalcoloEsl(Parcella parcella, const DatiEsl& dati) {
+  NotaEsl nota(std::move(parcella), dati);
+  nota.ApriParcella("Per le prestazioni sottoelencate relative a :");
   nota.StampaSpecifica();
   nota.CalcolaCompensi();
   nota.CalcolaLotti();
   nota.CalcolaContabilita();
   nota.CalcolaCertificato();
   nota.StampaRiepilogo();
-  totale = nota.Totale();
-  nota.Chiudi();
+  nota.ChiudiConCompensi();
+  return nota;
 }
 
 }  // namespace orm

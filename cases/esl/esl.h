@@ -2,14 +2,16 @@
 // services of Tables B and B1.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiEsl;
+class Parcella;
+struct RunState;
 
 void InputEsl(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita; `totale` receives the sum of the fees. A lot with
-// a class outside the tables and an eleventh lot with accounting are a failure.
-void CalcoloEsl(RunState& stato, double& totale);
+// The note of the data, printed on a blank one. A lot with a class outside the tables and an
+// eleventh lot with accounting are a failure.
+Parcella CalcoloEsl(Parcella parcella, const DatiEsl& dati);
 
 }  // namespace orm

@@ -3,13 +3,13 @@
 #include "cases/esl/data.h"
 #include "cases/esl/esl.h"
 #include "cases/esl/form_services.h"
+#include "dialogs/message_boxes.h"
 #include "tariff/forms/form_amounts.h"
 #include "tariff/forms/form_class.h"
 #include "tariff/forms/form_kind.h"
 #include "tariff/forms/form_pdl_extras.h"
 #include "tariff/forms/form_question.h"
 #include "tariff/forms/input_step.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

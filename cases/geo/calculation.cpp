@@ -8,13 +8,10 @@
 #include "cases/geo/geo.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/final_account.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/table_geotechnics.h"
 #include "tariff/money.h"
-#include "tariff/phase_lines.h"
-#include "tariff/report.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -67,9 +64,9 @@ GruppoGeo BasiDelGruppo(const DatiGeotecnici& d, std::size_t primaRiga, std::siz
   return g;
 }
 
-class NotaGeo {
+class NotaGeo : public Parcella {
  public:
-  NotaGeo(RunState& run, const DatiGeotecnici& dati);
+  NotaGeo(Parcella parcella, const DatiGeotecnici& dati, const TariffaGeo& tariffaGeo);
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -92,17 +89,14 @@ class NotaGeo {
   double OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo);
   double OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo);
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiGeotecnici& d;
-  const TabelleGeo testata;
+  const TariffaGeo& tariffa;
   std::vector<GruppoGeo> gruppi;
-  Compensi compensi;
   double totaleProgetto = 0, totaleDirezione = 0, compensoAggiuntivo = 0;
 };
 
-NotaGeo::NotaGeo(RunState& run, const DatiGeotecnici& dati)
-    : stato(run), uscita(run.NumFileUscita), d(dati), testata(LeggiTabelleGeo(run.folder, 0)) {
+NotaGeo::NotaGeo(Parcella parcella, const DatiGeotecnici& dati, const TariffaGeo& tariffaGeo)
+    : Parcella(std::move(parcella)), d(dati), tariffa(tariffaGeo) {
   std::size_t riga = 0;
   for (const LottoARighe& gruppo : d.Gruppi) {
     gruppi.push_back(BasiDelGruppo(d, riga, gruppo.PeriodoDelLotto.size()));
@@ -112,14 +106,12 @@ NotaGeo::NotaGeo(RunState& run, const DatiGeotecnici& dati)
 
 void NotaGeo::StampaSpecifica() {
   uscita.Line(kRigaImporti);
-  for (std::size_t i = 0; i < gruppi.size(); ++i) {
-    const GruppoGeo& g = gruppi[i];
+  for (const GruppoGeo& g : gruppi) {
+    const std::string numeroGruppo = Numero();  // skipped with a group that prints nothing
     if (g.SommaProgetto == 0 && g.SommaDirezione == 0) continue;
-    uscita.Line(NumberText(static_cast<double>(i + 1)) + " - SOTTOCLASSE   " +
-                d.Righe[g.primaRiga].Sottoclasse);
-    StampaProgettoSpecifica(stato, 5, g.SommaProgetto);
-    if (g.SommaDirezione > kDirezioneMinimaStampata)
-      StampaLavori(stato, 5, VoceDirezioneSpecifica(d.TipoDiParcella), g.SommaDirezione);
+    uscita.Line(numeroGruppo + " SOTTOCLASSE   " + d.Righe[g.primaRiga].Sottoclasse);
+    StampaProgettoSpecifica(5, g.SommaProgetto);
+    StampaDirezioneSpecifica(5, d.TipoDiParcella, g.SommaDirezione);
   }
 }
 
@@ -129,7 +121,7 @@ void NotaGeo::CalcolaCompensi() {
     TotaleProgetto += g.ProgettoGruppo;
     TotaleDirezione += g.DirezioneGruppo;
   }
-  compensi = StampaCompensiAccessori(stato, std::max(TotaleProgetto, TotaleDirezione));
+  CompensiAccessori(ImportoInLire(std::max(TotaleProgetto, TotaleDirezione)));
 }
 
 Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const {
@@ -137,9 +129,9 @@ Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, double imp
   if (periodo < 1 || periodo > static_cast<int>(kPeriodiGeo))
     throw RuntimeFailure("Il periodo tariffario " + NumberText(periodo) + " non esiste.")
         .AtField("TariffaDelGruppo");
-  const double lire = ImportoInLire(stato, importo);
-  const TabelleGeo tabelle = LeggiTabelleGeo(stato.folder, periodo);
-  return PercentualeTagliata(stato, lire, tabelle.Percentuale(IndiceSottoclasse(riga), lire));
+  const double lire = ImportoInLire(importo);
+  const TabelleGeo tabelle = tariffa.Periodo(periodo);
+  return PercentualeTagliata(lire, tabelle.Percentuale(IndiceSottoclasse(riga), lire));
 }
 
 void NotaGeo::CalcolaGruppi() {
@@ -156,12 +148,11 @@ void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) 
   const Percentuale PProgetto = PercentualeGeo(riga, periodo, g.ProgettoGruppo);
   const Percentuale PDirezione = PercentualeGeo(riga, periodo, g.BaseDirezione);
   uscita.Line("SOTTOCLASSE " + riga.Sottoclasse + " ( tariffa " +
-              testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)] + " )");
-  if (progetto) StampaLavori(stato, 3, " - Lavori di progetto", riga.ImportoProgetto);
-  if (direzione)
-    StampaLavori(stato, 3, VoceDirezioneOnorari(d.TipoDiParcella), riga.ImportoDirezione);
-  if (progetto) StampaPercentuale(stato, " % Prog.  = ", PProgetto, g.ProgettoGruppo);
-  if (direzione) StampaPercentuale(stato, " % D.L.   = ", PDirezione, g.BaseDirezione);
+              tariffa.testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)] + " )");
+  if (progetto) StampaLavori(3, " - Lavori di progetto", riga.ImportoProgetto);
+  StampaDirezioneOnorari(d.TipoDiParcella, riga.ImportoDirezione);
+  if (progetto) StampaPercentuale(" % Prog.  = ", PProgetto, g.ProgettoGruppo);
+  if (direzione) StampaPercentuale(" % D.L.   = ", PDirezione, g.BaseDirezione);
   if (progetto)
     totaleProgetto +=
         OnorarioBlocco(BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0,
@@ -188,7 +179,7 @@ NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> 
 }
 
 std::vector<NotaGeo::Blocco> NotaGeo::BlocchiDirezione(const RigaGeo& riga) const {
-  if (stato.criteri.AliquoteDirezioneLavori == "UNITE")
+  if (criteri.AliquoteDirezioneLavori == "UNITE")
     return {BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI DIREZIONE LAVORI"},
                      kServiziProgettoGeo, 6)};
   return {
@@ -202,13 +193,13 @@ double NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, doubl
   if (blocco.quota == 0) return 0;
   for (const char* riga : blocco.titolo) uscita.Line(riga);
   if (!blocco.lettere.empty()) uscita.Line("  Prestazioni : " + blocco.lettere);
-  const double onorario = StampaOnorarioFase(
-      stato,
-      {.percentuale = P,
-       .aliquota = blocco.quota,
-       .importo = TestoImporto(stato, importo),
-       .StringaCoefficiente = compensi.StringaCoefficiente},
-      IntInLire(stato, importo * blocco.quota * P.valore / 100 * compensi.Coefficiente));
+  const double onorario = StampaOnorario({.inizio = "    ",
+                                          .percentualePrima = true,
+                                          .aliquota = blocco.quota,
+                                          .decimali = 4,
+                                          .percentuale = P,
+                                          .importo = TestoImporto(importo)},
+                                         importo * blocco.quota * P.valore / 100 * Coefficiente);
   return onorario + OnorarioArticolo18(blocco, P, importo);
 }
 
@@ -216,53 +207,52 @@ double NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, doubl
 double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo) {
   if (d.MaggiorazioneParziale != "SI") return 0;
   uscita.Line("INCARICO PARZIALE ( art. 18 )");
-  const bool conglobato = stato.criteri.CompensiSuMaggiorazione != "NO";
-  const std::string inizio = " " + FormattaCopia(kIncaricoParziale, -2) + " x ";
+  const bool conglobato = criteri.CompensiSuMaggiorazione != "NO";
+  const std::string inizio = " " + TestoQuota(kIncaricoParziale);
   double onorario = kIncaricoParziale * P.valore * blocco.quota * importo / 100;
-  if (conglobato) onorario = onorario * compensi.Coefficiente;
-  return StampaOnorarioFase(
-      stato,
-      {.inizio = inizio,
-       .percentuale = P,
-       .aliquota = blocco.quota,
-       .importo = TestoImporto(stato, importo),
-       .StringaCoefficiente = conglobato ? compensi.StringaCoefficiente : std::string_view()},
-      IntInLire(stato, onorario));
+  if (conglobato) onorario = onorario * Coefficiente;
+  return StampaOnorario({.inizio = inizio,
+                         .percentualePrima = true,
+                         .aliquota = blocco.quota,
+                         .decimali = 4,
+                         .percentuale = P,
+                         .importo = TestoImporto(importo),
+                         .conCompensi = conglobato},
+                        onorario);
 }
 
 // It carries no compensations.
 void NotaGeo::CalcolaCompensoAggiuntivo() {
   if (d.CostoIndagini == 0) return;
-  const std::string costo = TestoImporto(stato, d.CostoIndagini);
+  const std::string costo = TestoImporto(d.CostoIndagini);
   uscita.Line("Compenso aggiuntivo per tenuta rapporti contabili")
       .Line("ed amministrativi con ditte e laboratori di prove")
       .Text("geotecniche per un costo complessivo di ")
       .Tab(kColonnaImporto)
-      .Line(StringaImporto(costo, TipoImporto::Onorari, stato.ModoLire));
-  compensoAggiuntivo = IntInLire(stato, kCompensoIndagini * d.CostoIndagini);
-  StampaRigaOnorario(stato, 1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",
+      .Line(StringaImporto(costo, TipoImporto::Onorari));
+  compensoAggiuntivo = IntInLire(kCompensoIndagini * d.CostoIndagini);
+  StampaRigaOnorario(1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",
                      compensoAggiuntivo);
 }
 
 void NotaGeo::Chiudi() {
-  const double totale = totaleProgetto + totaleDirezione + compensoAggiuntivo;
+  TotaleGenerale = totaleProgetto + totaleDirezione + compensoAggiuntivo;
   std::array<double, 3> importi = {totaleProgetto, totaleDirezione, compensoAggiuntivo};
-  StampaRiepilogoPrestazioni(stato, "GEO", importi);
-  ChiudiConCompensi(stato, totale, compensi, compensoAggiuntivo);
+  StampaRiepilogoPrestazioni("GEO", importi);
+  ChiudiConCompensi(compensoAggiuntivo);
 }
 
 }  // namespace
 
-void CalcoloGEO(RunState& stato) {
-  DatiGeotecnici dati;
-  LeggiParcella(stato, dati);
-  NotaGeo nota(stato, dati);
-  ApriParcella(stato, stato.FileInt, "Per le prestazioni geotecniche sottoelencate relative a :");
+Parcella CalcoloGEO(Parcella parcella, const DatiGeotecnici& dati, const TariffaGeo& tariffa) {
+  NotaGeo nota(std::move(parcella), dati, tariffa);
+  nota.ApriParcella("Per le prestazioni geotecniche sottoelencate relative a :");
   nota.StampaSpecifica();
   nota.CalcolaCompensi();
   nota.CalcolaGruppi();
   nota.CalcolaCompensoAggiuntivo();
   nota.Chiudi();
+  return nota;
 }
 
 }  // namespace orm

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "runtime/folder.h"
@@ -30,5 +31,19 @@ struct TabelleGeo {
 // cannot be (fewer than 2 steps, amounts that do not rise, negative percentages) is a
 // RuntimeFailure with its place; what stands behind the block asked for is not looked at.
 TabelleGeo LeggiTabelleGeo(const WorkFolder& folder, int periodo);
+
+// The file for a calculation, which sees no folder: names and steps, read at once, and the tables
+// of a period, read when they are asked for.
+class TariffaGeo {
+ public:
+  explicit TariffaGeo(WorkFolder folder)
+      : testata(LeggiTabelleGeo(folder, 0)), folder_(std::move(folder)) {}
+
+  const TabelleGeo testata;
+  TabelleGeo Periodo(int periodo) const { return LeggiTabelleGeo(folder_, periodo); }
+
+ private:
+  WorkFolder folder_;
+};
 
 }  // namespace orm

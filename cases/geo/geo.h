@@ -1,13 +1,16 @@
 // Geotechnical services: a percentage of their own by subclass and period, kept in GEO.CFG.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiGeotecnici;
+class Parcella;
+struct RunState;
+class TariffaGeo;
 
 void DatiGEO(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita.
-void CalcoloGEO(RunState& stato);
+// The note of the data, printed on a blank one.
+Parcella CalcoloGEO(Parcella parcella, const DatiGeotecnici& dati, const TariffaGeo& tariffa);
 
 }  // namespace orm

@@ -6,11 +6,7 @@
 #include "cases/pdl/pdl.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/final_account.h"
 #include "tariff/law/table_articles.h"
-#include "tariff/money.h"
-#include "tariff/report.h"
 
 namespace orm {
 namespace {
@@ -31,22 +27,21 @@ int PeriodoDelCertificato(const std::string& PeriodoMassimo) {
 
 }  // namespace
 
+void NotaPdl::StampaVoce(std::string_view voce, double importo) {
+  if (importo != 0) StampaLavori(2, voce, importo);
+}
+
 void NotaPdl::StampaSpecifica() {
   uscita.Line(kRigaImporti);
   for (std::size_t i = 0; i < d.Righe.size(); ++i) {
     const RigaPdl& r = d.Righe[i];
-    const auto riga = [this](std::string_view voce, double importo) {
-      if (importo != 0) StampaLavori(stato, 2, voce, importo);
-    };
     if (std::ranges::any_of(ImportiDella(r), [](double x) { return x != 0; }))
       uscita.Line(TitoloLotto(i + 1, r.Classe, r.Categoria));
-    riga(r.ImportoProgetto < 0 ? " - LAVORI PROGETTO ORIGINARIO" : " - LAVORI DI PROGETTO",
-         std::fabs(r.ImportoProgetto));
-    riga(" - ESPROPRIAZIONI", r.ImportoEspropri);
-    riga(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi);
-    riga(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie);
-    if (r.ImportoDirezione > kDirezioneMinimaStampata)
-      riga(VoceDirezioneSpecifica(d.TipoParcella), r.ImportoDirezione);
+    StampaProgettoSpecifica(2, r.ImportoProgetto);
+    StampaVoce(" - ESPROPRIAZIONI", r.ImportoEspropri);
+    StampaVoce(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi);
+    StampaVoce(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie);
+    StampaDirezioneSpecifica(2, d.TipoParcella, r.ImportoDirezione);
   }
 }
 
@@ -56,7 +51,7 @@ void NotaPdl::CalcolaCompensi() {
     SommaProgetto += std::fabs(r.ImportoProgetto) + r.ImportoSuppletivi;
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
   }
-  compensi = StampaCompensiAccessori(stato, std::max(SommaProgetto, SommaDirezione));
+  CompensiAccessori(ImportoInLire(std::max(SommaProgetto, SommaDirezione)));
 }
 
 void NotaPdl::CalcolaLotti() {
@@ -81,23 +76,22 @@ void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto) {
 
 NotaPdl::Conto NotaPdl::PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
                                      double direzionePrima) const {
-  Conto conto{
-      riga,
-      Periodo,
-      basi,
-      direzionePrima,
-      PercentualiDellaBase(stato, basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
-      PercentualiDellaBase(stato, basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
+  Conto conto{riga,
+              Periodo,
+              basi,
+              direzionePrima,
+              PercentualiDellaBase(basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
+              PercentualiDellaBase(basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
   conto.fatti = ServiziFatti(riga.TipoPrestazione, riga.Prestazioni);
   TabellaBAliquote(riga.Classe, riga.Categoria, conto.fatti, conto.aliquote, conto.AliquotaProgetto,
                    conto.AliquotaDirezione);
   return conto;
 }
 
-void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numero) {
+void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numeroRiga) {
   const RigaPdl& riga = conto.riga;
   if (std::ranges::any_of(ImportiDella(riga), [](double x) { return x > 0; })) {
-    uscita.Text(TitoloLotto(numero, riga.Classe, riga.Categoria))
+    uscita.Text(TitoloLotto(numeroRiga, riga.Classe, riga.Categoria))
         .Tab(32)
         .Line(NomePeriodoTariffario(conto.Periodo));
     StampaImportiRiga(riga);
@@ -119,70 +113,60 @@ void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numero) {
 
 // A design that is left out shows its minus here.
 void NotaPdl::StampaImportiRiga(const RigaPdl& r) {
-  const auto riga = [this](std::string_view voce, double importo) {
-    if (importo != 0) StampaLavori(stato, 2, voce, importo);
-  };
-  riga(" - Lavori di progetto", r.ImportoProgetto);
-  riga(" - Espropriazioni", r.ImportoEspropri);
-  riga(" - Lavori suppletivi", r.ImportoSuppletivi);
-  riga(" - Espropri in perizia", r.ImportoEsproPerizie);
-  if (r.ImportoDirezione > kDirezioneMinimaStampata)
-    StampaLavori(stato, 3, VoceDirezioneOnorari(d.TipoParcella), r.ImportoDirezione);
+  StampaVoce(" - Lavori di progetto", r.ImportoProgetto);
+  StampaVoce(" - Espropriazioni", r.ImportoEspropri);
+  StampaVoce(" - Lavori suppletivi", r.ImportoSuppletivi);
+  StampaVoce(" - Espropri in perizia", r.ImportoEsproPerizie);
+  StampaDirezioneOnorari(d.TipoParcella, r.ImportoDirezione);
 }
 
 void NotaPdl::StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
                                 double base) {
-  for (const QuotaImporto& quota : QuoteDellImporto(percentuali, base, limite))
-    StampaPercentuale(stato, voce, quota.percentuale, quota.importo);
+  for (const auto& [importo, P] : QuoteDellImporto(percentuali, base))
+    StampaPercentuale(voce, P, importo);
 }
 
-void NotaPdl::CalcolaContabilita() { totali[3] = StampaContabilita(stato, contemp, compensi); }
+void NotaPdl::CalcolaContabilita() { totali[3] = StampaContabilita(); }
 
 // The last row alone decides.
 void NotaPdl::CalcolaRevisione() {
   if (totali[3] == 0 || d.Righe.back().FlagRevisione != "S" || d.Righe.back().ImportoDirezione == 0)
     return;
   uscita.Line("CALCOLO COMPENSO REVISIONALE");
-  totali[4] = IntInLire(stato, kRevisionePrezzi * kRevisionePrezziSu * totali[3]);
-  StampaRigaOnorario(stato, 1,
-                     " " + FormattaCopia(kRevisionePrezzi, -2) + " x " +
-                         FormattaCopia(kRevisionePrezziSu, -2) + " x " +
-                         TestoImporto(stato, totali[3]) + " =",
+  totali[4] = IntInLire(kRevisionePrezzi * kRevisionePrezziSu * totali[3]);
+  StampaRigaOnorario(1,
+                     " " + TestoQuota(kRevisionePrezzi) + TestoQuota(kRevisionePrezziSu) +
+                         TestoImporto(totali[3]) + " =",
                      totali[4]);
 }
 
 void NotaPdl::CalcolaCertificato() {
   if (d.CertificatoRegolare != "SI" || SommaDirezione == 0) return;
-  totali[5] =
-      StampaCertificato(stato, PeriodoDelCertificato(d.PeriodoMassimo), SommaDirezione, compensi);
+  totali[5] = StampaCertificato(PeriodoDelCertificato(d.PeriodoMassimo), SommaDirezione);
 }
-
-void NotaPdl::StampaRiepilogo() { StampaRiepilogoPrestazioni(stato, "PD", totali); }
 
 void NotaPdl::Chiudi() {
-  double totale = 0;
-  for (const double parte : totali) totale += parte;
+  StampaRiepilogoPrestazioni("PD", totali);
+  for (const double parte : totali) TotaleGenerale += parte;
   double NonConglobati = 0;
-  if (SommaArticolo18 > 0 && stato.criteri.CompensiSuMaggiorazione == "NO")
+  if (SommaArticolo18 > 0 && criteri.CompensiSuMaggiorazione == "NO")
     NonConglobati += SommaArticolo18;
-  if (UltimaSorveglianza > 0 && stato.criteri.CompensiSuSorveglianza == "NO")
+  if (UltimaSorveglianza > 0 && criteri.CompensiSuSorveglianza == "NO")
     NonConglobati += UltimaSorveglianza;
-  ChiudiConCompensi(stato, totale, compensi, NonConglobati);
+  ChiudiConCompensi(NonConglobati);
 }
 
-void CalcoloPdl(RunState& stato) {
-  DatiPdl dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt, "Per le prestazioni sottoelencate relative a :");
-  NotaPdl nota(stato, dati);
+Parcella CalcoloPdl(Parcella parcella, const DatiPdl& dati) {
+  NotaPdl nota(std::move(parcella), dati);
+  nota.ApriParcella("Per le prestazioni sottoelencate relative a :");
   nota.StampaSpecifica();
   nota.CalcolaCompensi();
   nota.CalcolaLotti();
   nota.CalcolaContabilita();
   nota.CalcolaRevisione();
   nota.CalcolaCertificato();
-  nota.StampaRiepilogo();
   nota.Chiudi();
+  return nota;
 }
 
 }  // namespace orm

@@ -1,5 +1,6 @@
 #include "cases/pdl/form_reports.h"
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 
 namespace orm {

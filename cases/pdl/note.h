@@ -4,14 +4,13 @@
 #include <array>
 
 #include "cases/pdl/rules.h"
-#include "tariff/accounting_block.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 
-class NotaPdl {
+class NotaPdl : public Parcella {
  public:
-  NotaPdl(RunState& run, const DatiPdl& dati)
-      : stato(run), uscita(run.NumFileUscita), d(dati), limite(LimiteTabellaA(run)) {}
+  NotaPdl(Parcella parcella, const DatiPdl& dati) : Parcella(std::move(parcella)), d(dati) {}
 
   void StampaSpecifica();
   void CalcolaCompensi();
@@ -19,7 +18,6 @@ class NotaPdl {
   void CalcolaContabilita();
   void CalcolaRevisione();
   void CalcolaCertificato();
-  void StampaRiepilogo();
   void Chiudi();
 
  private:
@@ -43,7 +41,8 @@ class NotaPdl {
   void CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto);
   Conto PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
                      double direzionePrima) const;
-  void CalcolaRiga(const Conto& conto, std::size_t numero);
+  void CalcolaRiga(const Conto& conto, std::size_t numeroRiga);
+  void StampaVoce(std::string_view voce, double importo);
   void StampaImportiRiga(const RigaPdl& riga);
   void StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
                          double base);
@@ -60,13 +59,8 @@ class NotaPdl {
   void StampaTitoloArticolo18() { uscita.Line("INCARICO PARZIALE ( art. 18 )"); }
   double OnorarioArticolo18(double aliquota, const QuotaImporto& quota, bool oltreLimite);
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiPdl& d;
-  const double limite;
-  Compensi compensi;
   double SommaDirezione = 0;
-  std::vector<RigaContabilita> contemp;
   double SommaArticolo18 = 0;
   double UltimaSorveglianza = 0;  // of the last row alone
   // Design with art. 18 and variations, supervision with art. 18, surveillance, accounting,

@@ -2,13 +2,15 @@
 // through several tariff periods.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiPdl;
+class Parcella;
+struct RunState;
 
 void InputPdl(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita.
-void CalcoloPdl(RunState& stato);
+// The note of the data, printed on a blank one.
+Parcella CalcoloPdl(Parcella parcella, const DatiPdl& dati);
 
 }  // namespace orm

@@ -4,10 +4,10 @@
 
 #include "cases/pdl/form_reports.h"
 #include "cases/pdl/form_services.h"
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "tariff/forms/form_amounts.h"
 #include "tariff/forms/form_pdl_extras.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

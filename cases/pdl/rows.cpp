@@ -3,42 +3,30 @@
 
 #include "cases/pdl/note.h"
 #include "tariff/law/table_articles.h"
-#include "tariff/money.h"
 
 namespace orm {
-namespace {
-
-// " 0,25 x", the start of a formula.
-std::string Inizio(double quota) { return " " + FormattaCopia(quota, -2) + " x"; }
-
-}  // namespace
 
 double NotaPdl::StampaQuota(double aliquota, const QuotaImporto& quota) {
-  const double onorario =
-      quota.importo * quota.percentuale.valore * aliquota / 100 * compensi.Coefficiente;
-  return StampaOnorario(stato,
-                        {.aliquota = aliquota,
-                         .percentuale = quota.percentuale,
-                         .importo = quota.importo,
-                         .StringaCoefficiente = compensi.StringaCoefficiente},
-                        IntInLire(stato, onorario));
+  const auto& [importo, P] = quota;
+  return StampaOnorario({.aliquota = aliquota, .percentuale = P, .importo = TestoImporto(importo)},
+                        importo * P.valore * aliquota / 100 * Coefficiente);
 }
 
 // The increase for a commission of a part of the services. Without its compensations and above the
 // limit the text lacks a blank.
 double NotaPdl::OnorarioArticolo18(double aliquota, const QuotaImporto& quota, bool oltreLimite) {
-  const bool conCompensi = stato.criteri.CompensiSuMaggiorazione != "NO";
-  const std::string inizio = Inizio(kIncaricoParziale) + (oltreLimite && !conCompensi ? "" : " ");
-  double onorario = kIncaricoParziale * aliquota * quota.percentuale.valore * quota.importo / 100;
-  if (conCompensi) onorario *= compensi.Coefficiente;
-  onorario = StampaOnorario(
-      stato,
-      {.inizio = inizio,
-       .aliquota = aliquota,
-       .percentuale = quota.percentuale,
-       .importo = quota.importo,
-       .StringaCoefficiente = conCompensi ? compensi.StringaCoefficiente : std::string_view()},
-      IntInLire(stato, onorario));
+  const auto& [importo, P] = quota;
+  const bool conCompensi = criteri.CompensiSuMaggiorazione != "NO";
+  std::string inizio = " " + TestoQuota(kIncaricoParziale);
+  if (oltreLimite && !conCompensi) inizio.pop_back();
+  double onorario = kIncaricoParziale * aliquota * P.valore * importo / 100;
+  if (conCompensi) onorario *= Coefficiente;
+  onorario = StampaOnorario({.inizio = inizio,
+                             .aliquota = aliquota,
+                             .percentuale = P,
+                             .importo = TestoImporto(importo),
+                             .conCompensi = conCompensi},
+                            onorario);
   SommaArticolo18 += onorario;
   return onorario;
 }
@@ -52,7 +40,7 @@ double NotaPdl::OnorarioProgetto(const Conto& conto) {
                 : TestoPrestazioni(conto.fatti, GruppoServiziPdl::Progetto));
   const double ImportoFee =
       riga.ImportoProgetto + riga.ImportoEspropri + conto.basi.EccedenzaLavori;
-  const auto quote = QuoteDellImporto(conto.progetto, ImportoFee, limite);
+  const auto quote = QuoteDellImporto(conto.progetto, ImportoFee);
   double onorario = 0;
   for (const QuotaImporto& quota : quote) onorario += StampaQuota(conto.AliquotaProgetto, quota);
   if (d.IncaricoParziale != "SI") return onorario;
@@ -75,8 +63,8 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
                                                    : "PERIZIA DI ASSESTAMENTO");
   const double ImportoPerizia = perizia.LavoriSuppletivi + perizia.EsproPerizia;
   const auto percentuali =
-      PercentualiDellaBase(stato, ImportoPerizia + perizia.LavoriVariati, conto.Periodo,
-                           conto.riga.Classe, conto.riga.Categoria);
+      PercentualiDellaBase(ImportoPerizia + perizia.LavoriVariati, conto.Periodo, conto.riga.Classe,
+                           conto.riga.Categoria);
   const Aliquote fatti = ServiziFatti(perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati,
                                       "PrestazioniVariati");
   double SommaDesign = 0, SommaFlag = 0;
@@ -101,24 +89,17 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
 // Above the limit the report's whole decides, and each of its amounts is split.
 double NotaPdl::OnorarioPerizia(double aliquota, double importo,
                                 const PercentualiTabellaA& percentuali) {
-  const std::string inizio = Inizio(kPerizie) + " ";
+  const std::string inizio = " " + TestoQuota(kPerizie);
   double totale = 0;
-  for (const QuotaImporto& quota : QuoteDellImporto(percentuali, importo, limite)) {
-    const double onorario = kPerizie * quota.importo * quota.percentuale.valore * aliquota / 100 *
-                            compensi.Coefficiente;
-    totale += StampaOnorario(stato,
-                             {.inizio = inizio,
-                              .aliquota = aliquota,
-                              .percentuale = quota.percentuale,
-                              .importo = quota.importo,
-                              .StringaCoefficiente = compensi.StringaCoefficiente},
-                             IntInLire(stato, onorario));
-  }
+  for (const auto& [parte, P] : QuoteDellImporto(percentuali, importo))
+    totale += StampaOnorario(
+        {.inizio = inizio, .aliquota = aliquota, .percentuale = P, .importo = TestoImporto(parte)},
+        kPerizie * parte * P.valore * aliquota / 100 * Coefficiente);
   return totale;
 }
 
 std::vector<NotaPdl::VoceDirezione> NotaPdl::VociDirezione(const Conto& conto) const {
-  if (stato.criteri.AliquoteDirezioneLavori != "SEPARATE")
+  if (criteri.AliquoteDirezioneLavori != "SEPARATE")
     return {{"DIREZIONE LAVORI : prestazioni " +
                  (conto.riga.TipoPrestazione == "T"
                       ? "complete"
@@ -150,7 +131,7 @@ double NotaPdl::OnorarioDirezione(const Conto& conto) {
   for (const auto& [titolo, aliquota] : VociDirezione(conto)) {
     uscita.Line(titolo);
     for (const QuotaImporto& quota :
-         QuoteProgressive(conto.direzione, importo, conto.direzionePrima, limite))
+         QuoteProgressive(conto.direzione, importo, conto.direzionePrima))
       onorario += StampaQuota(aliquota, quota);
     if (d.IncaricoParziale != "SI" || base18 <= 0) continue;
     StampaTitoloArticolo18();
@@ -162,22 +143,20 @@ double NotaPdl::OnorarioDirezione(const Conto& conto) {
 
 double NotaPdl::OnorarioSorveglianza(const Conto& conto) {
   const double aliquota = conto.aliquote[7];  // done or not
-  const bool conCompensi = stato.criteri.CompensiSuSorveglianza != "NO";
+  const bool conCompensi = criteri.CompensiSuSorveglianza != "NO";
   uscita.Line("SORVEGLIANZA ( art. 17 )");
-  const std::string inizio = Inizio(kSorveglianza) + " ";
+  const std::string inizio = " " + TestoQuota(kSorveglianza);
   double totale = 0;
-  for (const QuotaImporto& quota : QuoteProgressive(conto.direzione, conto.riga.ImportoDirezione,
-                                                    conto.direzionePrima, limite)) {
-    double onorario = kSorveglianza * aliquota * quota.importo * quota.percentuale.valore / 100;
-    if (conCompensi) onorario *= compensi.Coefficiente;
-    totale += StampaOnorario(
-        stato,
-        {.inizio = inizio,
-         .aliquota = aliquota,
-         .percentuale = quota.percentuale,
-         .importo = quota.importo,
-         .StringaCoefficiente = conCompensi ? compensi.StringaCoefficiente : std::string_view()},
-        IntInLire(stato, onorario));
+  for (const auto& [importo, P] :
+       QuoteProgressive(conto.direzione, conto.riga.ImportoDirezione, conto.direzionePrima)) {
+    double onorario = kSorveglianza * aliquota * importo * P.valore / 100;
+    if (conCompensi) onorario *= Coefficiente;
+    totale += StampaOnorario({.inizio = inizio,
+                              .aliquota = aliquota,
+                              .percentuale = P,
+                              .importo = TestoImporto(importo),
+                              .conCompensi = conCompensi},
+                             onorario);
   }
   return totale;
 }

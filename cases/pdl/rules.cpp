@@ -4,6 +4,7 @@
 
 #include "runtime/failure.h"
 #include "tariff/law/table_b.h"
+#include "tariff/lot_lines.h"
 
 namespace orm {
 namespace {

@@ -7,7 +7,6 @@
 
 #include "cases/pdl/data.h"
 #include "tariff/law/tariff_tables.h"
-#include "tariff/table_a_slices.h"
 
 namespace orm {
 

@@ -1,100 +1,102 @@
+// The fee of expropriation plans: a fixed rate for each unit.
 #include "cases/ppe/data.h"
 #include "cases/ppe/ppe.h"
 #include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/final_account.h"
 #include "tariff/law/table_expropriation.h"
-#include "tariff/money.h"
-#include "tariff/report.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
 
-double Tariffa(const TariffaPpe& tariffa, bool modoLire) {
-  if (modoLire) return tariffa.lire;
-  return tariffa.euro != 0 ? tariffa.euro : LireInEuro(tariffa.lire);
-}
-
-const char* Testo(const TariffaPpe& tariffa, bool modoLire) {
-  return modoLire ? tariffa.testoLire : tariffa.testoEuro;
-}
-
-// In Lire a product is one of 32-bit whole numbers, and a greater one a failure; the sums are not.
-double Prodotto(std::int16_t numero, const TariffaPpe& tariffa, bool modoLire) {
-  if (modoLire) return CheckedProduct32(numero, tariffa.lire);
-  return numero * Tariffa(tariffa, modoLire);
-}
-
 // A number behind a text keeps the blank of its sign place: " n°  5", " + 1".
 std::string ConSegno(std::int16_t numero) { return (numero < 0 ? "" : " ") + NumberText(numero); }
 
-void StampaDati(ReportPrinter& uscita, const DatiPpe& dati) {
-  const auto riga = [&uscita](const char* etichetta, std::int16_t numero) {
+class NotaPpe : public Parcella {
+ public:
+  NotaPpe(Parcella parcella, const DatiPpe& dati) : Parcella(std::move(parcella)), d(dati) {}
+
+  void StampaDati();
+  void CalcolaOnorari();
+
+ private:
+  double Tariffa(const TariffaPpe& tariffa) const {
+    return tariffa.euro != 0 && !ModoLire ? tariffa.euro : InValuta(tariffa.lire);
+  }
+  const char* Testo(const TariffaPpe& tariffa) const {
+    return ModoLire ? tariffa.testoLire : tariffa.testoEuro;
+  }
+  // In Lire a product is one of 32-bit whole numbers, and a greater one a failure; the sums are
+  // not.
+  double Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
+    return ModoLire ? CheckedProduct32(numero, tariffa.lire) : numero * Tariffa(tariffa);
+  }
+  void CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa);
+  void CalcolaVerbale();
+  void StampaBlocco(const char* titolo, const std::string& formula, double importo);
+
+  const DatiPpe& d;
+};
+
+void NotaPpe::StampaDati() {
+  const auto riga = [this](const char* etichetta, std::int16_t numero) {
     if (numero != 0) uscita.Text(etichetta).Bare(numero).EndLine();
   };
   uscita.Line(kRigaDatiParcella);
-  riga("Numero Partite catastali    : ", dati.NumPartite);
-  riga("Numero Particelle catastali : ", dati.NumParticelle);
-  if (dati.NumParticelleVerbale + dati.NumFabbricati != 0) {
+  riga("Numero Partite catastali    : ", d.NumPartite);
+  riga("Numero Particelle catastali : ", d.NumParticelle);
+  if (d.NumParticelleVerbale + d.NumFabbricati != 0) {
     uscita.Line("Redazione verbale di consistenza");
-    riga("relativo a Numero Particelle catastali : ", dati.NumParticelleVerbale);
-    riga("relativo a Numero Fabbricati           : ", dati.NumFabbricati);
+    riga("relativo a Numero Particelle catastali : ", d.NumParticelleVerbale);
+    riga("relativo a Numero Fabbricati           : ", d.NumFabbricati);
   }
-  riga("Numero Frazionamenti : ", dati.NumFrazionamenti);
+  riga("Numero Frazionamenti : ", d.NumFrazionamenti);
 }
 
-// The fee of a block: its text, how it comes about, and the amount, cut as printed and then summed.
-void StampaOnorario(RunState& stato, const char* titolo, const std::string& formula, double importo,
-                    double& totale) {
-  const std::string testo = FormattaNumero(importo, stato.DecimaliValuta());
-  stato.NumFileUscita.Line(titolo)
-      .Text(formula + " ")
-      .Tab(kColonnaImporto)
-      .Line(StringaImporto(testo, TipoImporto::Onorari, stato.ModoLire));
-  totale += importo;
+void NotaPpe::CalcolaOnorari() {
+  uscita.Line(kRigaOnorariCompensi);
+  CalcolaQuantita("Onorario in funzione delle Partite ", d.NumPartite, kTariffaPartita);
+  CalcolaQuantita("Onorario in funzione delle Particelle ", d.NumParticelle, kTariffaParticella);
+  CalcolaVerbale();
+  CalcolaQuantita("Onorario in funzione dei frazionamenti ", d.NumFrazionamenti,
+                  kTariffaFrazionamento);
 }
 
-void StampaQuantita(RunState& stato, const char* titolo, std::int16_t numero,
-                    const TariffaPpe& tariffa, double& totale) {
-  if (numero == 0) return;
-  StampaOnorario(stato, titolo, " n° " + ConSegno(numero) + Testo(tariffa, stato.ModoLire),
-                 Prodotto(numero, tariffa, stato.ModoLire), totale);
+void NotaPpe::CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa) {
+  if (numero != 0)
+    StampaBlocco(titolo, " n° " + ConSegno(numero) + Testo(tariffa), Prodotto(numero, tariffa));
 }
 
-void StampaVerbale(RunState& stato, const DatiPpe& dati, double& totale) {
-  if (dati.NumParticelleVerbale + dati.NumFabbricati == 0) return;
-  const bool lire = stato.ModoLire;
-  std::string formula = Testo(kTariffaVerbale, lire);
-  if (dati.NumParticelleVerbale != 0)
-    formula += " +" + ConSegno(dati.NumParticelleVerbale) + Testo(kTariffaParticellaVerbale, lire);
-  if (dati.NumFabbricati != 0)
-    formula += " +" + ConSegno(dati.NumFabbricati) + Testo(kTariffaFabbricato, lire);
-  const double importo = Tariffa(kTariffaVerbale, lire) +
-                         Prodotto(dati.NumParticelleVerbale, kTariffaParticellaVerbale, lire) +
-                         Prodotto(dati.NumFabbricati, kTariffaFabbricato, lire);
-  StampaOnorario(stato, "Onorario per verbale di consistenza ", formula, importo, totale);
+void NotaPpe::CalcolaVerbale() {
+  if (d.NumParticelleVerbale + d.NumFabbricati == 0) return;
+  std::string formula = Testo(kTariffaVerbale);
+  const auto addendo = [&](std::int16_t numero, const TariffaPpe& tariffa) {
+    if (numero != 0) formula += " +" + ConSegno(numero) + Testo(tariffa);
+    return Prodotto(numero, tariffa);
+  };
+  double importo = Tariffa(kTariffaVerbale);
+  importo += addendo(d.NumParticelleVerbale, kTariffaParticellaVerbale);
+  importo += addendo(d.NumFabbricati, kTariffaFabbricato);
+  StampaBlocco("Onorario per verbale di consistenza ", formula, importo);
+}
+
+// The fee of a block: its text, how it comes about, and the amount.
+void NotaPpe::StampaBlocco(const char* titolo, const std::string& formula, double importo) {
+  uscita.Line(titolo).Text(formula + " ");
+  StampaImporto(importo);
+  TotaleGenerale += importo;
 }
 
 }  // namespace
 
-void CalcoloPpe(RunState& stato, double& totale) {
-  DatiPpe dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt,
-               "per le prestazioni di redazione di piani particellari di esproprio relative a :");
-  StampaDati(stato.NumFileUscita, dati);
-
-  stato.NumFileUscita.Line(kRigaOnorariCompensi);
-  totale = 0;
-  StampaQuantita(stato, "Onorario in funzione delle Partite ", dati.NumPartite, kTariffaPartita,
-                 totale);
-  StampaQuantita(stato, "Onorario in funzione delle Particelle ", dati.NumParticelle,
-                 kTariffaParticella, totale);
-  StampaVerbale(stato, dati, totale);
-  StampaQuantita(stato, "Onorario in funzione dei frazionamenti ", dati.NumFrazionamenti,
-                 kTariffaFrazionamento, totale);
-
-  ChiudiParcella(stato, totale, 0);
+Parcella CalcoloPpe(Parcella parcella, const DatiPpe& dati, double& totale) {
+  NotaPpe nota(std::move(parcella), dati);
+  nota.ApriParcella(
+      "per le prestazioni di redazione di piani particellari di esproprio relative a :");
+  nota.StampaDati();
+  nota.CalcolaOnorari();
+  totale = nota.TotaleGenerale;
+  nota.ChiudiParcella(totale, 0);
+  return nota;
 }
 
 }  // namespace orm

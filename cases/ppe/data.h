@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "runtime/data_file.h"
-#include "shell/state/run_state.h"
 
 namespace orm {
 

@@ -1,14 +1,16 @@
 // Expropriation plans: a fixed tariff for each cadastral unit.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiPpe;
+class Parcella;
+struct RunState;
 
 void InputPpe(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita; `totale` receives the sum of the fees. A product
-// in Lire beyond 32 bits is a failure.
-void CalcoloPpe(RunState& stato, double& totale);
+// The note of the data, printed on a blank one; `totale` receives the sum of the fees. A product in
+// Lire beyond 32 bits is a failure.
+Parcella CalcoloPpe(Parcella parcella, const DatiPpe& dati, double& totale);
 
 }  // namespace orm

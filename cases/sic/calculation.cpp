@@ -4,18 +4,11 @@
 
 #include "cases/sic/note.h"
 #include "cases/sic/sic.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/money.h"
-#include "tariff/report.h"
 
 namespace orm {
 
-NotaSic::NotaSic(RunState& run, const DatiSicurezza& dati)
-    : stato(run),
-      uscita(run.NumFileUscita),
-      d(dati),
-      versione(VersioneDi(run.CasoDiParcella)),
-      limite(LimiteTabellaA(run)) {
+NotaSic::NotaSic(Parcella parcella, const DatiSicurezza& dati)
+    : Parcella(std::move(parcella)), d(dati), versione(VersioneDi(CasoDiParcella)) {
   std::size_t k = 0;
   for (std::size_t i = 0; i < d.Gruppi.size(); ++i)
     for (const int periodo : d.Gruppi[i].PeriodoDelLotto) {
@@ -54,13 +47,13 @@ void NotaSic::StampaSpecifica() {
     const Gruppo& g = gruppi[i];
     if (g.SommaProgetto == 0 && g.SommaEseguito == 0) continue;
     uscita.Line(TitoloLotto(i + 1, d.Lotti[k].Classe, d.Lotti[k].Categoria));
-    StampaProgettoSpecifica(stato, 5, g.SommaProgetto);
-    if (g.SommaEseguito > 0) StampaLavori(stato, 5, " - LAVORI ESEGUITI         ", g.SommaEseguito);
+    StampaProgettoSpecifica(5, g.SommaProgetto);
+    if (g.SommaEseguito > 0) StampaLavori(5, " - LAVORI ESEGUITI         ", g.SommaEseguito);
   }
 }
 
 void NotaSic::CalcolaCompensi() {
-  compensi = StampaCompensiAccessori(stato, std::max(TotaleProgetto, TotaleEseguito));
+  CompensiAccessori(ImportoInLire(std::max(TotaleProgetto, TotaleEseguito)));
 }
 
 bool NotaSic::Impegnato(const Lotto& lotto, std::size_t p) const {
@@ -73,20 +66,19 @@ void NotaSic::CalcolaPrestazioni() {
   for (std::size_t p = 0; p < kPrestazioniSic.size(); ++p) {
     if (std::ranges::none_of(lotti, [&](const Lotto& lotto) { return Impegnato(lotto, p); }))
       continue;
-    const double minimo = kPrestazioniSic[p].minimo;
-    totale += OnorarioFase({p, kPrestazioniSic[p], stato.ModoLire ? minimo : LireInEuro(minimo)});
+    const auto& prestazione = kPrestazioniSic[p];
+    TotaleGenerale += OnorarioFase({p, prestazione, InValuta(prestazione.minimo)});
   }
 }
 
-void CalcoloSIC(RunState& stato) {
-  DatiSicurezza dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt, "Per le prestazioni previste dal D.Lgs 494/96 relative a :");
-  NotaSic nota(stato, dati);
+Parcella CalcoloSIC(Parcella parcella, const DatiSicurezza& dati) {
+  NotaSic nota(std::move(parcella), dati);
+  nota.ApriParcella("Per le prestazioni previste dal D.Lgs 494/96 relative a :");
   nota.StampaSpecifica();
   nota.CalcolaCompensi();
   nota.CalcolaPrestazioni();
-  nota.Chiudi();
+  nota.ChiudiConCompensi();
+  return nota;
 }
 
 }  // namespace orm

@@ -1,4 +1,5 @@
 #include "cases/sic/forms.h"
+#include "dialogs/message_boxes.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {

@@ -3,15 +3,13 @@
 #include "cases/sic/note.h"
 #include "runtime/failure.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
 
 namespace orm {
 
 double NotaSic::StampaMinimo(const Fase& fase) {
   uscita.Line("  ONORARIO MINIMO  ");
-  double risultato = IntInLire(stato, fase.Minimo * compensi.Coefficiente);
-  StampaRigaOnorario(
-      stato, 1, TestoImporto(stato, fase.Minimo) + compensi.StringaCoefficiente + " =", risultato);
+  double risultato = IntInLire(fase.Minimo * Coefficiente);
+  StampaRigaOnorario(1, TestoImporto(fase.Minimo) + StringaCoefficiente + " =", risultato);
   return risultato;
 }
 
@@ -24,26 +22,24 @@ double NotaSic::StampaMinimoInParte(const Fase& fase, bool ancora) {
   double Rapporto = TotaleEseguito / TotaleProgetto;
   const std::string testo = FormattaNumero(Rapporto, 2);
   uscita
-      .Text(stato.ModoLire && !ancora ? "  PERCENTUALE dei LAVORI già ESEGUITI sul Totale : "
-                                      : "  Percentuale dei LAVORI già ESEGUITI sul Totale : ")
+      .Text(ModoLire && !ancora ? "  PERCENTUALE dei LAVORI già ESEGUITI sul Totale : "
+                                : "  Percentuale dei LAVORI già ESEGUITI sul Totale : ")
       .Line(testo);
   uscita.Line("  ONORARIO MINIMO  ");
-  double risultato = IntInLire(stato, Rapporto * fase.Minimo * compensi.Coefficiente);
-  StampaRigaOnorario(
-      stato, 1,
-      testo + " x " + TestoImporto(stato, fase.Minimo) + compensi.StringaCoefficiente + " =",
-      risultato);
+  double risultato = IntInLire(Rapporto * fase.Minimo * Coefficiente);
+  StampaRigaOnorario(1, testo + " x " + TestoImporto(fase.Minimo) + StringaCoefficiente + " =",
+                     risultato);
   return risultato;
 }
 
 bool NotaSic::OnorarioMinimoFase(const Fase& fase, double& risultato) {
-  if (fase.Minimo * compensi.Coefficiente <= risultato) return false;
+  if (fase.Minimo * Coefficiente <= risultato) return false;
   risultato = StampaMinimo(fase);
   return true;
 }
 
 bool NotaSic::OnorarioMinimoEsecuzione(const Fase& fase, double& risultato) {
-  const double MinimoPieno = fase.Minimo * compensi.Coefficiente;
+  const double MinimoPieno = fase.Minimo * Coefficiente;
   if (MinimoPieno <= risultato) return false;
   const bool normale = d.TipoDiParcella == "NORMALE";
   const bool tutto = normale ? TotaleEseguito >= TotaleProgetto : d.TipoDiParcella == "CONSUNTIVA";
@@ -64,7 +60,7 @@ double NotaSic::OnorarioSuProgetto(const Fase& fase) const {
   for (const Lotto& lotto : lotti) {
     if (lotto.ImportoBase <= 0) continue;
     const PercentualiTabellaA percentuali = PercentualeDiLotto(lotto, false);
-    for (const QuotaImporto& quota : QuoteDellImporto(percentuali, lotto.ImportoBase, limite))
+    for (const QuotaImporto& quota : QuoteDellImporto(percentuali, lotto.ImportoBase))
       risultato += Prodotto(quota, fase.prestazione.aliquota, f.maggiorazioni, f.incrementi);
   }
   return risultato;

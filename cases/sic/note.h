@@ -5,18 +5,17 @@
 
 #include "cases/sic/data.h"
 #include "tariff/law/site_safety.h"
-#include "tariff/table_a_slices.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 
-class NotaSic {
+class NotaSic : public Parcella {
  public:
-  NotaSic(RunState& run, const DatiSicurezza& dati);
+  NotaSic(Parcella parcella, const DatiSicurezza& dati);
 
   void StampaSpecifica();
   void CalcolaCompensi();
   void CalcolaPrestazioni();
-  void Chiudi() { ChiudiConCompensi(stato, totale, compensi); }
 
  private:
   // A lot with what its group and its design and execution come to.
@@ -76,16 +75,11 @@ class NotaSic {
   double StampaMinimoInParte(const Fase& fase, bool ancora);
   double OnorarioSuProgetto(const Fase& fase) const;
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiSicurezza& d;
   const VersioneSic& versione;
-  const double limite;
   std::vector<Lotto> lotti;
   std::vector<Gruppo> gruppi;
   double TotaleProgetto = 0, TotaleEseguito = 0;
-  Compensi compensi;
-  double totale = 0;
 };
 
 }  // namespace orm

@@ -3,8 +3,6 @@
 #include "runtime/text.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
-#include "tariff/phase_lines.h"
-#include "tariff/report.h"
 
 namespace orm {
 namespace {
@@ -24,13 +22,13 @@ PercentualiTabellaA NotaSic::PercentualeDiLotto(const Lotto& lotto, bool progett
   const Gruppo& g = gruppi[lotto.gruppo];
   const std::string &classe = lotto.dati.Classe, &categoria = lotto.dati.Categoria;
   if (versione.SC2)
-    return {PercentualeDaTabellaNuova(stato, progetto ? g.BaseProgetto : g.BaseEsecuzione, classe,
-                                      categoria),
-            {}};
+    return {
+        PercentualeDaTabellaNuova(progetto ? g.BaseProgetto : g.BaseEsecuzione, classe, categoria),
+        {}};
   const auto tabella = [&](double importo) {
-    return PercentualeDaTabellaA(stato, importo, lotto.periodo, classe, categoria);
+    return PercentualeDaTabellaA(importo, lotto.periodo, classe, categoria);
   };
-  const double base = progetto ? g.ProgettoGruppo : g.BaseEsecuzione;
+  const double base = progetto ? g.ProgettoGruppo : g.BaseEsecuzione, limite = LimiteTabellaA();
   if (g.ProgettoGruppo > limite && lotto.periodo > 4) return {tabella(limite), tabella(base), true};
   return {tabella(base), {}};
 }
@@ -65,16 +63,16 @@ NotaSic::Conto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const {
 
 double NotaSic::Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
                          double incrementi) const {
-  return IntInLire(stato, quota.percentuale.valore * quota.importo * aliquota / 100 *
-                              compensi.Coefficiente * maggiorazioni * incrementi);
+  return IntInLire(quota.percentuale.valore * quota.importo * aliquota / 100 * Coefficiente *
+                   maggiorazioni * incrementi);
 }
 
 // Works executed up to the limit take the first percentage alone; a design does not look at the
 // lot's amount, and the second slice may be less than nothing.
 std::vector<NotaSic::Termine> NotaSic::Termini(const Fase& fase, const Conto& conto) const {
-  const bool unaFetta = !fase.prestazione.progetto && conto.importo <= limite;
+  const bool unaFetta = !fase.prestazione.progetto && conto.importo <= LimiteTabellaA();
   const auto quote = unaFetta ? std::vector<QuotaImporto>{{conto.importo, conto.percentuali.entro}}
-                              : QuoteDellImporto(conto.percentuali, conto.importo, limite);
+                              : QuoteDellImporto(conto.percentuali, conto.importo);
   std::vector<Termine> termini;
   for (const QuotaImporto& quota : quote)
     termini.push_back({quota, conto.importo > 0
@@ -116,10 +114,11 @@ void NotaSic::StampaPercentuali(const Lotto& lotto, const Conto& conto) {
   const double base = gruppi[lotto.gruppo].ProgettoGruppo;
   const auto& [entro, oltre, divise] = conto.percentuali;
   if (!divise) {
-    StampaPercentuale(stato, "  - Percentuale Tab. A = ", entro, base, colonna);
+    StampaPercentuale("  - Percentuale Tab. A = ", entro, base, colonna);
   } else {
-    StampaPercentuale(stato, "  - Percentuale Tab. A =  ", entro, limite, colonna);
-    StampaPercentuale(stato, "  - Percentuale Tab. A =  ", oltre, base - limite, colonna);
+    const double limite = LimiteTabellaA();
+    StampaPercentuale("  - Percentuale Tab. A =  ", entro, limite, colonna);
+    StampaPercentuale("  - Percentuale Tab. A =  ", oltre, base - limite, colonna);
   }
 }
 
@@ -129,7 +128,7 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
   const double aliquota = fase.prestazione.aliquota;
   uscita.Line("  " + TitoloLotto(lotto.numero, lotto.dati.Classe, lotto.dati.Categoria) + "      " +
               NomePeriodoTariffario(lotto.periodo));
-  StampaLavori(stato, 3, "- Lavori ", conto.importo);
+  StampaLavori(3, "- Lavori ", conto.importo);
   StampaPercentuali(lotto, conto);
   uscita.Text("  - Aliquota = " + FormattaCopia(aliquota, 4));
   std::string fattori;
@@ -144,18 +143,18 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
 
   const std::vector<Termine> termini = Termini(fase, conto);
   std::vector<std::string> importi;
-  for (const Termine& termine : termini)
-    importi.push_back(TestoImporto(stato, termine.quota.importo));
+  for (const Termine& termine : termini) importi.push_back(TestoImporto(termine.quota.importo));
   if (importi.size() == 2) PareggiaStringhe(importi[0], importi[1]);
   double onorario = 0;
   for (std::size_t i = 0; i < termini.size(); ++i)
-    onorario += StampaOnorarioFase(stato,
-                                   {.percentuale = termini[i].quota.percentuale,
-                                    .aliquota = aliquota,
-                                    .importo = importi[i],
-                                    .fattori = fattori,
-                                    .StringaCoefficiente = compensi.StringaCoefficiente},
-                                   termini[i].onorario);
+    onorario += StampaOnorario({.inizio = "    ",
+                                .percentualePrima = true,
+                                .aliquota = aliquota,
+                                .decimali = 4,
+                                .percentuale = termini[i].quota.percentuale,
+                                .importo = importi[i],
+                                .fattori = fattori},
+                               termini[i].onorario);
   return onorario;
 }
 

@@ -2,14 +2,16 @@
 // D.M. 4-4-2001 with its curve. CasoDiParcella tells which.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiSicurezza;
+class Parcella;
+struct RunState;
 
 void DatiSIC(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita. A least fee by the part of the works done, where
-// no works were designed, is a failure.
-void CalcoloSIC(RunState& stato);
+// The note of the data, printed on a blank one. A least fee by the part of the works done, where no
+// works were designed, is a failure.
+Parcella CalcoloSIC(Parcella parcella, const DatiSicurezza& dati);
 
 }  // namespace orm

@@ -4,13 +4,10 @@
 
 #include "cases/stc/data.h"
 #include "cases/stc/stc.h"
-#include "runtime/numbers.h"
-#include "tariff/files/closing_line.h"
-#include "tariff/final_account.h"
+#include "tariff/config/price_index.h"
 #include "tariff/law/table_condition_surveys.h"
 #include "tariff/money.h"
-#include "tariff/price_index.h"
-#include "tariff/report.h"
+#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
@@ -31,31 +28,26 @@ OnorarioStc ApplicaFormula(std::span<const ScaglioneStc> scaglioni, double quant
   return {f.fisso + f.unitario * eccedenza, f.testo + FormattaCopia(eccedenza, 0)};
 }
 
-class NotaStc {
+class NotaStc : public Parcella {
  public:
-  NotaStc(RunState& run, const DatiStc& dati) : stato(run), uscita(run.NumFileUscita), d(dati) {}
+  NotaStc(Parcella parcella, const DatiStc& dati) : Parcella(std::move(parcella)), d(dati) {}
 
   void StampaDati();
   void CalcolaOnorario();
-  void Rivaluta();
-  void Chiudi() { ChiudiParcella(stato, Onorario, 0); }
+  void Rivaluta(const IndiciFoi& indici);
 
  private:
-  void StampaImporto(const std::string& testo, double& importo);
   double OnorarioPer(const char* titolo, std::span<const ScaglioneStc> formula,
                      std::int32_t quantita);
 
-  RunState& stato;
-  ReportPrinter& uscita;
   const DatiStc& d;
-  double Onorario = 0;
 };
 
 void NotaStc::StampaDati() {
   const auto riga = [this](const char* etichetta, const char* unita, double quantita) {
     if (quantita == 0) return;
     uscita.Text(etichetta).Tab(24).Text(unita);
-    StampaAllineataVirgola(stato, FormattaCopia(quantita, 0), 42);
+    StampaAllineataVirgola(FormattaCopia(quantita, 0), 42);
   };
   uscita.Line(kRigaDatiParcella);
   riga("Superfice interessata ", "mq.  ", d.Superficie);
@@ -65,20 +57,12 @@ void NotaStc::StampaDati() {
   riga("Costruzioni agricole ", "mq.  ", d.SuperficieAgricola);
 }
 
-// One line; the amount is cut as printed.
-void NotaStc::StampaImporto(const std::string& testo, double& importo) {
-  const std::string cifre = FormattaNumero(importo, stato.DecimaliValuta());
-  uscita.Text(testo)
-      .Tab(kColonnaImporto)
-      .Line(StringaImporto(cifre, TipoImporto::Onorari, stato.ModoLire));
-}
-
 double NotaStc::OnorarioPer(const char* titolo, std::span<const ScaglioneStc> formula,
                             std::int32_t quantita) {
   if (quantita == 0) return 0;
-  OnorarioStc onorario = ApplicaFormula(formula, quantita, stato.ModoLire);
-  uscita.Line(titolo);
-  StampaImporto(onorario.formula + " ", onorario.valore);
+  OnorarioStc onorario = ApplicaFormula(formula, quantita, ModoLire);
+  uscita.Line(titolo).Text(onorario.formula + " ");
+  StampaImporto(onorario.valore);
   return onorario.valore;
 }
 
@@ -89,22 +73,23 @@ void NotaStc::CalcolaOnorario() {
       OnorarioPer("Onorario in funzione della superfice ", kFormulaSuperficie, d.Superficie);
   Parziale += OnorarioPer("Onorario in funzione delle Partite ", kFormulaPartite, d.NumeroPartite);
   Parziale += OnorarioPer("Onorario in funzione dei Mappali ", kFormulaMappali, d.NumeroMappali);
-  Onorario = Parziale;
+  TotaleGenerale = Parziale;
   if (d.Maggiorazione != 0) {
     double M = d.Maggiorazione * Parziale;
-    StampaImporto(" Maggiorazione per fronti stradali ", M);
-    Onorario = Parziale + M;
+    uscita.Text(" Maggiorazione per fronti stradali ");
+    StampaImporto(M);
+    TotaleGenerale = Parziale + M;
   }
-  Onorario += OnorarioPer("Onorario in funzione Costruzioni abitative", kFormulaAbitazioni,
-                          d.VolumeAbitazioni);
-  Onorario += OnorarioPer("Onorario in funzione Costruzioni agricole ", kFormulaAgricole,
-                          d.SuperficieAgricola);
+  TotaleGenerale += OnorarioPer("Onorario in funzione Costruzioni abitative", kFormulaAbitazioni,
+                                d.VolumeAbitazioni);
+  TotaleGenerale += OnorarioPer("Onorario in funzione Costruzioni agricole ", kFormulaAgricole,
+                                d.SuperficieAgricola);
 }
 
-void NotaStc::Rivaluta() {
-  double P = PercentualeRivalutazione(stato.folder, d.MesePrestazione, d.AnnoPrestazione);
+void NotaStc::Rivaluta(const IndiciFoi& indici) {
+  double P = indici.PercentualeRivalutazione(d.MesePrestazione, d.AnnoPrestazione);
   const std::string testo = FormattaNumero(P, 2);
-  double R = P * Onorario / 100;
+  double R = P * TotaleGenerale / 100;
   uscita.Line(kRigaRivalutazione);
   uscita.Text("Percentuale rivalutazione da Gennnaio-1993 a")
       .Bare(d.MesePrestazione)
@@ -112,22 +97,22 @@ void NotaStc::Rivaluta() {
       .Bare(d.AnnoPrestazione)
       .Tab(kColonnaImporto)
       .Line(testo + "%");
-  StampaImporto("Rivalutazione monetaria Onorario ", R);
-  Onorario += R;
+  uscita.Text("Rivalutazione monetaria Onorario ");
+  StampaImporto(R);
+  TotaleGenerale += R;
 }
 
 }  // namespace
 
-void CalcoloStc(RunState& stato) {
-  DatiStc dati;
-  LeggiParcella(stato, dati);
-  ApriParcella(stato, stato.FileInt,
-               "per le prestazioni di accertamento/verifica stati di consistenza relative a :");
-  NotaStc nota(stato, dati);
+Parcella CalcoloStc(Parcella parcella, const DatiStc& dati, const IndiciFoi& indici) {
+  NotaStc nota(std::move(parcella), dati);
+  nota.ApriParcella(
+      "per le prestazioni di accertamento/verifica stati di consistenza relative a :");
   nota.StampaDati();
   nota.CalcolaOnorario();
-  nota.Rivaluta();
-  nota.Chiudi();
+  nota.Rivaluta(indici);
+  nota.ChiudiParcella(nota.TotaleGenerale, 0);
+  return nota;
 }
 
 }  // namespace orm

@@ -1,14 +1,17 @@
 // Condition surveys of lands and buildings.
 #pragma once
 
-#include "shell/state/run_state.h"
-
 namespace orm {
+
+struct DatiStc;
+class IndiciFoi;
+class Parcella;
+struct RunState;
 
 void InputStc(RunState& stato);
 
-// Prints the report of FileInp on NumFileUscita. An IND.CFG that cannot answer for the month of the
+// The note of the data, printed on a blank one. An IND.CFG that cannot answer for the month of the
 // service is a failure.
-void CalcoloStc(RunState& stato);
+Parcella CalcoloStc(Parcella parcella, const DatiStc& dati, const IndiciFoi& indici);
 
 }  // namespace orm

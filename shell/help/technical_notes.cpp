@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tariff/message_boxes.h"
+#include "dialogs/message_boxes.h"
 
 namespace orm {
 namespace {

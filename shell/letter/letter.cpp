@@ -3,9 +3,10 @@
 
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
+#include "runtime/report_printer.h"
 #include "runtime/text.h"
 #include "shell/shell_boxes.h"
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 
 namespace orm {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "dialogs/message_boxes.h"
 #include "shell/personal/form_program_choice.h"
 #include "shell/personal/settings.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 
 namespace orm {
 namespace {

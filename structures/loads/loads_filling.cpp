@@ -1,8 +1,8 @@
 #include "structures/loads/loads_filling.h"
 
+#include "dialogs/message_boxes.h"
 #include "structures/loads/hollow_tiles.h"
 #include "structures/loads/loads.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -1,10 +1,10 @@
 #include "structures/steel_beams/form_ver_sbalzi_p.h"
 
+#include "dialogs/message_boxes.h"
 #include "structures/loads/loads_edge.h"
 #include "structures/loads/loads_seismic.h"
 #include "structures/steel_beams/steel_beam_report.h"
 #include "structures/structural_report.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 

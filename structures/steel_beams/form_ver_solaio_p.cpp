@@ -1,8 +1,8 @@
 #include "structures/steel_beams/form_ver_solaio_p.h"
 
+#include "dialogs/message_boxes.h"
 #include "structures/steel_beams/steel_beam_report.h"
 #include "structures/structural_report.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "dialogs/message_boxes.h"
 #include "structures/structural_report.h"
 #include "structures/truss_slab/truss_slab_report.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

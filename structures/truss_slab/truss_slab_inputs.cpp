@@ -5,10 +5,10 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "structures/loads/loads_permanent.h"
 #include "structures/loads/loads_service.h"
-#include "tariff/message_boxes.h"
 
 namespace orm {
 namespace {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "runtime/report_printer.h"
 #include "shell/state/run_state.h"
 #include "structures/truss_slab/truss_slab.h"
 

@@ -5,7 +5,7 @@
 
 #include "runtime/data_file.h"
 #include "runtime/failure.h"
-#include "shell/state/run_state.h"
+#include "tariff/closing_values.h"
 
 namespace orm {
 
@@ -28,12 +28,6 @@ void LeggiFileDati(const WorkFolder& folder, const std::string& nomeFile, Dati& 
   }
   CampiChiusura(file, chiusura);
   file.ExpectEnd();
-}
-
-// The same of the note at work.
-template <class Dati>
-void LeggiParcella(RunState& stato, Dati& dati) {
-  LeggiFileDati(stato.folder, stato.FileInp, dati, stato.chiusura);
 }
 
 // Writes a data file whole: the body of the case and the closing line behind it.

@@ -1,6 +1,6 @@
 #include "tariff/files/conversion.h"
 
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 
 namespace orm {
 

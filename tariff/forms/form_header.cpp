@@ -1,6 +1,6 @@
 #include "tariff/forms/form_header.h"
 
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 
 namespace orm {
 

@@ -1,6 +1,6 @@
 #include "tariff/forms/input_form.h"
 
-#include "tariff/message_boxes.h"
+#include "dialogs/message_boxes.h"
 
 namespace orm {
 

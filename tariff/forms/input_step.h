@@ -2,6 +2,7 @@
 // case's own dialogs, the agreements with the client behind them.
 #pragma once
 
+#include "shell/state/run_state.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/forms/form_question.h"
 
@@ -15,7 +16,8 @@ Inizio ChiediInizio(RunState& stato);
 template <class Dati>
 Inizio IniziaInput(RunState& stato, Dati& dati) {
   const Inizio inizio = ChiediInizio(stato);
-  if (inizio == Inizio::Variazione) LeggiParcella(stato, dati);
+  if (inizio == Inizio::Variazione)
+    LeggiFileDati(stato.folder, stato.FileInp, dati, stato.chiusura);
   if (inizio == Inizio::Nuova) stato.chiusura = {};
   return inizio;
 }

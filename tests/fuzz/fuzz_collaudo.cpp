@@ -13,6 +13,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     stato.criteri.TipoPercentualeCompensi = kTipi[size % kTipi.size()];
     stato.criteri.DecimaliTabelle = stato.criteri.DecimaliCompensi =
         static_cast<std::uint8_t>(size % 10);
-    CalcoloCoa(stato);
+    return CalcolaDaFile<CalcoloCoa>(stato);
   });
 }

@@ -1,4 +1,5 @@
 // INP_CS1.DAP, a note of static testing; every other one by the tables of 2001.
+#include "cases/cos/config.h"
 #include "cases/cos/cos.h"
 #include "cases/cos/data.h"
 #include "tests/fuzz/note_fuzzer.h"
@@ -8,6 +9,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     orm::fuzz::Install(stato.folder, "CS1.CFG");
     orm::fuzz::Install(stato.folder, "CS2.CFG");
     stato.CasoDiParcella = size % 2 == 0 ? "CS1" : "CS2";
-    orm::CalcoloCos(stato);
+    return orm::CalcolaDaFile<orm::CalcoloCos>(stato);
   });
 }

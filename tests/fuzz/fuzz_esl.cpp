@@ -4,8 +4,5 @@
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return orm::fuzz::CheckNote<orm::DatiEsl>(data, size, [](orm::RunState& stato) {
-    double totale = 0;
-    orm::CalcoloEsl(stato, totale);
-  });
+  return orm::fuzz::CheckNote<orm::DatiEsl>(data, size, orm::CalcolaDaFile<orm::CalcoloEsl>);
 }

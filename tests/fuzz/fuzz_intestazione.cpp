@@ -1,5 +1,5 @@
 // INT_<case>.DAP, the header of a fee note.
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -4,6 +4,5 @@
 #include "tests/fuzz/note_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return orm::fuzz::CheckNote<orm::DatiPdl>(data, size,
-                                            [](orm::RunState& stato) { orm::CalcoloPdl(stato); });
+  return orm::fuzz::CheckNote<orm::DatiPdl>(data, size, orm::CalcolaDaFile<orm::CalcoloPdl>);
 }

@@ -6,6 +6,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   return orm::fuzz::CheckNote<orm::DatiSicurezza>(data, size, [size](orm::RunState& stato) {
     stato.CasoDiParcella = size % 2 == 0 ? "SC1" : "SC2";
-    orm::CalcoloSIC(stato);
+    return orm::CalcolaDaFile<orm::CalcoloSIC>(stato);
   });
 }

@@ -2,7 +2,7 @@
 // looked up.
 #include "cases/cos/config.h"
 #include "cases/geo/config.h"
-#include "tariff/price_index.h"
+#include "tariff/config/price_index.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 namespace {
@@ -26,7 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace orm;
   static const fuzz::FuzzFolder place;
   const std::string_view input = fuzz::Text(data, size);
-  Check(place, "IND.CFG", input, [] { PercentualeRivalutazione(place.Folder(), 6, 1999); });
+  Check(place, "IND.CFG", input,
+        [] { IndiciFoi(place.Folder()).PercentualeRivalutazione(6, 1999); });
   Check(place, "CS1.CFG", input, [] {
     LeggiTestataCos(place.Folder(), "CS1");
     for (const std::size_t periodo : {0U, 4U}) {

@@ -1,5 +1,5 @@
 // UTENTE.DAG, the professional's data.
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

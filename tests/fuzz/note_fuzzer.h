@@ -2,8 +2,8 @@
 // also calculated, under every kind of reduction and in both currencies.
 #pragma once
 
-#include "tariff/files/closing_line.h"
-#include "tariff/user_data.h"
+#include "cases/calculation_step.h"
+#include "tariff/files/user_files.h"
 #include "tests/fuzz/file_fuzzer.h"
 
 namespace orm::fuzz {
@@ -11,14 +11,14 @@ namespace orm::fuzz {
 // A report or a failure; one that is printed has no line without its end.
 template <class Calcolo>
 void Calculate(RunState& stato, Calcolo&& calcolo) {
+  std::string report;
   try {
-    stato.NumFileUscita = ReportPrinter();
-    calcolo(stato);
+    report = calcolo(stato).uscita.Contents();
   } catch (const RuntimeFailure& failure) {
     Require(!failure.Reason().empty(), "il messaggio ha una ragione");
     return;
   }
-  Require(stato.NumFileUscita.Contents().ends_with("\r\n"), "la parcella è intera");
+  Require(report.ends_with("\r\n"), "la parcella è intera");
 }
 
 // A tariff file as an installation brings it, where the folder has none yet.
@@ -46,7 +46,7 @@ int CheckNote(const std::uint8_t* data, std::size_t size, Calcolo&& calcolo) {
   CheckFile(
       place, stato.FileInp, Text(data, size),
       [&] {
-        LeggiParcella(stato, dati);
+        LeggiFileDati(stato.folder, stato.FileInp, dati, stato.chiusura);
         read = true;
         Values values;
         Campi(values, dati);

@@ -106,10 +106,11 @@ std::string CodeOf(const std::string& source) {
 const std::vector<std::vector<std::string>> kFloors = {
     {"runtime"},
     {"dialogs"},
-    {"shell/state"},
     {"tariff/law"},
+    {"tariff/config"},
     {"tariff"},
     {"tariff/files"},
+    {"shell/state"},
     {"tariff/forms"},
     {"cases/*"},  // each case a room
     {"cases", "utilities", "structures"},
@@ -151,6 +152,20 @@ TEST(Laws, IncludesFollowTheFloors) {
     }
   }
   ExpectListed(broken, "tests/unit/floor_exceptions.txt");
+}
+
+// A calculation gets its data read and prints on its note: all that it is made of sees no screen,
+// no run state and no folder, but for the readers of the files that a user keeps.
+TEST(Laws, CalculationsSeeNoScreenAndNoFolder) {
+  const std::regex others(
+      "tariff/(forms|files|config)/.*|cases/[^/]*|cases/.*/(input|form|row_chain|config)[^/]*");
+  const std::regex unseen("(shell|dialogs|tariff/forms)/.*|runtime/folder\\.h");
+  for (const char* folder : {"tariff", "cases"})
+    for (const std::string& file : FilesOf(folder, IsSource)) {
+      if (std::regex_match(file, others)) continue;
+      for (const std::string& included : Found(kRoot.Read(file), "#include \"([^\"]+)\""))
+        EXPECT_FALSE(std::regex_match(included, unseen)) << file << " -> " << included;
+    }
 }
 
 // A room that holds more is several rooms.

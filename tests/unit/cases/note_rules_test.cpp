@@ -1,39 +1,41 @@
-// Single rules of the further notes at their edges: stepped formulas, tables of the tariff files,
-// revaluation, rounding, least fees.
+// Single rules of the notes at their edges: products, tiers, stepped formulas, tables of the tariff
+// files, revaluation, rounding, least fees.
+#include "cases/coa/coa.h"
+#include "cases/coa/data.h"
 #include "cases/cos/note.h"
 #include "cases/geo/config.h"
+#include "cases/ppe/data.h"
+#include "cases/ppe/ppe.h"
+#include "cases/sic/data.h"
 #include "cases/sic/sic.h"
 #include "cases/stc/data.h"
 #include "cases/stc/stc.h"
 #include "runtime/failure.h"
-#include "tariff/price_index.h"
+#include "tariff/config/price_index.h"
 #include "tests/unit/cases/note_test.h"
 
 namespace orm {
 namespace {
 
+const WorkFolder kInstallazione(ORM_SOURCE_DIR "/data");
+
 class RegoleNote : public NoteTest {
  protected:
-  RegoleNote() {
-    for (const char* file : {"CS1.CFG", "GEO.CFG", "IND.CFG"})
-      stato.folder.Replace(file, WorkFolder(ORM_SOURCE_DIR "/data").Read(file));
-    stato.FileInp = "INP.DAP";
-  }
+  RegoleNote() { nota.scaglioni = ScaglioniCompensi(kInstallazione); }
 
-  bool Stampa(std::string_view riga) { return Report().find(riga) != std::string::npos; }
-
-  void Calcola(const std::string& dati, void (*calcolo)(RunState&)) {
-    stato.folder.Replace(stato.FileInp, dati, Durability::Remakeable);
-    stato.NumFileUscita = ReportPrinter();
-    calcolo(stato);
+  // How many lines of a report begin so.
+  static long Righe(const Parcella& stampata, const std::string& inizio) {
+    const std::string report = Report(stampata);
+    long righe = 0;
+    for (auto at = report.find("\n" + inizio); at != std::string::npos;
+         at = report.find("\n" + inizio, at + 1))
+      ++righe;
+    return righe;
   }
 
   // The line of the one quantity that is not 0.
-  std::string FormulaStc(DatiStc d) {
-    DataWriter file;
-    Campi(file, d);
-    Calcola(file.Bytes() + "0,0,\"\",1\r\n", CalcoloStc);
-    const std::string report = Report();
+  std::string FormulaStc(const DatiStc& d) const {
+    const std::string report = Report(CalcoloStc(nota, d, IndiciFoi(kInstallazione)));
     const auto titolo = report.find("Onorario in funzione");
     const auto inizio = report.find('\n', titolo) + 1;
     std::string riga = report.substr(inizio, report.find('\n', inizio) - inizio);
@@ -43,6 +45,29 @@ class RegoleNote : public NoteTest {
     return formula + " -> " + riga.substr(importo);
   }
 };
+
+TEST_F(RegoleNote, LireProductsOfExpropriationsEndAtTheirThirtyTwoBits) {
+  double totale = 0;
+  EXPECT_NO_THROW(CalcoloPpe(nota, {20259, 0, 0, 14412, 1193}, totale));
+  EXPECT_THROW(CalcoloPpe(nota, {20260, 0, 0, 0, 0}, totale), RuntimeFailure);
+  EXPECT_THROW(CalcoloPpe(nota, {0, 0, 0, 14413, 0}, totale), RuntimeFailure);
+  EXPECT_THROW(CalcoloPpe(nota, {0, 0, 0, 0, 1194}, totale), RuntimeFailure);
+  nota.ModoLire = false;
+  EXPECT_NO_THROW(CalcoloPpe(nota, {20260, 0, 0, 14413, 1194}, totale));
+}
+
+// Two tiers begin one Lira beyond 5,000 million, and only under the decree of 1987.
+TEST_F(RegoleNote, WhereTheTiersOfATestingBegin) {
+  const auto tiers = [this](std::int16_t periodo, double importo) {
+    return Righe(CalcoloCoa(nota, {periodo, importo, 1, 0, 0}), "Percentuale (");
+  };
+  EXPECT_EQ(tiers(5, 5000000000), 1);
+  EXPECT_EQ(tiers(5, 5000000001), 2);
+  EXPECT_EQ(tiers(4, 6000000000), 1);
+  nota.ModoLire = false;
+  EXPECT_EQ(tiers(5, 2582284.49), 1);
+  EXPECT_EQ(tiers(5, 2582284.50), 2);
+}
 
 // Both sides of every step, in Lire and in Euro.
 TEST_F(RegoleNote, SteppedFormulas) {
@@ -86,25 +111,30 @@ TEST_F(RegoleNote, SteppedFormulas) {
   for (const Caso& caso : casi) {
     DatiStc d;
     d.*caso.campo = caso.x;
-    stato.ModoLire = true;
+    nota.ModoLire = true;
     EXPECT_EQ(FormulaStc(d), caso.lire);
-    stato.ModoLire = false;
+    nota.ModoLire = false;
     EXPECT_EQ(FormulaStc(d), caso.euro);
   }
 }
 
 TEST_F(RegoleNote, SurchargeLeavesTheBuildingsAlone) {
-  Calcola("2000,1,0,500,0,1993,1,0.25\r\n0,0,\"\",1\r\n", CalcoloStc);
-  EXPECT_TRUE(Stampa(" Maggiorazione per fronti stradali                     L.         93.750\n"));
-  EXPECT_TRUE(Stampa("a 1 - 1993  0%\n"));
-  EXPECT_TRUE(Stampa("TOTALE (Onorari e Compensi)                            L.        818.750\n"));
+  const Parcella p =
+      CalcoloStc(nota, {2000, 1, 0, 500, 0, 1993, 1, 0.25}, IndiciFoi(kInstallazione));
+  EXPECT_EQ(Righe(p, " Maggiorazione per fronti stradali                     L.         93.750\n"),
+            1);
+  EXPECT_EQ(Righe(p, "Percentuale rivalutazione da Gennnaio-1993 a 1 - 1993  0%\n"), 1);
+  EXPECT_EQ(Righe(p, "TOTALE (Onorari e Compensi)                            L.        818.750\n"),
+            1);
 }
 
 // The official revaluation, and what the table cannot answer.
-TEST_F(RegoleNote, Revaluation) {
-  const auto P = [this](int mese, int anno) {
-    return PercentualeRivalutazione(stato.folder, mese, anno);
-  };
+TEST(Indici, Revaluation) {
+  const TemporaryFolder place;
+  const WorkFolder folder(place.Path());
+  const IndiciFoi indici(folder);
+  const auto P = [&](int mese, int anno) { return indici.PercentualeRivalutazione(mese, anno); };
+  folder.Replace("IND.CFG", kInstallazione.Read("IND.CFG"));
   EXPECT_NEAR(P(6, 1999), 21.79, 0.01);
   EXPECT_GE(P(6, 1999), 21.79);
   EXPECT_EQ(P(1, 1993), 0);
@@ -115,15 +145,15 @@ TEST_F(RegoleNote, Revaluation) {
 
   const std::string dodici = ",100,101,102,103,104,105,106,107,108,109,110,111\r\n";
   const std::string testa = "\"nota\"\r\n1993" + dodici;
-  stato.folder.Replace("IND.CFG", "3," + testa + "1994,0,0,0,0,0,0,0,0,0,0,0,0\r\n1995" + dodici);
+  folder.Replace("IND.CFG", "3," + testa + "1994,0,0,0,0,0,0,0,0,0,0,0,0\r\n1995" + dodici);
   EXPECT_EQ(P(5, 1994), P(12, 1993));  // not published: the last month before
-  stato.folder.Replace("IND.CFG", "2," + testa + "1994,112,113,0,0,0,0,0,0,0,0,0,0\r\n");
+  folder.Replace("IND.CFG", "2," + testa + "1994,112,113,0,0,0,0,0,0,0,0,0,0\r\n");
   EXPECT_NEAR(P(11, 1994), 13, 1e-9);
-  stato.folder.Replace("IND.CFG", "2," + testa + "1996" + dodici);
+  folder.Replace("IND.CFG", "2," + testa + "1996" + dodici);
   EXPECT_THROW(P(1, 1995), RuntimeFailure);  // a year missing in between
-  stato.folder.Replace("IND.CFG", "1,\"\"\r\n1994" + dodici);
+  folder.Replace("IND.CFG", "1,\"\"\r\n1994" + dodici);
   EXPECT_THROW(P(1, 1994), RuntimeFailure);
-  stato.folder.Replace("IND.CFG", "1,\"\"\r\n1993,0,1,1,1,1,1,1,1,1,1,1,1\r\n");
+  folder.Replace("IND.CFG", "1,\"\"\r\n1993,0,1,1,1,1,1,1,1,1,1,1,1\r\n");
   EXPECT_THROW(P(2, 1993), RuntimeFailure);
 }
 
@@ -139,14 +169,14 @@ TEST(StaticTestingTariff, InterpolatesBetweenItsLimits) {
 }
 
 TEST_F(RegoleNote, RoundsToTheNearestMultiple) {
-  const auto lire = [this](double v, double u) { return ArrotondaAlleCifreDi(stato, v, u); };
+  const auto lire = [this](double v, double u) { return ArrotondaAlleCifreDi(nota, v, u); };
   EXPECT_EQ(lire(1499, 1000), 1000);
   EXPECT_EQ(lire(1500, 1000), 2000);
   EXPECT_EQ(lire(-1500, 1000), -2000);
   EXPECT_EQ(lire(1234, 0), 1234);
-  stato.ModoLire = false;
-  EXPECT_EQ(ArrotondaAlleCifreDi(stato, 1, 1000), 1.03);  // 1936 Lire, then 2000
-  EXPECT_EQ(ArrotondaAlleCifreDi(stato, 0.2, 1000), 0);
+  nota.ModoLire = false;
+  EXPECT_EQ(ArrotondaAlleCifreDi(nota, 1, 1000), 1.03);  // 1936 Lire, then 2000
+  EXPECT_EQ(ArrotondaAlleCifreDi(nota, 0.2, 1000), 0);
 }
 
 TEST_F(RegoleNote, SharesOfARevision) {
@@ -158,12 +188,14 @@ TEST_F(RegoleNote, SharesOfARevision) {
 }
 
 // The first step repeats the second; flat below it, falling on above the last but never below 0.
-TEST_F(RegoleNote, GeotechnicalTable) {
-  stato.folder.Replace("GEO.CFG",
-                       "\"a\",1\r\n\"b\",1\r\n\"c\",1\r\n\"d\",1\r\n\"e\",1\r\n3,n\r\n100,x\r\n"
-                       "200,x\r\n300,x\r\n9,x\r\n4,1,x\r\n8,x\r\n3,3,x\r\n7,x\r\n2,1,x\r\n6,x\r\n"
-                       "1,0.5,x\r\n");
-  const TabelleGeo t = LeggiTabelleGeo(stato.folder, 1);
+TEST(GeotechnicalTariff, Table) {
+  const TemporaryFolder place;
+  const WorkFolder folder(place.Path());
+  folder.Replace("GEO.CFG",
+                 "\"a\",1\r\n\"b\",1\r\n\"c\",1\r\n\"d\",1\r\n\"e\",1\r\n3,n\r\n100,x\r\n"
+                 "200,x\r\n300,x\r\n9,x\r\n4,1,x\r\n8,x\r\n3,3,x\r\n7,x\r\n2,1,x\r\n6,x\r\n"
+                 "1,0.5,x\r\n");
+  const TabelleGeo t = LeggiTabelleGeo(folder, 1);
   EXPECT_EQ(t.Percentuale(0, 1), 4);
   EXPECT_EQ(t.Percentuale(0, 100), 4);
   EXPECT_EQ(t.Percentuale(0, 150), 4);
@@ -173,26 +205,26 @@ TEST_F(RegoleNote, GeotechnicalTable) {
   EXPECT_EQ(t.Percentuale(2, 350), 0.5);
   EXPECT_EQ(t.Percentuale(0, 1000), 0);
   EXPECT_EQ(t.Percentuale(1, 1000), 3);
-  EXPECT_THROW(LeggiTabelleGeo(stato.folder, 2), RuntimeFailure);
+  EXPECT_THROW(LeggiTabelleGeo(folder, 2), RuntimeFailure);
 }
 
 // A reckoned fee that equals the least fee stands; with a Lira of works less the least fee counts.
 TEST_F(RegoleNote, LeastFeeOfADuty) {
-  stato.CasoDiParcella = "SC2";
-  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
-  stato.criteri.DecimaliTabelle = 1;
-  const auto nota = [this](const std::string& importo, const char* prestazioni) {
-    Calcola("\"CONSUNTIVA\",1,1\r\n1,1\r\n6\r\n\"1\",\"f\",\"6\"," + importo + "," + importo +
-                "\r\n\"" + prestazioni + "\",\"\",\"\"\r\n0,0,\"\",1\r\n",
-            CalcoloSIC);
+  nota.CasoDiParcella = "SC2";
+  nota.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  nota.criteri.DecimaliTabelle = 1;
+  const auto sicurezza = [this](double importo, const char* prestazioni) {
+    return CalcoloSIC(
+        nota, {"CONSUNTIVA", {{1, {6}}}, {{"1", "f", "6", importo, importo, prestazioni, "", ""}}});
   };
-  nota("200000000", "10000");  // 10 % x 0,02
-  EXPECT_TRUE(Stampa("    10% x 0,02 x 200.000.000 =                         L.        400.000\n"));
-  EXPECT_FALSE(Stampa("MINIMO"));
-  nota("199999999", "10000");
-  EXPECT_TRUE(Stampa("  ONORARIO MINIMO  \n400.000 =  "));
-  nota("200000000", "00000");
-  EXPECT_TRUE(Stampa("TOTALE (Onorari e Compensi)                            L.              0\n"));
+  const Parcella pari = sicurezza(200000000, "10000");  // 10 % x 0,02
+  EXPECT_EQ(
+      Righe(pari, "    10% x 0,02 x 200.000.000 =                         L.        400.000\n"), 1);
+  EXPECT_EQ(Righe(pari, "  ONORARIO MINIMO"), 0);
+  EXPECT_EQ(Righe(sicurezza(199999999, "10000"), "  ONORARIO MINIMO  \n400.000 =  "), 1);
+  EXPECT_EQ(Righe(sicurezza(200000000, "00000"),
+                  "TOTALE (Onorari e Compensi)                            L.              0\n"),
+            1);
 }
 
 }  // namespace

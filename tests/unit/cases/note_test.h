@@ -1,4 +1,4 @@
-// A working folder of its own, a run state in it and the files that every note needs.
+// What the tests of notes begin with: a blank note, a working folder of its own, a run state in it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,9 +6,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "shell/state/run_state.h"
-#include "tariff/user_data.h"
+#include "tariff/files/user_files.h"
+#include "tariff/parcella.h"
 #include "tests/unit/fake_player.h"
 
 namespace orm {
@@ -38,25 +40,38 @@ inline std::string Page(std::string_view drawn) {
   return page;
 }
 
+// A blank note in Lire, ready to be printed on.
 class NoteTest : public testing::Test {
  protected:
   NoteTest() {
-    DatiProfessionista utente;
-    utente.Nome = "Mario Rossi";
-    utente.Citta = "Cosenza";
-    utente.Ordine = "COSENZA";
-    ScriviDatiProfessionista(stato.folder, utente);
-    ScriviIntestazione(stato.folder, "INT.DAP",
-                       {"Comune di Rende", "Scuola media", "Delibera n. 12", ""});
-    stato.FileInt = "INT.DAP";
-    stato.ModoLire = true;
+    nota.ModoLire = true;
+    nota.utente.Nome = "Mario Rossi";
+    nota.utente.Citta = "Cosenza";
+    nota.utente.Ordine = "COSENZA";
+    nota.intestazione = {"Comune di Rende", "Scuola media", "Delibera n. 12", ""};
+    nota.oggi = {2002, 3, 15};
   }
 
-  // The report without the carriage returns of its line ends.
-  std::string Report() const {
-    std::string text = stato.NumFileUscita.Contents();
+  // A report without the carriage returns of its line ends.
+  static std::string Report(const Parcella& stampata) {
+    std::string text = stampata.uscita.Contents();
     std::erase(text, '\r');
     return text;
+  }
+  std::string Report() const { return Report(nota); }
+
+  Parcella nota;
+};
+
+// The same with a folder and a run state in it.
+class NoteInFolder : public NoteTest {
+ protected:
+  NoteInFolder() {
+    ScriviDatiProfessionista(stato.folder, nota.utente);
+    ScriviIntestazione(stato.folder, "INT.DAP", nota.intestazione);
+    stato.FileInt = "INT.DAP";
+    stato.FileInp = "INP.DAP";
+    stato.ModoLire = true;
   }
 
   TemporaryFolder folder;

@@ -11,6 +11,7 @@
 
 #include "cases/esl/data.h"
 #include "cases/pdl/data.h"
+#include "tariff/criteria.h"
 
 namespace orm {
 
@@ -44,6 +45,16 @@ class Caso {
     const char ultima = ultime[static_cast<std::size_t>(classe[0] - '1')];
     categoria =
         ultima == ' ' ? "" : std::string(1, static_cast<char>('a' + Fino(ultima - 'a' + 1)));
+  }
+
+  Criteri CriteriDiCalcolo() {
+    Criteri c;
+    c.TipoPercentualeCompensi = Fra({"CALCOLATA", "NUOVA TARIFFA", "ASSEGNATA"});
+    c.PercCompensiAssegnata = Fino(61);
+    c.AliquoteDirezioneLavori = Fra({"UNITE", "SEPARATE"});
+    c.CompensiSuSorveglianza = Fra({"SI", "NO"});
+    c.CompensiSuMaggiorazione = Fra({"SI", "NO"});
+    return c;
   }
 
   DatiEsl Esl() {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "cases/agp/data.h"
+#include "cases/coa/data.h"
 #include "cases/cos/data.h"
 #include "cases/geo/data.h"
+#include "cases/ppe/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
 #include "tariff/law/site_safety.h"
@@ -14,6 +16,19 @@ namespace orm {
 class CasoNote : public Caso {
  public:
   using Caso::Caso;
+
+  DatiPpe Ppe() {
+    const auto fino = [this](int n) { return static_cast<std::int16_t>(Uno(4) ? 0 : Fino(n)); };
+    return {fino(20259), fino(32767), fino(32767), fino(14412), fino(1193)};
+  }
+
+  DatiCoa Coa() {
+    return {.PeriodoCollaudo = static_cast<std::int16_t>(3 + Fino(3)),
+            .ImportoCollaudo = ImportoONulla(5),
+            .TipoCollaudo = static_cast<std::int16_t>(1 + Fino(2)),
+            .MaggiorazioneCollaudo = static_cast<double>(Fino(31)),
+            .NumeroFacciate = static_cast<std::int16_t>(Fino(400))};
+  }
 
   DatiStc Stc() {
     const auto fino = [this](int n) { return Uno(4) ? 0 : Fino(Uno(2) ? n : 12000); };

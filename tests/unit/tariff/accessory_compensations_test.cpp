@@ -12,18 +12,14 @@ namespace {
 class Compensations : public NoteTest {
  protected:
   Compensations() {
-    stato.folder.Replace("CAC.CFG",
-                         "2,\"prova\"\r\n100000000,30,\"Lire\"\r\n200000000,20,\"Lire\"\r\n");
+    folder.Replace("CAC.CFG", "2,\"prova\"\r\n100000000,30,\"Lire\"\r\n200000000,20,\"Lire\"\r\n");
+    nota.scaglioni = ScaglioniCompensi(folder);
   }
 
-  double Cfg(double importo) {
-    double percentuale = -1;
-    PercCompensiAccessoriCfg(stato.folder, importo, percentuale);
-    return percentuale;
-  }
+  double Cfg(double importo) const { return nota.scaglioni.PercCompensiAccessoriCfg(importo); }
 
   std::string FailureOf(const std::string& file) {
-    stato.folder.Replace("CAC.CFG", file);
+    folder.Replace("CAC.CFG", file);
     try {
       Cfg(1000);
     } catch (const RuntimeFailure& failure) {
@@ -32,12 +28,8 @@ class Compensations : public NoteTest {
     return "";
   }
 
-  void Calcola(double importo, ModoCompensi modo = ModoCompensi::Stampa) {
-    CompensiAccessori(stato, importo, modo, Coefficiente, StringaCoefficiente);
-  }
-
-  double Coefficiente = -1;
-  std::string StringaCoefficiente = "?";
+  TemporaryFolder place;
+  WorkFolder folder{place.Path()};
 };
 
 TEST_F(Compensations, StepsOfTheFile) {
@@ -51,13 +43,13 @@ TEST_F(Compensations, StepsOfTheFile) {
 }
 
 TEST_F(Compensations, OneStepAndThirtySteps) {
-  stato.folder.Replace("CAC.CFG", "1,\"\"\r\n100,40,\"\"\r\n");
+  folder.Replace("CAC.CFG", "1,\"\"\r\n100,40,\"\"\r\n");
   EXPECT_EQ(Cfg(50), 40);
   EXPECT_EQ(Cfg(500), 40);
   std::string file = "30,\"\"\r\n";
   for (int i = 1; i <= 30; ++i)
     file += std::to_string(i * 10) + "," + std::to_string(60 - i) + ",\"\"\r\n";
-  stato.folder.Replace("CAC.CFG", file);
+  folder.Replace("CAC.CFG", file);
   EXPECT_EQ(Cfg(295), 30.5);
   EXPECT_EQ(Cfg(301), 30);
 }
@@ -75,7 +67,7 @@ TEST_F(Compensations, DamagedFiles) {
   EXPECT_EQ(FailureOf("2,\"\"\r\n200,30,\"\"\r\n100,20,\"\"\r\n"),
             "Gli importi degli scaglioni devono essere crescenti.\nFile : CAC.CFG\nRiga : 3\n"
             "Campo : importo");
-  stato.folder.Remove("CAC.CFG");
+  folder.Remove("CAC.CFG");
   EXPECT_THROW(Cfg(1000), RuntimeFailure);
 }
 
@@ -95,9 +87,9 @@ TEST_F(Compensations, NewTariff) {
 }
 
 TEST_F(Compensations, ByTheFileInLire) {
-  Calcola(123456789);
-  EXPECT_EQ(Coefficiente, 1.27654321);  // 30 - 10 * 0,23456789 = 27,6543211, cut to 6 decimals
-  EXPECT_EQ(StringaCoefficiente, " x 1,27654321");
+  nota.CompensiAccessori(123456789);
+  EXPECT_EQ(nota.Coefficiente, 1.27654321);  // 30 - 10 * 0,23456789 = 27,6543211, cut to 6 decimals
+  EXPECT_EQ(nota.StringaCoefficiente, " x 1,27654321");
   EXPECT_EQ(Report(), Page(R"(
 =============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
 Percentuale : 27,654321% su                    L.      123.456.789|
@@ -105,11 +97,11 @@ Percentuale : 27,654321% su                    L.      123.456.789|
 }
 
 TEST_F(Compensations, ByTheFileInEuroWithDecimalsOfTheCriteria) {
-  stato.ModoLire = false;
-  stato.criteri.DecimaliCompensi = 2;
-  Calcola(123456789);
-  EXPECT_EQ(Coefficiente, 1.2765);
-  EXPECT_EQ(StringaCoefficiente, " x 1,2765");
+  nota.ModoLire = false;
+  nota.criteri.DecimaliCompensi = 2;
+  nota.CompensiAccessori(123456789);
+  EXPECT_EQ(nota.Coefficiente, 1.2765);
+  EXPECT_EQ(nota.StringaCoefficiente, " x 1,2765");
   EXPECT_EQ(Report(), Page(R"(
 =============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
 Percentuale : 27,65% su                        €       63.760,11|
@@ -117,11 +109,11 @@ Percentuale : 27,65% su                        €       63.760,11|
 }
 
 TEST_F(Compensations, NewTariffIsReckonedInLireInBothModes) {
-  stato.ModoLire = false;
-  stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
-  Calcola(40000000);
-  EXPECT_EQ(Coefficiente, 1.3);
-  EXPECT_EQ(StringaCoefficiente, " x 1,3");
+  nota.ModoLire = false;
+  nota.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
+  nota.CompensiAccessori(40000000);
+  EXPECT_EQ(nota.Coefficiente, 1.3);
+  EXPECT_EQ(nota.StringaCoefficiente, " x 1,3");
   EXPECT_EQ(Report(), Page(R"(
 =============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
 Percentuale : 30% su                           €       20.658,28|
@@ -129,11 +121,11 @@ Percentuale : 30% su                           €       20.658,28|
 }
 
 TEST_F(Compensations, GivenPercentageStandsAsAPlainNumber) {
-  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
-  stato.criteri.PercCompensiAssegnata = 12.5;
-  Calcola(1000000);
-  EXPECT_EQ(Coefficiente, 1.125);
-  EXPECT_EQ(StringaCoefficiente, " x 1.125");
+  nota.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  nota.criteri.PercCompensiAssegnata = 12.5;
+  nota.CompensiAccessori(1000000);
+  EXPECT_EQ(nota.Coefficiente, 1.125);
+  EXPECT_EQ(nota.StringaCoefficiente, " x 1.125");
   EXPECT_EQ(Report(), Page(R"(
 =============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
 Percentuale : 12.5%|
@@ -141,24 +133,24 @@ Percentuale : 12.5%|
 }
 
 TEST_F(Compensations, NothingPrintsNothing) {
-  stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
-  Calcola(1000000);
-  EXPECT_EQ(Coefficiente, 1);
-  EXPECT_EQ(StringaCoefficiente, "");
-  stato.criteri.TipoPercentualeCompensi = "CALCOLATA";
-  Calcola(1000000, ModoCompensi::SoloCalcolo);
-  EXPECT_EQ(Coefficiente, 1.3);
-  Calcola(1000000, ModoCompensi::Nessuno);
-  EXPECT_EQ(Coefficiente, 1);
-  EXPECT_EQ(StringaCoefficiente, "");
-  Calcola(0);
-  EXPECT_EQ(Coefficiente, 0);
-  EXPECT_EQ(StringaCoefficiente, "");
+  nota.criteri.TipoPercentualeCompensi = "ASSEGNATA";
+  nota.CompensiAccessori(1000000);
+  EXPECT_EQ(nota.Coefficiente, 1);
+  EXPECT_EQ(nota.StringaCoefficiente, "");
+  nota.criteri.TipoPercentualeCompensi = "CALCOLATA";
+  nota.CompensiAccessori(1000000, ModoCompensi::SoloCalcolo);
+  EXPECT_EQ(nota.Coefficiente, 1.3);
+  nota.CompensiAccessori(1000000, ModoCompensi::Nessuno);
+  EXPECT_EQ(nota.Coefficiente, 1);
+  EXPECT_EQ(nota.StringaCoefficiente, "");
+  nota.CompensiAccessori(0);
+  EXPECT_EQ(nota.Coefficiente, 0);
+  EXPECT_EQ(nota.StringaCoefficiente, "");
   EXPECT_EQ(Report(), "");
 }
 
 TEST_F(Compensations, OfTheRegionByAmountAndResidence) {
-  stato.criteri.TipoPercentualeCompensi = "CALABRIA";
+  nota.criteri.TipoPercentualeCompensi = "CALABRIA";
   struct {
     double importo;
     const char* fuori;
@@ -169,15 +161,15 @@ TEST_F(Compensations, OfTheRegionByAmountAndResidence) {
               {3000000000, " x 1.6", " x 1.45", " x 1.45"},
               {3000000001, " x 1.6", " x 1.45", " x 1.3"}};
   for (const auto& row : rows) {
-    stato.criteri.ResidenzaCollaudatore = "FUORIREGIONE";
-    Calcola(row.importo);
-    EXPECT_EQ(StringaCoefficiente, row.fuori);
-    stato.criteri.ResidenzaCollaudatore = "OLTRE100KM";
-    Calcola(row.importo);
-    EXPECT_EQ(StringaCoefficiente, row.oltre);
-    stato.criteri.ResidenzaCollaudatore = "ENTRO100KM";
-    Calcola(row.importo);
-    EXPECT_EQ(StringaCoefficiente, row.entro);
+    nota.criteri.ResidenzaCollaudatore = "FUORIREGIONE";
+    nota.CompensiAccessori(row.importo);
+    EXPECT_EQ(nota.StringaCoefficiente, row.fuori);
+    nota.criteri.ResidenzaCollaudatore = "OLTRE100KM";
+    nota.CompensiAccessori(row.importo);
+    EXPECT_EQ(nota.StringaCoefficiente, row.oltre);
+    nota.criteri.ResidenzaCollaudatore = "ENTRO100KM";
+    nota.CompensiAccessori(row.importo);
+    EXPECT_EQ(nota.StringaCoefficiente, row.entro);
   }
 }
 

@@ -6,12 +6,19 @@
 namespace orm {
 namespace {
 
-class BloccoContabilita : public NoteTest {};
+class BloccoContabilita : public NoteTest {
+ protected:
+  void Calcola(std::vector<RigaContabilita> righe) {
+    nota.contemp = std::move(righe);
+    nota.CalcoloMisureContabilita(onorario, testo);
+  }
+
+  double onorario = 0;
+  std::string testo;
+};
 
 TEST_F(BloccoContabilita, SortsByPeriodAndTakesEqualRowsTogether) {
-  std::string testo;
-  const double onorario =
-      CalcoloMisureContabilita(stato, {{5, 1, 4000000}, {1, 0.7, 1000000}, {5, 1, 4000000}}, testo);
+  Calcola({{5, 1, 4000000}, {1, 0.7, 1000000}, {5, 1, 4000000}});
   EXPECT_EQ(Report(), Page(R"(
 MISURE E CONTABILITÀ LAVORI ( tab. E )|
 0,96600% x 0,70 x       1.000.000 =           6.762|
@@ -26,8 +33,7 @@ MISURE E CONTABILITÀ LAVORI ( tab. E )|
 
 // Rows of one period keep the order in which they came, and so the bands that they fall in.
 TEST_F(BloccoContabilita, KeepsTheOrderOfCoefficients) {
-  std::string testo;
-  CalcoloMisureContabilita(stato, {{5, 1.4, 5000000}, {5, 0.7, 1}, {5, 1.4, 1}}, testo);
+  Calcola({{5, 1.4, 5000000}, {5, 0.7, 1}, {5, 1.4, 1}});
   EXPECT_NE(Report().find("x 1,40 x       5.000.000"), std::string::npos);
   EXPECT_NE(Report().find("x 1,40 x               1 =               0\n1,68634% x 0,70"),
             std::string::npos);
@@ -36,8 +42,7 @@ TEST_F(BloccoContabilita, KeepsTheOrderOfCoefficients) {
 // A sum that falls back opens its bands again, and the part used of the band that it fell out of is
 // still taken off.
 TEST_F(BloccoContabilita, NegativeAmountGoesBackOnTheScale) {
-  std::string testo;
-  CalcoloMisureContabilita(stato, {{1, 1, 8000000}, {2, 1.2, -4000000}, {3, 1, 10000000}}, testo);
+  Calcola({{1, 1, 8000000}, {2, 1.2, -4000000}, {3, 1, 10000000}});
   EXPECT_EQ(Report(), Page(R"(
 MISURE E CONTABILITÀ LAVORI ( tab. E )|
 0,96600% x 1,00 x       5.000.000 =          48.300|
@@ -51,17 +56,13 @@ MISURE E CONTABILITÀ LAVORI ( tab. E )|
 }
 
 TEST_F(BloccoContabilita, LinesAreApartByALineFeedAlone) {
-  std::string testo;
-  CalcoloMisureContabilita(stato, {{5, 1, 4000000}}, testo);
-  EXPECT_TRUE(
-      stato.NumFileUscita.Contents().starts_with("MISURE E CONTABILITÀ LAVORI ( tab. E )\n1,8"));
+  Calcola({{5, 1, 4000000}});
+  EXPECT_TRUE(nota.uscita.Contents().starts_with("MISURE E CONTABILITÀ LAVORI ( tab. E )\n1,8"));
 }
 
 TEST_F(BloccoContabilita, EleventhRowIsAFailure) {
-  std::string testo;
-  const std::vector<RigaContabilita> dieci(10), undici(11);
-  EXPECT_NO_THROW(CalcoloMisureContabilita(stato, dieci, testo));
-  EXPECT_THROW(CalcoloMisureContabilita(stato, undici, testo), RuntimeFailure);
+  EXPECT_NO_THROW(Calcola(std::vector<RigaContabilita>(10)));
+  EXPECT_THROW(Calcola(std::vector<RigaContabilita>(11)), RuntimeFailure);
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // The final account: whole reports, worked out apart and read line by line.
-#include "tariff/final_account.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
@@ -10,7 +8,6 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/money.h"
-#include "tariff/report.h"
 #include "tests/unit/cases/note_test.h"
 
 namespace orm {
@@ -20,7 +17,7 @@ using FinalAccount = NoteTest;
 
 // clang-format off
 TEST_F(FinalAccount, LirePlain) {
-  ChiudiParcella(stato, 1000000.9, 0.9);  // fractions of a Lira are dropped each on its own
+  nota.ChiudiParcella(1000000.9, 0.9);  // fractions of a Lira are dropped each on its own
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            L.      1.000.000|
@@ -34,14 +31,14 @@ Cosenza, li 15/03/2002|
 }
 
 TEST_F(FinalAccount, LireWithEverything) {
-  stato.chiusura = {7.5, 100000, "", 1};
-  Criteri& criteri = stato.criteri;
+  nota.chiusura = {7.5, 100000, "", 1};
+  Criteri& criteri = nota.criteri;
   criteri.StampaParere = criteri.StampaSpeseAggiuntive = "SI";
   criteri.SpesaInarcassa = criteri.SpesaInps = criteri.SpesaIva = criteri.SpesaTassaParere = "SI";
   criteri.QuotaFissaParere = 50;
   criteri.QuotaPercentualeParere = 1.5;
   criteri.PresidenteOrdine = "Dott. Ing. Carlo Bianchi";
-  ChiudiParcella(stato, 3000000, 1200000);
+  nota.ChiudiParcella(3000000, 1200000);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            L.      4.200.000|
@@ -86,8 +83,8 @@ Tassa Rilascio Parere                                  L.          79,32|
 }
 
 TEST_F(FinalAccount, LireAgreedReductionOnTheFees) {
-  stato.chiusura = {10, 0, "CONCORDATA", 2};
-  ChiudiParcella(stato, 3000000, 1200000);
+  nota.chiusura = {10, 0, "CONCORDATA", 2};
+  nota.ChiudiParcella(3000000, 1200000);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            L.      4.200.000|
@@ -103,8 +100,8 @@ Cosenza, li 15/03/2002|
 }
 
 TEST_F(FinalAccount, LireReductionOnCompensationsThatAreNotThere) {
-  stato.chiusura = {20, 0, "", 3};
-  ChiudiParcella(stato, 3000000, 0);
+  nota.chiusura = {20, 0, "", 3};
+  nota.ChiudiParcella(3000000, 0);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            L.      3.000.000|
@@ -120,15 +117,13 @@ Cosenza, li 15/03/2002|
 }
 
 TEST_F(FinalAccount, EuroOfAnArchitect) {
-  DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
-  utente.Professione = "Architetto";
-  ScriviDatiProfessionista(stato.folder, utente);
-  stato.ModoLire = false;
-  stato.chiusura = {12.55, 425.31, "CONCORDATA", 2};
-  Criteri& criteri = stato.criteri;
+  nota.utente.Professione = "Architetto";
+  nota.ModoLire = false;
+  nota.chiusura = {12.55, 425.31, "CONCORDATA", 2};
+  Criteri& criteri = nota.criteri;
   criteri.StampaParere = criteri.StampaSpeseAggiuntive = criteri.SpesaIva = "SI";
   criteri.PresidenteOrdine = "Arch. Verdi";
-  ChiudiParcella(stato, 1234.567, 345.678);
+  nota.ChiudiParcella(1234.567, 345.678);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            €      1.580,24|
@@ -169,9 +164,9 @@ I.V.A. 20%                                             €        200,00|
 }
 
 TEST_F(FinalAccount, AdvancesAboveTheTotalEndTheAccount) {
-  stato.chiusura = {0, 2000000, "", 1};
-  stato.criteri.StampaParere = stato.criteri.StampaSpeseAggiuntive = "SI";
-  ChiudiParcella(stato, 1000000, 0);
+  nota.chiusura = {0, 2000000, "", 1};
+  nota.criteri.StampaParere = nota.criteri.StampaSpeseAggiuntive = "SI";
+  nota.ChiudiParcella(1000000, 0);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            L.      1.000.000|
@@ -187,14 +182,12 @@ Cosenza, li 15/03/2002|
 
 // The label of the reduction reaches beyond its column; without a city there is no place and date.
 TEST_F(FinalAccount, LongLabelAndNoCity) {
-  DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
-  utente.Citta = "";
-  ScriviDatiProfessionista(stato.folder, utente);
-  stato.ModoLire = false;
-  stato.chiusura = {12.55, 0, "", 2};
-  stato.criteri.StampaParere = "SI";
-  stato.criteri.QuotaFissaParere = 50;
-  ChiudiParcella(stato, 1000, 0);
+  nota.utente.Citta = "";
+  nota.ModoLire = false;
+  nota.chiusura = {12.55, 0, "", 2};
+  nota.criteri.StampaParere = "SI";
+  nota.criteri.QuotaFissaParere = 50;
+  nota.ChiudiParcella(1000, 0);
   EXPECT_EQ(Report(), Page(R"(
 ================================ TOTALI ================================|
 TOTALE (Onorari e Compensi)                            €      1.000,00|
@@ -240,29 +233,29 @@ double Printed(const std::string& report, const std::string& label) {
 // What is printed is what is summed, to the cent, in Lire and in Euro.
 TEST_F(FinalAccount, PrintedLinesAddUpToPrintedTotals) {
   std::mt19937 random(19490302);
-  stato.criteri.StampaSpeseAggiuntive = stato.criteri.SpesaInarcassa = stato.criteri.SpesaInps =
-      stato.criteri.SpesaIva = stato.criteri.SpesaTassaParere = "SI";
-  stato.criteri.QuotaPercentualeParere = 1.7;
+  nota.criteri.StampaSpeseAggiuntive = nota.criteri.SpesaInarcassa = nota.criteri.SpesaInps =
+      nota.criteri.SpesaIva = nota.criteri.SpesaTassaParere = "SI";
+  nota.criteri.QuotaPercentualeParere = 1.7;
   for (int i = 0; i < 300; ++i) {
-    stato.ModoLire = i % 2 == 0;
-    const double scale = stato.ModoLire ? 1000 : 1;
+    nota.ModoLire = i % 2 == 0;
+    const double scale = nota.ModoLire ? 1000 : 1;
     const auto amount = [&](unsigned most) { return random() % most / 997.0 * scale; };
-    stato.chiusura = {random() % 2000 / 100.0, amount(100000), "CONCORDATA",
-                      static_cast<std::int16_t>(random() % 3 + 1)};
-    stato.NumFileUscita = {};
-    ChiudiParcella(stato, amount(9000000) + 500 * scale, amount(2000000));
+    nota.chiusura = {random() % 2000 / 100.0, amount(100000), "CONCORDATA",
+                     static_cast<std::int16_t>(random() % 3 + 1)};
+    nota.uscita = {};
+    nota.ChiudiParcella(amount(9000000) + 500 * scale, amount(2000000));
     const std::string report = Report();
     const double total = Printed(report, "TOTALE (Onorari e Compensi)");
     const double reduced = Printed(report, "TOTALE RIDOTTO");
     const double net = Printed(report, "COMPETENZE");
-    if (stato.chiusura.PercDiRiduzione != 0) {
+    if (nota.chiusura.PercDiRiduzione != 0) {
       EXPECT_NEAR(total - Printed(report, "  Riduzione concordata"), reduced, 1e-6) << report;
     }
     EXPECT_NEAR(
-        (stato.chiusura.PercDiRiduzione != 0 ? reduced : total) - Printed(report, "a detrarre"),
-        net, 1e-6)
+        (nota.chiusura.PercDiRiduzione != 0 ? reduced : total) - Printed(report, "a detrarre"), net,
+        1e-6)
         << report;
-    const double inEuro = stato.ModoLire ? Printed(report, "ed in EURO") : net;
+    const double inEuro = nota.ModoLire ? Printed(report, "ed in EURO") : net;
     EXPECT_NEAR(inEuro + Printed(report, "Contributo INARCASSA") +
                     Printed(report, "Contributo INPS") + Printed(report, "I.V.A.") +
                     Printed(report, "Tassa"),
@@ -272,9 +265,9 @@ TEST_F(FinalAccount, PrintedLinesAddUpToPrintedTotals) {
 }
 
 TEST_F(FinalAccount, SummaryLeavesOutZerosAndCutsTheOthers) {
-  stato.ModoLire = false;
+  nota.ModoLire = false;
   std::array<double, 6> importi = {1000.999, 0, 20.5, 3, 0, 4.009};
-  StampaRiepilogoPrestazioni(stato, "PD", importi);
+  nota.StampaRiepilogoPrestazioni("PD", importi);
   // clang-format off
   EXPECT_EQ(Report(), Page(R"(
 ============================== RIEPILOGO ===============================|
@@ -290,8 +283,8 @@ Per CERTIFICATO REGOLARE ESECUZIONE                    €          4,00|
 
 TEST_F(FinalAccount, SummariesOfTheOtherKinds) {
   std::array<double, 4> importi = {0, 0, 5, 6};
-  StampaRiepilogoEsl(stato, "EL", importi);
-  StampaRiepilogoEsl(stato, "GEO", std::span(importi).first(3));
+  nota.StampaRiepilogoEsl("EL", importi);
+  nota.StampaRiepilogoEsl("GEO", std::span(importi).first(3));
   // clang-format off
   EXPECT_EQ(Report(), Page(R"(
 ============================== RIEPILOGO ===============================|
@@ -306,7 +299,7 @@ Per COMPENSI AGGIUNTIVI                                L.              5|
 // Too long for the fourteen characters of the column: a failure, and no report.
 TEST_F(FinalAccount, AmountTooLong) {
   try {
-    ChiudiParcella(stato, 1e12, 0);
+    nota.ChiudiParcella(1e12, 0);
     FAIL();
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.Text(),

@@ -12,23 +12,25 @@ namespace orm {
 namespace {
 
 using ReportFrame = NoteTest;
+using ReportFiles = NoteInFolder;
 
 TEST_F(ReportFrame, AmountField) {
-  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Onorari, true), "L.          1.000");
-  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Onorari, false), "€         1.000");
-  EXPECT_EQ(StringaImporto("1.000", TipoImporto::Lavori, true), "L.            1.000");
-  EXPECT_EQ(StringaImporto("12.345.678,901", TipoImporto::Onorari, false), "€12.345.678,901");
-  EXPECT_THROW(StringaImporto("12.345.678,9012", TipoImporto::Onorari, false), RuntimeFailure);
+  EXPECT_EQ(nota.StringaImporto("1.000", TipoImporto::Onorari), "L.          1.000");
+  EXPECT_EQ(nota.StringaImporto("1.000", TipoImporto::Lavori), "L.            1.000");
+  nota.ModoLire = false;
+  EXPECT_EQ(nota.StringaImporto("1.000", TipoImporto::Onorari), "€         1.000");
+  EXPECT_EQ(nota.StringaImporto("12.345.678,901", TipoImporto::Onorari), "€12.345.678,901");
+  EXPECT_THROW(nota.StringaImporto("12.345.678,9012", TipoImporto::Onorari), RuntimeFailure);
 }
 
 // clang-format off
 TEST_F(ReportFrame, FeeLines) {
   std::string corta = " Onorario", lunga = "  Onorario per la redazione del progetto esecutivo  e particolari";
   double primo = 1234.9, secondo = 5;
-  StampaRigaOnorario(stato, 3, corta, primo);
-  StampaRigaOnorario(stato, 1, lunga, secondo);
+  nota.StampaRigaOnorario(3, corta, primo);
+  nota.StampaRigaOnorario(1, lunga, secondo);
   // One blank parts a label that is too long even without its blanks.
-  StampaRigaOnorario(stato, 1, std::string(54, 'x'), secondo);
+  nota.StampaRigaOnorario(1, std::string(54, 'x'), secondo);
   EXPECT_EQ(Report(), Page(R"(
    Onorario                                            L.          1.234|
   Onorarioperlaredazionedelprogettoesecutivoeparticolari L.              5|
@@ -43,8 +45,8 @@ xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.              5|
 TEST_F(ReportFrame, LongLabelThatFitsWithoutItsBlanks) {
   std::string lunga = "Onorario per la contabilità e le misure dei lavori à corpo  :";
   double valore = 10;
-  stato.ModoLire = false;
-  StampaRigaOnorario(stato, 1, lunga, valore);
+  nota.ModoLire = false;
+  nota.StampaRigaOnorario(1, lunga, valore);
   EXPECT_EQ(Report(), Page(R"(
 Onorarioperlacontabilitàelemisuredeilavoriàcorpo:      €         10,00|
 )"));
@@ -52,8 +54,8 @@ Onorarioperlacontabilitàelemisuredeilavoriàcorpo:      €         10,00|
 
 TEST_F(ReportFrame, Formulas) {
   double valore = 10.7;
-  StampaFormula(stato, std::string(43, 'x'), valore);
-  StampaFormula(stato, std::string(44, 'x'), valore);
+  nota.StampaFormula(std::string(43, 'x'), valore);
+  nota.StampaFormula(std::string(44, 'x'), valore);
   EXPECT_EQ(Report(), Page(R"(
 xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx            L.             10|
 xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.             10|
@@ -62,9 +64,9 @@ xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx L.             10|
 }
 
 TEST_F(ReportFrame, TextsAlignedOnTheirComma) {
-  StampaAllineataVirgola(stato, "1.234,5", 20);
-  StampaAllineataVirgola(stato, "7", 20);
-  StampaAllineataVirgola(stato, "0,125", 20);
+  nota.StampaAllineataVirgola("1.234,5", 20);
+  nota.StampaAllineataVirgola("7", 20);
+  nota.StampaAllineataVirgola("0,125", 20);
   EXPECT_EQ(Report(), Page(R"(
               1.234,5|
                   7|
@@ -73,7 +75,7 @@ TEST_F(ReportFrame, TextsAlignedOnTheirComma) {
 }
 
 TEST_F(ReportFrame, Heading) {
-  ApriParcella(stato, "INT.DAP", "per le prestazioni relative a :");
+  nota.ApriParcella("per le prestazioni relative a :");
   EXPECT_EQ(Report(), Page(R"(
               PARCELLA DELLE COMPETENZE PROFESSIONALI|
   ( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )|
@@ -86,7 +88,7 @@ Delibera n. 12|
 }
 // clang-format on
 
-TEST_F(ReportFrame, FirstUserFile) {
+TEST_F(ReportFiles, FirstUserFile) {
   ScriviUtentePredefinito(stato.folder);
   std::string lines;
   for (int i = 0; i < 10; ++i) lines += "\r\n";
@@ -98,7 +100,7 @@ TEST_F(ReportFrame, FirstUserFile) {
   EXPECT_EQ(utente.Professione, "Ingegnere");
 }
 
-TEST_F(ReportFrame, UserFileIsOneTextALine) {
+TEST_F(ReportFiles, UserFileIsOneTextALine) {
   DatiProfessionista utente;
   utente.Nome = "Anna \"Nina\" Verdi";
   utente.Citta = "Forlì";
@@ -110,10 +112,11 @@ TEST_F(ReportFrame, UserFileIsOneTextALine) {
   EXPECT_EQ(letto.Citta, utente.Citta);
 }
 
-TEST_F(ReportFrame, HeaderOfEmptyTexts) {
+TEST_F(ReportFiles, HeaderOfEmptyTexts) {
   ScriviIntestazione(stato.folder, "INT.DAP", {});
   EXPECT_EQ(stato.folder.Read("INT.DAP"), "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
-  ApriParcella(stato, "INT.DAP", "relative a :");
+  nota.intestazione = LeggiIntestazione(stato.folder, "INT.DAP");
+  nota.ApriParcella("relative a :");
   EXPECT_TRUE(Report().ends_with("relative a :\n\n"));
 }
 

@@ -1,4 +1,4 @@
-#include "tariff/price_index.h"
+#include "tariff/config/price_index.h"
 
 #include <algorithm>
 #include <string>
@@ -60,8 +60,8 @@ std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder) {
   return indici;
 }
 
-double PercentualeRivalutazione(const WorkFolder& folder, int mese, int anno) {
-  const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder);
+double IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
+  const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder_);
   if (anno < kAnnoBase || mese < 1 || mese > 12)
     throw RuntimeFailure("La rivalutazione parte da gennaio 1993: " + NumberText(mese) + "/" +
                          NumberText(anno) + " non ha un indice.")

@@ -1,5 +1,5 @@
-// The professional's data and the header of a fee note.
-#include "tariff/user_data.h"
+// The files of the professional's data and of the header of a fee note.
+#include "tariff/files/user_files.h"
 
 namespace orm {
 namespace {
@@ -39,10 +39,6 @@ void ScriviUtentePredefinito(const WorkFolder& folder) {
             Field("Data di iscrizione", dati.DataIscrizione),
             Field("Professione", dati.Professione));
   file.Replace(folder, kFileUtente);
-}
-
-std::string TitoloDi(const DatiProfessionista& dati) {
-  return dati.Professione.starts_with('A') ? "Dott. Arch. " : "Dott. Ing. ";
 }
 
 Intestazione LeggiIntestazione(const WorkFolder& folder, const std::string& nomeFile) {

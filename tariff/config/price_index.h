@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "runtime/folder.h"
@@ -20,8 +21,17 @@ struct IndiciAnno {
 // has another count, a year twice or an index below 0 is a RuntimeFailure with its place.
 std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder);
 
-// Percent by which prices rose from January 1993 to a month; beyond the last one published its
-// index counts. A month or year that the file cannot answer is a RuntimeFailure.
-double PercentualeRivalutazione(const WorkFolder& folder, int mese, int anno);
+// The indices of a folder; the file is opened when a percentage is asked for.
+class IndiciFoi {
+ public:
+  explicit IndiciFoi(WorkFolder folder) : folder_(std::move(folder)) {}
+
+  // Percent by which prices rose from January 1993 to a month; beyond the last one published its
+  // index counts. A month or year that the file cannot answer is a RuntimeFailure.
+  double PercentualeRivalutazione(int mese, int anno) const;
+
+ private:
+  WorkFolder folder_;
+};
 
 }  // namespace orm

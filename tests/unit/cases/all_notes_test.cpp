@@ -1,5 +1,5 @@
-// The notes besides design and supervision: properties over random data of each case, the
-// conversion of their files, and the notes that no menu reaches against reports worked out apart.
+// All notes through their files: properties over random data of each case, the conversion of the
+// files, and the notes that no menu reaches against reports worked out apart.
 #include <regex>
 
 #include "cases/fee_case.h"
@@ -37,12 +37,17 @@ std::string Rileggi(const WorkFolder& folder, const std::string& file) {
 }
 
 const Prova kProve[] = {
+    {"PPE", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Ppe(), k); }, Rileggi<DatiPpe>},
+    {"COA", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Coa(), k); }, Rileggi<DatiCoa>},
+    {"ESL", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Esl(), k); }, Rileggi<DatiEsl>},
+    {"PDL", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Pdl(), k); }, Rileggi<DatiPdl>},
     {"STC", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Stc(), k); }, Rileggi<DatiStc>},
     {"AGP", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Agp(), k); }, Rileggi<DatiAgp>},
     {"CS1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(true), k); }, Rileggi<DatiCos>},
     {"CS2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(false), k); },
      Rileggi<DatiCos>},
-    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); }, Rileggi<DatiGeotecnici>},
+    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); },
+     Rileggi<DatiGeotecnici>},
     {"SC1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc1), k); },
      Rileggi<DatiSicurezza>},
     {"SC2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc2), k); },
@@ -50,9 +55,9 @@ const Prova kProve[] = {
 
 constexpr unsigned kNote = 40;
 
-class AltreNote : public NoteTest {
+class TutteLeNote : public NoteInFolder {
  protected:
-  AltreNote() {
+  TutteLeNote() {
     for (const char* file : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "IND.CFG"})
       stato.folder.Replace(file, WorkFolder(ORM_SOURCE_DIR "/data").Read(file));
   }
@@ -66,18 +71,7 @@ class AltreNote : public NoteTest {
     stato.folder.Replace(nomi.FileInt, stato.folder.Read("INT.DAP"), Durability::Remakeable);
   }
 
-  void Calcola(const char* codice) {
-    stato.NumFileUscita = ReportPrinter();
-    FindFeeCase(codice)->calcolo(stato);
-  }
-
-  void CriteriA(CasoNote& caso) {
-    stato.criteri.TipoPercentualeCompensi = caso.Fra({"CALCOLATA", "NUOVA TARIFFA", "ASSEGNATA"});
-    stato.criteri.PercCompensiAssegnata = caso.Fino(61);
-    stato.criteri.AliquoteDirezioneLavori = caso.Fra({"UNITE", "SEPARATE"});
-    stato.criteri.CompensiSuMaggiorazione = caso.Fra({"SI", "NO"});
-    stato.ModoLire = caso.Uno(2);
-  }
+  Parcella Calcola(const char* codice) { return FindFeeCase(codice)->calcolo(stato); }
 };
 
 // The fees printed before the totals and the total, in hundredths. A fee ends a line in a field of
@@ -96,23 +90,31 @@ std::pair<long long, long long> OnorariETotale(const std::string& report) {
   return {onorari, -1};
 }
 
-TEST_F(AltreNote, PrintedFeesAddUp) {
+TEST_F(TutteLeNote, PrintedFeesAddUp) {
   for (const Prova& prova : kProve)
     for (unsigned seme = 0; seme < kNote; ++seme) {
       CasoNote criteri(seme, true);
-      CriteriA(criteri);
+      stato.criteri = criteri.CriteriDiCalcolo();
+      stato.ModoLire = criteri.Uno(2);
       CasoNote caso(seme, stato.ModoLire);
       const std::string bytes = prova.bytes(caso, {});
       Prepara(prova.codice, bytes);
-      ASSERT_NO_THROW(Calcola(prova.codice)) << prova.codice << ' ' << seme << '\n' << bytes;
-      const auto [onorari, totale] = OnorariETotale(Report());
-      ASSERT_NEAR(static_cast<double>(onorari), static_cast<double>(totale), stato.ModoLire ? 0 : 1)
+      std::string report;
+      ASSERT_NO_THROW(report = Report(Calcola(prova.codice))) << prova.codice << '\n' << bytes;
+      const auto [onorari, totale] = OnorariETotale(report);
+      // In Euro the last cent of a binary sum may be missed; in a note of testing a Lira, because
+      // fees and compensations are cut apart.
+      const bool collaudo = prova.codice == std::string("COA");
+      ASSERT_NEAR(static_cast<double>(onorari), static_cast<double>(totale),
+                  !stato.ModoLire ? 1
+                  : collaudo      ? 100
+                                  : 0)
           << prova.codice << ' ' << seme << '\n'
-          << Report();
+          << report;
     }
 }
 
-TEST_F(AltreNote, ReadingAndWritingChangesNoByte) {
+TEST_F(TutteLeNote, ReadingAndWritingChangesNoByte) {
   for (const Prova& prova : kProve)
     for (unsigned seme = 0; seme < kNote; ++seme) {
       CasoNote caso(seme, seme % 2 == 0);
@@ -122,7 +124,7 @@ TEST_F(AltreNote, ReadingAndWritingChangesNoByte) {
     }
 }
 
-TEST_F(AltreNote, CutFileIsAFailure) {
+TEST_F(TutteLeNote, CutFileIsAFailure) {
   stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
   for (const Prova& prova : kProve) {
     CasoNote caso(11, true);
@@ -135,7 +137,7 @@ TEST_F(AltreNote, CutFileIsAFailure) {
 }
 
 // Whatever bytes are changed, in the data or in the tariff files, there is a report or a message.
-TEST_F(AltreNote, DamagedFileIsReadOrRefused) {
+TEST_F(TutteLeNote, DamagedFileIsReadOrRefused) {
   std::mt19937 motore(5);
   for (const Prova& prova : kProve)
     for (unsigned giro = 0; giro < 40; ++giro) {
@@ -159,7 +161,7 @@ TEST_F(AltreNote, DamagedFileIsReadOrRefused) {
 }
 
 // The Lire file stays, the Euro file is the same each time, and the converted note calculates.
-TEST_F(AltreNote, ConversionCopiesAndTheCopyCalculates) {
+TEST_F(TutteLeNote, ConversionCopiesAndTheCopyCalculates) {
   for (const Prova& prova : kProve)
     for (unsigned seme = 0; seme < 8; ++seme) {
       stato.ModoLire = true;
@@ -181,7 +183,7 @@ TEST_F(AltreNote, ConversionCopiesAndTheCopyCalculates) {
 }
 
 // A damaged note in Lire leaves both Euro files as they were.
-TEST_F(AltreNote, DamagedNoteIsNotConverted) {
+TEST_F(TutteLeNote, DamagedNoteIsNotConverted) {
   stato.folder.Replace("INT_AGP_E.DAP", "prima");
   stato.folder.Replace("INP_AGP_E.DAP", "prima");
   Prepara("AGP", "\"NUOVE ANALISI\",\"NO\",\"5\",1\r\n\"1\",\"a\",1\r\n");
@@ -194,19 +196,18 @@ TEST_F(AltreNote, DamagedNoteIsNotConverted) {
 }
 
 // The notes in Euro of the versions that the menus leave out.
-class SenzaMenu : public AltreNote {
+class SenzaMenu : public TutteLeNote {
  protected:
-  void Confronta(const char* codice, const std::string& nota) {
+  void Confronta(const char* codice, const std::string& nome) {
     std::string cartella = ORM_SOURCE_DIR "/tests/scripts/";
     cartella += codice[0] == 'C' ? "cs2" : "sc2";
     const WorkFolder attesi(cartella);
     stato.folder.Replace("UTENTE.DAG", attesi.Read("UTENTE.DAG"));
     stato.folder.Replace("INT.DAP", attesi.Read("INT.DAP"));
-    Prepara(codice, attesi.Read(nota + "_INP.DAP"));
-    Calcola(codice);
-    stato.NumFileUscita.Save(stato.folder, "OUT.DOC");
+    Prepara(codice, attesi.Read(nome + "_INP.DAP"));
+    Calcola(codice).uscita.Save(stato.folder, "OUT.DOC");
     EXPECT_EQ(FromWindows1252(stato.folder.Read("OUT.DOC")),
-              FromWindows1252(attesi.Read(nota + ".DOC")));
+              FromWindows1252(attesi.Read(nome + ".DOC")));
   }
 };
 
@@ -225,7 +226,7 @@ TEST_F(SenzaMenu, SiteSafetyOf2001InEuro) {
 }
 
 // The greatest amounts of the dialogs still fit the columns, with the dearest of everything.
-TEST_F(AltreNote, GreatestAmountsOfTheDialogsFit) {
+TEST_F(TutteLeNote, GreatestAmountsOfTheDialogsFit) {
   stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
   stato.criteri.PercCompensiAssegnata = 60;
   for (const bool lire : {true, false}) {

@@ -1,0 +1,20 @@
+#include "cases/calculation_step.h"
+
+#include "tariff/files/user_files.h"
+
+namespace orm {
+
+Parcella NuovaParcella(const RunState& stato) {
+  Parcella nota;
+  nota.ModoLire = stato.ModoLire;
+  nota.CasoDiParcella = stato.CasoDiParcella;
+  nota.criteri = stato.criteri;
+  nota.chiusura = stato.chiusura;
+  nota.utente = LeggiDatiProfessionista(stato.folder);
+  nota.intestazione = LeggiIntestazione(stato.folder, stato.FileInt);
+  nota.oggi = stato.player.Today();
+  nota.scaglioni = ScaglioniCompensi(stato.folder);
+  return nota;
+}
+
+}  // namespace orm

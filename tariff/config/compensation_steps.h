@@ -1,0 +1,25 @@
+// The steps of the accessory compensations, kept in CAC.CFG, which the user may edit: a count (1 to
+// 30) and a note, then for each step an amount in Lire, a percentage and a note.
+#pragma once
+
+#include <utility>
+
+#include "runtime/folder.h"
+
+namespace orm {
+
+// The steps of a folder; the file is opened when a percentage is asked for.
+class ScaglioniCompensi {
+ public:
+  explicit ScaglioniCompensi(WorkFolder folder = WorkFolder()) : folder_(std::move(folder)) {}
+
+  // Percentage at an amount in Lire. Between two steps it is interpolated, beyond either end it
+  // stays; an amount of 0 gives 0. A file that is absent, short, has another count or amounts that
+  // fall is a RuntimeFailure.
+  double PercCompensiAccessoriCfg(double importo) const;
+
+ private:
+  WorkFolder folder_;
+};
+
+}  // namespace orm

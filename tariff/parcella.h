@@ -1,0 +1,165 @@
+// A fee note while it is reckoned and printed: what it is made with, its report, and the routines
+// that all cases print it with.
+//
+// A case's own note derives from it, takes its data already read and prints itself on `uscita`. It
+// sees no screen and no menu; a file that the user keeps is behind a reader that opens it when it
+// is asked. Amounts are in the currency of the note where nothing else is said. What is printed is
+// what is summed: "cut" means that the argument keeps the value that its text shows.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/dates.h"
+#include "runtime/report_printer.h"
+#include "tariff/accessory_compensations.h"
+#include "tariff/closing_values.h"
+#include "tariff/config/compensation_steps.h"
+#include "tariff/criteria.h"
+#include "tariff/law/accounting_fee.h"
+#include "tariff/lot_lines.h"
+#include "tariff/report.h"
+#include "tariff/table_a_slices.h"
+#include "tariff/user_data.h"
+
+namespace orm {
+
+class Parcella {
+ public:
+  // ---- what a note is made with
+  bool ModoLire = false;       // Lire or Euro: the currency of every amount
+  std::string CasoDiParcella;  // three letters
+  Criteri criteri;
+  Chiusura chiusura;
+  DatiProfessionista utente;
+  Intestazione intestazione;
+  Date oggi;
+  ScaglioniCompensi scaglioni;
+
+  // ---- what comes of it
+  ReportPrinter uscita;
+  std::size_t progressivo = 0;  // of the last fee that stands under a number
+  double TotaleGenerale = 0;    // of the fees
+  // The factor that adds the accessory compensations to a fee, and its text behind a formula,
+  // " x 1,6", cut alike. Without any amount of works it is 0.
+  double Coefficiente = 1;
+  std::string StringaCoefficiente;
+  std::vector<RigaContabilita> contemp;  // works whose accounting is still to be reckoned
+
+  // ---- money (report.cpp)
+  // Decimals of money for FormattaNumero: none in Lire, two kept in Euro.
+  int DecimaliValuta() const { return ModoLire ? 0 : -2; }
+  // The amount that goes to the tables, which are in Lire, and a figure of theirs on its way back.
+  double ImportoInLire(double importo) const;
+  double InValuta(double lire) const;
+  // The whole part in Lire; in Euro the value as it is.
+  double IntInLire(double valore) const;
+  // "1.000.000", "1.000,50": shown and not cut.
+  std::string TestoImporto(double importo) const;
+  // Currency symbol and, right-justified behind it, a text of figures: a field of 16 characters for
+  // amounts of works, of 14 for fees. "L. " is two characters longer than "€", so a Euro line ends
+  // two columns before a line in Lire. A text too long for the field is a RuntimeFailure.
+  std::string StringaImporto(std::string_view testo, TipoImporto tipo) const;
+
+  // ---- the frame of the report (report.cpp)
+  // The heading: title, client, professional, `frase` that names the work, texts of the header.
+  void ApriParcella(std::string_view frase);
+  // "3 -", of the next fee under a number.
+  std::string Numero();
+  // Ends a line with a fee from column 56, cut.
+  void StampaImporto(double& valore) { StampaImporto(valore, DecimaliValuta()); }
+  void StampaImporto(double& valore, int decimali) { ConcludiRiga(valore, decimali, true); }
+  // One line: the label from column `tab`, the fee from column 56, cut. A label of 54 characters or
+  // more loses its inner blanks, and keeps the loss; if it is too long even so, the fee follows it
+  // after one blank.
+  void StampaRigaOnorario(int tab, std::string& etichetta, double& valore);
+  void StampaRigaOnorario(int tab, std::string&& etichetta, double& valore);
+  // One line with a formula and the fee that it comes to, cut: from column 56, or after one blank
+  // where the formula has 44 characters or more.
+  void StampaFormula(std::string_view formula, double& valore);
+  // One line with the text before `colonna`, or with its comma at `colonna`.
+  void StampaAllineataVirgola(std::string_view testo, int colonna);
+
+  // ---- accessory compensations (accessory_compensations.cpp)
+  // Finds `Coefficiente` and its text by the amount of the works, in Lire in both modes.
+  void CompensiAccessori(double lire, ModoCompensi modo = ModoCompensi::Stampa);
+  // A fee without its compensations; where there is no coefficient nothing to divide: 0.
+  double SenzaCompensi(double onorario) const;
+
+  // ---- percentages, cut to what they print; fees are reckoned with the cut ones (lot_lines.cpp)
+  // Any percentage, with the decimals that its amount in Lire asks for.
+  Percentuale PercentualeTagliata(double lire, double valore) const;
+  // By the tables, of an amount; of 0 they are 0, "0 %".
+  Percentuale PercentualeDaTabellaA(double importo, int periodo, std::string_view classe,
+                                    std::string_view categoria) const;
+  Percentuale PercentualeDaTabellaNuova(double importo, std::string_view classe,
+                                        std::string_view categoria) const;
+  // By Table C, of an amount in Lire above 0.
+  Percentuale PercentualeDaTabellaC(int periodo, double lire) const;
+
+  // ---- amounts above the limit of Table A, in slices (table_a_slices.cpp)
+  double LimiteTabellaA() const;
+  // Of a base: above the limit there is one percentage for what lies within and one for the rest.
+  PercentualiTabellaA PercentualiDellaBase(double base, int periodo, std::string_view classe,
+                                           std::string_view categoria) const;
+  // The base decides: where it is above the limit, the whole limit and what the amount has beyond
+  // it, even less than nothing.
+  std::vector<QuotaImporto> QuoteDellImporto(const PercentualiTabellaA& percentuali,
+                                             double importo) const;
+  // The same along the running sum of a lot's supervision, `prima` before this amount: what still
+  // lies within the limit, and the rest.
+  std::vector<QuotaImporto> QuoteProgressive(const PercentualiTabellaA& percentuali, double importo,
+                                             double prima) const;
+
+  // ---- the lines of a lot (lot_lines.cpp)
+  // Ends a line with an amount of works from column 48, not cut.
+  void StampaLavori(double importo);
+  // One line with it: `voce` from `colonna`.
+  void StampaLavori(int colonna, std::string_view voce, double importo);
+  // The works designed and supervised as the list of amounts calls them: a design with a minus is
+  // the original one and shown without it; a design of 0 and a supervision of 3 or less are not
+  // shown.
+  void StampaProgettoSpecifica(int colonna, double importo);
+  void StampaDirezioneSpecifica(int colonna, std::string_view TipoParcella, double importo);
+  // The works supervised above a fee, with the same threshold.
+  void StampaDirezioneOnorari(std::string_view TipoParcella, double importo);
+  // One line: `voce` and the percentage, " su  " at `colonna`, its base from column 48.
+  void StampaPercentuale(std::string_view voce, const Percentuale& percentuale, double base,
+                         int colonna = 33);
+  // One line with a fee and how it comes about. In Lire it is cut to its whole part; comes back as
+  // printed.
+  double StampaOnorario(const RigaFormula& formula, double onorario);
+
+  // ---- measuring and accounting (accounting_block.cpp)
+  // Prints the bands and the totals of `contemp`, sorted by period and with the rows of one period
+  // and coefficient taken together. `onorario` is neither cut nor rounded, `testo` shows it.
+  void CalcoloMisureContabilita(double& onorario, std::string& testo);
+  // The block and, under it, the line of the fee with its compensations, which comes back as
+  // printed. Without rows nothing is printed.
+  double StampaContabilita();
+
+  // ---- the end of a note (lot_lines.cpp, final_account.cpp)
+  // The certificate of regular execution by Table C on the sum of the supervision: its fee.
+  double StampaCertificato(int periodo, double SommaDirezione);
+  // The fees by kinds of service; those of 0 are left out, the others cut. `tipo` is "PD" (six),
+  // "EL" (four) or "GEO" (three).
+  void StampaRiepilogoPrestazioni(std::string_view tipo, std::span<double> importi);
+  void StampaRiepilogoEsl(std::string_view tipo, std::span<double> importi) {
+    StampaRiepilogoPrestazioni(tipo, importi);
+  }
+  // The final account from the sum of the fees and that of the compensations, with the closing
+  // values and the criteria. A note in Lire is brought to Euro once, at its net amount, and goes on
+  // in Euro from there.
+  void ChiudiParcella(double onorari, double compensi);
+  // The same from `TotaleGenerale`, in which the fees contain their compensations, but
+  // `NonConglobati` of it do not.
+  void ChiudiConCompensi(double NonConglobati = 0);
+
+ private:
+  // Every fee that is printed ends its line here: cut, from column 56 or after one blank.
+  void ConcludiRiga(double& valore, int decimali, bool inColonna);
+};
+
+}  // namespace orm
