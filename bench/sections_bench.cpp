@@ -15,8 +15,8 @@
 #include <random>
 #include <vector>
 
-#include "structures/sections/section_circular.h"
-#include "structures/sections/section_t.h"
+#include "structures/solvers/section_circular.h"
+#include "structures/solvers/section_t.h"
 
 namespace orm {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "runtime/numbers.h"
-#include "structures/sections/section_t.h"
+#include "structures/solvers/section_t.h"
 #include "tariff/money.h"
 
 namespace orm {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "structures/truss_slab/truss_slab_bars.h"
-#include "structures/truss_slab/truss_slab_tables.h"
+#include "structures/truss_slab/bars.h"
+#include "structures/truss_slab/tables.h"
 
 namespace orm {
 

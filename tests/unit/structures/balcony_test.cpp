@@ -8,9 +8,9 @@
 #include <random>
 
 #include "dialogs/form.h"
-#include "structures/balcony/balcony_drawing.h"
-#include "structures/balcony/balcony_statics.h"
-#include "structures/balcony/stone_table.h"
+#include "structures/balcony/drawing.h"
+#include "structures/balcony/statics.h"
+#include "structures/balcony/stones.h"
 #include "structures/steel_profiles.h"
 
 namespace orm {

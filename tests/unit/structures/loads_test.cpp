@@ -5,11 +5,11 @@
 
 #include <functional>
 
+#include "structures/loads/form_edge.h"
+#include "structures/loads/form_filling.h"
+#include "structures/loads/form_permanent.h"
+#include "structures/loads/form_seismic.h"
 #include "structures/loads/hollow_tiles.h"
-#include "structures/loads/loads_edge.h"
-#include "structures/loads/loads_filling.h"
-#include "structures/loads/loads_permanent.h"
-#include "structures/loads/loads_seismic.h"
 #include "structures/structural_report.h"
 #include "tests/unit/fake_player.h"
 #include "tests/unit/form_rules.h"

@@ -1,5 +1,5 @@
 // MassimoMinimoVettore and OrdinaArray.
-#include "structures/sections/arrays.h"
+#include "structures/solvers/arrays.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // VerificaSezioneCircolare against equilibrium on strips, and its own stated oddities.
-#include "structures/sections/section_circular.h"
+#include "structures/solvers/section_circular.h"
 
 #include <gtest/gtest.h>
 

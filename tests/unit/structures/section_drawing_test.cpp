@@ -1,5 +1,5 @@
 // Drawings of sections: scale, outline, places of labels, and measures that nobody has.
-#include "structures/sections/section_drawing_t.h"
+#include "structures/sections/drawing_t.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // VerificaSezioneT against equilibrium on strips, closed formulas, and its own stated oddities.
-#include "structures/sections/section_t.h"
+#include "structures/solvers/section_t.h"
 
 #include <gtest/gtest.h>
 

@@ -6,9 +6,9 @@
 #include <random>
 
 #include "structures/loads/hollow_tiles.h"
-#include "structures/steel_beams/steel_beam_results.h"
-#include "structures/steel_beams/steel_cantilever.h"
-#include "structures/steel_beams/steel_slab.h"
+#include "structures/steel_beams/cantilever.h"
+#include "structures/steel_beams/panel_results.h"
+#include "structures/steel_beams/slab.h"
 
 namespace orm {
 namespace {

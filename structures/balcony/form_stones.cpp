@@ -1,0 +1,96 @@
+#include "structures/balcony/form_stones.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "structures/numbered_controls.h"
+
+namespace orm {
+namespace {
+
+const NumberLimits kTensione{.most = 9999.99, .decimals = 2, .unit = " [Kg/cmq]"};
+constexpr double kPassiPerKg = 10;  // so that the usual values lie on a step
+
+}  // namespace
+
+FrmVerPietre::FrmVerPietre()
+    : Form("frmVER_PIETRE", "TENSIONI AMMISSIBILI PIETRA"),
+      fraPietra(*this, "fraPietra", "Tipo di pietra"),
+      fraTensioni(*this, "fraTensioni", "Tensioni ammissibili"),
+      cdSigma(*this, "cdSigma", "σ  a flessione", kTensione),
+      cdTau(*this, "cdTau", "τ", kTensione),
+      lblValoriUsuali(*this, "lblValoriUsuali",
+                      "Valori usuali dei manuali, da valutare per la pietra in opera.",
+                      Label::Style::Note),
+      OKButton(*this, "OKButton", "&O.K.", Button::Role::Default) {
+  for (const Pietra& pietra : Pietre) {
+    const auto posto = sldPietraS.size();
+    optPietra.emplace_back(*this, NomeIndicizzato("optPietra", posto + 1), pietra.nome, gruppo);
+    const auto& [minimo, massimo, usuale] = pietra.sigma;
+    sldPietraS.emplace_back(*this, NomeIndicizzato("sldPietraS", posto), "", minimo, massimo,
+                            static_cast<int>(std::lround((massimo - minimo) * kPassiPerKg)));
+    sldPietraS.back().SetValue(usuale);
+  }
+  optPietra.emplace_back(*this, NomeIndicizzato("optPietra", Pietre.size() + 1), kAltraPietra,
+                         gruppo);
+  Arrange();
+  optPietra[0].SetValue(true);
+  TieEvents();
+  Mostra();
+}
+
+void FrmVerPietre::Arrange() {
+  std::vector<Layout> righe;
+  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
+    righe.push_back(Row({optPietra[i], sldPietraS[i]}));
+  SetContent(Column({Group(fraPietra, {Fields(std::move(righe)), optPietra.back()}),
+                     Group(fraTensioni, {Fields({cdSigma, cdTau})}), lblValoriUsuali,
+                     Buttons({OKButton})}));
+}
+
+void FrmVerPietre::TieEvents() {
+  for (OptionButton& opt : optPietra) opt.onChange = [this] { Mostra(); };
+  for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
+  cdSigma.onChange = cdTau.onChange = [this] {
+    if (Scelta() != nullptr) return;
+    altraSigma_ = cdSigma.Value();
+    altraTau_ = cdTau.Value();
+  };
+  OKButton.onPress = [this] { Esci(Uscita::Conferma); };
+}
+
+void FrmVerPietre::OnOpen() { prima_ = FormValues(*this); }
+
+void FrmVerPietre::OnWindowClose() {
+  prima_.PutInto(*this);
+  Close();
+}
+
+const Pietra* FrmVerPietre::Scelta() const {
+  const auto scelta = static_cast<std::size_t>(gruppo.Chosen());
+  return scelta < Pietre.size() ? &Pietre[scelta] : nullptr;
+}
+
+double FrmVerPietre::Sigma() const {
+  const auto scelta = static_cast<std::size_t>(gruppo.Chosen());
+  return Scelta() == nullptr ? cdSigma.Value() : sldPietraS[scelta].Value();
+}
+
+double FrmVerPietre::Tau() const {
+  const Pietra* pietra = Scelta();
+  return pietra == nullptr ? cdTau.Value() : TauDiPietra(*pietra, Sigma());
+}
+
+void FrmVerPietre::Mostra() {
+  const bool altra = Scelta() == nullptr;
+  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
+    sldPietraS[i].SetEnabled(optPietra[i].Value());
+  cdSigma.SetReadOnly(!altra);
+  cdTau.SetReadOnly(!altra);
+  const bool scritta = altra && altraSigma_ + altraTau_ > 0;
+  const double sigma = scritta ? altraSigma_ : Sigma(), tau = scritta ? altraTau_ : Tau();
+  cdSigma.SetValue(sigma);
+  cdTau.SetValue(tau);
+}
+
+}  // namespace orm

@@ -1,0 +1,105 @@
+#include "structures/steel_beams/form_slab.h"
+
+#include "structures/steel_beams/report.h"
+#include "structures/structural_report.h"
+#include "tariff/message_boxes.h"
+
+namespace orm {
+namespace {
+
+const NumberLimits kCoefficiente{.most = 999.99, .decimals = 2};
+constexpr double kAppoggio = 8;  // of a beam on two supports
+
+}  // namespace
+
+FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
+    : FormRiprendibile("frmVER_SOLAIO_P", "VERIFICA SOLAI MONOCAMPATA PUTRELLE E TAVELLONI"),
+      fraPosizione(*this, "fraPosizione", "POSIZIONE SOLAIO"),
+      Option1(*this, "Option1", "di Piano", gruppoPosizione),
+      Option2(*this, "Option2", "di Copertura", gruppoPosizione),
+      ingressi(*this, stato,
+               {"Luce netta [m]", "CARICHI applicati direttamente alla putrella a ml."}),
+      fraCoefficienti(*this, "fraCoefficienti", "COEFFICENTI PER CALCOLO  MOMENTI"),
+      cdMezzeria(*this, "cdMezzeria", "Mezzeria   1/", kCoefficiente),
+      cdIncastro(*this, "cdIncastro", "Incastro   1/", kCoefficiente),
+      lblFreccia(*this, "lblFreccia",
+                 "Con un incastro di coefficiente minore di 12\nle frecce risultano in difetto.",
+                 Label::Style::Warning),
+      risultati(*this, {"Tensione normale max acciaio  [Kg/cmq]",
+                        "Tensione tangenziale max acciaio  [Kg/cmq]",
+                        "Freccia elastica per carico permanente [cm]",
+                        "Freccia elastica per carico totale [cm]"}),
+      ComCalcola(*this, "ComCalcola", "&CALCOLA", Button::Role::Default),
+      cmdSTAMPA(*this, "cmdSTAMPA", "&STAMPA"),
+      ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
+      stato_(stato) {
+  SetContent(
+      Column({Row({Column({Group(fraPosizione, {Row({Option1, Option2})}), ingressi.Schema(),
+                           Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
+                   Column({ingressi.Carichi()})}),
+              risultati.Contents(), Buttons({cmdRIPRENDI, ComCalcola, cmdSTAMPA, ComEsci})}));
+  SetFirstFocus(ingressi.cdLunghezza);
+  Option1.SetValue(true);
+  cdMezzeria.SetValue(kAppoggio);
+  const auto cambiati = [this] { Azzera(); };
+  ingressi.TieEvents(cambiati);
+  Option1.onChange = Option2.onChange = cdMezzeria.onChange = cdIncastro.onChange = cambiati;
+  ComCalcola.onPress = [this] { Calcola(); };
+  cmdSTAMPA.onPress = [this] { TryAndStay(stato_.player, [this] { Stampa(); }); };
+  ComEsci.onPress = [this] { Close(); };
+  Azzera();
+}
+
+void FrmVerSolaioP::Azzera() {
+  lblFreccia.SetVisible(IncastroEccessivo(cdIncastro.Value()));
+  risultati.Azzera();
+  cmdSTAMPA.SetEnabled(false);
+}
+
+// A floor that is too low may be checked all the same.
+bool FrmVerSolaioP::AltezzaAccettata(const DatiSolaioP& dati) {
+  if (!Option1.Value() || !AltezzaSolaioInsufficiente(dati.lunghezza, dati.altezza)) return true;
+  return stato_.player.Ask(
+             {kAttenzione,
+              "ALTEZZA DEL SOLAIO INFERIORE AL MINIMO DI LEGGE PER LA LUCE ASSEGNATA\n"
+              "ESEGUO CALCOLO ?",
+              MessageBox::Icon::Question, MessageBox::Buttons::YesNo}) == Answer::Yes;
+}
+
+void FrmVerSolaioP::Calcola() {
+  DatiSolaioP dati;
+  ingressi.Leggi(dati);
+  dati.cMezzeria = cdMezzeria.Value();
+  dati.cIncastro = cdIncastro.Value();
+  Azzera();
+  if (dati.lunghezza == 0) {
+    stato_.player.Ask(Avviso("IL CALCOLO NON VERRÁ ESEGUITO PERCHÈ LA LUCE È ZERO"));
+    return;
+  }
+  if (dati.cMezzeria == 0 && dati.cIncastro == 0) {
+    stato_.player.Ask(Avviso("IL CALCOLO NON VERRÁ ESEGUITO PERCHÈ I COEFFICENTI SONO ZERO"));
+    return;
+  }
+  if (!AltezzaAccettata(dati)) return;
+  dati_ = dati;
+  verifica_ = VerificaSolaioP(dati);
+  risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
+                    {verifica_.ammesse.tau, verifica_.calcolate.tau},
+                    {verifica_.permanente.accettata, verifica_.permanente.calcolata},
+                    {verifica_.totale.accettata, verifica_.totale.calcolata}});
+  cmdSTAMPA.SetEnabled(true);
+}
+
+void FrmVerSolaioP::Stampa() {
+  RelazioneStrutturale(stato_, kRelazioneSolaioP)
+      .Stampa([this](ReportPrinter& testo, bool primo,
+                     int numero) { StampaSolaioP(testo, primo, numero, dati_, verifica_); },
+              "LA STAMPA SARÁ ACCODATA A QUELLA DEL SOLAIO PRECEDENTE");
+}
+
+void MostraSolaioP(RunState& stato) {
+  FrmVerSolaioP form(stato);
+  MostraRiprendibile(stato, form);
+}
+
+}  // namespace orm
