@@ -23,7 +23,7 @@ FrmVerPietre::FrmVerPietre()
                       "Valori usuali dei manuali, da valutare per la pietra in opera.",
                       Label::Style::Note),
       OKButton(*this, "OKButton", "&O.K.", Button::Role::Default) {
-  for (const Pietra& pietra : Pietre) {
+  for (const Pietra& pietra : kPietre) {
     const auto posto = sldPietraS.size();
     optPietra.emplace_back(*this, NomeIndicizzato("optPietra", posto + 1), pietra.nome, gruppo);
     const auto& [minimo, massimo, usuale] = pietra.sigma;
@@ -31,7 +31,7 @@ FrmVerPietre::FrmVerPietre()
                             static_cast<int>(std::lround((massimo - minimo) * kPassiPerKg)));
     sldPietraS.back().SetValue(usuale);
   }
-  optPietra.emplace_back(*this, NomeIndicizzato("optPietra", Pietre.size() + 1), kAltraPietra,
+  optPietra.emplace_back(*this, NomeIndicizzato("optPietra", kPietre.size() + 1), kAltraPietra,
                          gruppo);
   Arrange();
   optPietra[0].SetValue(true);
@@ -68,7 +68,7 @@ void FrmVerPietre::OnWindowClose() {
 
 const Pietra* FrmVerPietre::Scelta() const {
   const auto scelta = static_cast<std::size_t>(gruppo.Chosen());
-  return scelta < Pietre.size() ? &Pietre[scelta] : nullptr;
+  return scelta < kPietre.size() ? &kPietre[scelta] : nullptr;
 }
 
 double FrmVerPietre::Sigma() const {

@@ -16,7 +16,7 @@ struct Pietra {
 };
 
 // Customary values of Italian handbooks of building, to be weighed for the stone at hand.
-inline constexpr std::array<Pietra, 6> Pietre = {{
+inline constexpr std::array<Pietra, 6> kPietre = {{
     {"GRANITO", {10, 20, 15}, {7, 14, 10}},
     {"PORFIDO", {15, 25, 20}, {10, 18, 13}},
     {"CALCARE ", {7, 15, 10}, {5, 10, 7}},

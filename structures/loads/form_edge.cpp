@@ -12,11 +12,11 @@ NumberLimits Risultato(const char* unita) {
 FrmStruttureCarichiEstremita::FrmStruttureCarichiEstremita()
     : FrmCarichi("frmSTRUTTURE_CarichiEstremita", "Sovraccarichi all'estremità di sbalzi "),
       fraCarico(*this, "fraCarico", "CARICO RIPARTITO  [ Kg/ml. ]"),
-      optCARICO(*this, "optCARICO", VociParapetto, gruppoCarico, "Kg/ml."),
+      optCARICO(*this, "optCARICO", kVociParapetto, gruppoCarico, "Kg/ml."),
       cdCarico(*this, "cdCarico", "Carico", Risultato("Kg/ml.")),
       fraCoppia(*this, "fraCoppia", "COPPIA RIPARTITA  [ Kg x m / ml. ]"),
       fraSpinta(*this, "fraSpinta", "SPINTA SUL PARAPETTO"),
-      optSpinta(*this, "optSpinta", VociSpinta, gruppoSpinta, "Kg x ml. / ml."),
+      optSpinta(*this, "optSpinta", kVociSpinta, gruppoSpinta, "Kg x ml. / ml."),
       cdCorrimano(*this, "cdCorrimano", "Altezza del Corrimano",
                   {.most = 99.99, .decimals = 2, .unit = "ml."}),
       cdCoppia(*this, "cdCoppia", "Coppia", Risultato("Kg x m / ml.")),

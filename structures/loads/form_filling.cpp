@@ -53,7 +53,7 @@ void FrmStruttureCarichiRiempimento::Disponibile(double spazio, double altezza) 
 }
 
 double FrmStruttureCarichiRiempimento::Totale() const {
-  if (Option1.Value()) return CaricoRiempimento(PesoClsNormale, cdAltezza.Value());
+  if (Option1.Value()) return CaricoRiempimento(kPesoClsNormale, cdAltezza.Value());
   if (Option2.Value()) return CaricoRiempimento(cdCLS_1.Value(), cdAltezza.Value());
   if (cdSpazio.Value() == 0) return 0;  // refused by the boxes: any tile is too wide
   return CaricoRiempimentoMisto(cdCLS_2.Value(), cdAltezza.Value(), cdSpazio.Value(),

@@ -45,10 +45,10 @@ FrmStruttureCarichiPermanenti::FrmStruttureCarichiPermanenti()
       cdTotale(*this, "cdTotale", "TOTALE", LimitiRisultato()),
       cmdCalcola(*this, "cmdCalcola", "&CALCOLA"),
       OKButton(*this, "OKButton", "&O.K.", Button::Role::Default),
-      optPavimento(*this, "optPavimento", VociPavimento, gruppi[Pavimentazione], kKgMq),
-      optImper(*this, "optImper", VociImpermeabilizzazione, gruppi[Impermeabilizzazione], kKgMq),
-      optManto(*this, "optManto", VociManto, gruppi[Manto], kKgMq),
-      optSoffitto(*this, "optSoffitto", VociSoffitto, gruppi[Soffitto], kKgMq),
+      optPavimento(*this, "optPavimento", kVociPavimento, gruppi[Pavimentazione], kKgMq),
+      optImper(*this, "optImper", kVociImpermeabilizzazione, gruppi[Impermeabilizzazione], kKgMq),
+      optManto(*this, "optManto", kVociManto, gruppi[Manto], kKgMq),
+      optSoffitto(*this, "optSoffitto", kVociSoffitto, gruppi[Soffitto], kKgMq),
       optTramezzi{{{*this, "optTramezzi(0)", "Tramezzi di peso < 150 Kg/mq", gruppi[Tramezzi]},
                    {*this, "optTramezzi(1)", "Altro tipo di carico", gruppi[Tramezzi]}}},
       cdAreaSolaio(*this, "cdAreaSolaio", "Area del solaio", Misura(9999.99, "mq.")),
@@ -65,8 +65,8 @@ FrmStruttureCarichiPermanenti::FrmStruttureCarichiPermanenti()
                       "La ripartizione dei tramezzi è accettabile solo per peso a mq  inferiore a "
                       "150 Kg/mq.",
                       Label::Style::Note),
-      optZona{{{*this, "optZona(0)", ZoneNeve[0].nome, gruppi[Neve]},
-               {*this, "optZona(1)", ZoneNeve[1].nome, gruppi[Neve]}}},
+      optZona{{{*this, "optZona(0)", kZoneNeve[0].nome, gruppi[Neve]},
+               {*this, "optZona(1)", kZoneNeve[1].nome, gruppi[Neve]}}},
       cdQuota(*this, "cdQuota", "Altezza località sul livello del mare ", Misura(4999.99, "m.")),
       cdInclinazione(*this, "cdInclinazione", "Inclinazione della falda", Misura(90, "gradi")),
       lblNotaNeve(*this, "lblNotaNeve",
@@ -190,7 +190,7 @@ double FrmStruttureCarichiPermanenti::Risultato(std::size_t pannello) const {
     case Neve: {
       const int zona = gruppi[Neve].Chosen();
       if (zona < 0) return 0;
-      return CaricoNeve(ZoneNeve[static_cast<std::size_t>(zona)].carico, cdQuota.Value(),
+      return CaricoNeve(kZoneNeve[static_cast<std::size_t>(zona)].carico, cdQuota.Value(),
                         cdInclinazione.Value());
     }
     case Impermeabilizzazione:
@@ -198,7 +198,7 @@ double FrmStruttureCarichiPermanenti::Risultato(std::size_t pannello) const {
     case Manto:
       return optManto.Carico();
     case Massetto:
-      return cdSpessore.Value() * PesoMassettoPerCm;
+      return cdSpessore.Value() * kPesoMassettoPerCm;
     default:
       return optSoffitto.Carico();
   }

@@ -5,13 +5,13 @@ namespace orm {
 FrmStruttureCarichiSismici::FrmStruttureCarichiSismici()
     : FrmCarichi("frmSTRUTTURE_CarichiSismici", "Azioni sismiche"),
       fraProtezione(*this, "fraProtezione", "Coefficente di protezione sismica I"),
-      Option1(*this, "Option1", VociProtezione[0].nome, gruppoProtezione),
-      Option2(*this, "Option2", VociProtezione[1].nome, gruppoProtezione),
-      Option3(*this, "Option3", VociProtezione[2].nome, gruppoProtezione),
+      Option1(*this, "Option1", kVociProtezione[0].nome, gruppoProtezione),
+      Option2(*this, "Option2", kVociProtezione[1].nome, gruppoProtezione),
+      Option3(*this, "Option3", kVociProtezione[2].nome, gruppoProtezione),
       fraRiduzione(*this, "fraRiduzione", "Coefficente di riduzione dei sovraccarichi accidentali"),
-      Option4(*this, "Option4", VociRiduzione[0].nome, gruppoRiduzione),
-      Option5(*this, "Option5", VociRiduzione[1].nome, gruppoRiduzione),
-      Option6(*this, "Option6", VociRiduzione[2].nome, gruppoRiduzione),
+      Option4(*this, "Option4", kVociRiduzione[0].nome, gruppoRiduzione),
+      Option5(*this, "Option5", kVociRiduzione[1].nome, gruppoRiduzione),
+      Option6(*this, "Option6", kVociRiduzione[2].nome, gruppoRiduzione),
       OKButton(*this, "OKButton", "&O.K.", Button::Role::Default) {
   SetContent(Column({Group(fraProtezione, {Option1, Option2, Option3}),
                      Group(fraRiduzione, {Option4, Option5, Option6}), Buttons({OKButton})}));
@@ -24,8 +24,8 @@ CoefficientiSismici FrmStruttureCarichiSismici::Coefficienti() const {
   const auto chosen = [](const OptionGroup& gruppo) {
     return static_cast<std::size_t>(gruppo.Chosen());
   };
-  return {VociProtezione[chosen(gruppoProtezione)].coefficiente,
-          VociRiduzione[chosen(gruppoRiduzione)].coefficiente};
+  return {kVociProtezione[chosen(gruppoProtezione)].coefficiente,
+          kVociRiduzione[chosen(gruppoRiduzione)].coefficiente};
 }
 
 FrmStruttureCarichiSismici& CarichiSismici(RunState& stato) {

@@ -15,7 +15,7 @@ struct VoceCarico {
 
 // ---------------------------------------------------------------- permanent loads, kg/mq
 
-inline constexpr std::array<VoceCarico, 17> VociPavimento = {{
+inline constexpr std::array<VoceCarico, 17> kVociPavimento = {{
     {"ASFALTO  ( 18 mm )", 40},
     {"ASFALTO  ( 40 mm )", 85},
     {"GRES  ( 8/11   mm )", 60},
@@ -35,13 +35,13 @@ inline constexpr std::array<VoceCarico, 17> VociPavimento = {{
     {"Altro tipo di pavimentazione", 0, "cdPavimento"},
 }};
 
-inline constexpr std::array<VoceCarico, 3> VociImpermeabilizzazione = {{
+inline constexpr std::array<VoceCarico, 3> kVociImpermeabilizzazione = {{
     {"Guaina bituminosa multistrato", 10},
     {"Asfalto con inerti ( 18-20 mm)", 40},
     {"Altra Impermeabilizzazione", 0, "cdImper"},
 }};
 
-inline constexpr std::array<VoceCarico, 9> VociManto = {{
+inline constexpr std::array<VoceCarico, 9> kVociManto = {{
     {"Tegole curve(coppi) a due strati", 60},
     {"Tegole curve con sottoposto tavellonato forato", 95},
     {"Tegole piane ( marsigliesi )", 45},
@@ -53,7 +53,7 @@ inline constexpr std::array<VoceCarico, 9> VociManto = {{
     {"Altro tipo di manto", 0, "cdManto"},
 }};
 
-inline constexpr std::array<VoceCarico, 7> VociSoffitto = {{
+inline constexpr std::array<VoceCarico, 7> kVociSoffitto = {{
     {"Intonaco semplice", 30},
     {"Intonaco su rete metallica", 45},
     {"Tavelline con intonaco", 60},
@@ -63,16 +63,16 @@ inline constexpr std::array<VoceCarico, 7> VociSoffitto = {{
     {"Altro tipo di soffitto", 0, "cdSoffitto"},
 }};
 
-inline constexpr double PesoMassettoPerCm = 20;  // kg/mq for each cm of screed
+inline constexpr double kPesoMassettoPerCm = 20;  // kg/mq for each cm of screed
 
 // Snow on the ground of the two zones, kg/mq: customary values after D.M. 16-1-1996.
-inline constexpr std::array<VoceCarico, 2> ZoneNeve = {{{"Zona I", 90}, {"Zona II", 60}}};
+inline constexpr std::array<VoceCarico, 2> kZoneNeve = {{{"Zona I", 90}, {"Zona II", 60}}};
 
 // ---------------------------------------------------------------- service loads, kg/mq
 // D.M. 16-1-1996, "Norme tecniche relative ai criteri generali per la verifica di sicurezza delle
 // costruzioni e dei carichi e sovraccarichi", table of the service loads of buildings.
 
-inline constexpr std::array<VoceCarico, 7> VociSovraccarichi = {{
+inline constexpr std::array<VoceCarico, 7> kVociSovraccarichi = {{
     {"Ambienti non suscettibili di affollamento (locali di abitazione e relativi servizi, "
      "alberghi, "
      "uffici non aperti al pubblico) e relativi terrazzi a livello praticabili",
@@ -93,7 +93,7 @@ inline constexpr std::array<VoceCarico, 7> VociSovraccarichi = {{
      0, "cdArchivi"},
 }};
 
-inline constexpr std::array<VoceCarico, 6> VociCoperture = {{
+inline constexpr std::array<VoceCarico, 6> kVociCoperture = {{
     {"Coperture non praticabili", 50},
     {"Coperture accessibile cat 1", 200},
     {"Coperture accessibile cat 2", 300},
@@ -102,14 +102,14 @@ inline constexpr std::array<VoceCarico, 6> VociCoperture = {{
     {"Coperture speciali ( impianti, eliporti, altri) :secondo il caso", 0, "cdCopertura"},
 }};
 
-inline constexpr std::array<VoceCarico, 2> VociRimesse = {{
+inline constexpr std::array<VoceCarico, 2> kVociRimesse = {{
     {"per autovetture di peso a pieno carico fino a 30 qli", 250},
     {"per transito automezzi di peso superiore a 30 qli", 0, "cdRimesse"},
 }};
 
 // ---------------------------------------------------------------- edge of a cantilever
 
-inline constexpr std::array<VoceCarico, 5> VociParapetto = {{
+inline constexpr std::array<VoceCarico, 5> kVociParapetto = {{
     // kg/ml
     {"Ringhiera in ferro", 30},
     {"Parapetto in muratura di mattoni ( 8 cm )", 110},
@@ -119,7 +119,7 @@ inline constexpr std::array<VoceCarico, 5> VociParapetto = {{
 }};
 
 // Thrust on the handrail, kg x ml/ml (D.M. 16-1-1996, horizontal line loads).
-inline constexpr std::array<VoceCarico, 4> VociSpinta = {{
+inline constexpr std::array<VoceCarico, 4> kVociSpinta = {{
     {"Locali d'abitazione e ambienti suscettibili di affollamento", 100},
     {"Ambienti di grande affollamento, balconi e scale comuni", 150},
     {"Sale da ballo, palestre, tribune libere", 300},
@@ -128,20 +128,20 @@ inline constexpr std::array<VoceCarico, 4> VociSpinta = {{
 
 // ---------------------------------------------------------------- filling, seismic action
 
-inline constexpr double PesoClsNormale = 2400;  // kg/mc
+inline constexpr double kPesoClsNormale = 2400;  // kg/mc
 
 struct VoceSismica {
   const char* nome;
   double coefficiente;
 };
 // Coefficient of protection I (D.M. 16-1-1996, rules for buildings in seismic zones).
-inline constexpr std::array<VoceSismica, 3> VociProtezione = {{
+inline constexpr std::array<VoceSismica, 3> kVociProtezione = {{
     {"Opera di importanza primaria per le necessità della protezione civile   I= 1,4", 1.4},
     {"Opere con particolare rischio per le caratteristiche d'uso  I= 1,2", 1.2},
     {"Opere normali  I= 1,0", 1.0},
 }};
 // Coefficient s by which service loads count, same rules.
-inline constexpr std::array<VoceSismica, 3> VociRiduzione = {{
+inline constexpr std::array<VoceSismica, 3> kVociRiduzione = {{
     {"Locali d'abitazione, uffici non aperti al pubblico, alberghi, coperture, balconi", 0.33},
     {"Locali suscettibili di affollamento ( uffici aperti al pubblico, ristoranti,caffè, banche, "
      "aule scolastiche, caserme, ospedali ecc.)",

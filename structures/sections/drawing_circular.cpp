@@ -22,7 +22,10 @@ void OpenCircle(Lavagna& lavagna, double radius, double degrees, const char* nam
 }
 
 struct Anello {
-  double area, diametro;
+  double area, diametro, sopra, sotto;
+};
+struct Gruppo {
+  double area, d, tensione;
 };
 
 }  // namespace
@@ -52,11 +55,10 @@ void DisegnaSchemaC(Lavagna& lavagna, bool anulare) {
   lavagna.DrawText(11, 4, "Armatura concentrata: sull'asse verticale della sezione");
 }
 
-void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& dati,
-                     const RisultatiCircolare& risultati, const TensioniAmmissibili& ammesse,
-                     bool verificata) {
-  const double D = dati[1], Di = dati[2], asse = risultati[1];
-  const bool upper = dati[11] > 0;  // the compressed edge
+void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCircolare& risultati,
+                     const TensioniAmmissibili& ammesse, bool verificata) {
+  const double D = z.D, Di = z.Di, asse = risultati.asse;
+  const bool upper = z.M > 0;  // the compressed edge
   DisegnoFlessione disegno(lavagna, D, D, verificata);
   disegno.Tratteggia(upper ? 0 : D, asse, [&](double depth) {
     const double edge = HalfChord(D, depth - D / 2), hole = HalfChord(Di, depth - D / 2);
@@ -72,28 +74,31 @@ void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& dati,
   if (Di > 0) lavagna.DrawArc(cx, cy, Di / 2 / Sc);
   lavagna.SetStroke(Stroke::Dotted);
   lavagna.SetWidth(3);
-  const Anello anelli[] = {{dati[3], dati[4]}, {dati[5], dati[6]}};
+  const auto& acciaio = risultati.acciaio;
+  const Anello anelli[] = {{z.Ad1, z.Dd1, acciaio[Sopra1], acciaio[Sotto1]},
+                           {z.Ad2, z.Dd2, acciaio[Sopra2], acciaio[Sotto2]}};
   for (const Anello& anello : anelli)
     if (anello.area != 0) lavagna.DrawArc(cx, cy, anello.diametro / 2 / Sc);
   disegno.AsseNeutro(asse);
 
-  std::vector<TensioneDisegnata> tensioni{{upper ? 0 : D, risultati[upper ? 2 : 3], true}};
+  std::vector<TensioneDisegnata> tensioni{
+      {upper ? 0 : D, upper ? risultati.clsSup : risultati.clsInf, true}};
   std::vector<double> profondita, aree;
-  for (std::size_t i = 0; i < 2; ++i) {
+  for (const auto& [area, diametro, sopra, sotto] : anelli) {
     // A ring is told at its upper point.
-    const auto [area, diametro] = anelli[i];
     profondita.push_back(D / 2 - diametro / 2);
     aree.push_back(area);
     if (area == 0) continue;
-    tensioni.push_back({D / 2 - diametro / 2, risultati[4 + 2 * i], false});
-    tensioni.push_back({D / 2 + diametro / 2, risultati[5 + 2 * i], false});
+    tensioni.push_back({D / 2 - diametro / 2, sopra, false});
+    tensioni.push_back({D / 2 + diametro / 2, sotto, false});
   }
-  for (std::size_t i = 0; i < 2; ++i) {
-    const double area = dati[7 + 2 * i], d = dati[8 + 2 * i];
+  // Under a negative moment the results of the two groups have changed places.
+  const Gruppo gruppi[] = {{z.Ac1, z.d1, acciaio[upper ? Gruppo1 : Gruppo2]},
+                           {z.Ac2, z.d2, acciaio[upper ? Gruppo2 : Gruppo1]}};
+  for (const auto& [area, d, tensione] : gruppi) {
     profondita.push_back(d);
     aree.push_back(area);
-    // Under a negative moment the results of the two groups have changed places.
-    if (area != 0) tensioni.push_back({d, risultati[upper ? 8 + i : 9 - i], false});
+    if (area != 0) tensioni.push_back({d, tensione, false});
   }
   const double ring1 = profondita[0], ring2 = profondita[1];
   disegno.Armature(profondita, aree, [=](double depth) {

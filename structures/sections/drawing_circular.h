@@ -10,8 +10,7 @@ namespace orm {
 // The circles that the fields measure, with their names; the inner edge where there is a hole.
 void DisegnaSchemaC(Lavagna& lavagna, bool anulare);
 
-void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& dati,
-                     const RisultatiCircolare& risultati, const TensioniAmmissibili& ammesse,
-                     bool verificata);
+void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCircolare& risultati,
+                     const TensioniAmmissibili& ammesse, bool verificata);
 
 }  // namespace orm

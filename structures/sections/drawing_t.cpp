@@ -13,9 +13,9 @@ using Stroke = DrawOperation::Stroke;
 
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110};
 
-double WidestOf(const SezioneT& z) { return std::max({z.B, z.b, z.Bi}); }
+double WidestOf(const DatiSezione& z) { return std::max({z.B, z.b, z.Bi}); }
 
-double WidthAt(const SezioneT& z, double depth) {
+double WidthAt(const DatiSezione& z, double depth) {
   if (z.s > 0 && depth <= z.s) return z.B;
   if (z.si > 0 && depth >= z.H - z.si) return z.Bi;
   return z.b;
@@ -60,7 +60,7 @@ void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {
 
 }  // namespace
 
-std::vector<Point> ContornoT(const SezioneT& z) {
+std::vector<Point> ContornoT(const DatiSezione& z) {
   const double W = WidestOf(z);
   struct Band {
     double width, bottom;
@@ -86,13 +86,12 @@ std::vector<Point> ContornoT(const SezioneT& z) {
 
 void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
   lavagna.Clear();
-  const SezioneT schema{forma.alaSuperiore ? 7.0 : 1.0,
-                        1,
-                        forma.alaInferiore ? 7.0 : 1.0,
-                        7,
-                        forma.alaSuperiore ? 1.0 : 0.0,
-                        forma.alaInferiore ? 1.0 : 0.0,
-                        {}};
+  const DatiSezione schema{.B = forma.alaSuperiore ? 7.0 : 1.0,
+                           .b = 1,
+                           .Bi = forma.alaInferiore ? 7.0 : 1.0,
+                           .H = 7,
+                           .s = forma.alaSuperiore ? 1.0 : 0.0,
+                           .si = forma.alaInferiore ? 1.0 : 0.0};
   const double left = 4.5 - WidestOf(schema) / 2;
   std::vector<Point> outline = ContornoT(schema);
   for (Point& p : outline) p = {p.x + left, 8 - p.y};
@@ -109,11 +108,10 @@ void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
   SchemaMeasures(lavagna, forma);
 }
 
-void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& dati, const RisultatiSezione& risultati,
+void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& z, const RisultatiSezione& risultati,
                      const TensioniAmmissibili& ammesse, bool verificata) {
-  const SezioneT z = LeggiSezioneT(dati);
-  const double W = WidestOf(z), asse = risultati[1];
-  const bool upper = dati[23] > 0;  // the compressed edge
+  const double W = WidestOf(z), asse = risultati.asse;
+  const bool upper = z.M > 0;  // the compressed edge
   DisegnoFlessione disegno(lavagna, z.H, W, verificata);
   disegno.Tratteggia(upper ? 0 : z.H, asse, [&](double depth) {
     return std::vector<Tratto>{{(W - WidthAt(z, depth)) / 2, (W + WidthAt(z, depth)) / 2}};
@@ -128,11 +126,13 @@ void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& dati, const RisultatiS
   disegno.AsseNeutro(asse);
 
   std::vector<double> profondita, aree;
-  std::vector<TensioneDisegnata> tensioni{{upper ? 0 : z.H, risultati[upper ? 2 : 3], true}};
+  std::vector<TensioneDisegnata> tensioni{
+      {upper ? 0 : z.H, upper ? risultati.clsSup : risultati.clsInf, true}};
   for (std::size_t i = 0; i < z.strati.size(); ++i) {
-    profondita.push_back(z.strati[i].d);
-    aree.push_back(z.strati[i].A);
-    if (z.strati[i].A != 0) tensioni.push_back({z.strati[i].d, risultati[4 + i], false});
+    const auto [A, d] = z.strati[i];
+    profondita.push_back(A != 0 ? d : 0);
+    aree.push_back(A);
+    if (A != 0) tensioni.push_back({d, risultati.acciaio[i], false});
   }
   disegno.Armature(profondita, aree, [&](double depth) { return WidthAt(z, depth); });
   disegno.DiagrammaTensioni(tensioni, asse, ammesse);

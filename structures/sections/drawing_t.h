@@ -13,11 +13,11 @@ namespace orm {
 // A fixed outline with the names of its measures and the places of the eight layers.
 void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma);
 
-void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& dati, const RisultatiSezione& risultati,
+void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& z, const RisultatiSezione& risultati,
                      const TensioniAmmissibili& ammesse, bool verificata);
 
 // Outline of a section, clockwise from its upper left corner: x from the left edge of the box
 // around it, y as depth, cm. 4 vertices for a rectangle, 8 with one flange, 12 with two.
-std::vector<Point> ContornoT(const SezioneT& z);
+std::vector<Point> ContornoT(const DatiSezione& z);
 
 }  // namespace orm

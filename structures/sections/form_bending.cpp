@@ -1,105 +1,104 @@
 #include "structures/sections/form_bending.h"
 
-#include <cstddef>
-#include <vector>
+#include <utility>
 
-#include "runtime/numbers.h"
-#include "structures/numbered_controls.h"
+#include "structures/message_boxes.h"
 
 namespace orm {
 namespace {
 
-// A long heading stands in two lines.
-std::string Heading(std::string text) {
-  constexpr std::size_t kLongest = 20;
-  if (text.size() > kLongest) text[text.rfind(' ', kLongest)] = '\n';
-  return text;
-}
+// The materials of every example: steel FeB44k, concrete Rck 300; kg/cmq.
+constexpr double kAcciaioEsempio = 2600, kClsEsempio = 97.5;
 
-// Room for any result that a section in use gives.
-NumberLimits ResultLimits() { return {.least = -99999.99, .most = 99999.99, .decimals = 2}; }
+// A long heading stands in two lines.
+std::string Intestazione(std::string testo) {
+  constexpr std::size_t kLongest = 20;
+  if (testo.size() > kLongest) testo[testo.rfind(' ', kLongest)] = '\n';
+  return testo;
+}
 
 }  // namespace
 
-// Below 0 too: the check itself says that the measures are not acceptable.
-NumberLimits LimitiLunghezza() { return {.least = -99999.99, .most = 99999.99, .decimals = 2}; }
-NumberLimits LimitiMomento() { return {.least = -99999999.99, .most = 99999999.99, .decimals = 2}; }
-NumberLimits LimitiTensione() { return {.most = 99999.99, .decimals = 2}; }
-
-PannelloCarichi::PannelloCarichi(Form& form)
-    : fraSollecitazioni(form, "fraSollecitazioni", "SOLLECITAZIONI"),
-      CD_01(form, "CD_01", "Momento flettente [Kgxml.]", LimitiMomento()),
-      fraMateriali(form, "fraMateriali", "MATERIALI"),
-      CD_12(form, "CD_12", "Tens. amm. acciaio [Kg/cmq]", LimitiTensione()),
-      CD_13(form, "CD_13", "Tens. amm. cls [Kg/cmq]", LimitiTensione()) {}
-
-Layout PannelloCarichi::Contents() {
-  return Column(
-      {Group(fraSollecitazioni, {Fields({CD_01})}), Group(fraMateriali, {Fields({CD_12, CD_13})})});
-}
-
-PannelloForme::PannelloForme(Form& form, std::initializer_list<const char*> nomi)
-    : fraTipo(form, "fraTipo", "Tipo di sezione") {
-  for (const char* nome : nomi)
-    Option.emplace_back(form, "Option" + NumberText(static_cast<double>(Option.size()) + 1), nome,
-                        gruppo);
-}
-
-Layout PannelloForme::Contents() { return Group(fraTipo, {Row({Option.begin(), Option.end()})}); }
-
-void PannelloCarichi::ScriviEsempio(double momento) {
-  CD_12.SetValue(TensioneAcciaioEsempio);
-  CD_13.SetValue(TensioneClsEsempio);
-  CD_01.SetValue(momento);
-}
-
-RigaArmatura::RigaArmatura(Form& form, std::size_t indice, const std::string& riga,
-                           const char* distanza)
-    : CasellaFerri(form, NomeIndicizzato("CasellaFerri", indice), riga),
-      Distanza(form, NomeIndicizzato("Distanza", indice), distanza, LimitiLunghezza()) {}
-
-PannelloArmature::PannelloArmature(Form& form, std::size_t primo, std::size_t quante,
-                                   const char* riga, const char* distanza)
+PannelloArmature::PannelloArmature(Form& form, std::size_t primo,
+                                   const std::vector<std::string>& righe, const char* riga,
+                                   const std::string& distanza)
     : lblRiga(form, NomeIndicizzato("lblRiga", primo), riga),
       lblFerri(form, NomeIndicizzato("lblFerri", primo), "Ferri"),
-      lblDistanza(form, NomeIndicizzato("lblDistanza", primo), Heading(distanza)) {
-  for (std::size_t i = 0; i < quante; ++i)
-    righe.emplace_back(form, primo + i, NumberText(static_cast<int>(i) + 1), distanza);
-}
+      lblDistanza(form, NomeIndicizzato("lblDistanza", primo), Intestazione(distanza)),
+      CasellaFerri(form, "CasellaFerri", primo, righe),
+      Distanza(form, "Distanza", primo, std::vector(righe.size(), distanza), kLunghezza) {}
 
 Layout PannelloArmature::Contents() {
   std::vector<Layout> lines{Row({lblRiga, lblFerri, lblDistanza})};
-  for (RigaArmatura& riga : righe) lines.push_back(Row({riga.CasellaFerri, riga.Distanza}));
-  return {Layout::Kind::Fields, nullptr, std::move(lines)};
+  for (std::size_t i = 0; i < CasellaFerri.size(); ++i)
+    lines.push_back(Row({CasellaFerri[i], Distanza[i]}));
+  return Fields(std::move(lines));
 }
 
-PannelloRisultati::PannelloRisultati(Form& form)
-    : fraRisultati(form, "fraRisultati", "RISULTATI"),
-      cdOUT{{{form, "cdOUT(1)", "Distanza Asse neutro da bordo superiore [cm.]", ResultLimits()},
-             {form, "cdOUT(2)", "Tens. cls.  bordo superiore [Kg/cmq]", ResultLimits()},
-             {form, "cdOUT(3)", "Tens. cls.  bordo inferiore [Kg/cmq]", ResultLimits()},
-             {form, "cdOUT(4)", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]", ResultLimits()},
-             {form, "cdOUT(5)", "Tens. acciaio più vicino bordo inf.  [kg/cmq]", ResultLimits()}}},
-      fraNote(form, "fraNote", "NOTE"),
-      Label_NOTA(form, "Label_NOTA", "", Label::Style::Note) {
-  for (FloatBox& box : cdOUT) box.SetReadOnly(true);
+void PannelloArmature::Scrivi(std::size_t riga, const char* ferri, double distanza) {
+  CasellaFerri[riga].SetText(ferri);
+  Distanza[riga].SetValue(distanza);
 }
 
-Layout PannelloRisultati::Valori() {
-  return Group(fraRisultati, {Fields({cdOUT[0], cdOUT[1], cdOUT[2], cdOUT[3], cdOUT[4]})});
+FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& stato,
+                             const NoteFlessione& note, const std::vector<std::string>& forme)
+    : FormRiprendibile(std::move(nome), std::move(titolo)), stato_(stato), note_(note) {
+  for (std::size_t i = 0; i < forme.size(); ++i) {
+    OptionButton& scelta = Option.emplace_back(
+        *this, "Option" + NumberText(static_cast<double>(i) + 1), forme[i], gruppo);
+    scelta.onChange = [this, i, &scelta] {
+      if (scelta.Value()) ScegliForma(i);
+    };
+  }
+  for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
+  CD_01.onChange = [this] {
+    Azzera();
+    Label_NOTA.SetText("POSITIVO se tende le fibbre inferiori");
+  };
+  ComCalcola.onPress = [this] { Calcola(); };
+  ComEsci.onPress = [this] { Close(); };
 }
 
-Layout PannelloRisultati::Note() { return Group(fraNote, {Label_NOTA}); }
+void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> armature) {
+  SetContent(Column({Row({Column({Group(fraTipo, {Row({Option.begin(), Option.end()})}),
+                                  Column({Group(fraSollecitazioni, {Fields({CD_01})}),
+                                          Group(fraMateriali, {Fields({CD_12, CD_13})})}),
+                                  Group(fraGeometria, {Fields(std::move(geometria))}),
+                                  Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()})})}),
+                          Column({Group(fraArmature, std::move(armature)),
+                                  Group(fraNote, {Label_NOTA}), Lavagna})}),
+                     Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
+}
 
-void PannelloRisultati::Mostra(const std::array<double, 5>& valori) {
+void FormFlessione::Avvisa(const std::string& testo) { stato_.player.Ask(AvvisoVerifica(testo)); }
+
+bool FormFlessione::SenzaMomento() {
+  if (Momento() != 0) return false;
+  Avvisa("IL MOMENTO FLETTENTE È NULLO");
+  return true;
+}
+
+void FormFlessione::ScriviEsempio(double momento) {
+  CD_12.SetValue(kAcciaioEsempio);
+  CD_13.SetValue(kClsEsempio);
+  CD_01.SetValue(momento);
+}
+
+// The two fields of steel show its extreme stresses, whatever their captions say.
+void FormFlessione::Mostra(const RisultatiFlessione& risultati, bool verificata) {
+  const auto& [asse, clsSup, clsInf, massimo, minimo] = risultati;
+  const bool positivo = Momento() > 0;
+  const std::array valori = {asse, clsSup, clsInf, positivo ? minimo : massimo,
+                             positivo ? massimo : minimo};
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {
     cdOUT[i].SetValue(valori[i]);
     cdOUT[i].SetShown(FormatPattern(valori[i], i == 0 ? "###0.00" : "###0.0"));
   }
+  Label_NOTA.SetText(std::string(note_.segni) + (verificata ? "" : note_.nonVerificata));
 }
 
-void PannelloRisultati::Azzera() {
-  for (FloatBox& box : cdOUT) box.SetValue(0);
+void FormFlessione::Azzera() {
+  for (FloatBox& risultato : cdOUT) risultato.SetValue(0);
 }
 
 }  // namespace orm

@@ -1,80 +1,97 @@
-// Groups of controls that the dialogs of bending share, and what they say.
+// What the two dialogs of bending share: the shape to choose, moment and materials, rows of
+// reinforcement, results and notes, and the drawing.
 #pragma once
 
 #include <array>
 #include <deque>
-#include <initializer_list>
 #include <string>
 
-#include "dialogs/form.h"
-#include "structures/message_boxes.h"
+#include "dialogs/lavagna.h"
+#include "shell/state/run_state.h"
+#include "structures/numbered_controls.h"
+#include "structures/resumable_form.h"
+#include "structures/sections/bending_picture.h"
+#include "structures/solvers/bending.h"
 
 namespace orm {
 
-inline constexpr const char* kMomentoNullo = "IL MOMENTO FLETTENTE È NULLO";
-inline constexpr const char* kSegnoMomento = "POSITIVO se tende le fibbre inferiori";
+// Limits of what can be typed: cm, kg x m, kg/cmq. Below 0 too: the check itself says that the
+// measures are not acceptable.
+inline const NumberLimits kLunghezza{.least = -99999.99, .most = 99999.99, .decimals = 2};
+inline const NumberLimits kMomento{.least = -99999999.99, .most = 99999999.99, .decimals = 2};
+inline const NumberLimits kTensione{.most = 99999.99, .decimals = 2};
+// Room for any result that a section in use gives.
+inline const NumberLimits kRisultato{.least = -99999.99, .most = 99999.99, .decimals = 2};
 
-// The materials of every example: steel FeB44k, concrete Rck 300.
-inline constexpr double TensioneAcciaioEsempio = 2600;  // kg/cmq
-inline constexpr double TensioneClsEsempio = 97.5;      // kg/cmq
-
-// Limits of what can be typed: a length in cm, a moment in kg x m, a stress in kg/cmq.
-NumberLimits LimitiLunghezza();
-NumberLimits LimitiMomento();
-NumberLimits LimitiTensione();
-
-// "SOLLECITAZIONI" and "MATERIALI".
-struct PannelloCarichi {
-  explicit PannelloCarichi(Form& form);
-  Layout Contents();
-  void ScriviEsempio(double momento);
-
-  Frame fraSollecitazioni;
-  FloatBox CD_01;
-  Frame fraMateriali;
-  FloatBox CD_12, CD_13;
-};
-
-// "Tipo di sezione": Option1, Option2, ... one of which is chosen.
-struct PannelloForme {
-  PannelloForme(Form& form, std::initializer_list<const char*> nomi);
-  Layout Contents();
-
-  Frame fraTipo;
-  OptionGroup gruppo;
-  std::deque<OptionButton> Option;  // from 0
-};
-
-// One row of "ARMATURE": the bars, and how far they lie.
-struct RigaArmatura {
-  RigaArmatura(Form& form, std::size_t indice, const std::string& riga, const char* distanza);
-  FerriBox CasellaFerri;
-  FloatBox Distanza;
-};
-
-// Rows of reinforcement under their headings; the controls count on from `primo`, the rows from 1.
+// Rows of reinforcement under their headings; the controls are numbered from `primo`, the rows
+// from 1.
 struct PannelloArmature {
-  PannelloArmature(Form& form, std::size_t primo, std::size_t quante, const char* riga,
-                   const char* distanza);
+  PannelloArmature(Form& form, std::size_t primo, const std::vector<std::string>& righe,
+                   const char* riga, const std::string& distanza);
   Layout Contents();
+  void Scrivi(std::size_t riga, const char* ferri, double distanza);
 
   Label lblRiga, lblFerri, lblDistanza;
-  std::deque<RigaArmatura> righe;
+  Schiera<FerriBox> CasellaFerri;
+  Schiera<FloatBox> Distanza;  // how far the bars lie, cm
 };
 
-// "RISULTATI" and "NOTE".
-struct PannelloRisultati {
-  explicit PannelloRisultati(Form& form);
-  Layout Valori();
-  Layout Note();
-  // Distance of the axis, stress of concrete at both edges, the two stresses of steel.
-  void Mostra(const std::array<double, 5>& valori);
+// The notes in which the dialogs differ.
+struct NoteFlessione {
+  const char* benvenuto;
+  const char* segni;
+  const char* nonVerificata;
+};
+
+class FormFlessione : public FormRiprendibile {
+ public:
+  FormFlessione(std::string nome, std::string titolo, RunState& stato, const NoteFlessione& note,
+                const std::vector<std::string>& forme);
+  void OnOpen() override { Label_NOTA.SetText(note_.benvenuto); }
+
+  Frame fraTipo{*this, "fraTipo", "Tipo di sezione"};
+  OptionGroup gruppo;
+  std::deque<OptionButton> Option;  // Option1, Option2, ...
+  Frame fraSollecitazioni{*this, "fraSollecitazioni", "SOLLECITAZIONI"};
+  FloatBox CD_01{*this, "CD_01", "Momento flettente [Kgxml.]", kMomento};
+  Frame fraMateriali{*this, "fraMateriali", "MATERIALI"};
+  FloatBox CD_12{*this, "CD_12", "Tens. amm. acciaio [Kg/cmq]", kTensione};
+  FloatBox CD_13{*this, "CD_13", "Tens. amm. cls [Kg/cmq]", kTensione};
+  Frame fraGeometria{*this, "fraGeometria", "GEOMETRIA"};
+  Frame fraArmature{*this, "fraArmature", "ARMATURE"};
+  Frame fraRisultati{*this, "fraRisultati", "RISULTATI"};
+  Schiera<FloatBox> cdOUT{
+      *this,
+      "cdOUT",
+      1,
+      {"Distanza Asse neutro da bordo superiore [cm.]", "Tens. cls.  bordo superiore [Kg/cmq]",
+       "Tens. cls.  bordo inferiore [Kg/cmq]", "Tens. acciaio più vicino bordo sup.  [Kg/cmq]",
+       "Tens. acciaio più vicino bordo inf.  [kg/cmq]"},
+      kRisultato};
+  Frame fraNote{*this, "fraNote", "NOTE"};
+  Label Label_NOTA{*this, "Label_NOTA", "", Label::Style::Note};
+  orm::Lavagna Lavagna{*this, "Lavagna", 30, 10, 720};
+  Button ComCalcola{*this, "ComCalcola", "CALCOLA", Button::Role::Default};
+  Button ComEsci{*this, "ComEsci", "ESCI", Button::Role::Close};
+
+ protected:
+  virtual void ScegliForma(std::size_t forma) = 0;
+  virtual void Calcola() = 0;
+
+  void Disponi(std::vector<Layout> geometria, std::vector<Layout> armature);
+  void Avvisa(const std::string& testo);
+  double Momento() const { return CD_01.Value() * 100.0; }  // kg x cm
+  // A moment of 0 is told; true when there was one.
+  bool SenzaMomento();
+  TensioniAmmissibili Ammesse() const { return {CD_12.Value(), CD_13.Value()}; }
+  void ScriviEsempio(double momento);
+  void Mostra(const RisultatiFlessione& risultati, bool verificata);
   void Azzera();
 
-  Frame fraRisultati;
-  std::array<FloatBox, 5> cdOUT;
-  Frame fraNote;
-  Label Label_NOTA;
+  RunState& stato_;
+
+ private:
+  NoteFlessione note_;
 };
 
 }  // namespace orm

@@ -1,9 +1,6 @@
 // frmVER_FLESS_C1: bending of circular and annular sections.
 #pragma once
 
-#include "dialogs/lavagna.h"
-#include "shell/state/run_state.h"
-#include "structures/resumable_form.h"
 #include "structures/sections/form_bending.h"
 #include "structures/solvers/section_circular.h"
 
@@ -11,35 +8,25 @@ namespace orm {
 
 struct FormaC;
 
-class FrmVerFlessC1 : public FormRiprendibile {
+class FrmVerFlessC1 : public FormFlessione {
  public:
   explicit FrmVerFlessC1(RunState& stato);
-  void OnOpen() override;
 
-  PannelloForme forme;
-  PannelloCarichi carichi;
-  Frame fraGeometria;
-  FloatBox CD_02, CD_03;
-  Frame fraArmature, fraDistribuita;
-  PannelloArmature anelli;  // CasellaFerri(1), (2)
-  Frame fraConcentrata;
-  PannelloArmature gruppi;  // CasellaFerri(3), (4)
-  PannelloRisultati risultati;
-  orm::Lavagna Lavagna;
-  Button ComCalcola, ComEsci;
+  FloatBox CD_02{*this, "CD_02", "Raggio esterno sezione [cm.]", kLunghezza};
+  FloatBox CD_03{*this, "CD_03", "Raggio interno sezione[cm.]", kLunghezza};
+  Frame fraDistribuita{*this, "fraDistribuita", "ARMATURA DISTRIBUITA SU CIRCONFERENZA"};
+  PannelloArmature anelli{*this, 1, {"1", "2"}, "", "Raggio  [cm.]"};
+  Frame fraConcentrata{*this, "fraConcentrata", "ARMATURA CONCENTRATA"};
+  PannelloArmature gruppi{*this, 3, {"1", "2"}, "", "Distanza dal bordo superiore  [cm.]"};
 
  private:
-  void Arrange();
-  void TieEvents();
-  void ScegliForma(const FormaC& scelta);
-  void ScriviEsempio();
+  void ScegliForma(std::size_t forma) override;
+  void Calcola() override;
+  void ScriviDati();
   DatiCircolare LeggiDati() const;
-  void Calcola();
-  void MostraRisultati(const DatiCircolare& dati);
 
-  RunState& stato_;
   const FormaC* forma_ = nullptr;  // the chosen one
-  RisultatiCircolare tensioni_{};  // lives with the dialog, as some elements outlive a calculation
+  RisultatiCircolare tensioni_;    // lives with the dialog, as some of it outlives a calculation
 };
 
 void MostraVerFlessC1(RunState& stato);

@@ -2,21 +2,19 @@
 
 #include <cmath>
 #include <cstddef>
-#include <string>
 
 #include "structures/sections/drawing_t.h"
 
 namespace orm {
 namespace {
 
-constexpr const char* kBenvenuto =
+constexpr NoteFlessione kNote{
     "LA BRENTOLI VI DÀ IL BENVENUTO\nE VI AUGURA BUON LAVORO.\n\n"
-    "È NECESSARIO SCEGLIERE PER PRIMA COSA IL TIPO DI SEZIONE DA VERIFICARE";
-constexpr const char* kSegni =
-    "TENS. COMPRESSIONE  --- NEGATIVE\nTENS. TRAZIONE            --- POSITIVE";
-constexpr const char* kNonVerificata = "\n\n\nLo sfondo giallo indica sezione non verificata";
+    "È NECESSARIO SCEGLIERE PER PRIMA COSA IL TIPO DI SEZIONE DA VERIFICARE",
+    "TENS. COMPRESSIONE  --- NEGATIVE\nTENS. TRAZIONE            --- POSITIVE",
+    "\n\n\nLo sfondo giallo indica sezione non verificata"};
 
-const char* BoxText(EsitoT esito) {
+const char* Motivo(EsitoT esito) {
   switch (esito) {
     case EsitoT::GeometriaErrata:
       return "DATI GEOMETRICI NON ACCETTABILI !\nVERIFICARLI";
@@ -35,63 +33,23 @@ const char* BoxText(EsitoT esito) {
 }  // namespace
 
 FrmVerFlessT1::FrmVerFlessT1(RunState& stato)
-    : FormRiprendibile(
-          "frmVER_FLESS_T1",
-          "VERIFICA FLESSIONE SEMPLICE SEZIONI in C.A. : Rettangolari, a T, a T rovescia e a "
-          "doppia T"),
-      forme(*this, {FormeT[0].nome, FormeT[1].nome, FormeT[2].nome, FormeT[3].nome}),
-      carichi(*this),
-      fraGeometria(*this, "fraGeometria", "GEOMETRIA"),
-      CD_02(*this, "CD_02", "Larghezza ala superiore [cm.]", LimitiLunghezza()),
-      CD_03(*this, "CD_03", kSpessoreAnima, LimitiLunghezza()),
-      CD_04(*this, "CD_04", "Larghezza ala inferiore [cm.]", LimitiLunghezza()),
-      CD_05(*this, "CD_05", "Altezza totale [cm.]", LimitiLunghezza()),
-      CD_06(*this, "CD_06", "Spessore ala superiore [cm.]", LimitiLunghezza()),
-      CD_07(*this, "CD_07", "Spessore ala inferiore [cm.]", LimitiLunghezza()),
-      fraArmature(*this, "fraArmature", "ARMATURE"),
-      strati(*this, 1, 8, "STRATO", "Distanza dal bordo superiore  [cm.]"),
-      risultati(*this),
-      Lavagna(*this, "Lavagna", 30, 10, 720),
-      ComCalcola(*this, "ComCalcola", "CALCOLA", Button::Role::Default),
-      ComEsci(*this, "ComEsci", "ESCI", Button::Role::Close),
-      stato_(stato) {
-  Arrange();
-  TieEvents();
+    : FormFlessione("frmVER_FLESS_T1",
+                    "VERIFICA FLESSIONE SEMPLICE SEZIONI in C.A. : Rettangolari, a T, a T rovescia "
+                    "e a doppia T",
+                    stato, kNote,
+                    {kFormeT[0].nome, kFormeT[1].nome, kFormeT[2].nome, kFormeT[3].nome}) {
+  Disponi({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07}, {strati.Contents()});
+  CD_01.onLeave = [this] { Label_NOTA.SetText(""); };
+  for (FerriBox& ferri : strati.CasellaFerri) ferri.onChange = [this] { Azzera(); };
+  for (FloatBox& distanza : strati.Distanza) distanza.onChange = [this] { Azzera(); };
 }
 
-void FrmVerFlessT1::Arrange() {
-  SetContent(Column(
-      {Row({Column({forme.Contents(), carichi.Contents(),
-                    Group(fraGeometria, {Fields({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07})}),
-                    risultati.Valori()}),
-            Column({Group(fraArmature, {strati.Contents()}), risultati.Note(), Lavagna})}),
-       Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
-}
-
-void FrmVerFlessT1::TieEvents() {
-  for (std::size_t i = 0; i < FormeT.size(); ++i)
-    forme.Option[i].onChange = [this, i] {
-      if (forme.Option[i].Value()) ScegliForma(FormeT[i]);
-    };
-  carichi.CD_01.onChange = [this] {
-    risultati.Azzera();
-    risultati.Label_NOTA.SetText(kSegnoMomento);
-  };
-  carichi.CD_01.onLeave = [this] { risultati.Label_NOTA.SetText(""); };
-  for (RigaArmatura& strato : strati.righe)
-    strato.CasellaFerri.onChange = strato.Distanza.onChange = [this] { risultati.Azzera(); };
-  ComCalcola.onPress = [this] { Calcola(); };
-  ComEsci.onPress = [this] { Close(); };
-}
-
-void FrmVerFlessT1::OnOpen() { risultati.Label_NOTA.SetText(kBenvenuto); }
-
-void FrmVerFlessT1::ScegliForma(const FormaT& scelta) {
-  forma_ = &scelta;
+void FrmVerFlessT1::ScegliForma(std::size_t forma) {
+  forma_ = &kFormeT[forma];
   MostraCampi();
-  DisegnaSchemaT(Lavagna, scelta);
-  ScriviEsempio();
-  risultati.Azzera();
+  DisegnaSchemaT(Lavagna, *forma_);
+  ScriviDati();
+  Azzera();
 }
 
 void FrmVerFlessT1::MostraCampi() {
@@ -102,70 +60,45 @@ void FrmVerFlessT1::MostraCampi() {
   CD_03.SetCaption(forma_->nomeAnima);
 }
 
-void FrmVerFlessT1::ScriviEsempio() {
-  for (RigaArmatura& strato : strati.righe) {
-    strato.CasellaFerri.SetText("");
-    strato.Distanza.SetValue(0);
-  }
-  carichi.ScriviEsempio(forma_->CD_01);
+// The example of the shape.
+void FrmVerFlessT1::ScriviDati() {
+  for (std::size_t i = 0; i < strati.Distanza.size(); ++i) strati.Scrivi(i, "", 0);
+  ScriviEsempio(forma_->CD_01);
   FloatBox* const geometria[] = {&CD_02, &CD_03, &CD_04, &CD_05, &CD_06, &CD_07};
   for (std::size_t i = 0; i < forma_->geometria.size(); ++i)
     geometria[i]->SetValue(forma_->geometria[i]);
-  for (const StratoEsempio& esempio : forma_->strati) {
-    if (esempio.strato == 0) continue;
-    RigaArmatura& riga = strati.righe[static_cast<std::size_t>(esempio.strato) - 1];
-    riga.CasellaFerri.SetText(esempio.ferri);
-    riga.Distanza.SetValue(esempio.distanza);
-  }
+  for (const auto& [strato, ferri, distanza] : forma_->strati)
+    if (strato != 0) strati.Scrivi(strato - 1, ferri, distanza);
 }
 
 DatiSezione FrmVerFlessT1::LeggiDati() const {
-  DatiSezione dati{};
-  dati[1] = forma_->alaSuperiore ? CD_02.Value() : CD_03.Value();
-  dati[2] = CD_03.Value();
-  dati[3] = forma_->alaInferiore ? CD_04.Value() : CD_03.Value();
-  dati[4] = CD_05.Value();
-  dati[5] = forma_->alaSuperiore ? CD_06.Value() : 0;
-  dati[6] = forma_->alaInferiore ? CD_07.Value() : 0;
-  for (std::size_t i = 0; i < strati.righe.size(); ++i) {
-    dati[7 + 2 * i] = strati.righe[i].CasellaFerri.Area();
-    dati[8 + 2 * i] = strati.righe[i].Distanza.Value();
-  }
-  dati[23] = carichi.CD_01.Value() * 100.0;
+  DatiSezione dati;
+  dati.B = forma_->alaSuperiore ? CD_02.Value() : CD_03.Value();
+  dati.b = CD_03.Value();
+  dati.Bi = forma_->alaInferiore ? CD_04.Value() : CD_03.Value();
+  dati.H = CD_05.Value();
+  dati.s = forma_->alaSuperiore ? CD_06.Value() : 0;
+  dati.si = forma_->alaInferiore ? CD_07.Value() : 0;
+  for (std::size_t i = 0; i < dati.strati.size(); ++i)
+    dati.strati[i] = {strati.CasellaFerri[i].Area(), strati.Distanza[i].Value()};
+  dati.M = Momento();
   return dati;
 }
 
 void FrmVerFlessT1::Calcola() {
-  if (forma_ == nullptr) {
-    stato_.player.Ask(AvvisoVerifica("  SCEGLIERE ALMENO UN TIPO DI SEZIONE  "));
-    return;
-  }
+  if (forma_ == nullptr) return Avvisa("  SCEGLIERE ALMENO UN TIPO DI SEZIONE  ");
   Lavagna.Clear();
+  if (SenzaMomento()) return;
   const DatiSezione dati = LeggiDati();
-  if (dati[23] == 0) {
-    stato_.player.Ask(AvvisoVerifica(kMomentoNullo));
-    return;
-  }
   VerificaSezioneT(dati, tensioni_);
-  if (Esito(tensioni_) != EsitoT::Fatto) {
-    stato_.player.Ask(AvvisoVerifica(BoxText(Esito(tensioni_))));
-    return;
-  }
-  MostraRisultati(dati);
-}
-
-void FrmVerFlessT1::MostraRisultati(const DatiSezione& dati) {
-  // The two fields of steel show its extreme stresses, whatever their captions say.
-  const bool positive = dati[23] > 0;
-  risultati.Mostra({tensioni_[1], tensioni_[2], tensioni_[3], tensioni_[positive ? 13 : 12],
-                    tensioni_[positive ? 12 : 13]});
-  const TensioniAmmissibili ammesse{carichi.CD_12.Value(), carichi.CD_13.Value()};
+  if (tensioni_.esito != EsitoT::Fatto) return Avvisa(Motivo(tensioni_.esito));
+  const TensioniAmmissibili ammesse = Ammesse();
   // Compressed steel is left out on purpose: its stress is 15 times one that concrete beside it
   // has.
-  const bool verificata = std::fabs(tensioni_[2]) < ammesse.cls &&
-                          std::fabs(tensioni_[3]) < ammesse.cls &&
-                          std::fabs(tensioni_[12]) < ammesse.acciaio;
-  risultati.Label_NOTA.SetText(std::string(kSegni) + (verificata ? "" : kNonVerificata));
+  const bool verificata = std::fabs(tensioni_.clsSup) < ammesse.cls &&
+                          std::fabs(tensioni_.clsInf) < ammesse.cls &&
+                          std::fabs(tensioni_.massimo) < ammesse.acciaio;
+  Mostra(tensioni_, verificata);
   DisegnaSezioneT(Lavagna, dati, tensioni_, ammesse, verificata);
 }
 

@@ -2,21 +2,20 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace orm {
 
 // A layer of the example: row from 1 to 8, bars, distance from the upper edge in cm.
 struct StratoEsempio {
-  int strato;
+  std::size_t strato;
   const char* ferri;
   double distanza;
 };
 
 struct FormaT {
-  const char* TipoSezione;
   const char* nome;  // as the person chooses it
   bool alaSuperiore, alaInferiore;
-  int NumeroVertici;                    // of the outline
   const char* nomeAnima;                // of the web's thickness
   double CD_01;                         // kg x m
   std::array<double, 6> geometria;      // CD_02 to CD_07, cm
@@ -25,39 +24,31 @@ struct FormaT {
 
 inline constexpr const char* kSpessoreAnima = "Spessore anima [cm.]";
 
-inline constexpr std::array<FormaT, 4> FormeT = {{
-    {"RETTANGOLARE",
-     "Rettangolare",
+inline constexpr std::array<FormaT, 4> kFormeT = {{
+    {"Rettangolare",
      false,
      false,
-     4,
      "Base [cm.]",
      5000,
      {0, 30, 0, 80, 0, 0},
      {{{1, "3D16", 3}, {4, "3D16+1D12", 77}}}},
-    {"AT",
-     "a T",
+    {"a T",
      true,
      false,
-     8,
      kSpessoreAnima,
      8000,
      {100, 30, 0, 80, 15, 0},
      {{{1, "3D16", 3}, {2, "2D12", 11}, {4, "4D16+1D12", 77}}}},
-    {"ATROVESCIA",
-     "a T rovescia",
+    {"a T rovescia",
      false,
      true,
-     8,
      kSpessoreAnima,
      3000,
      {0, 30, 90, 80, 0, 15},
      {{{1, "3D16", 3}, {3, "2D12", 68}, {4, "2D16+2D12", 77}}}},
-    {"DOPPIAT",
-     "Doppia T",
+    {"Doppia T",
      true,
      true,
-     12,
      kSpessoreAnima,
      7200,
      {100, 30, 60, 80, 20, 15},

@@ -7,9 +7,9 @@
 namespace orm {
 
 // Steel counts as concrete `n` times its area (D.M. 9-1-1996, method of the allowable stresses).
-inline constexpr double ModuloN = 15.0;
+inline constexpr double kModuloN = 15.0;
 // Least distance of steel from either edge, cm.
-inline constexpr double CopriferroMinimo = 2.0;
+inline constexpr double kCopriferroMinimo = 2.0;
 
 // Root of `f` between x1 and x2, where it changes sign: the interval is halved until f is exactly 0
 // in its middle or it is not wider than `tolleranza`. Comes to an end for any f and any ends: an

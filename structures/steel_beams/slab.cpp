@@ -22,8 +22,8 @@ double InerziaComposta(const DatiSolaioP& dati) {
   const double h = AltezzaProfilo(dati.putrella);
   const double t = std::max(dati.altezza - h / 10, 0.0);
   const double Bc = Interasse(dati);
-  const double Ac = t * Bc / ModuloN;
-  const double Jc = (t * t * t * Bc / 12) / ModuloN;
+  const double Ac = t * Bc / kModuloN;
+  const double Jc = (t * t * t * Bc / 12) / kModuloN;
   const double y = ((h / 20 + t) * profilo.A + (t * Ac) / 2) / (profilo.A + Ac);
   const double alCls = y - t / 2, allaPutrella = (h / 20 + t) - y;
   return Jc + profilo.J + alCls * alCls * Ac + allaPutrella * allaPutrella * profilo.A;
@@ -34,7 +34,7 @@ bool IncastroEccessivo(double cIncastro) { return cIncastro > 0 && cIncastro < 1
 double FrecciaUnitaria(double luce, double cIncastro) {
   const double k = cIncastro == 0 ? 43 : 43 + 48 / cIncastro;
   const double L = luce * 100;
-  return ((48 - k) / 384) * (L * L * L * L) / ModuloAcciaio;
+  return ((48 - k) / 384) * (L * L * L * L) / kModuloAcciaio;
 }
 
 RisultatiSolaioP VerificaSolaioP(const DatiSolaioP& dati) {
@@ -45,9 +45,9 @@ RisultatiSolaioP VerificaSolaioP(const DatiSolaioP& dati) {
 
   RisultatiSolaioP risultati{VerificaTensioni(dati, q * L / 2, M), {}, {}};
   const double f0 = FrecciaUnitaria(L, dati.cIncastro), J = InerziaComposta(dati);
-  risultati.totale = {(q / 100) * f0 / J, L * 100 / FrecciaTotaleAmmessa};
+  risultati.totale = {(q / 100) * f0 / J, L * 100 / kFrecciaTotaleAmmessa};
   risultati.permanente = {((carichi.qp + carichi.d) / 100) * f0 / J,
-                          L * 100 / FrecciaPermanenteAmmessa};
+                          L * 100 / kFrecciaPermanenteAmmessa};
   return risultati;
 }
 

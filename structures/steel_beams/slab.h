@@ -6,9 +6,9 @@
 
 namespace orm {
 
-inline constexpr double ModuloAcciaio = 2100000;  // kg/cmq
+inline constexpr double kModuloAcciaio = 2100000;  // kg/cmq
 // Accepted deflections as parts of the span (CNR 10011).
-inline constexpr double FrecciaTotaleAmmessa = 400, FrecciaPermanenteAmmessa = 500;
+inline constexpr double kFrecciaTotaleAmmessa = 400, kFrecciaPermanenteAmmessa = 500;
 
 struct DatiSolaioP : DatiPutrelle {
   double cMezzeria = 0, cIncastro = 0;  // of M = q L^2 / c; 0 where there is no such moment

@@ -16,13 +16,13 @@ double SuMultiploDi5(double cm) { return ArrotondaA5(cm, 0, 1); }
 SceltaFerro LeggiSceltaFerro(std::string_view testo) { return ParseNumber(testo); }
 
 double AreaDaDiametro(double diametro) {
-  for (const Tondino& tondino : Tondini)
+  for (const Tondino& tondino : kTondini)
     if (tondino.diametro == diametro) return tondino.area;
   return 0;
 }
 
 double DiametroDaArea(double area) {
-  for (const Tondino& tondino : Tondini)
+  for (const Tondino& tondino : kTondini)
     if (tondino.area == area) return tondino.diametro;
   return 0;
 }
@@ -30,7 +30,7 @@ double DiametroDaArea(double area) {
 double AreaFerro(const GenereFerro& genere, const SceltaFerro& scelta, int k) {
   if (scelta) return AreaDaDiametro(*scelta);
   if (k < genere.primo) return 0;
-  return Tondini[static_cast<std::size_t>(std::min(k - genere.primo, genere.quanti - 1))].area;
+  return kTondini[static_cast<std::size_t>(std::min(k - genere.primo, genere.quanti - 1))].area;
 }
 
 double AncoraggioCampata(double V, double A, double diametro, double tb) {

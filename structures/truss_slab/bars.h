@@ -20,13 +20,13 @@ struct GenereFerro {
   int primo;
   int quanti;
 };
-inline constexpr GenereFerro FerroAggiuntivo{1, 6};     // 6 to 16 mm
-inline constexpr GenereFerro FerroIntegrativo1{7, 6};   // 6 to 16 mm
-inline constexpr GenereFerro FerroIntegrativo2{13, 7};  // 6 to 18 mm
-inline constexpr GenereFerro MonconeLungo{1, 6};
-inline constexpr GenereFerro MonconeCorto{7, 6};
-inline constexpr int TentativiCampata = 19;
-inline constexpr int TentativiMonconi = 12;
+inline constexpr GenereFerro kFerroAggiuntivo{1, 6};     // 6 to 16 mm
+inline constexpr GenereFerro kFerroIntegrativo1{7, 6};   // 6 to 16 mm
+inline constexpr GenereFerro kFerroIntegrativo2{13, 7};  // 6 to 18 mm
+inline constexpr GenereFerro kMonconeLungo{1, 6};
+inline constexpr GenereFerro kMonconeCorto{7, 6};
+inline constexpr int kTentativiCampata = 19;
+inline constexpr int kTentativiMonconi = 12;
 
 // Area of one bar at attempt k, from 1.
 double AreaFerro(const GenereFerro& genere, const SceltaFerro& scelta, int k);

@@ -7,20 +7,20 @@
 namespace orm {
 
 double TensioneDiFerro(std::string_view tipo) {
-  for (const TensioneFerro& ferro : TensioniFerro)
+  for (const TensioneFerro& ferro : kTensioniFerro)
     if (ferro.tipo == tipo) return ferro.sigma;
   return 1.0;
 }
 
 ParametriCls ParametriDiCls(std::string_view classe) {
-  for (const ParametriCls& cls : ClassiCls)
+  for (const ParametriCls& cls : kClassiCls)
     if (cls.classe == classe) return cls;
   return {};
 }
 
 double PesoLaterizio(std::string_view blocco) {
   const std::string altezza = Right(blocco, 2);
-  for (const FiguraLaterizio& figura : PesiLaterizio)
+  for (const FiguraLaterizio& figura : kPesiLaterizio)
     if (figura.tipoS == blocco.starts_with('S') && figura.altezza == altezza) return figura.peso;
   return 1.0;
 }
@@ -45,14 +45,14 @@ double PesoProprioSolaio(const ModuloSolaio& modulo, double solettina, std::stri
 }
 
 bool AltezzaInsufficiente(double luce, double H) {
-  return luce * 100.0 * RapportoLuci / RapportoLuceAltezza > H;
+  return luce * 100.0 * kRapportoLuci / kRapportoLuceAltezza > H;
 }
 
 Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati) {
   const ParametriCls cls = ParametriDiCls(dati.classeCls);
   const double acciaio = TensioneDiFerro(dati.tipoFerro);
-  return {acciaio, dati.solettina <= SolettinaSottile ? cls.ridotta : cls.novanta,
-          cls.tauc0 * (acciaio > TensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
+  return {acciaio, dati.solettina <= kSolettinaSottile ? cls.ridotta : cls.novanta,
+          cls.tauc0 * (acciaio > kTensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
 }
 
 }  // namespace orm

@@ -22,12 +22,12 @@ std::vector<std::string> Elenco(const Voci& voci) {
 
 std::vector<std::string> Classi() {
   std::vector<std::string> elenco;
-  for (const ParametriCls& cls : ClassiCls) elenco.emplace_back(cls.classe);
+  for (const ParametriCls& cls : kClassiCls) elenco.emplace_back(cls.classe);
   return elenco;
 }
 
 std::vector<std::string> FinoA16() {
-  return {DiametriFerri.begin(), DiametriFerri.begin() + DiametriFinoA16};
+  return {kDiametriFerri.begin(), kDiametriFerri.begin() + kDiametriFinoA16};
 }
 
 std::string Testo(double diametro) { return NumberText(diametro); }
@@ -36,15 +36,15 @@ std::string Testo(double diametro) { return NumberText(diametro); }
 
 IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
     : fraSchema(form, "fraSchema", "TIPO DI SOLAIO"),
-      optSchema{{{form, "optSchema(1)", ModuliSolaio[0].nome, gruppoSchema},
-                 {form, "optSchema(2)", ModuliSolaio[1].nome, gruppoSchema}}},
+      optSchema{{{form, "optSchema(1)", kModuliSolaio[0].nome, gruppoSchema},
+                 {form, "optSchema(2)", kModuliSolaio[1].nome, gruppoSchema}}},
       fraPosizione(form, "fraPosizione", "POSIZIONE IMPALCATO"),
       Option1(form, "Option1", "di Piano", gruppoPosizione),
       Option2(form, "Option2", "di Copertura", gruppoPosizione),
       fraGeometria(form, "fraGeometria", "GEOMETRIA E MATERIALI"),
       cdLuce(form, "cdLuce", "Luce netta [ml]", {.most = 99.99, .decimals = 2}),
-      cmbSolettina(form, "cmbSolettina", "Altezza  solettina [cm]", Elenco(SpessoriSolettina)),
-      cmbTavellone(form, "cmbTavellone", "Tipo di Blocco", Elenco(Blocchi)),
+      cmbSolettina(form, "cmbSolettina", "Altezza  solettina [cm]", Elenco(kSpessoriSolettina)),
+      cmbTavellone(form, "cmbTavellone", "Tipo di Blocco", Elenco(kBlocchi)),
       lblBlocchi(form, "lblBlocchi", "I tipi di blocchi sono individuati da\nLarghezza x Altezza",
                  Label::Style::Note),
       lblLaterizio(form, "lblLaterizio",
@@ -52,12 +52,12 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
                    Label::Style::Note),
       lblAltezza(form, "lblAltezza", "Altezza inferiore a 1/25 della luce\ndi calcolo.",
                  Label::Style::Warning),
-      cmbTipoDiFerro(form, "cmbTipoDiFerro", "Tipo di Acciaio", Elenco(TipiDiFerro)),
+      cmbTipoDiFerro(form, "cmbTipoDiFerro", "Tipo di Acciaio", Elenco(kTipiDiFerro)),
       cmbTipoDiCls(form, "cmbTipoDiCls", "Classe Cls", Classi()),
       fraCoefficienti(form, "fraCoefficienti", "COEFFICENTI PER CALCOLO  MOMENTI"),
-      cmbCCM_SIN(form, "cmbCCM_SIN", "Incastro sin", Elenco(CoefficientiIncastro)),
-      cmbCCM_DEX(form, "cmbCCM_DEX", "Incastro dex", Elenco(CoefficientiIncastro)),
-      cmbCCM_MEZ(form, "cmbCCM_MEZ", "Mezzeria", Elenco(CoefficientiMezzeria)),
+      cmbCCM_SIN(form, "cmbCCM_SIN", "Incastro sin", Elenco(kCoefficientiIncastro)),
+      cmbCCM_DEX(form, "cmbCCM_DEX", "Incastro dex", Elenco(kCoefficientiIncastro)),
+      cmbCCM_MEZ(form, "cmbCCM_MEZ", "Mezzeria", Elenco(kCoefficientiMezzeria)),
       fraCarichi(form, "fraCarichi", "CARICHI RIPARTITI a mq."),
       cdCR{{{form, "cdCR(1)", "Peso proprio   [Kg/mq]", kCarico},
             {form, "cdCR(2)", "Permanente   [Kg/mq]", kCarico},
@@ -66,8 +66,8 @@ IngressiSolaio::IngressiSolaio(Form& form, RunState& stato)
       cmdCalc_Acc(form, "cmdCalc_Acc", "Analisi..."),
       cmbFerri(form, "cmbFerri", "DIAMETRI DEI FERRI  [mm]"),
       cmbFERRI{{{form, "cmbFERRI(1)", "Ferro aggiuntivo in campata", FinoA16()},
-                {form, "cmbFERRI(2)", "Ferro integrativo n.1 in campata", Elenco(DiametriFerri)},
-                {form, "cmbFERRI(3)", "Ferro integrativo n.2 in campata", Elenco(DiametriFerri)},
+                {form, "cmbFERRI(2)", "Ferro integrativo n.1 in campata", Elenco(kDiametriFerri)},
+                {form, "cmbFERRI(3)", "Ferro integrativo n.2 in campata", Elenco(kDiametriFerri)},
                 {form, "cmbFERRI(4)", "Moncone Lungo", FinoA16()},
                 {form, "cmbFERRI(5)", "Moncone Corto", FinoA16()}}},
       lblVuoto(form, "lblVuoto",

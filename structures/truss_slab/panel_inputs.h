@@ -56,7 +56,7 @@ class IngressiSolaio {
   bool AltezzaAmmessa();
   bool AccettaScelta(ComboBox& lista, int& accettata);  // false: set back, nothing has changed
   void AggiornaPesoProprio();
-  const ModuloSolaio& Modulo() const { return ModuliSolaio[optSchema[1].Value() ? 1 : 0]; }
+  const ModuloSolaio& Modulo() const { return kModuliSolaio[optSchema[1].Value() ? 1 : 0]; }
   double Solettina() const;
 
   RunState& stato_;

@@ -146,7 +146,7 @@ void StampaSolaioT(ReportPrinter& relazione, int numero, const DatiSolaioT& dati
   relazione.Line();
   relazione.Line("ATTENZIONE");
   relazione.Line("Si ricorda che le armature riportate si riferiscono al singolo travetto.");
-  if (dati.luce <= LuceTravettoRipartizione) return;
+  if (dati.luce <= kLuceTravettoRipartizione) return;
   relazione.Line();
   relazione.Line("ATTENZIONE");
   relazione.Line("   Come da Norme, è bene prevedere un travetto di ripartizione in mezzeria, ");

@@ -13,7 +13,7 @@
 namespace orm {
 
 struct DatiSolaioT {
-  ModuloSolaio modulo = ModuliSolaio[0];
+  ModuloSolaio modulo = kModuliSolaio[0];
   double luce = 0;       // clear, m
   double solettina = 0;  // cm
   std::string blocco, classeCls, tipoFerro;

@@ -252,7 +252,7 @@ Names NotCovered() {
   miss("command", commands, Found(scripts, "(?:^|\\n)menu (\\w+)"));
   for (const std::string& file : LogicSources())
     for (const std::string& name :
-         Found(kRoot.Read(file), "\\b(?:Form|FrmCarichi|FormRiprendibile)\\(\\s*\"(frm\\w+)\""))
+         Found(kRoot.Read(file), "\\bF(?:orm|rm)\\w*\\(\\s*\"(frm\\w+)\""))
       forms.insert(name);
   miss("form", forms, Found(scripts, "(?:^|\\n)dialog (\\w+)"));
   miss("file", DataFiles(), Found(scripts, "(?:^|\\n)compare ([\\w.]+)"));

@@ -201,7 +201,7 @@ TEST_P(Balcone, DrawingStaysOnItsPanel) {
 }
 
 TEST(Stones, ShearGoesWithBendingFromEndToEnd) {
-  for (const Pietra& pietra : Pietre) {
+  for (const Pietra& pietra : kPietre) {
     EXPECT_EQ(TauDiPietra(pietra, pietra.sigma.minimo), pietra.tau.minimo);
     EXPECT_EQ(TauDiPietra(pietra, pietra.sigma.usuale), pietra.tau.usuale);
     EXPECT_EQ(TauDiPietra(pietra, pietra.sigma.massimo), pietra.tau.massimo);

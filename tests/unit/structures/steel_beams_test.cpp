@@ -60,7 +60,7 @@ TEST(SteelSlab, BeamOnTwoSupportsBySlices) {
     }
     EXPECT_NEAR(r.momento, moment, 1e-6 * moment);
     // kg m^3 over kg/cmq cm^4, in cm.
-    EXPECT_NEAR(r.totale.calcolata, work * 1e6 / (ModuloAcciaio * InerziaComposta(dati)),
+    EXPECT_NEAR(r.totale.calcolata, work * 1e6 / (kModuloAcciaio * InerziaComposta(dati)),
                 1e-6 * r.totale.calcolata);
     EXPECT_NEAR(r.permanente.calcolata / r.totale.calcolata, OnAMetre(dati, 1, 0) / q, 1e-9);
   }

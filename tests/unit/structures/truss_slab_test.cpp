@@ -37,18 +37,18 @@ DatiSolaioT RandomSlab(std::mt19937& random) {
     return values[std::uniform_int_distribution<std::size_t>(0, std::size(values) - 1)(random)];
   };
   DatiSolaioT dati;
-  dati.modulo = pick(ModuliSolaio);
+  dati.modulo = pick(kModuliSolaio);
   dati.luce = 3 + 0.05 * static_cast<int>(random() % 81);
   dati.solettina = 4 + static_cast<int>(random() % 4);
-  dati.blocco = pick(Blocchi);
-  dati.classeCls = pick(ClassiCls).classe;
-  dati.tipoFerro = pick(TipiDiFerro);
+  dati.blocco = pick(kBlocchi);
+  dati.classeCls = pick(kClassiCls).classe;
+  dati.tipoFerro = pick(kTipiDiFerro);
   dati.pesoProprio = PesoProprioSolaio(dati.modulo, dati.solettina, dati.blocco);
   dati.permanente = 50 * static_cast<int>(random() % 9);
   dati.accidentale = 50 * static_cast<int>(1 + random() % 12);
-  dati.cSin = ParteDopoBarra(pick(CoefficientiIncastro));
-  dati.cDex = ParteDopoBarra(pick(CoefficientiIncastro));
-  dati.cMez = ParteDopoBarra(pick(CoefficientiMezzeria));
+  dati.cSin = ParteDopoBarra(pick(kCoefficientiIncastro));
+  dati.cDex = ParteDopoBarra(pick(kCoefficientiIncastro));
+  dati.cMez = ParteDopoBarra(pick(kCoefficientiMezzeria));
   for (SceltaFerro& ferro : dati.ferri)
     if (random() % 4 == 0) ferro = pick(std::array{0.0, 8.0, 12.0, 14.0, 16.0});
   return dati;
@@ -345,7 +345,7 @@ TEST(TrussSlab, BlocksAndCoefficients) {
   EXPECT_EQ(ParteDopoBarra("1/12"), 12);
   EXPECT_EQ(ParteDopoBarra("12"), 0);
   // 6 x 25 + 25 x 0.52 x 3.9 + 25 x 2 x 30 x 0.25 = 575.7
-  EXPECT_EQ(PesoProprioSolaio(ModuliSolaio[1], 6, "R 38 x 25"), 580);
+  EXPECT_EQ(PesoProprioSolaio(kModuliSolaio[1], 6, "R 38 x 25"), 580);
   EXPECT_FALSE(AltezzaInsufficiente(3.80, 16));
   EXPECT_TRUE(AltezzaInsufficiente(3.81, 16));
 }
