@@ -6,7 +6,6 @@
 
 #include "runtime/numbers.h"
 #include "structures/balcony/defects.h"
-#include "structures/balcony/drawing.h"
 #include "structures/balcony/statics.h"
 #include "structures/message_boxes.h"
 
@@ -16,8 +15,6 @@ namespace {
 // The elements of the results, to tell where they fall short.
 constexpr std::array<const char*, NumeroElementiBalcone> kElementi = {
     "", "σ lastra", "τ lastra", "σ mensole", "τ mensole", "muratura", "σ acciaio", "τ acciaio"};
-
-constexpr const char* kNonSicuro = "IL BALCONE NON RISULTA SICURO.";
 
 std::string Domanda(Ribaltamento come) {
   return std::string("LA LASTRA POTREBBE ESSERE INSTABILE !\n") +
@@ -29,15 +26,7 @@ std::string Domanda(Ribaltamento come) {
 }  // namespace
 
 FrmVerBalcone::FrmVerBalcone(RunState& stato)
-    : FormRiprendibile("frmVER_BALCONE", "VERIFICA STABILITÁ BALCONE in PIETRA"),
-      ingressi(*this, stato),
-      tensioni(*this, stato),
-      Label_NOTA(*this, "Label_NOTA", "", Label::Style::Warning),
-      lblStatica(*this, "lblStatica", "", Label::Style::Note),
-      Lavagna(*this, "Lavagna", kLarghezzaBalcone, kAltezzaBalcone, kPuntiBalcone),
-      ComCalcola(*this, "ComCalcola", "CALCOLA", Button::Role::Default),
-      ComEsci(*this, "ComEsci", "ESCI", Button::Role::Close),
-      stato_(stato) {
+    : FormRiprendibile("frmVER_BALCONE", "VERIFICA STABILITÁ BALCONE in PIETRA", stato) {
   SetContent(Column(
       {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(),
                                          ingressi.lblModuli, Label_NOTA, lblStatica, Lavagna})}),
@@ -77,11 +66,8 @@ void FrmVerBalcone::Calcola() {
         "LA LASTRA POTREBBE ESSERE INSTABILE !\n           VERIFICARE I DATI         "));
     return;
   }
-  Mostra(dati, risultati);
-}
-
-void FrmVerBalcone::Mostra(const DatiBalcone& dati, const RisultatiBalcone& risultati) {
-  if (!tensioni.Mostra(risultati)) Label_NOTA.SetText(kNonSicuro);
+  tensioni.Mostra(risultati);
+  if (tensioni.Supera(risultati)) Label_NOTA.SetText("IL BALCONE NON RISULTA SICURO.");
   ConfrontaConStatica(dati, risultati);
 }
 
@@ -104,9 +90,6 @@ void FrmVerBalcone::ConfrontaConStatica(const DatiBalcone& dati,
                      (supera ? "\nCon questi aumenti il balcone non risulta sicuro." : ""));
 }
 
-void MostraVerBalcone(RunState& stato) {
-  FrmVerBalcone form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraVerBalcone(RunState& stato) { FrmVerBalcone(stato).Presenta(); }
 
 }  // namespace orm

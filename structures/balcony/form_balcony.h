@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/lavagna.h"
-#include "shell/state/run_state.h"
+#include "structures/balcony/drawing.h"
 #include "structures/balcony/panel_inputs.h"
 #include "structures/balcony/panel_stresses.h"
 #include "structures/resumable_form.h"
@@ -13,21 +13,19 @@ class FrmVerBalcone : public FormRiprendibile {
  public:
   explicit FrmVerBalcone(RunState& stato);
 
-  IngressiBalcone ingressi;
-  TensioniBalcone tensioni;
-  Label Label_NOTA;
-  Label lblStatica;  // where the customary formulas are on the unsafe side
-  orm::Lavagna Lavagna;
-  Button ComCalcola, ComEsci;
+  PannelloDatiBalcone ingressi{*this, stato_};
+  PannelloTensioniBalcone tensioni{*this, stato_};
+  Label Label_NOTA{*this, "Label_NOTA", "", Label::Style::Warning};
+  Label lblStatica{*this, "lblStatica", "", Label::Style::Note};  // where the check is unsafe
+  orm::Lavagna Lavagna{*this, "Lavagna", kLarghezzaBalcone, kAltezzaBalcone, kPuntiBalcone};
+  Button ComCalcola{*this, "ComCalcola", "CALCOLA", Button::Role::Default};
+  Button ComEsci{*this, "ComEsci", "ESCI", Button::Role::Close};
 
  private:
   void Azzera();
   void Calcola();
   bool Prosegue(Ribaltamento come);
-  void Mostra(const DatiBalcone& dati, const RisultatiBalcone& risultati);
   void ConfrontaConStatica(const DatiBalcone& dati, const RisultatiBalcone& risultati);
-
-  RunState& stato_;
 };
 
 void MostraVerBalcone(RunState& stato);

@@ -7,48 +7,15 @@
 
 namespace orm {
 namespace {
-
-const NumberLimits kTensione{.most = 9999.99, .decimals = 2, .unit = " [Kg/cmq]"};
 constexpr double kPassiPerKg = 10;  // so that the usual values lie on a step
-
 }  // namespace
 
-FrmVerPietre::FrmVerPietre()
-    : Form("frmVER_PIETRE", "TENSIONI AMMISSIBILI PIETRA"),
-      fraPietra(*this, "fraPietra", "Tipo di pietra"),
-      fraTensioni(*this, "fraTensioni", "Tensioni ammissibili"),
-      cdSigma(*this, "cdSigma", "σ  a flessione", kTensione),
-      cdTau(*this, "cdTau", "τ", kTensione),
-      lblValoriUsuali(*this, "lblValoriUsuali",
-                      "Valori usuali dei manuali, da valutare per la pietra in opera.",
-                      Label::Style::Note),
-      OKButton(*this, "OKButton", "&O.K.", Button::Role::Default) {
-  for (const Pietra& pietra : kPietre) {
-    const auto posto = sldPietraS.size();
-    optPietra.emplace_back(*this, NomeIndicizzato("optPietra", posto + 1), pietra.nome, gruppo);
-    const auto& [minimo, massimo, usuale] = pietra.sigma;
-    sldPietraS.emplace_back(*this, NomeIndicizzato("sldPietraS", posto), "", minimo, massimo,
-                            static_cast<int>(std::lround((massimo - minimo) * kPassiPerKg)));
-    sldPietraS.back().SetValue(usuale);
-  }
+FrmVerPietre::FrmVerPietre() : FormScelte("frmVER_PIETRE", "TENSIONI AMMISSIBILI PIETRA") {
+  for (const Pietra& pietra : kPietre) AggiungiPietra(pietra);
   optPietra.emplace_back(*this, NomeIndicizzato("optPietra", kPietre.size() + 1), kAltraPietra,
                          gruppo);
-  Arrange();
+  SetContent(Disposizione());
   optPietra[0].SetValue(true);
-  TieEvents();
-  Mostra();
-}
-
-void FrmVerPietre::Arrange() {
-  std::vector<Layout> righe;
-  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
-    righe.push_back(Row({optPietra[i], sldPietraS[i]}));
-  SetContent(Column({Group(fraPietra, {Fields(std::move(righe)), optPietra.back()}),
-                     Group(fraTensioni, {Fields({cdSigma, cdTau})}), lblValoriUsuali,
-                     Buttons({OKButton})}));
-}
-
-void FrmVerPietre::TieEvents() {
   for (OptionButton& opt : optPietra) opt.onChange = [this] { Mostra(); };
   for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
   cdSigma.onChange = cdTau.onChange = [this] {
@@ -56,14 +23,25 @@ void FrmVerPietre::TieEvents() {
     altraSigma_ = cdSigma.Value();
     altraTau_ = cdTau.Value();
   };
-  OKButton.onPress = [this] { Esci(Uscita::Conferma); };
+  Mostra();
 }
 
-void FrmVerPietre::OnOpen() { prima_ = FormValues(*this); }
+void FrmVerPietre::AggiungiPietra(const Pietra& pietra) {
+  const std::size_t posto = sldPietraS.size();
+  const auto& [minimo, massimo, usuale] = pietra.sigma;
+  optPietra.emplace_back(*this, NomeIndicizzato("optPietra", posto + 1), pietra.nome, gruppo);
+  sldPietraS.emplace_back(*this, NomeIndicizzato("sldPietraS", posto), "", minimo, massimo,
+                          static_cast<int>(std::lround((massimo - minimo) * kPassiPerKg)));
+  sldPietraS.back().SetValue(usuale);
+}
 
-void FrmVerPietre::OnWindowClose() {
-  prima_.PutInto(*this);
-  Close();
+Layout FrmVerPietre::Disposizione() {
+  std::vector<Layout> righe;
+  for (std::size_t i = 0; i < sldPietraS.size(); ++i)
+    righe.push_back(Row({optPietra[i], sldPietraS[i]}));
+  return Column({Group(fraPietra, {Fields(std::move(righe)), optPietra.back()}),
+                 Group(fraTensioni, {Fields({cdSigma, cdTau})}), lblValoriUsuali,
+                 Buttons({OKButton})});
 }
 
 const Pietra* FrmVerPietre::Scelta() const {

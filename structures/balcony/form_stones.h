@@ -3,39 +3,35 @@
 
 #include <deque>
 
-#include "dialogs/form.h"
-#include "dialogs/form_values.h"
 #include "structures/balcony/stones.h"
+#include "structures/choices_form.h"
 
 namespace orm {
 
-// The form keeps its choice for as long as its caller keeps it; left by its window it has the
-// choice from before.
-class FrmVerPietre : public Form {
+class FrmVerPietre : public FormScelte {
  public:
   FrmVerPietre();
-  void OnOpen() override;
-  void OnWindowClose() override;
   // Of the chosen stone's slider, or as typed for another stone; kg/cmq.
   double Sigma() const;
   double Tau() const;
 
-  Frame fraPietra;
+  Frame fraPietra{*this, "fraPietra", "Tipo di pietra"};
   OptionGroup gruppo;
   std::deque<OptionButton> optPietra;  // (1) to (7), the last is any other stone
   std::deque<Slider> sldPietraS;       // (0) to (5)
-  Frame fraTensioni;
-  FloatBox cdSigma, cdTau;
-  Label lblValoriUsuali;
-  Button OKButton;
+  Frame fraTensioni{*this, "fraTensioni", "Tensioni ammissibili"};
+  FloatBox cdSigma{*this, "cdSigma", "σ  a flessione", {.most = 9999.99, .unit = " [Kg/cmq]"}};
+  FloatBox cdTau{*this, "cdTau", "τ", {.most = 9999.99, .unit = " [Kg/cmq]"}};
+  Label lblValoriUsuali{*this, "lblValoriUsuali",
+                        "Valori usuali dei manuali, da valutare per la pietra in opera.",
+                        Label::Style::Note};
 
  private:
-  void Arrange();
-  void TieEvents();
+  void AggiungiPietra(const Pietra& pietra);
+  Layout Disposizione();
   const Pietra* Scelta() const;  // null for another stone
   void Mostra();
 
-  FormValues prima_;
   double altraSigma_ = 0, altraTau_ = 0;  // as typed for another stone, while one of the list shows
 };
 

@@ -1,55 +1,74 @@
-// What a person gives for a stone balcony: kind, measures, loads, seismic zone.
+// Panel of a stone balcony: what a person gives, kind, measures, loads, seismic zone.
 #pragma once
 
 #include <array>
-#include <deque>
 #include <functional>
+#include <span>
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
 #include "structures/balcony/balcony.h"
+#include "structures/loads/load_form.h"
+#include "structures/numbered_controls.h"
+#include "structures/steel_profiles.h"
 
 namespace orm {
 
-// A panel of measures for one kind of balcony; the letter of the drawing stands behind each field.
-struct PannelloMisure {
-  PannelloMisure(Form& form, TipoBalcone tipo);
-  Layout Contents();
-  double Misura(int indice) const { return cdGeo[static_cast<std::size_t>(indice) - 1].Value(); }
-
-  Frame fraGeo;
-  std::deque<FloatBox> cdGeo;  // cdGeo1(1), ..., cdGeo2(1), ..., cdGeo3(1), ...
+// A measure: its caption, its letter in the drawing, its place in the data.
+struct VoceMisura {
+  const char* etichetta;
+  const char* lettera;
+  double DatiBalcone::*misura;
 };
 
-class IngressiBalcone {
+inline constexpr std::array kTipiBalcone = {"Lastra su putrelle in ferro",
+                                            "Lastra su mensole in pietra", "Lastra semplice"};
+
+// The measures of one kind of balcony: cdGeo1(1), ..., cdGeo2(1), ..., cdGeo3(1), ...
+struct PannelloMisure {
+  PannelloMisure(Form& form, TipoBalcone tipo);
+  void Leggi(DatiBalcone& dati) const;
+
+  std::span<const VoceMisura> voci;
+  Frame fraGeo;
+  std::deque<FloatBox> cdGeo;
+};
+
+class PannelloDatiBalcone {
+  Form& form_;
+  RunState& stato_;
+
  public:
-  IngressiBalcone(Form& form, RunState& stato);
+  PannelloDatiBalcone(Form& form, RunState& stato);
   Layout Contents();
   // `cambiati` runs after any change.
   void TieEvents(const std::function<void()>& cambiati);
   TipoBalcone Tipo() const { return static_cast<TipoBalcone>(gruppoTipo.Chosen()); }
   DatiBalcone Leggi() const;
 
-  // The measures and loads count from 1, the options from 0.
-  Frame fraTipo;
+  Frame fraTipo{form_, "fraTipo", "TIPO"};
   OptionGroup gruppoTipo;
-  std::array<OptionButton, 3> optTipo;
-  std::array<PannelloMisure, 3> misure;
-  ComboBox cmbPutrella;
-  Label lblModuli;
-  Frame fraCarichi;
-  std::array<FloatBox, 3> cdCarichi;
-  Button cmdCalc_Est, cmdCalc_Acc;
-  Frame fraZona;
+  Schiera<OptionButton> optTipo{
+      form_, "optTipo", 0, {kTipiBalcone.begin(), kTipiBalcone.end()}, gruppoTipo};
+  std::array<PannelloMisure, 3> misure{{{form_, TipoBalcone::Putrelle},
+                                        {form_, TipoBalcone::Mensole},
+                                        {form_, TipoBalcone::LastraSemplice}}};
+  ComboBox cmbPutrella{form_, "cmbPutrella", "Putrella NP [ H in mm ]", AltezzeNP()};
+  Label lblModuli{form_, "lblModuli", kNotaModuli, Label::Style::Note};
+  Frame fraCarichi{form_, "fraCarichi", "CARICHI"};
+  FloatBox cdBordo{form_, "cdCarichi(1)", "Carico sui bordi liberi  [Kg/ml]", kLimitiCarico};
+  FloatBox cdRipartito{form_, "cdCarichi(2)", "Sovraccarico ripartito  [Kg/mq]", kLimitiCarico};
+  FloatBox cdPietra{form_, "cdCarichi(3)", "Peso specifico della pietra  [Kg/mc]", kLimitiCarico};
+  Button cmdCalc_Est{form_, "cmdCalc_Est", "Analisi..."};
+  Button cmdCalc_Acc{form_, "cmdCalc_Acc", "Analisi..."};
+  Frame fraZona{form_, "fraZona", "ZONA SISMICA"};
   OptionGroup gruppoZona;
-  std::array<OptionButton, 2> optZona;
-  Button cmdCAR_SISMICHE;
+  OptionButton optSi{form_, "optZona(0)", "Si", gruppoZona};
+  OptionButton optNo{form_, "optZona(1)", "No", gruppoZona};
+  Button cmdCAR_SISMICHE{form_, "cmdCAR_SISMICHE", "Azioni sismiche..."};
 
  private:
-  void ScegliTipo();
-  void ScegliZona();
-  void LeggiSuMensole(const PannelloMisure& pannello, DatiBalcone& dati) const;
-  RunState& stato_;
+  void Aggiorna();
 };
 
 }  // namespace orm

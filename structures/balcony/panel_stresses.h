@@ -1,22 +1,22 @@
-// Allowed stresses of the materials of a stone balcony and the stresses that a check found.
+// Panel of a stone balcony: allowed stresses of the materials and the stresses that a check found.
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
 #include "structures/balcony/balcony.h"
+#include "structures/numbered_controls.h"
 #include "structures/steel_profiles.h"
 
 namespace orm {
 
-// Elements with a stress limit, in the order of the rows.
-enum class MaterialeBalcone : std::size_t { PietraLastra, PietraMensole, Acciaio };
+class PannelloTensioniBalcone {
+  Form& form_;
+  RunState& stato_;
 
-class TensioniBalcone {
  public:
-  TensioniBalcone(Form& form, RunState& stato);
+  PannelloTensioniBalcone(Form& form, RunState& stato);
   Layout Materiali();
   Layout Risultati();
   void TieEvents(const std::function<void()>& cambiati);
@@ -24,28 +24,43 @@ class TensioniBalcone {
   void Scegli(TipoBalcone tipo);
 
   void Azzera();
-  // Shows the results, marks those beyond what is allowed; true when there are none.
-  bool Mostra(const RisultatiBalcone& risultati);
+  // Shows the results and marks those beyond what is allowed.
+  void Mostra(const RisultatiBalcone& risultati);
   // Whether a stress of the results is beyond what is allowed.
   bool Supera(const RisultatiBalcone& risultati) const;
 
-  // The results are named in the order in which they are shown, the wall last.
-  Frame fraMateriali;
-  std::array<Label, 4> lblMateriali;
-  std::array<FloatBox, 3> cdMaterialiS, cdMaterialiT;
-  std::array<Button, 2> cdbMateriali;
-  ComboBox cmbTipoDiFerro;
-  Frame fraRisultati;
-  std::array<Label, 3> lblRisultati;
-  std::array<FloatBox, 7> cdOUT;
+  // The materials in the order of the rows, which the results follow: σ and τ of each, then the
+  // wall.
+  static constexpr const char *kLastra = "Pietra lastra", *kMensole = "Pietra mensole ",
+                              *kAcciaio = "Acciaio";
+  static constexpr const char *kSigma = "σ  [Kg/cmq]", *kTau = "τ  [Kg/cmq]";
+  Frame fraMateriali{form_, "fraMateriali", "TENSIONI AMMISSIBILI"};
+  Schiera<Label> lblMateriali{form_, "lblMateriali", 0, {"", kSigma, kTau, ""}};
+  Schiera<FloatBox> cdMaterialiS{form_,
+                                 "cdMaterialiS",
+                                 0,
+                                 {kLastra, kMensole, kAcciaio},
+                                 NumberLimits{.most = 9999.99, .decimals = 2}};
+  Schiera<FloatBox> cdMaterialiT{form_,
+                                 "cdMaterialiT",
+                                 0,
+                                 {kLastra, kMensole, kAcciaio},
+                                 NumberLimits{.most = 9999.99, .decimals = 2}};
+  Schiera<Button> cdbMateriali{form_, "cdbMateriali", 0, {"Pietra...", "Pietra..."}};
+  ComboBox cmbTipoDiFerro{form_, "cmbTipoDiFerro", "", NomiGradiAcciaio()};
+  Frame fraRisultati{form_, "fraRisultati", "RISULTATI"};
+  Schiera<Label> lblRisultati{form_, "lblRisultati", 0, {"", kSigma, kTau}};
+  Schiera<FloatBox> cdOUT{
+      form_,
+      "cdOUT",
+      0,
+      {kLastra, kLastra, kMensole, kMensole, kAcciaio, kAcciaio, "Incremento su Muratura  "},
+      NumberLimits{.least = -9999999.9, .most = 9999999.9, .decimals = 1}};
 
  private:
-  double Ammessa(std::size_t elemento) const;
+  bool Supera(const RisultatiBalcone& risultati, std::size_t mostrato) const;
   void ChiediPietra(std::size_t pietra);
   void ScegliAcciaio();
-  FloatBox& Risultato(std::size_t elemento) { return cdOUT[elemento - 1]; }
-
-  RunState& stato_;
 };
 
 }  // namespace orm

@@ -5,7 +5,7 @@
 
 namespace orm {
 
-class FrmStruttureCarichiEstremita : public FrmCarichi {
+class FrmStruttureCarichiEstremita : public FormCarichi {
  public:
   enum class Cerca { Carico, Coppia };
 
@@ -13,18 +13,19 @@ class FrmStruttureCarichiEstremita : public FrmCarichi {
   // Which of the two figures the caller wants; the other one's frame is hidden.
   void PerAvere(Cerca figura);
   double Totale() const override { return figura_ == Cerca::Carico ? Carico() : Coppia(); }
-  double Carico() const;
+  double Carico() const { return optCARICO.Carico(); }
   double Coppia() const;
 
-  Frame fraCarico;
+  Frame fraCarico{*this, "fraCarico", "CARICO RIPARTITO  [ Kg/ml. ]"};
   OptionGroup gruppoCarico;
-  SceltaCarico optCARICO;
-  FloatBox cdCarico;
-  Frame fraCoppia, fraSpinta;
+  SceltaCarico optCARICO{*this, "optCARICO", kVociParapetto, gruppoCarico, "Kg/ml."};
+  FloatBox cdCarico{*this, "cdCarico", "Carico", FinoA(99999999.99, "Kg/ml.")};
+  Frame fraCoppia{*this, "fraCoppia", "COPPIA RIPARTITA  [ Kg x m / ml. ]"};
+  Frame fraSpinta{*this, "fraSpinta", "SPINTA SUL PARAPETTO"};
   OptionGroup gruppoSpinta;
-  SceltaCarico optSpinta;
-  FloatBox cdCorrimano, cdCoppia;
-  Button OKButton;
+  SceltaCarico optSpinta{*this, "optSpinta", kVociSpinta, gruppoSpinta, "Kg x ml. / ml."};
+  FloatBox cdCorrimano{*this, "cdCorrimano", "Altezza del Corrimano", FinoA(99.99, "ml.")};
+  FloatBox cdCoppia{*this, "cdCoppia", "Coppia", FinoA(99999999.99, "Kg x m / ml.")};
 
  private:
   void Aggiorna();

@@ -4,81 +4,17 @@
 #include <vector>
 
 #include "structures/loads/loads.h"
-#include "structures/numbered_controls.h"
 
 namespace orm {
 namespace {
 
-constexpr const char* kKgMq = "Kg/mq.";
 constexpr double kPesoRipartibile = 150;  // kg/mq of wall; a heavier one is no spread load
-constexpr std::array kNomi = {"PAVIMENTAZIONE comprensiva di letto di malta o sottofondo",
-                              "TRAMEZZI",
-                              "NEVE",
-                              "IMPERMEABILIZZAZIONE",
-                              "MANTI DI COPERTURA",
-                              "MASSETTO PENDENZE",
-                              "SOFFITTO"};
-
-NumberLimits Misura(double massimo, const char* unita) {
-  return {.most = massimo, .decimals = 2, .unit = unita};
-}
-
-NumberLimits LimitiRisultato() { return {.most = 999999999.99, .decimals = 2, .unit = kKgMq}; }
 
 }  // namespace
 
-PannelloCarico::PannelloCarico(Form& form, std::size_t indice, const char* nome)
-    : cdCarico(form, NomeIndicizzato("cdCarico", indice), nome, LimitiRisultato()),
-      cmdSpecifica(form, NomeIndicizzato("cmdSpecifica", indice), "Specifica..."),
-      frmSpecificaCarichi(form, NomeIndicizzato("frmSpecificaCarichi", indice), nome),
-      cdRisultato(form, NomeIndicizzato("cdRisultato", indice), "Carico", LimitiRisultato()),
-      cmdAzzera(form, NomeIndicizzato("cmdAzzera", indice), "&Azzera"),
-      Commando(form, NomeIndicizzato("Commando", indice), "&O.K.") {
-  cdCarico.SetReadOnly(true);
-  cdRisultato.SetReadOnly(true);
-  frmSpecificaCarichi.SetVisible(false);
-}
-
 FrmStruttureCarichiPermanenti::FrmStruttureCarichiPermanenti()
-    : FrmCarichi("frmSTRUTTURE_CarichiPermanenti", "Carichi permanenti"),
-      fraSovraccarichi(*this, "fraSovraccarichi", "SOVRACCARICHI RIPARTITI  [Kg/mq]"),
-      cdTotale(*this, "cdTotale", "TOTALE", LimitiRisultato()),
-      cmdCalcola(*this, "cmdCalcola", "&CALCOLA"),
-      OKButton(*this, "OKButton", "&O.K.", Button::Role::Default),
-      optPavimento(*this, "optPavimento", kVociPavimento, gruppi[Pavimentazione], kKgMq),
-      optImper(*this, "optImper", kVociImpermeabilizzazione, gruppi[Impermeabilizzazione], kKgMq),
-      optManto(*this, "optManto", kVociManto, gruppi[Manto], kKgMq),
-      optSoffitto(*this, "optSoffitto", kVociSoffitto, gruppi[Soffitto], kKgMq),
-      optTramezzi{{{*this, "optTramezzi(0)", "Tramezzi di peso < 150 Kg/mq", gruppi[Tramezzi]},
-                   {*this, "optTramezzi(1)", "Altro tipo di carico", gruppi[Tramezzi]}}},
-      cdAreaSolaio(*this, "cdAreaSolaio", "Area del solaio", Misura(9999.99, "mq.")),
-      cdLunghezza(*this, "cdLunghezza", "Lunghezza Tramezzatura ", Misura(9999.99, "ml.")),
-      cdAltezza(*this, "cdAltezza", "Altezza Tramezzo ", Misura(99.99, "ml.")),
-      cdPesoTramezzo(*this, "cdPesoTramezzo", "Peso Tramezzo compreso doppio intonaco",
-                     Misura(9999.99, kKgMq)),
-      cdAltroTramezzo(*this, "cdAltroTramezzo", "", Misura(99999.99, kKgMq)),
-      lblEsempioTramezzi(*this, "lblEsempioTramezzi",
-                         "Ad esempio tramezzo di forati da 8   : 110 Kg/mq.                    "
-                         "tramezzo di forati da 12 : 130 Kg/mq",
-                         Label::Style::Note),
-      lblNotaTramezzi(*this, "lblNotaTramezzi",
-                      "La ripartizione dei tramezzi è accettabile solo per peso a mq  inferiore a "
-                      "150 Kg/mq.",
-                      Label::Style::Note),
-      optZona{{{*this, "optZona(0)", kZoneNeve[0].nome, gruppi[Neve]},
-               {*this, "optZona(1)", kZoneNeve[1].nome, gruppi[Neve]}}},
-      cdQuota(*this, "cdQuota", "Altezza località sul livello del mare ", Misura(4999.99, "m.")),
-      cdInclinazione(*this, "cdInclinazione", "Inclinazione della falda", Misura(90, "gradi")),
-      lblNotaNeve(*this, "lblNotaNeve",
-                  "Si ricorda che questo tipo di sovraccarico non va cumulato sulle medesime "
-                  "superfici con i carichi accidentali prescritti dalle norme.",
-                  Label::Style::Note),
-      lblFavoreSicurezza(*this, "lblFavoreSicurezza",
-                         "Naturalmente, a favore della sicurezza, occorre fra adottare il più "
-                         "gravoso fra il carico da neve e quello accidentale.",
-                         Label::Style::Note),
-      cdSpessore(*this, "cdSpessore", "Spessore cm.", Misura(999.99, "")) {
-  for (std::size_t i = 0; i < kNomi.size(); ++i) pannelli.emplace_back(*this, i, kNomi[i]);
+    : FormCarichi("frmSTRUTTURE_CarichiPermanenti", "Carichi permanenti") {
+  for (std::size_t i = 0; i < kPannelli.size(); ++i) pannelli.emplace_back(*this, i, kPannelli[i]);
   cdTotale.SetReadOnly(true);
   std::vector<Layout> parts{Elenco()};
   for (std::size_t i = 0; i < pannelli.size(); ++i) parts.push_back(Specifica(i));
@@ -140,11 +76,10 @@ void FrmStruttureCarichiPermanenti::TieEvents() {
     };
   }
   cmdCalcola.onPress = aggiorna;
-  OKButton.onPress = [this] { Conferma(); };
 }
 
 void FrmStruttureCarichiPermanenti::OnOpen() {
-  FrmCarichi::OnOpen();
+  FormCarichi::OnOpen();
   MostraElenco();
 }
 

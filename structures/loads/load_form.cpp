@@ -7,16 +7,7 @@
 
 namespace orm {
 
-void FrmCarichi::OnOpen() { prima_ = FormValues(*this); }
-
-void FrmCarichi::OnWindowClose() {
-  prima_.PutInto(*this);
-  Close();
-}
-
-void FrmCarichi::Conferma() { Esci(Uscita::Conferma); }
-
-void ChiediCarico(RunState& stato, FrmCarichi& form, FloatBox& campo) {
+void ChiediCarico(RunState& stato, FormCarichi& form, FloatBox& campo) {
   stato.player.Show(form);
   if (form.Confermato()) campo.SetValue(form.Totale());
   campo.Owner().MoveFocus(campo);

@@ -1,41 +1,34 @@
-// What the load dialogs have in common: their life, lists of choices with a load each, and how a
-// verification dialog asks one of them for a figure.
+// What the load dialogs have in common: lists of choices with a load each, and how a verification
+// dialog asks one of them for a figure. A dialog lives as long as the run of the program.
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <span>
 #include <string>
 
-#include "dialogs/form.h"
-#include "dialogs/form_values.h"
 #include "shell/state/run_state.h"
+#include "structures/choices_form.h"
 #include "structures/loads/unit_loads.h"
 
 namespace orm {
 
 // A load in kg/mq or kg/ml, or another figure that a person gives.
 inline const NumberLimits kLimitiCarico{.most = 999999.99, .decimals = 2};
+inline NumberLimits FinoA(double massimo, const std::string& unita) {
+  return {.most = massimo, .decimals = 2, .unit = unita};
+}
 
-// A dialog lives as long as the run of the program, so it comes up with its last choices. Left by
-// its window it has the choices from before.
-class FrmCarichi : public Form {
+class FormCarichi : public FormScelte {
  public:
-  using Form::Form;
-  void OnOpen() override;
-  void OnWindowClose() override;
+  using FormScelte::FormScelte;
   // The figure that the dialog was asked for.
   virtual double Totale() const = 0;
-
- protected:
-  void Conferma();
-
- private:
-  FormValues prima_;
 };
 
 // Shows the dialog and gives `campo` its figure and the focus; a dialog left by its window changes
 // nothing.
-void ChiediCarico(RunState& stato, FrmCarichi& form, FloatBox& campo);
+void ChiediCarico(RunState& stato, FormCarichi& form, FloatBox& campo);
 
 // Option buttons with a load each; a choice without a load of its own has a field beside it, open
 // while it is chosen.

@@ -42,7 +42,7 @@ void PannelloArmature::Scrivi(std::size_t riga, const char* ferri, double distan
 
 FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& stato,
                              const NoteFlessione& note, const std::vector<std::string>& forme)
-    : FormRiprendibile(std::move(nome), std::move(titolo)), stato_(stato), note_(note) {
+    : FormRiprendibile(std::move(nome), std::move(titolo), stato), note_(note) {
   for (std::size_t i = 0; i < forme.size(); ++i) {
     OptionButton& scelta = Option.emplace_back(
         *this, "Option" + NumberText(static_cast<double>(i) + 1), forme[i], gruppo);

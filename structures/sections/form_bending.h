@@ -88,8 +88,6 @@ class FormFlessione : public FormRiprendibile {
   void Mostra(const RisultatiFlessione& risultati, bool verificata);
   void Azzera();
 
-  RunState& stato_;
-
  private:
   NoteFlessione note_;
 };

@@ -116,9 +116,6 @@ void FrmVerFlessC1::Calcola() {
   DisegnaSezioneC(Lavagna, dati, tensioni_, ammesse, verificata);
 }
 
-void MostraVerFlessC1(RunState& stato) {
-  FrmVerFlessC1 form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraVerFlessC1(RunState& stato) { FrmVerFlessC1(stato).Presenta(); }
 
 }  // namespace orm

@@ -102,9 +102,6 @@ void FrmVerFlessT1::Calcola() {
   DisegnaSezioneT(Lavagna, dati, tensioni_, ammesse, verificata);
 }
 
-void MostraVerFlessT1(RunState& stato) {
-  FrmVerFlessT1 form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraVerFlessT1(RunState& stato) { FrmVerFlessT1(stato).Presenta(); }
 
 }  // namespace orm

@@ -9,30 +9,14 @@
 namespace orm {
 
 FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
-    : FormRiprendibile("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI"),
-      ingressi(*this, stato, {"Lunghezza sbalzo [m]", "CARICHI applicati lungo la putrella a ml."}),
-      fraEstremita(*this, "fraEstremita", "CARICHI di estremità per ml."),
-      cdCE{{{*this, "cdCE(0)", "Carico [Kg/ml]", kLimitiCarico},
-            {*this, "cdCE(1)", "Coppia [Kg x m/ml]", kLimitiCarico}}},
-      cmdCarico(*this, "cmdCarico", "Analisi..."),
-      cmdCOPPIA(*this, "cmdCOPPIA", "Analisi..."),
-      fraZona(*this, "fraZona", "ZONA SISMICA"),
-      Option1(*this, "Option1", "Si", gruppoZona),
-      Option2(*this, "Option2", "No", gruppoZona),
-      cmdCAR_SISMICHE(*this, "cmdCAR_SISMICHE", "Azioni sismiche..."),
-      risultati(*this, {"Tensione normale max acciaio  [Kg/cmq]",
-                        "Tensione tangenziale max acciaio  [Kg/cmq]"}),
-      comCalcola(*this, "comCalcola", "&CALCOLA", Button::Role::Default),
-      cmdSTAMPA(*this, "cmdSTAMPA", "&STAMPA"),
-      ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
-      stato_(stato) {
-  SetContent(
-      Column({Row({Column({ingressi.Schema(),
-                           Group(fraEstremita,
-                                 {Fields({Row({cdCE[0], cmdCarico}), Row({cdCE[1], cmdCOPPIA})})}),
-                           Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
-                   Column({ingressi.Carichi()})}),
-              risultati.Contents(), Buttons({cmdRIPRENDI, comCalcola, cmdSTAMPA, ComEsci})}));
+    : FormRiprendibile("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI", stato) {
+  SetContent(Column(
+      {Row({Column({ingressi.Schema(),
+                    Group(fraEstremita,
+                          {Fields({Row({cdCarico, cmdCarico}), Row({cdCoppia, cmdCOPPIA})})}),
+                    Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
+            Column({ingressi.Carichi()})}),
+       risultati.Contents(), Buttons({cmdRIPRENDI, comCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();
@@ -42,17 +26,16 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
 void FrmVerSbalziP::TieEvents() {
   const auto cambiati = [this] { Azzera(); };
   ingressi.TieEvents(cambiati);
-  Option1.onChange = Option2.onChange = cdCE[0].onChange = cdCE[1].onChange = cambiati;
+  Option1.onChange = Option2.onChange = cdCarico.onChange = cdCoppia.onChange = cambiati;
   using Cerca = FrmStruttureCarichiEstremita::Cerca;
   cmdCarico.onPress = [this] {
-    ChiediCarico(stato_, CarichiEstremita(stato_, Cerca::Carico), cdCE[0]);
+    ChiediCarico(stato_, CarichiEstremita(stato_, Cerca::Carico), cdCarico);
   };
   cmdCOPPIA.onPress = [this] {
-    ChiediCarico(stato_, CarichiEstremita(stato_, Cerca::Coppia), cdCE[1]);
+    ChiediCarico(stato_, CarichiEstremita(stato_, Cerca::Coppia), cdCoppia);
   };
-  cmdCAR_SISMICHE.onPress = [this] {
-    ChiediCarichiSismici(stato_, cmdCAR_SISMICHE);
-    if (CarichiSismici(stato_).Confermato()) Azzera();
+  cmdCAR_SISMICHE.onPress = [this, cambiati] {
+    ChiediCarichiSismici(stato_, cmdCAR_SISMICHE, cambiati);
   };
   comCalcola.onPress = [this] { Calcola(); };
   cmdSTAMPA.onPress = [this] { TryAndStay(stato_.player, [this] { Stampa(); }); };
@@ -68,8 +51,8 @@ void FrmVerSbalziP::Azzera() {
 DatiSbalzoP FrmVerSbalziP::Leggi() const {
   DatiSbalzoP dati;
   ingressi.Leggi(dati);
-  dati.caricoEstremo = cdCE[0].Value();
-  dati.coppiaEstrema = cdCE[1].Value();
+  dati.caricoEstremo = cdCarico.Value();
+  dati.coppiaEstrema = cdCoppia.Value();
   if (Option1.Value()) dati.sisma = FattoriPer(CarichiSismici(stato_).Coefficienti());
   return dati;
 }
@@ -95,9 +78,6 @@ void FrmVerSbalziP::Stampa() {
               "LA STAMPA SARÁ ACCODATA A QUELLA DELLO SBALZO PRECEDENTE");
 }
 
-void MostraSbalziP(RunState& stato) {
-  FrmVerSbalziP form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraSbalziP(RunState& stato) { FrmVerSbalziP(stato).Presenta(); }
 
 }  // namespace orm

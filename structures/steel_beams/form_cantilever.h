@@ -1,7 +1,6 @@
 // frmVER_SBALZI_P: check of a cantilever of NP beams and hollow tiles.
 #pragma once
 
-#include "shell/state/run_state.h"
 #include "structures/resumable_form.h"
 #include "structures/steel_beams/cantilever.h"
 #include "structures/steel_beams/panel_inputs.h"
@@ -13,16 +12,24 @@ class FrmVerSbalziP : public FormRiprendibile {
  public:
   explicit FrmVerSbalziP(RunState& stato);
 
-  IngressiPutrelle ingressi;
-  Frame fraEstremita;
-  std::array<FloatBox, 2> cdCE;  // load, couple
-  Button cmdCarico, cmdCOPPIA;
-  Frame fraZona;
+  PannelloDatiPutrelle ingressi{
+      *this, stato_, {"Lunghezza sbalzo [m]", "CARICHI applicati lungo la putrella a ml."}};
+  Frame fraEstremita{*this, "fraEstremita", "CARICHI di estremità per ml."};
+  FloatBox cdCarico{*this, "cdCE(0)", "Carico [Kg/ml]", kLimitiCarico};
+  FloatBox cdCoppia{*this, "cdCE(1)", "Coppia [Kg x m/ml]", kLimitiCarico};
+  Button cmdCarico{*this, "cmdCarico", "Analisi..."};
+  Button cmdCOPPIA{*this, "cmdCOPPIA", "Analisi..."};
+  Frame fraZona{*this, "fraZona", "ZONA SISMICA"};
   OptionGroup gruppoZona;
-  OptionButton Option1, Option2;
-  Button cmdCAR_SISMICHE;
-  RisultatiPutrelle risultati;
-  Button comCalcola, cmdSTAMPA, ComEsci;
+  OptionButton Option1{*this, "Option1", "Si", gruppoZona};
+  OptionButton Option2{*this, "Option2", "No", gruppoZona};
+  Button cmdCAR_SISMICHE{*this, "cmdCAR_SISMICHE", "Azioni sismiche..."};
+  PannelloRisultatiPutrelle risultati{
+      *this,
+      {"Tensione normale max acciaio  [Kg/cmq]", "Tensione tangenziale max acciaio  [Kg/cmq]"}};
+  Button comCalcola{*this, "comCalcola", "&CALCOLA", Button::Role::Default};
+  Button cmdSTAMPA{*this, "cmdSTAMPA", "&STAMPA"};
+  Button ComEsci{*this, "ComEsci", "&ESCI", Button::Role::Close};
 
  private:
   void TieEvents();
@@ -31,7 +38,6 @@ class FrmVerSbalziP : public FormRiprendibile {
   void Calcola();
   void Stampa();
 
-  RunState& stato_;
   // Of the check that is shown.
   DatiSbalzoP dati_;
   VerificaPutrella verifica_;

@@ -6,33 +6,12 @@
 
 namespace orm {
 namespace {
-
-const NumberLimits kCoefficiente{.most = 999.99, .decimals = 2};
-constexpr double kAppoggio = 8;  // of a beam on two supports
-
+constexpr double kAppoggio = 8;  // coefficient of a beam on two supports
 }  // namespace
 
 FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
-    : FormRiprendibile("frmVER_SOLAIO_P", "VERIFICA SOLAI MONOCAMPATA PUTRELLE E TAVELLONI"),
-      fraPosizione(*this, "fraPosizione", "POSIZIONE SOLAIO"),
-      Option1(*this, "Option1", "di Piano", gruppoPosizione),
-      Option2(*this, "Option2", "di Copertura", gruppoPosizione),
-      ingressi(*this, stato,
-               {"Luce netta [m]", "CARICHI applicati direttamente alla putrella a ml."}),
-      fraCoefficienti(*this, "fraCoefficienti", "COEFFICENTI PER CALCOLO  MOMENTI"),
-      cdMezzeria(*this, "cdMezzeria", "Mezzeria   1/", kCoefficiente),
-      cdIncastro(*this, "cdIncastro", "Incastro   1/", kCoefficiente),
-      lblFreccia(*this, "lblFreccia",
-                 "Con un incastro di coefficiente minore di 12\nle frecce risultano in difetto.",
-                 Label::Style::Warning),
-      risultati(*this, {"Tensione normale max acciaio  [Kg/cmq]",
-                        "Tensione tangenziale max acciaio  [Kg/cmq]",
-                        "Freccia elastica per carico permanente [cm]",
-                        "Freccia elastica per carico totale [cm]"}),
-      ComCalcola(*this, "ComCalcola", "&CALCOLA", Button::Role::Default),
-      cmdSTAMPA(*this, "cmdSTAMPA", "&STAMPA"),
-      ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
-      stato_(stato) {
+    : FormRiprendibile("frmVER_SOLAIO_P", "VERIFICA SOLAI MONOCAMPATA PUTRELLE E TAVELLONI",
+                       stato) {
   SetContent(
       Column({Row({Column({Group(fraPosizione, {Row({Option1, Option2})}), ingressi.Schema(),
                            Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
@@ -56,31 +35,36 @@ void FrmVerSolaioP::Azzera() {
   cmdSTAMPA.SetEnabled(false);
 }
 
-// A floor that is too low may be checked all the same.
-bool FrmVerSolaioP::AltezzaAccettata(const DatiSolaioP& dati) {
-  if (!Option1.Value() || !AltezzaSolaioInsufficiente(dati.lunghezza, dati.altezza)) return true;
-  return stato_.player.Ask(
-             {kAttenzione,
-              "ALTEZZA DEL SOLAIO INFERIORE AL MINIMO DI LEGGE PER LA LUCE ASSEGNATA\n"
-              "ESEGUO CALCOLO ?",
-              MessageBox::Icon::Question, MessageBox::Buttons::YesNo}) == Answer::Yes;
-}
-
-void FrmVerSolaioP::Calcola() {
+DatiSolaioP FrmVerSolaioP::Leggi() const {
   DatiSolaioP dati;
   ingressi.Leggi(dati);
   dati.cMezzeria = cdMezzeria.Value();
   dati.cIncastro = cdIncastro.Value();
-  Azzera();
+  return dati;
+}
+
+// A floor that is too low may be checked all the same.
+bool FrmVerSolaioP::SiRifiuta(const DatiSolaioP& dati) {
   if (dati.lunghezza == 0) {
     stato_.player.Ask(Avviso("IL CALCOLO NON VERRÁ ESEGUITO PERCHÈ LA LUCE È ZERO"));
-    return;
+    return true;
   }
   if (dati.cMezzeria == 0 && dati.cIncastro == 0) {
     stato_.player.Ask(Avviso("IL CALCOLO NON VERRÁ ESEGUITO PERCHÈ I COEFFICENTI SONO ZERO"));
-    return;
+    return true;
   }
-  if (!AltezzaAccettata(dati)) return;
+  return Option1.Value() && AltezzaSolaioInsufficiente(dati.lunghezza, dati.altezza) &&
+         stato_.player.Ask(
+             {kAttenzione,
+              "ALTEZZA DEL SOLAIO INFERIORE AL MINIMO DI LEGGE PER LA LUCE ASSEGNATA\n"
+              "ESEGUO CALCOLO ?",
+              MessageBox::Icon::Question, MessageBox::Buttons::YesNo}) != Answer::Yes;
+}
+
+void FrmVerSolaioP::Calcola() {
+  const DatiSolaioP dati = Leggi();
+  Azzera();
+  if (SiRifiuta(dati)) return;
   dati_ = dati;
   verifica_ = VerificaSolaioP(dati);
   risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
@@ -97,9 +81,6 @@ void FrmVerSolaioP::Stampa() {
               "LA STAMPA SARÁ ACCODATA A QUELLA DEL SOLAIO PRECEDENTE");
 }
 
-void MostraSolaioP(RunState& stato) {
-  FrmVerSolaioP form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraSolaioP(RunState& stato) { FrmVerSolaioP(stato).Presenta(); }
 
 }  // namespace orm

@@ -1,10 +1,12 @@
-// The results of a check of NP beams: each value beside the one that is allowed.
+// Panel of the results of a check of NP beams: each value beside the one that is allowed.
 #pragma once
 
-#include <deque>
 #include <initializer_list>
+#include <string>
+#include <vector>
 
 #include "dialogs/form.h"
+#include "structures/numbered_controls.h"
 
 namespace orm {
 
@@ -12,18 +14,25 @@ struct ValoreVerificato {
   double ammesso = 0, calcolato = 0;
 };
 
-class RisultatiPutrelle {
+class PannelloRisultatiPutrelle {
+  Form& form_;
+  std::vector<std::string> voci_;
+
  public:
   // A row for each caption.
-  RisultatiPutrelle(Form& form, std::initializer_list<const char*> voci);
+  PannelloRisultatiPutrelle(Form& form, std::vector<std::string> voci);
   Layout Contents();
   void Azzera();
   // One value for each row; those beyond what is allowed warn.
   void Mostra(std::initializer_list<ValoreVerificato> valori);
 
-  Frame fraRisultati;
-  std::deque<Label> lblColonne;
-  std::deque<FloatBox> cdVAmmessi, cdRisultati;
+  static constexpr double kMassimo = 99999999.99;
+  Frame fraRisultati{form_, "fraRisultati", "RISULTATI"};
+  Schiera<Label> lblColonne{form_, "lblColonne", 0, {"", "VALORI AMMESSI", "CALCOLATI"}};
+  Schiera<FloatBox> cdVAmmessi{form_, "cdVAmmessi", 0, voci_,
+                               NumberLimits{.least = -kMassimo, .most = kMassimo}};
+  Schiera<FloatBox> cdRisultati{form_, "cdRisultati", 0, voci_,
+                                NumberLimits{.least = -kMassimo, .most = kMassimo}};
 };
 
 }  // namespace orm

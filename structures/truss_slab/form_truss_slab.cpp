@@ -54,18 +54,10 @@ std::string Rifiuto(EsitoSolaioT esito) {
 
 FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
     : FormRiprendibile("frmVER_SOLAIO_TRALIC",
-                       "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO"),
-      ingressi(*this, stato),
-      viste(*this),
-      comCalcola(*this, "comCalcola", "&CALCOLA", Button::Role::Default),
-      comSTAMPA(*this, "comSTAMPA", "&STAMPA"),
-      ComEsci(*this, "ComEsci", "&ESCI", Button::Role::Close),
-      stato_(stato) {
+                       "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO", stato) {
   SetContent(Column({ingressi.Contents(), viste.Contents(),
                      Buttons({cmdRIPRENDI, comCalcola, comSTAMPA, ComEsci})}));
-  ingressi.ValoriIniziali();
   ingressi.TieEvents([this] { Azzera(); });
-  viste.TieEvents();
   SetFirstFocus(ingressi.cdLuce);
   comCalcola.onPress = [this] { Calcola(); };
   comSTAMPA.onPress = [this] { TryAndStay(stato_.player, [this] { Stampa(); }); };
@@ -99,9 +91,7 @@ void FrmVerSolaioTralic::Calcola() {
     return;
   }
   ingressi.ScriviFerri(risultati);
-  dati_ = dati;
-  risultati_ = risultati;
-  viste.Mostra(dati, risultati);
+  viste.Mostra({dati, risultati});
   comSTAMPA.SetEnabled(true);
 }
 
@@ -109,13 +99,10 @@ void FrmVerSolaioTralic::Stampa() {
   RelazioneStrutturale(stato_, kRelazioneSolaioT)
       .Stampa([this](ReportPrinter& testo, bool primo, int numero) {
         if (primo) StampaIntestazioneSolaioT(testo, LeggiProduttore(stato_.folder));
-        StampaSolaioT(testo, numero, dati_, risultati_);
+        StampaSolaioT(testo, numero, viste.Progetto().dati, viste.Progetto().risultati);
       });
 }
 
-void MostraSolaioTraliccio(RunState& stato) {
-  FrmVerSolaioTralic form(stato);
-  MostraRiprendibile(stato, form);
-}
+void MostraSolaioTraliccio(RunState& stato) { FrmVerSolaioTralic(stato).Presenta(); }
 
 }  // namespace orm

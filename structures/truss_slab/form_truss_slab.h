@@ -1,7 +1,6 @@
 // frmVER_SOLAIO_TRALIC: design of a floor of one span, of truss joists and hollow blocks.
 #pragma once
 
-#include "shell/state/run_state.h"
 #include "structures/resumable_form.h"
 #include "structures/truss_slab/panel_inputs.h"
 #include "structures/truss_slab/panel_views.h"
@@ -11,21 +10,18 @@ namespace orm {
 class FrmVerSolaioTralic : public FormRiprendibile {
  public:
   explicit FrmVerSolaioTralic(RunState& stato);
-  void Riprendi(const FormValues& valori) override;
 
-  IngressiSolaio ingressi;
-  VisteSolaio viste;
-  Button comCalcola, comSTAMPA, ComEsci;
+  PannelloDatiSolaio ingressi{*this, stato_};
+  PannelloVisteSolaio viste{*this};
+  Button comCalcola{*this, "comCalcola", "&CALCOLA", Button::Role::Default};
+  Button comSTAMPA{*this, "comSTAMPA", "&STAMPA"};
+  Button ComEsci{*this, "ComEsci", "&ESCI", Button::Role::Close};
 
  private:
+  void Riprendi(const FormValues& valori) override;
   void Calcola();
   void Stampa();
   void Azzera();
-
-  RunState& stato_;
-  // Of the design that is shown.
-  DatiSolaioT dati_;
-  RisultatiSolaioT risultati_;
 };
 
 void MostraSolaioTraliccio(RunState& stato);

@@ -1,7 +1,7 @@
-// Look-ups of the truss-joist slab: materials, blocks, coefficients, self weight, least height.
+#include "structures/truss_slab/lookup.h"
+
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "structures/truss_slab/truss_slab.h"
 #include "tariff/money.h"
 
 namespace orm {
@@ -18,6 +18,12 @@ ParametriCls ParametriDiCls(std::string_view classe) {
   return {};
 }
 
+std::vector<std::string> NomiClassiCls() {
+  std::vector<std::string> nomi;
+  for (const ParametriCls& cls : kClassiCls) nomi.emplace_back(cls.classe);
+  return nomi;
+}
+
 double PesoLaterizio(std::string_view blocco) {
   const std::string altezza = Right(blocco, 2);
   for (const FiguraLaterizio& figura : kPesiLaterizio)
@@ -28,8 +34,6 @@ double PesoLaterizio(std::string_view blocco) {
 double AltezzaBlocco(std::string_view blocco) {
   return ParseNumber(blocco.substr(blocco.find_last_of(' ') + 1)).value_or(0);
 }
-
-double DatiSolaioT::H() const { return AltezzaBlocco(blocco) + solettina; }
 
 double ParteDopoBarra(std::string_view testo) {
   const auto barra = testo.find('/');
@@ -46,13 +50,6 @@ double PesoProprioSolaio(const ModuloSolaio& modulo, double solettina, std::stri
 
 bool AltezzaInsufficiente(double luce, double H) {
   return luce * 100.0 * kRapportoLuci / kRapportoLuceAltezza > H;
-}
-
-Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati) {
-  const ParametriCls cls = ParametriDiCls(dati.classeCls);
-  const double acciaio = TensioneDiFerro(dati.tipoFerro);
-  return {acciaio, dati.solettina <= kSolettinaSottile ? cls.ridotta : cls.novanta,
-          cls.tauc0 * (acciaio > kTensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
 }
 
 }  // namespace orm

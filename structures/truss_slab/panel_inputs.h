@@ -1,21 +1,28 @@
-// What a person gives for a truss-joist slab: the controls, the rule of the least height, and the
-// self weight that follows from block, thickness and module.
+// Panel of a truss-joist slab: what a person gives, the rule of the least height, and the self
+// weight that follows from block, thickness and module.
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
+#include "structures/numbered_controls.h"
 #include "structures/truss_slab/truss_slab.h"
 
 namespace orm {
 
-class IngressiSolaio {
+template <class Voci>
+std::vector<std::string> Elenco(const Voci& voci) {
+  return {voci.begin(), voci.end()};
+}
+
+class PannelloDatiSolaio {
+  Form& form_;
+  RunState& stato_;
+
  public:
-  IngressiSolaio(Form& form, RunState& stato);
+  PannelloDatiSolaio(Form& form, RunState& stato);
   Layout Contents();
-  void ValoriIniziali();
   // `cambiati` runs after any change.
   void TieEvents(const std::function<void()>& cambiati);
 
@@ -28,29 +35,60 @@ class IngressiSolaio {
   // free.
   void ScriviFerri(const RisultatiSolaioT& risultati);
 
-  // Arrays count from 1.
-  Frame fraSchema;
+  Frame fraSchema{form_, "fraSchema", "TIPO DI SOLAIO"};
   OptionGroup gruppoSchema;
-  std::array<OptionButton, 2> optSchema;
-  Frame fraPosizione;
+  Schiera<OptionButton> optSchema{
+      form_, "optSchema", 1, {kModuliSolaio[0].nome, kModuliSolaio[1].nome}, gruppoSchema};
+  Frame fraPosizione{form_, "fraPosizione", "POSIZIONE IMPALCATO"};
   OptionGroup gruppoPosizione;
-  OptionButton Option1, Option2;
-  Frame fraGeometria;
-  FloatBox cdLuce;
-  ComboBox cmbSolettina, cmbTavellone;
-  Label lblBlocchi, lblLaterizio;
-  Label lblAltezza;  // in its place while the floor is lower than the law wants
-  ComboBox cmbTipoDiFerro, cmbTipoDiCls;
-  Frame fraCoefficienti;
-  ComboBox cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ;
-  Frame fraCarichi;
-  std::array<FloatBox, 3> cdCR;
-  Button cmdCALCOLAPERMANENTE, cmdCalc_Acc;
-  Frame cmbFerri;
-  std::array<ComboBox, 5> cmbFERRI;
-  Label lblVuoto, lblAutomatica, lblZero;
+  OptionButton Option1{form_, "Option1", "di Piano", gruppoPosizione};
+  OptionButton Option2{form_, "Option2", "di Copertura", gruppoPosizione};
+  Frame fraGeometria{form_, "fraGeometria", "GEOMETRIA E MATERIALI"};
+  FloatBox cdLuce{form_, "cdLuce", "Luce netta [ml]", {.most = 99.99, .decimals = 2}};
+  ComboBox cmbSolettina{form_, "cmbSolettina", "Altezza  solettina [cm]",
+                        Elenco(kSpessoriSolettina)};
+  ComboBox cmbTavellone{form_, "cmbTavellone", "Tipo di Blocco", Elenco(kBlocchi)};
+  Label lblBlocchi{form_, "lblBlocchi",
+                   "I tipi di blocchi sono individuati da\nLarghezza x Altezza",
+                   Label::Style::Note};
+  Label lblLaterizio{form_, "lblLaterizio",
+                     "Blocchi in laterizio aventi funzione\nprincipale di alleggerimento",
+                     Label::Style::Note};
+  Label lblAltezza{form_, "lblAltezza",  // in its place while the floor is lower than the law wants
+                   "Altezza inferiore a 1/25 della luce\ndi calcolo.", Label::Style::Warning};
+  ComboBox cmbTipoDiFerro{form_, "cmbTipoDiFerro", "Tipo di Acciaio", Elenco(kTipiDiFerro)};
+  ComboBox cmbTipoDiCls{form_, "cmbTipoDiCls", "Classe Cls", NomiClassiCls()};
+  Frame fraCoefficienti{form_, "fraCoefficienti", "COEFFICENTI PER CALCOLO  MOMENTI"};
+  ComboBox cmbCCM_SIN{form_, "cmbCCM_SIN", "Incastro sin", Elenco(kCoefficientiIncastro)};
+  ComboBox cmbCCM_DEX{form_, "cmbCCM_DEX", "Incastro dex", Elenco(kCoefficientiIncastro)};
+  ComboBox cmbCCM_MEZ{form_, "cmbCCM_MEZ", "Mezzeria", Elenco(kCoefficientiMezzeria)};
+  Frame fraCarichi{form_, "fraCarichi", "CARICHI RIPARTITI a mq."};
+  FloatBox cdProprio{form_, "cdCR(1)", "Peso proprio   [Kg/mq]", {.most = 9999.9, .decimals = 1}};
+  FloatBox cdPermanente{form_, "cdCR(2)", "Permanente   [Kg/mq]", {.most = 9999.9, .decimals = 1}};
+  FloatBox cdAccidentale{
+      form_, "cdCR(3)", "Accidentale   [Kg/mq]", {.most = 9999.9, .decimals = 1}};
+  Button cmdCALCOLAPERMANENTE{form_, "cmdCALCOLAPERMANENTE", "Analisi..."};
+  Button cmdCalc_Acc{form_, "cmdCalc_Acc", "Analisi..."};
+  Frame cmbFerri{form_, "cmbFerri", "DIAMETRI DEI FERRI  [mm]"};
+  Schiera<ComboBox> cmbFERRI{form_,
+                             "cmbFERRI",
+                             1,
+                             {"Ferro aggiuntivo in campata", "Ferro integrativo n.1 in campata",
+                              "Ferro integrativo n.2 in campata", "Moncone Lungo", "Moncone Corto"},
+                             Elenco(kDiametriFerri)};
+  Label lblVuoto{
+      form_, "lblVuoto",
+      "VUOTO : scelta automatica  o  0 : se non si\nvuole il tipo di ferro o il diametro",
+      Label::Style::Note};
+  Label lblAutomatica{form_, "lblAutomatica",
+                      "Per la scelta automatica del diametro\nlasciare il campo vuoto.",
+                      Label::Style::Note};
+  Label lblZero{form_, "lblZero",
+                "Pe escludere un tipo di ferro porre il\nrelativo diametro uguale a zero.",
+                Label::Style::Note};
 
  private:
+  void ValoriIniziali();
   bool AltezzaScarsa() const;
   void SegnalaAltezza();
   bool AltezzaAmmessa();
@@ -59,7 +97,6 @@ class IngressiSolaio {
   const ModuloSolaio& Modulo() const { return kModuliSolaio[optSchema[1].Value() ? 1 : 0]; }
   double Solettina() const;
 
-  RunState& stato_;
   double luce_ = 0;  // as last accepted, and so the two choices
   int solettina_ = 0;
   int blocco_ = 2;        // R 38 x 20, high enough for a usual room

@@ -72,18 +72,14 @@ inline constexpr std::array kTipiDiFerro = {"Fe B 38 k", "Fe B 44 k"};  // offer
 // Concrete of a class; a class that is not listed has 1 everywhere.
 struct ParametriCls {
   std::string_view classe;
-  double ridotta = 1;   // 0.7 of the normal stress
-  double normale = 1;   // allowed stress of simple bending
-  double novanta = 1;   // 0.9 of the normal stress
-  double ripetuta = 1;  // the reduced one again
-  double tauc0 = 1, tauc1 = 1;
-  double E = 1;
+  double ridotta = 1;  // 0.7 of the allowed stress of simple bending
+  double novanta = 1;  // 0.9 of it
+  double tauc0 = 1;
 };
-inline constexpr std::array<ParametriCls, 4> kClassiCls = {
-    {{"250", 59.5, 85, 76.5, 59.5, 5.33, 16.86, 284600},
-     {"300", 68.25, 97.5, 87.75, 68.25, 6.0, 18.29, 311770},
-     {"350", 77, 110, 99, 77, 6.67, 19.71, 336750},
-     {"400", 85.75, 122.5, 110.25, 85.75, 7.33, 21.14, 360000}}};
+inline constexpr std::array<ParametriCls, 4> kClassiCls = {{{"250", 59.5, 76.5, 5.33},
+                                                            {"300", 68.25, 87.75, 6.0},
+                                                            {"350", 77, 99, 6.67},
+                                                            {"400", 85.75, 110.25, 7.33}}};
 // Up to this thickness of the upper slab, cm, concrete has its reduced stress.
 inline constexpr double kSolettinaSottile = 4.0;
 // Up to this allowable stress steel counts as smooth bars, which hold less by bond.

@@ -245,6 +245,13 @@ class Progetto {
 
 }  // namespace
 
+Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati) {
+  const ParametriCls cls = ParametriDiCls(dati.classeCls);
+  const double acciaio = TensioneDiFerro(dati.tipoFerro);
+  return {acciaio, dati.solettina <= kSolettinaSottile ? cls.ridotta : cls.novanta,
+          cls.tauc0 * (acciaio > kTensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
+}
+
 RisultatiSolaioT ProgettaSolaioT(const DatiSolaioT& dati) { return Progetto(dati).Esegui(); }
 
 }  // namespace orm

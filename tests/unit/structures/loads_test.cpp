@@ -150,14 +150,14 @@ TEST_F(LoadDialogs, SeismicChoicesLast) {
     CarichiSismici(stato).Option6.SetValue(true);
     CarichiSismici(stato).OKButton.Press();
   };
-  ChiediCarichiSismici(stato, caller.campo);
+  ChiediCarichiSismici(stato, caller.campo, [] {});
   EXPECT_EQ(CarichiSismici(stato).Coefficienti().I, 1.4);
   EXPECT_EQ(CarichiSismici(stato).Coefficienti().s, 1.0);
   player.doing = [&] {
     CarichiSismici(stato).Option2.SetValue(true);
     CarichiSismici(stato).OnWindowClose();
   };
-  ChiediCarichiSismici(stato, caller.campo);
+  ChiediCarichiSismici(stato, caller.campo, [] {});
   EXPECT_EQ(CarichiSismici(stato).Coefficienti().I, 1.4);
   RunState another(player, WorkFolder());
   EXPECT_EQ(CarichiSismici(another).Coefficienti().I, 1.0);

@@ -107,7 +107,7 @@ TEST(SteelSlab, CoefficientsAndEdges) {
 
 TEST(SteelSlab, ValuesBeyondTheAllowedOnesWarnUntilTheyAreCleared) {
   Form form("frmProva", "");
-  RisultatiPutrelle risultati(form, {"uno", "due"});
+  PannelloRisultatiPutrelle risultati(form, {"uno", "due"});
   risultati.Mostra({{924, 924}, {1600, 1600.001}});
   EXPECT_FALSE(risultati.cdRisultati[0].Warns());
   EXPECT_TRUE(risultati.cdRisultati[1].Warns());
