@@ -34,7 +34,6 @@ void FrmStruttureCarichiRiempimento::Disponibile(double spazio, double altezza) 
 double FrmStruttureCarichiRiempimento::Totale() const {
   if (Option1.Value()) return CaricoRiempimento(kPesoClsNormale, cdAltezza.Value());
   if (Option2.Value()) return CaricoRiempimento(cdCLS_1.Value(), cdAltezza.Value());
-  if (cdSpazio.Value() == 0) return 0;  // refused by the boxes: any tile is too wide
   return CaricoRiempimentoMisto(cdCLS_2.Value(), cdAltezza.Value(), cdSpazio.Value(),
                                 TavelloneDiLista(cmbTavellone.Index()));
 }

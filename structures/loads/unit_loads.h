@@ -74,8 +74,7 @@ inline constexpr std::array<VoceCarico, 2> kZoneNeve = {{{"Zona I", 90}, {"Zona 
 
 inline constexpr std::array<VoceCarico, 7> kVociSovraccarichi = {{
     {"Ambienti non suscettibili di affollamento (locali di abitazione e relativi servizi, "
-     "alberghi, "
-     "uffici non aperti al pubblico) e relativi terrazzi a livello praticabili",
+     "alberghi, uffici non aperti al pubblico) e relativi terrazzi a livello praticabili",
      200},
     {"Ambienti suscettibili di affollamento (ristoranti,caffè, banche, ospedali,uffici aperti al "
      "pubblico, caserme) e relativi terrazzi a livello praticabili",

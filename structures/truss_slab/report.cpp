@@ -77,8 +77,8 @@ void Tensioni(ReportPrinter& r, const RisultatiSolaioT& risultati) {
 }
 
 void InizioFerro(ReportPrinter& r, const char* nome, double diametro, double lunghezza) {
-  r.Text(nome).Tab(34).Text("Ø = ").Text(FormatPattern(diametro, "###0"));
-  r.Tab(42).Text("Lun.: ").Text(FormatPattern(lunghezza, "#0.00")).Tab(54).Text("ml");
+  r.Text(nome).Tab(kColonnaValore).Text("Ø = ").Text(FormatPattern(diametro, "###0"));
+  r.Tab(kColonnaUnita).Text("Lun.: ").Text(FormatPattern(lunghezza, "#0.00")).Tab(54).Text("ml");
 }
 
 void StampaBarra(ReportPrinter& r, const char* nome, const Barra& barra) {

@@ -135,19 +135,15 @@ TEST(SectionCircular, OutcomesOfBadData) {
   EXPECT_EQ(with(&DatiCircolare::Di, -1), EsitoC::GeometriaErrata);
   EXPECT_EQ(with(&DatiCircolare::Di, 60), EsitoC::GeometriaErrata);
   for (double DatiCircolare::*ring : {&DatiCircolare::Dd1, &DatiCircolare::Dd2}) {
-    EXPECT_EQ(with(ring, -1), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(ring, 58), EsitoC::Fatto);
-    EXPECT_EQ(with(ring, 58.01), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(ring, 38), EsitoC::Fatto);  // up to 2 cm inside the hole
-    EXPECT_EQ(with(ring, 37.99), EsitoC::ArmaturaErrata);
+    for (const double good : {58.0, 38.0})  // up to 2 cm inside the hole
+      EXPECT_EQ(with(ring, good), EsitoC::Fatto) << good;
+    for (const double bad : {-1.0, 58.01, 37.99})
+      EXPECT_EQ(with(ring, bad), EsitoC::ArmaturaErrata) << bad;
   }
   for (double DatiCircolare::*group : {&DatiCircolare::d1, &DatiCircolare::d2}) {
-    EXPECT_EQ(with(group, 1.99), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(group, 58.01), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(group, 8), EsitoC::Fatto);
-    EXPECT_EQ(with(group, 8.01), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(group, 51.99), EsitoC::ArmaturaErrata);
-    EXPECT_EQ(with(group, 52), EsitoC::Fatto);
+    for (const double good : {8.0, 52.0}) EXPECT_EQ(with(group, good), EsitoC::Fatto) << good;
+    for (const double bad : {1.99, 58.01, 8.01, 51.99})
+      EXPECT_EQ(with(group, bad), EsitoC::ArmaturaErrata) << bad;
   }
   EXPECT_EQ(Results({.D = 60, .Dd1 = 50, .M = 1e6}).esito, EsitoC::SenzaArmatura);
   // Reinforcement is looked at before its sum.
