@@ -15,8 +15,8 @@
 #include <random>
 #include <vector>
 
-#include "structures/sections/section_circular.h"
-#include "structures/sections/section_t.h"
+#include "structures/solvers/section_circular.h"
+#include "structures/solvers/section_t.h"
 
 namespace orm {
 namespace {
@@ -67,7 +67,7 @@ double Evaluations(double interval, double tolerance) {
 // One evaluation: 14 for the concrete in the web's range, 5 for each of 8 layers, 5 for the
 // halving.
 double OperationsT(const DatiSezione& dati) {
-  return Evaluations(dati[4], 0.001) * (14 + 8 * 5 + 5);
+  return Evaluations(dati.H, 0.001) * (14 + 8 * 5 + 5);
 }
 
 std::vector<DatiSezione> SectionsT(int count) {
@@ -79,16 +79,15 @@ std::vector<DatiSezione> SectionsT(int count) {
   for (DatiSezione& dati : sections) {
     const double H = between(20, 150), b = between(15, 50);
     const bool upper = random() % 2 == 0, lower = random() % 2 == 0;
-    const double geometry[] = {upper ? between(b, 200) : b,     b,
-                               lower ? between(b, 200) : b,     H,
-                               upper ? between(4, H * 0.4) : 0, lower ? between(4, H * 0.4) : 0};
-    std::copy(std::begin(geometry), std::end(geometry), dati.begin() + 1);
+    dati.B = upper ? between(b, 200) : b;
+    dati.b = b;
+    dati.Bi = lower ? between(b, 200) : b;
+    dati.H = H;
+    dati.s = upper ? between(4, H * 0.4) : 0;
+    dati.si = lower ? between(4, H * 0.4) : 0;
     const std::size_t layers = 1 + random() % 8;
-    for (std::size_t i = 0; i < layers; ++i) {
-      dati[7 + 2 * i] = between(0.5, 30);
-      dati[8 + 2 * i] = between(2, H - 2);
-    }
-    dati[23] = between(1e4, 5e6) * (random() % 2 == 0 ? 1 : -1);
+    for (std::size_t i = 0; i < layers; ++i) dati.strati[i] = {between(0.5, 30), between(2, H - 2)};
+    dati.M = between(1e4, 5e6) * (random() % 2 == 0 ? 1 : -1);
   }
   return sections;
 }
@@ -102,12 +101,15 @@ std::vector<DatiCircolare> SectionsC(int count) {
   for (DatiCircolare& dati : sections) {
     const double D = between(30, 200);
     const double Di = random() % 2 == 0 ? 0 : between(0.3, 0.6) * D;
-    dati = {0,     D,
-            Di,    between(5, 60),
-            D - 8, 0,
-            0,     between(1, 8),
-            4,     between(1, 8),
-            D - 4, between(1e5, 5e6)};
+    dati = {.D = D,
+            .Di = Di,
+            .Ad1 = between(5, 60),
+            .Dd1 = D - 8,
+            .Ac1 = between(1, 8),
+            .d1 = 4,
+            .Ac2 = between(1, 8),
+            .d2 = D - 4,
+            .M = between(1e5, 5e6)};
   }
   return sections;
 }
@@ -119,7 +121,7 @@ void VerifyT(benchmark::State& state) {
   const auto start = Clock::now();
   for (auto _ : state)
     for (const auto& dati : sections) {
-      RisultatiSezione risultati{};
+      RisultatiSezione risultati;
       VerificaSezioneT(dati, risultati);
       benchmark::DoNotOptimize(risultati);
     }
@@ -136,7 +138,7 @@ void VerifyCircular(benchmark::State& state) {
   for (const auto& dati : sections) {
     // A segment of 13 operations and a sine and cosine of its own, a second one where there is a
     // hole with 12 more for its angle (whose arc tangent counts as a sine and cosine), steel 24.
-    const bool hole = dati[2] > 0;
+    const bool hole = dati.Di > 0;
     bare += Evaluations(3.1416, 3.1416 / 64800) *
             ((13 + 24 + 5 + (hole ? 26 : 0)) * SecondsPerOperation() +
              (hole ? 3.5 : 1.5) * SecondsPerSineAndCosine());
@@ -144,7 +146,7 @@ void VerifyCircular(benchmark::State& state) {
   const auto start = Clock::now();
   for (auto _ : state)
     for (const auto& dati : sections) {
-      RisultatiCircolare risultati{};
+      RisultatiCircolare risultati;
       VerificaSezioneCircolare(dati, risultati);
       benchmark::DoNotOptimize(risultati);
     }
@@ -160,9 +162,9 @@ void SweepOfAMillionSections(benchmark::State& state) {
   for (auto _ : state) {
     double sum = 0;
     for (const auto& dati : sections) {
-      RisultatiSezione risultati{};
+      RisultatiSezione risultati;
       VerificaSezioneT(dati, risultati);
-      sum += risultati[1];
+      sum += risultati.asse;
     }
     benchmark::DoNotOptimize(sum);
   }

@@ -14,28 +14,27 @@ struct DatiTenuti {
 
 }  // namespace
 
-FormRiprendibile::FormRiprendibile(std::string nome, std::string titolo)
-    : Form(std::move(nome), std::move(titolo)),
-      cmdRIPRENDI(*this, "cmdRIPRENDI", "&RIPRENDI I DATI") {
+FormRiprendibile::FormRiprendibile(std::string nome, std::string titolo, RunState& stato)
+    : Form(std::move(nome), std::move(titolo)), stato_(stato) {
   cmdRIPRENDI.SetHint("Riporta i dati con cui questa finestra è stata lasciata l'ultima volta.");
   cmdRIPRENDI.SetVisible(false);
 }
 
-void MostraRiprendibile(RunState& stato, FormRiprendibile& form) {
-  FormValues& tenuti = stato.memoria.The<DatiTenuti>().perForm[form.Name()];
-  const FormValues nuovi(form);
-  form.cmdRIPRENDI.SetVisible(!tenuti.IsEmpty());
+void FormRiprendibile::Presenta() {
+  FormValues& tenuti = stato_.memoria.The<DatiTenuti>().perForm[Name()];
+  const FormValues nuovi(*this);
+  cmdRIPRENDI.SetVisible(!tenuti.IsEmpty());
   // What stands in the form changes places with what was kept, so that this costs nothing either.
-  form.cmdRIPRENDI.onPress = [&] {
-    const FormValues presenti(form);
-    form.Riprendi(std::exchange(tenuti, presenti));
-    if (Control* primo = form.FirstFocus()) form.MoveFocus(*primo);
+  cmdRIPRENDI.onPress = [&] {
+    const FormValues presenti(*this);
+    Riprendi(std::exchange(tenuti, presenti));
+    if (Control* primo = FirstFocus()) MoveFocus(*primo);
   };
   const auto tieni = [&] {
-    if (const FormValues lasciati(form); lasciati != nuovi) tenuti = lasciati;
+    if (const FormValues lasciati(*this); lasciati != nuovi) tenuti = lasciati;
   };
   try {
-    stato.player.Show(form);
+    stato_.player.Show(*this);
   } catch (const RuntimeFailure&) {
     tieni();
     throw;

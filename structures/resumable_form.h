@@ -12,13 +12,15 @@ namespace orm {
 
 class FormRiprendibile : public Form {
  public:
-  FormRiprendibile(std::string nome, std::string titolo);
+  FormRiprendibile(std::string nome, std::string titolo, RunState& stato);
+  void Presenta();
 
-  Button cmdRIPRENDI;  // seen when there is something to take up
+  Button cmdRIPRENDI{*this, "cmdRIPRENDI", "&RIPRENDI I DATI"};  // seen when there are such data
 
+ protected:
   virtual void Riprendi(const FormValues& valori) { valori.PutInto(*this); }
-};
 
-void MostraRiprendibile(RunState& stato, FormRiprendibile& form);
+  RunState& stato_;
+};
 
 }  // namespace orm

@@ -7,9 +7,9 @@
 namespace orm {
 
 Profilo ProfiloNP(std::string_view h) {
-  const auto found = std::find_if(ProfiliNP.begin(), ProfiliNP.end(),
+  const auto found = std::find_if(kProfiliNP.begin(), kProfiliNP.end(),
                                   [&](const VoceProfilo& voce) { return NumberText(voce.h) == h; });
-  return found == ProfiliNP.end() ? Profilo{1.0, 1.0, 1.0, 1.0, 1.0, 1.0, 1.0} : found->profilo;
+  return found == kProfiliNP.end() ? Profilo{1.0, 1.0, 1.0, 1.0, 1.0, 1.0, 1.0} : found->profilo;
 }
 
 double AltezzaProfilo(std::string_view h) { return ParseNumber(h).value_or(0); }
@@ -21,19 +21,19 @@ bool ModuloInDifetto(std::string_view h) {
 
 std::vector<std::string> AltezzeNP() {
   std::vector<std::string> altezze;
-  for (const VoceProfilo& voce : ProfiliNP) altezze.push_back(NumberText(voce.h));
+  for (const VoceProfilo& voce : kProfiliNP) altezze.push_back(NumberText(voce.h));
   return altezze;
 }
 
 Tensioni TensioniAcciaio(std::string_view grado) {
-  const auto found = std::find_if(GradiAcciaio.begin(), GradiAcciaio.end(),
+  const auto found = std::find_if(kGradiAcciaio.begin(), kGradiAcciaio.end(),
                                   [&](const GradoAcciaio& voce) { return voce.nome == grado; });
-  return found == GradiAcciaio.end() ? Tensioni{1.0, 1.0} : found->ammesse;
+  return found == kGradiAcciaio.end() ? Tensioni{1.0, 1.0} : found->ammesse;
 }
 
 std::vector<std::string> NomiGradiAcciaio() {
   std::vector<std::string> nomi;
-  for (const GradoAcciaio& voce : GradiAcciaio) nomi.emplace_back(voce.nome);
+  for (const GradoAcciaio& voce : kGradiAcciaio) nomi.emplace_back(voce.nome);
   return nomi;
 }
 

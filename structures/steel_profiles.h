@@ -27,7 +27,7 @@ struct VoceProfilo {
 // Normal profiles with the figures of UNI 5679. The section moduli of heights 120, 360, 380 and 400
 // stand as they have always stood here, far below those of the makers; they give stresses that are
 // too high and are not to be corrected, since results must come out the same.
-inline constexpr std::array<VoceProfilo, 18> ProfiliNP = {{
+inline constexpr std::array<VoceProfilo, 18> kProfiliNP = {{
     {80, {42, 7.7, 5.94, 19.4, 3.9, 5.9, 77.7}},
     {100, {50, 10.6, 8.34, 34.1, 4.5, 6.8, 170}},
     {120, {58, 14.2, 11.1, 25.5, 5.1, 7.7, 327}},
@@ -72,7 +72,7 @@ struct GradoAcciaio {
   Tensioni ammesse;
 };
 // CNR 10011, thicknesses up to 40 mm; the shear stress is the normal one over the root of three.
-inline constexpr std::array<GradoAcciaio, 3> GradiAcciaio = {{
+inline constexpr std::array<GradoAcciaio, 3> kGradiAcciaio = {{
     {"Fe 360", {1600, 924}},
     {"Fe 430", {1900, 1096}},
     {"Fe 510", {2400, 1386}},

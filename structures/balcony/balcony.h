@@ -36,7 +36,7 @@ struct DatiBalcone {
 // In a seismic zone the vertical action is always that of ordinary works: the coefficient of
 // protection counts nothing here.
 constexpr FattoriSismici SismaDelBalcone(const CoefficientiSismici& coefficienti) {
-  return {AzioneVerticale, coefficienti.s};
+  return {kAzioneVerticale, coefficienti.s};
 }
 
 // Elements of the results; stresses in kg/cmq, 0 for parts that the kind lacks.

@@ -8,8 +8,8 @@ namespace orm {
 
 std::vector<Tavellone> TuttiITavelloni() {
   std::vector<Tavellone> tutti;
-  for (const double lunghezza : LunghezzeTavelloni)
-    for (const PesoTavellone& tipo : PesiTavelloni)
+  for (const double lunghezza : kLunghezzeTavelloni)
+    for (const PesoTavellone& tipo : kPesiTavelloni)
       tutti.push_back({lunghezza, tipo.altezza, tipo.peso});
   return tutti;
 }

@@ -13,13 +13,13 @@ namespace orm {
 inline constexpr const char* kNotaTavelloni =
     "I tipi di tavelloni sono individuati da Lunhezza x Altezza";
 
-inline constexpr std::array<double, 8> LunghezzeTavelloni = {50, 60, 70, 80, 90, 100, 110, 120};
+inline constexpr std::array<double, 8> kLunghezzeTavelloni = {50, 60, 70, 80, 90, 100, 110, 120};
 
 struct PesoTavellone {
   double altezza;  // cm
   double peso;     // kg/mq
 };
-inline constexpr std::array<PesoTavellone, 5> PesiTavelloni = {
+inline constexpr std::array<PesoTavellone, 5> kPesiTavelloni = {
     {{3, 25}, {4, 30}, {6, 39}, {8, 43}, {10, 49}}};
 
 // All tiles in the order of the lists: by length, then by height.

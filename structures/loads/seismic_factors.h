@@ -7,7 +7,7 @@ namespace orm {
 
 // Share of the weights that acts vertically on projecting elements (D.M. 16-1-1996, rules for
 // buildings in seismic zones).
-inline constexpr double AzioneVerticale = 0.4;
+inline constexpr double kAzioneVerticale = 0.4;
 
 // Both 0 outside seismic zones, so that every factor drops out.
 struct FattoriSismici {
@@ -16,7 +16,7 @@ struct FattoriSismici {
 };
 
 constexpr FattoriSismici FattoriPer(const CoefficientiSismici& coefficienti) {
-  return {coefficienti.I * AzioneVerticale, coefficienti.s};
+  return {coefficienti.I * kAzioneVerticale, coefficienti.s};
 }
 
 }  // namespace orm

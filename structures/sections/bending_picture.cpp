@@ -7,7 +7,7 @@
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "structures/sections/arrays.h"
+#include "structures/solvers/arrays.h"
 
 namespace orm {
 namespace {

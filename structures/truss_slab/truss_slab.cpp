@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "runtime/numbers.h"
-#include "structures/sections/section_t.h"
+#include "structures/solvers/section_t.h"
 #include "tariff/money.h"
 
 namespace orm {
@@ -47,7 +47,7 @@ class Progetto {
   }
 
   void Sollecitazioni() {
-    Lc_ = d_.luce * RapportoLuci;
+    Lc_ = d_.luce * kRapportoLuci;
     r_.q = (d_.permanente + d_.accidentale + d_.pesoProprio) * (d_.modulo.b / 100);
     r_.taglio = Lc_ * r_.q * 0.5;
     r_.sinistra.momento = Square(Lc_) * r_.q / d_.cSin;
@@ -63,26 +63,24 @@ class Progetto {
 
   double Strato1() const {
     const double n = d_.modulo.n;
-    return n * campata_[0] + n * AreaTraliccio + n * campata_[1];
+    return n * campata_[0] + n * kAreaTraliccio + n * campata_[1];
   }
   double Strato2() const { return d_.modulo.n * campata_[2]; }
 
   // A section with the lower bars that are kept, and `superiore` above; M in kg x cm. Ribs under
   // the upper slab, or solid over the whole module.
   RisultatiSezione Sezione(bool nervata, double superiore, double M) const {
-    DatiSezione s{};
-    s[1] = d_.modulo.b;
-    s[2] = s[3] = nervata ? d_.modulo.b0 : d_.modulo.b;
-    s[4] = d_.H();
-    s[5] = nervata ? d_.solettina : 0;
-    s[7] = superiore;
-    s[8] = CopriferroSuperiore;
-    s[9] = Strato2();
-    s[10] = d_.H() - DistanzaSecondoStrato;
-    s[11] = Strato1();
-    s[12] = d_.H() - CopriferroInferiore;
-    s[23] = M;
-    RisultatiSezione risultati{};
+    const double anima = nervata ? d_.modulo.b0 : d_.modulo.b;
+    const DatiSezione s{.B = d_.modulo.b,
+                        .b = anima,
+                        .Bi = anima,
+                        .H = d_.H(),
+                        .s = nervata ? d_.solettina : 0,
+                        .strati = {{{superiore, kCopriferroSuperiore},
+                                    {Strato2(), d_.H() - kDistanzaSecondoStrato},
+                                    {Strato1(), d_.H() - kCopriferroInferiore}}},
+                        .M = M};
+    RisultatiSezione risultati;
     VerificaSezioneT(s, risultati);
     return risultati;
   }
@@ -90,13 +88,13 @@ class Progetto {
   // ------------------------------------------------------------ span
 
   Esito ArmaturaCampata() {
-    for (int k = 1; k <= TentativiCampata; ++k) {
-      campata_ = {AreaFerro(FerroAggiuntivo, d_.ferri[0], k),
-                  AreaFerro(FerroIntegrativo1, d_.ferri[1], k),
-                  AreaFerro(FerroIntegrativo2, d_.ferri[2], k)};
+    for (int k = 1; k <= kTentativiCampata; ++k) {
+      campata_ = {AreaFerro(kFerroAggiuntivo, d_.ferri[0], k),
+                  AreaFerro(kFerroIntegrativo1, d_.ferri[1], k),
+                  AreaFerro(kFerroIntegrativo2, d_.ferri[2], k)};
       const RisultatiSezione sezione = Sezione(true, 0, r_.momentoMezzeria * 100);
-      r_.clsMezzeria = std::fabs(sezione[2]);
-      r_.acciaioMezzeria = sezione[12];
+      r_.clsMezzeria = std::fabs(sezione.clsSup);
+      r_.acciaioMezzeria = sezione.massimo;
       if (r_.clsMezzeria <= r_.ammissibili.cls && r_.acciaioMezzeria <= r_.ammissibili.acciaio) {
         for (std::size_t i = 0; i < campata_.size(); ++i)
           r_.campata[i].diametro = DiametroDaArea(campata_[i]);
@@ -111,7 +109,7 @@ class Progetto {
   void LunghezzeCampata() {
     const double n = d_.modulo.n;
     const double Amin = r_.taglio / r_.ammissibili.acciaio;
-    double A = AreaTraliccio * n;
+    double A = kAreaTraliccio * n;
     bool primo = true;
     std::array<bool, 3> corre{};
     for (std::size_t i = 0; i < campata_.size(); ++i) {
@@ -120,8 +118,8 @@ class Progetto {
       if (corre[i]) A += n * campata_[i];
       primo = false;
     }
-    const double braccio1 = 0.9 * (d_.H() - CopriferroInferiore);
-    const double braccio2 = 0.9 * (d_.H() - DistanzaSecondoStrato);
+    const double braccio1 = 0.9 * (d_.H() - kCopriferroInferiore);
+    const double braccio2 = 0.9 * (d_.H() - kDistanzaSecondoStrato);
     const double totale = Strato1() * braccio1 + Strato2() * braccio2;
     const double L0 = std::sqrt(Square(Lc_) * 8.0 / d_.cMez);
     double a = 0;
@@ -144,17 +142,17 @@ class Progetto {
 
   void VerificaPiena(Appoggio& appoggio) const {
     const RisultatiSezione piena = Sezione(false, Monconi(), -appoggio.momento * 100);
-    appoggio.clsPiena = std::fabs(piena[3]);
-    appoggio.acciaioPiena = piena[12];
+    appoggio.clsPiena = std::fabs(piena.clsInf);
+    appoggio.acciaioPiena = piena.massimo;
   }
 
   void VerificaNervata(Appoggio& appoggio) const {
     const double z = r_.zonaPiena * 100;
     const double M = (-appoggio.momento * 100) - Square(z) * (r_.q / 100 * 0.5) + z * r_.taglio;
     const RisultatiSezione nervata = Sezione(true, Monconi(), M);
-    appoggio.clsNervata = std::fabs(nervata[3]);
-    appoggio.acciaioNervata = nervata[12];
-    appoggio.asse = nervata[1];
+    appoggio.clsNervata = std::fabs(nervata.clsInf);
+    appoggio.acciaioNervata = nervata.massimo;
+    appoggio.asse = nervata.asse;
   }
 
   bool Regge(double cls, double acciaio) const {
@@ -163,9 +161,9 @@ class Progetto {
 
   // Stubs left free grow until the solid section holds at both supports.
   void ScegliMonconi() {
-    for (int k = 1; k <= TentativiMonconi; ++k) {
-      lungo_ = AreaFerro(MonconeLungo, d_.ferri[3], k);
-      corto_ = AreaFerro(MonconeCorto, d_.ferri[4], k);
+    for (int k = 1; k <= kTentativiMonconi; ++k) {
+      lungo_ = AreaFerro(kMonconeLungo, d_.ferri[3], k);
+      corto_ = AreaFerro(kMonconeCorto, d_.ferri[4], k);
       bool reggono = true;
       for (Appoggio* appoggio : {&r_.sinistra, &r_.destra}) {
         VerificaPiena(*appoggio);
@@ -185,13 +183,13 @@ class Progetto {
 
   // Lengthens the zones on both sides; false when they reach their limit.
   bool AllungaZonePiene() {
-    r_.zonaPiena += PassoZonePiene;
-    return r_.zonaPiena < LimiteZonePiene;
+    r_.zonaPiena += kPassoZonePiene;
+    return r_.zonaPiena < kLimiteZonePiene;
   }
 
   Esito CercaZonePiene(Appoggio& appoggio, Esito cls, Esito acciaio) {
     bool regge = false;
-    for (int tentativo = 1; !regge && tentativo <= TentativiZonePiene; ++tentativo) {
+    for (int tentativo = 1; !regge && tentativo <= kTentativiZonePiene; ++tentativo) {
       VerificaPiena(appoggio);
       VerificaNervata(appoggio);
       regge = Regge(appoggio.clsPiena, appoggio.acciaioPiena) &&
@@ -206,7 +204,7 @@ class Progetto {
   double Tau(const Appoggio& appoggio) const {
     const double x = appoggio.asse;
     return (r_.taglio - r_.q * r_.zonaPiena / 2) /
-           ((2 * (d_.H() - x) / 3 + (x - CopriferroSuperiore)) * d_.modulo.b0);
+           ((2 * (d_.H() - x) / 3 + (x - kCopriferroSuperiore)) * d_.modulo.b0);
   }
 
   Esito VerificaTaglio() {
@@ -246,6 +244,13 @@ class Progetto {
 };
 
 }  // namespace
+
+Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati) {
+  const ParametriCls cls = ParametriDiCls(dati.classeCls);
+  const double acciaio = TensioneDiFerro(dati.tipoFerro);
+  return {acciaio, dati.solettina <= kSolettinaSottile ? cls.ridotta : cls.novanta,
+          cls.tauc0 * (acciaio > kTensioneFerriLisci ? 3.0 : 1.5), cls.tauc0};
+}
 
 RisultatiSolaioT ProgettaSolaioT(const DatiSolaioT& dati) { return Progetto(dati).Esegui(); }
 

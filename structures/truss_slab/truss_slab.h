@@ -5,15 +5,14 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
-#include "structures/truss_slab/truss_slab_bars.h"
-#include "structures/truss_slab/truss_slab_tables.h"
+#include "structures/truss_slab/bars.h"
+#include "structures/truss_slab/lookup.h"
 
 namespace orm {
 
 struct DatiSolaioT {
-  ModuloSolaio modulo = ModuliSolaio[0];
+  ModuloSolaio modulo = kModuliSolaio[0];
   double luce = 0;       // clear, m
   double solettina = 0;  // cm
   std::string blocco, classeCls, tipoFerro;
@@ -22,7 +21,7 @@ struct DatiSolaioT {
   // Additional bar, first and second supplementary bar, long and short stub.
   std::array<SceltaFerro, 5> ferri;
 
-  double H() const;  // total height, cm
+  double H() const { return AltezzaBlocco(blocco) + solettina; }  // total height, cm
 };
 
 enum class EsitoSolaioT {
@@ -80,17 +79,5 @@ struct RisultatiSolaioT {
 RisultatiSolaioT ProgettaSolaioT(const DatiSolaioT& dati);
 
 Ammissibili TensioniAmmissibiliSolaio(const DatiSolaioT& dati);
-
-double TensioneDiFerro(std::string_view tipo);  // 1 for a steel that is not listed
-ParametriCls ParametriDiCls(std::string_view classe);
-double PesoLaterizio(std::string_view blocco);
-double AltezzaBlocco(std::string_view blocco);  // cm, the number behind the last blank
-double ParteDopoBarra(std::string_view testo);  // 12 of "1/12"; 0 where there is none
-
-// kg/mq, rounded up to 5.
-double PesoProprioSolaio(const ModuloSolaio& modulo, double solettina, std::string_view blocco);
-
-// True when a floor of total height H is lower than the law wants for the clear span.
-bool AltezzaInsufficiente(double luce, double H);
 
 }  // namespace orm

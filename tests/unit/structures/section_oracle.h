@@ -3,7 +3,12 @@
 // The axis is where the forces balance, the curvature is what carries the moment.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cmath>
+#include <iterator>
+#include <limits>
+#include <random>
 #include <vector>
 
 namespace orm::test {
@@ -21,21 +26,18 @@ struct ElasticSection {
   std::vector<Bar> steel;
 
   void AddBand(double top, double bottom, double width, int strips) {
+    const double step = (bottom - top) / strips;
     for (int i = 0; i < strips; ++i)
-      concrete.push_back(
-          {top + (bottom - top) * i / strips, top + (bottom - top) * (i + 1) / strips, width});
+      concrete.push_back({top + i * step, top + (i + 1) * step, width});
   }
 };
 
 struct ElasticState {
-  double axis = 0;  // from the upper edge
-  double curvature =
-      0;  // stress of concrete for each cm from the axis, with the sign of the moment
+  double axis = 0;       // from the upper edge
+  double curvature = 0;  // stress of concrete a cm from the axis, with the sign of the moment
   double ConcreteAt(double depth) const { return std::fmin(0.0, curvature * (depth - axis)); }
   double SteelAt(double depth) const { return 15 * curvature * (depth - axis); }
 };
-
-namespace detail {
 
 struct Resultant {
   double force = 0, moment = 0;  // for a curvature of 1, about the axis
@@ -59,28 +61,53 @@ inline Resultant Sum(const ElasticSection& section, double axis) {
   return sum;
 }
 
-inline ElasticSection Mirrored(ElasticSection section) {
-  for (Strip& strip : section.concrete)
-    strip = {section.height - strip.bottom, section.height - strip.top, strip.width};
-  for (Bar& bar : section.steel) bar.depth = section.height - bar.depth;
-  return section;
-}
-
-}  // namespace detail
-
 // The compressed edge is the upper one for a positive moment, the lower one for a negative moment.
-inline ElasticState Solve(const ElasticSection& section, double moment) {
+inline ElasticState Solve(ElasticSection section, double moment) {
   if (moment < 0) {
-    ElasticState state = Solve(detail::Mirrored(section), -moment);
-    return {section.height - state.axis, -state.curvature};
+    const double H = section.height;
+    for (Strip& strip : section.concrete) strip = {H - strip.bottom, H - strip.top, strip.width};
+    for (Bar& bar : section.steel) bar.depth = H - bar.depth;
+    const ElasticState state = Solve(section, -moment);
+    return {H - state.axis, -state.curvature};
   }
   double above = 0, below = section.height;
   for (int i = 0; i < 48; ++i) {
     const double axis = (above + below) / 2;
-    (detail::Sum(section, axis).force > 0 ? above : below) = axis;
+    (Sum(section, axis).force > 0 ? above : below) = axis;
   }
   const double axis = (above + below) / 2;
-  return {axis, moment / detail::Sum(section, axis).moment};
+  return {axis, moment / Sum(section, axis).moment};
+}
+
+inline double Between(std::mt19937& random, double least, double most) {
+  return std::uniform_real_distribution<double>(least, most)(random);
+}
+
+// Whatever is typed, a check comes to an end with finite results; a datum that is no finite number
+// is bad geometry. `fields` gives the numbers of a section.
+template <class Results, class Data, class Fields, class Check>
+void ExpectAnEndForAnyMeasures(const Data& good, const Fields& fields, const Check& check) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const double extremes[] = {0,      -0.0, 1e-320, 1e-200,    1e-9,     0.001,     1,
+                             2,      1e13, 1e16,   1e100,     1e200,    1e308,     1.7e308,
+                             -1e300, -1,   30,     2.0000001, infinity, -infinity, std::nan("")};
+  std::mt19937 random(7);
+  for (int i = 0; i < 60000; ++i) {
+    Data data = good;
+    const auto numbers = fields(data);
+    const std::size_t changes = 1 + random() % 6;
+    double extreme = 0;
+    for (std::size_t k = 0; k < changes; ++k)
+      *numbers[random() % numbers.size()] = extreme = extremes[random() % std::size(extremes)];
+    Results r;
+    check(data, r);
+    for (const double value : {r.asse, r.clsSup, r.clsInf, r.massimo, r.minimo})
+      ASSERT_TRUE(std::isfinite(value));
+    for (const double value : r.acciaio) ASSERT_TRUE(std::isfinite(value));
+    if (changes == 1 && !std::isfinite(extreme)) {
+      ASSERT_EQ(static_cast<int>(r.esito), 1);
+    }
+  }
 }
 
 }  // namespace orm::test

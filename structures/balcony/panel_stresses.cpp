@@ -1,0 +1,107 @@
+#include "structures/balcony/panel_stresses.h"
+
+#include <array>
+#include <cmath>
+
+#include "runtime/numbers.h"
+#include "structures/balcony/form_stones.h"
+
+namespace orm {
+namespace {
+
+// The element of the results that each cdOUT shows.
+constexpr std::array kMostrati = {SigmaLastra,  TauLastra,  SigmaMensola,      TauMensola,
+                                  SigmaAcciaio, TauAcciaio, IncrementoMuratura};
+constexpr std::size_t kPutrella = 2;  // row of the steel
+
+// The stones of slab and brackets, each with its last choice, as long as the program runs.
+struct PietreDelBalcone {
+  std::array<FrmVerPietre, 2> form;
+};
+
+}  // namespace
+
+PannelloTensioniBalcone::PannelloTensioniBalcone(Form& form, RunState& stato)
+    : form_(form), stato_(stato) {
+  for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
+  cmbTipoDiFerro.SetIndex(0);
+  ScegliAcciaio();
+}
+
+Layout PannelloTensioniBalcone::Materiali() {
+  return Group(fraMateriali, {Fields({Row({lblMateriali.begin(), lblMateriali.end()}),
+                                      Row({cdMaterialiS[0], cdMaterialiT[0], cdbMateriali[0]}),
+                                      Row({cdMaterialiS[1], cdMaterialiT[1], cdbMateriali[1]}),
+                                      Row({cdMaterialiS[2], cdMaterialiT[2], cmbTipoDiFerro})})});
+}
+
+Layout PannelloTensioniBalcone::Risultati() {
+  return Group(fraRisultati,
+               {Fields({Row({lblRisultati.begin(), lblRisultati.end()}), Row({cdOUT[0], cdOUT[1]}),
+                        Row({cdOUT[2], cdOUT[3]}), Row({cdOUT[4], cdOUT[5]}), Row({cdOUT[6]})})});
+}
+
+void PannelloTensioniBalcone::TieEvents(const std::function<void()>& cambiati) {
+  for (std::size_t i = 0; i < cdMaterialiS.size(); ++i)
+    cdMaterialiS[i].onChange = cdMaterialiT[i].onChange = cambiati;
+  for (std::size_t i = 0; i < cdbMateriali.size(); ++i)
+    cdbMateriali[i].onPress = [this, i] { ChiediPietra(i); };
+  cmbTipoDiFerro.onChange = [this] { ScegliAcciaio(); };
+}
+
+void PannelloTensioniBalcone::Scegli(TipoBalcone tipo) {
+  const std::array presenti = {true, tipo == TipoBalcone::Mensole, tipo == TipoBalcone::Putrelle};
+  for (std::size_t i = 0; i < presenti.size(); ++i)
+    for (FloatBox* campo : {&cdMaterialiS[i], &cdMaterialiT[i], &cdOUT[2 * i], &cdOUT[2 * i + 1]})
+      campo->SetVisible(presenti[i]);
+  cdbMateriali[1].SetVisible(presenti[1]);
+  cmbTipoDiFerro.SetVisible(presenti[2]);
+}
+
+void PannelloTensioniBalcone::Azzera() {
+  for (FloatBox& risultato : cdOUT) {
+    risultato.SetValue(0);
+    risultato.SetWarning(false);
+  }
+}
+
+void PannelloTensioniBalcone::Mostra(const RisultatiBalcone& risultati) {
+  for (std::size_t i = 0; i < cdOUT.size(); ++i) {
+    const double valore = risultati[kMostrati[i]];
+    cdOUT[i].SetValue(valore);
+    cdOUT[i].SetShown(FormatPattern(valore, "###0.0"));
+    cdOUT[i].SetWarning(Supera(risultati, i));
+  }
+}
+
+// The wall, shown last, is held against nothing.
+bool PannelloTensioniBalcone::Supera(const RisultatiBalcone& risultati,
+                                     std::size_t mostrato) const {
+  if (kMostrati[mostrato] == IncrementoMuratura) return false;
+  const auto& ammesse = mostrato % 2 == 0 ? cdMaterialiS : cdMaterialiT;
+  return std::fabs(risultati[kMostrati[mostrato]]) > ammesse[mostrato / 2].Value();
+}
+
+bool PannelloTensioniBalcone::Supera(const RisultatiBalcone& risultati) const {
+  for (std::size_t i = 0; i < kMostrati.size(); ++i)
+    if (Supera(risultati, i)) return true;
+  return false;
+}
+
+void PannelloTensioniBalcone::ChiediPietra(std::size_t pietra) {
+  FrmVerPietre& form = stato_.memoria.The<PietreDelBalcone>().form[pietra];
+  stato_.player.Show(form);
+  if (form.Confermato()) {
+    cdMaterialiS[pietra].SetValue(form.Sigma());
+    cdMaterialiT[pietra].SetValue(form.Tau());
+  }
+  form_.MoveFocus(cdMaterialiS[pietra]);
+}
+
+void PannelloTensioniBalcone::ScegliAcciaio() {
+  const Tensioni ammesse = TensioniAcciaio(cmbTipoDiFerro.ShownText());
+  cdMaterialiS[kPutrella].SetValue(ammesse.sigma);
+  cdMaterialiT[kPutrella].SetValue(ammesse.tau);
+}
+
+}  // namespace orm

@@ -1,0 +1,30 @@
+// A dialog of choices that outlives its showing, as its caller keeps it: it comes up with its last
+// choices, and left by its window it has those from before.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "dialogs/form.h"
+#include "dialogs/form_values.h"
+
+namespace orm {
+
+class FormScelte : public Form {
+ public:
+  FormScelte(std::string nome, std::string titolo) : Form(std::move(nome), std::move(titolo)) {
+    OKButton.onPress = [this] { Esci(Uscita::Conferma); };
+  }
+  void OnOpen() override { prima_ = FormValues(*this); }
+  void OnWindowClose() override {
+    prima_.PutInto(*this);
+    Close();
+  }
+
+  Button OKButton{*this, "OKButton", "&O.K.", Button::Role::Default};
+
+ private:
+  FormValues prima_;
+};
+
+}  // namespace orm

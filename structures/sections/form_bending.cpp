@@ -1,0 +1,104 @@
+#include "structures/sections/form_bending.h"
+
+#include <utility>
+
+#include "structures/message_boxes.h"
+
+namespace orm {
+namespace {
+
+// The materials of every example: steel FeB44k, concrete Rck 300; kg/cmq.
+constexpr double kAcciaioEsempio = 2600, kClsEsempio = 97.5;
+
+// A long heading stands in two lines.
+std::string Intestazione(std::string testo) {
+  constexpr std::size_t kLongest = 20;
+  if (testo.size() > kLongest) testo[testo.rfind(' ', kLongest)] = '\n';
+  return testo;
+}
+
+}  // namespace
+
+PannelloArmature::PannelloArmature(Form& form, std::size_t primo,
+                                   const std::vector<std::string>& righe, const char* riga,
+                                   const std::string& distanza)
+    : lblRiga(form, NomeIndicizzato("lblRiga", primo), riga),
+      lblFerri(form, NomeIndicizzato("lblFerri", primo), "Ferri"),
+      lblDistanza(form, NomeIndicizzato("lblDistanza", primo), Intestazione(distanza)),
+      CasellaFerri(form, "CasellaFerri", primo, righe),
+      Distanza(form, "Distanza", primo, std::vector(righe.size(), distanza), kLunghezza) {}
+
+Layout PannelloArmature::Contents() {
+  std::vector<Layout> lines{Row({lblRiga, lblFerri, lblDistanza})};
+  for (std::size_t i = 0; i < CasellaFerri.size(); ++i)
+    lines.push_back(Row({CasellaFerri[i], Distanza[i]}));
+  return Fields(std::move(lines));
+}
+
+void PannelloArmature::Scrivi(std::size_t riga, const char* ferri, double distanza) {
+  CasellaFerri[riga].SetText(ferri);
+  Distanza[riga].SetValue(distanza);
+}
+
+FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& stato,
+                             const NoteFlessione& note, const std::vector<std::string>& forme)
+    : FormRiprendibile(std::move(nome), std::move(titolo), stato), note_(note) {
+  for (std::size_t i = 0; i < forme.size(); ++i) {
+    OptionButton& scelta = Option.emplace_back(
+        *this, "Option" + NumberText(static_cast<double>(i) + 1), forme[i], gruppo);
+    scelta.onChange = [this, i, &scelta] {
+      if (scelta.Value()) ScegliForma(i);
+    };
+  }
+  for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
+  CD_01.onChange = [this] {
+    Azzera();
+    Label_NOTA.SetText("POSITIVO se tende le fibbre inferiori");
+  };
+  ComCalcola.onPress = [this] { Calcola(); };
+  ComEsci.onPress = [this] { Close(); };
+}
+
+void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> armature) {
+  SetContent(Column({Row({Column({Group(fraTipo, {Row({Option.begin(), Option.end()})}),
+                                  Column({Group(fraSollecitazioni, {Fields({CD_01})}),
+                                          Group(fraMateriali, {Fields({CD_12, CD_13})})}),
+                                  Group(fraGeometria, {Fields(std::move(geometria))}),
+                                  Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()})})}),
+                          Column({Group(fraArmature, std::move(armature)),
+                                  Group(fraNote, {Label_NOTA}), Lavagna})}),
+                     Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
+}
+
+void FormFlessione::Avvisa(const std::string& testo) { stato_.player.Ask(AvvisoVerifica(testo)); }
+
+bool FormFlessione::SenzaMomento() {
+  if (Momento() != 0) return false;
+  Avvisa("IL MOMENTO FLETTENTE È NULLO");
+  return true;
+}
+
+void FormFlessione::ScriviEsempio(double momento) {
+  CD_12.SetValue(kAcciaioEsempio);
+  CD_13.SetValue(kClsEsempio);
+  CD_01.SetValue(momento);
+}
+
+// The two fields of steel show its extreme stresses, whatever their captions say.
+void FormFlessione::Mostra(const RisultatiFlessione& risultati, bool verificata) {
+  const auto& [asse, clsSup, clsInf, massimo, minimo] = risultati;
+  const bool positivo = Momento() > 0;
+  const std::array valori = {asse, clsSup, clsInf, positivo ? minimo : massimo,
+                             positivo ? massimo : minimo};
+  for (std::size_t i = 0; i < cdOUT.size(); ++i) {
+    cdOUT[i].SetValue(valori[i]);
+    cdOUT[i].SetShown(FormatPattern(valori[i], i == 0 ? "###0.00" : "###0.0"));
+  }
+  Label_NOTA.SetText(std::string(note_.segni) + (verificata ? "" : note_.nonVerificata));
+}
+
+void FormFlessione::Azzera() {
+  for (FloatBox& risultato : cdOUT) risultato.SetValue(0);
+}
+
+}  // namespace orm

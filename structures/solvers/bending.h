@@ -1,0 +1,14 @@
+// What a check of bending finds, whatever the section.
+#pragma once
+
+namespace orm {
+
+// Stresses in kg/cmq: compression negative, tension positive.
+struct RisultatiFlessione {
+  double asse = 0;                 // neutral axis from the upper edge, cm
+  double clsSup = 0, clsInf = 0;   // concrete at the upper and the lower edge
+  double massimo = 0, minimo = 0;  // greatest steel stress not negative, most negative one
+  bool operator==(const RisultatiFlessione&) const = default;
+};
+
+}  // namespace orm

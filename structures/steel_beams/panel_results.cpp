@@ -1,0 +1,39 @@
+#include "structures/steel_beams/panel_results.h"
+
+#include <utility>
+
+namespace orm {
+
+PannelloRisultatiPutrelle::PannelloRisultatiPutrelle(Form& form, std::vector<std::string> voci)
+    : form_(form), voci_(std::move(voci)) {
+  for (Schiera<FloatBox>* colonna : {&cdVAmmessi, &cdRisultati})
+    for (FloatBox& valore : *colonna) valore.SetReadOnly(true);
+}
+
+Layout PannelloRisultatiPutrelle::Contents() {
+  std::vector<Layout> righe{Row({lblColonne.begin(), lblColonne.end()})};
+  for (std::size_t i = 0; i < cdRisultati.size(); ++i)
+    righe.push_back(Row({cdVAmmessi[i], cdRisultati[i]}));
+  return Group(fraRisultati, {Fields(std::move(righe))});
+}
+
+void PannelloRisultatiPutrelle::Azzera() {
+  for (Schiera<FloatBox>* colonna : {&cdVAmmessi, &cdRisultati})
+    for (FloatBox& valore : *colonna) {
+      valore.SetValue(0);
+      valore.SetWarning(false);
+    }
+}
+
+void PannelloRisultatiPutrelle::Mostra(std::initializer_list<ValoreVerificato> valori) {
+  std::size_t i = 0;
+  for (const auto& [ammesso, calcolato] : valori) {
+    cdVAmmessi[i].SetValue(ammesso);
+    cdVAmmessi[i].SetShown(FormatPattern(ammesso, "###0.00"));
+    cdRisultati[i].SetValue(calcolato);
+    cdRisultati[i].SetShown(FormatPattern(calcolato, "###0.00"));
+    cdRisultati[i++].SetWarning(calcolato > ammesso);
+  }
+}
+
+}  // namespace orm

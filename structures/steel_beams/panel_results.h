@@ -1,0 +1,38 @@
+// Panel of the results of a check of NP beams: each value beside the one that is allowed.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "dialogs/form.h"
+#include "structures/numbered_controls.h"
+
+namespace orm {
+
+struct ValoreVerificato {
+  double ammesso = 0, calcolato = 0;
+};
+
+class PannelloRisultatiPutrelle {
+  Form& form_;
+  std::vector<std::string> voci_;
+
+ public:
+  // A row for each caption.
+  PannelloRisultatiPutrelle(Form& form, std::vector<std::string> voci);
+  Layout Contents();
+  void Azzera();
+  // One value for each row; those beyond what is allowed warn.
+  void Mostra(std::initializer_list<ValoreVerificato> valori);
+
+  static constexpr double kMassimo = 99999999.99;
+  Frame fraRisultati{form_, "fraRisultati", "RISULTATI"};
+  Schiera<Label> lblColonne{form_, "lblColonne", 0, {"", "VALORI AMMESSI", "CALCOLATI"}};
+  Schiera<FloatBox> cdVAmmessi{form_, "cdVAmmessi", 0, voci_,
+                               NumberLimits{.least = -kMassimo, .most = kMassimo}};
+  Schiera<FloatBox> cdRisultati{form_, "cdRisultati", 0, voci_,
+                                NumberLimits{.least = -kMassimo, .most = kMassimo}};
+};
+
+}  // namespace orm

@@ -1,0 +1,121 @@
+#include "structures/truss_slab/panel_views.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "runtime/numbers.h"
+
+namespace orm {
+namespace {
+constexpr const char* kDueDecimali = "###0.00";
+}  // namespace
+
+PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
+  for (OptionButton& opt : optVisualizza)
+    opt.onChange = [this, &opt] {
+      if (opt.Value()) ScegliVista();
+    };
+  optVisualizza[Schema].SetValue(true);
+}
+
+// A table under its headings; these stand in `lblColonne` from `primaColonna` on.
+Layout PannelloVisteSolaio::Tabella(std::size_t primaColonna, std::vector<Layout> linee) {
+  const std::size_t colonne = linee.front().children.size() + 1;
+  std::vector<Layout> intestazione;
+  for (std::size_t i = 0; i < colonne; ++i) intestazione.emplace_back(lblColonne[primaColonna + i]);
+  linee.insert(linee.begin(), Row(std::move(intestazione)));
+  return Fields(std::move(linee));
+}
+
+Layout PannelloVisteSolaio::TabellaTensioni(std::size_t primaColonna,
+                                            std::initializer_list<Valore> tensioni) {
+  std::vector<Layout> linee;
+  for (const Valore tensione : tensioni)
+    linee.push_back(Row({cdVAmmessi[tensione - SinClsPiena], cdTensioni[tensione - SinClsPiena]}));
+  return Tabella(primaColonna, std::move(linee));
+}
+
+Layout PannelloVisteSolaio::Contents() {
+  constexpr std::size_t kCampata = 3;  // bars in the span, before the stubs
+  std::vector<Layout> campata, monconi, sollecitazioni;
+  for (std::size_t i = 0; i < cdLunghezze.size(); ++i)
+    (i < kCampata ? campata : monconi).push_back(Row({cdLunghezze[i], lblDiametri[i]}));
+  for (TestoBox& zona : cdZonePiene) campata.push_back(Row({zona}));
+  for (TestoBox& valore : cdSollecitazioni) sollecitazioni.push_back(Row({valore}));
+  return Column(
+      {Group(fraVisualizza, {Row({optVisualizza.begin(), optVisualizza.end()})}),
+       Group(fraDisegno, {Lavagna}),
+       Group(fraFerri, {Row({Tabella(0, std::move(campata)), Tabella(3, std::move(monconi))})}),
+       Group(fraSollecitazioni, {Tabella(6, std::move(sollecitazioni))}),
+       Group(fraTensioni,
+             {Row({TabellaTensioni(8, {MezzeriaCls, MezzeriaAcciaio, SinClsPiena, SinClsTravetto,
+                                       SinAcciaioPiena, SinAcciaioTravetto}),
+                   TabellaTensioni(11, {DexClsPiena, DexClsTravetto, DexAcciaioPiena,
+                                        DexAcciaioTravetto, Tangenziale})})})});
+}
+
+void PannelloVisteSolaio::ScegliVista() {
+  const int vista = gruppo.Chosen();
+  fraDisegno.SetVisible(vista == Schema || vista == Disegno);
+  fraFerri.SetVisible(vista == Ferri);
+  fraSollecitazioni.SetVisible(vista == Sollecitazioni);
+  fraTensioni.SetVisible(vista == Tensioni);
+  if (vista == Schema) DisegnaSchemaSolaio(Lavagna);
+  if (vista == Disegno && progetto_)
+    DisegnaArmatureSolaio(Lavagna, progetto_->dati, progetto_->risultati);
+  if (vista == Disegno && !progetto_) Lavagna.Clear();
+}
+
+void PannelloVisteSolaio::Azzera() {
+  progetto_.reset();
+  for (Schiera<TestoBox>* valori :
+       {&cdLunghezze, &cdSollecitazioni, &cdTensioni, &cdVAmmessi, &cdZonePiene})
+    for (TestoBox& valore : *valori) valore.SetText("");
+  for (Label& diametro : lblDiametri) diametro.SetText("");
+  ScegliVista();
+}
+
+void PannelloVisteSolaio::Scrivi(Valore tensione, double valore, double ammessa) {
+  cdTensioni[tensione - SinClsPiena].SetText(FormatPattern(valore, kDueDecimali));
+  cdVAmmessi[tensione - SinClsPiena].SetText(FormatPattern(ammessa, kDueDecimali));
+}
+
+void PannelloVisteSolaio::ScriviFerri(const RisultatiSolaioT& r) {
+  const auto barra = [](const Moncone& m) { return Barra{m.diametro, m.Lunghezza()}; };
+  const std::array<Barra, 7> barre = {r.campata[0],          r.campata[1],
+                                      r.campata[2],          barra(r.sinistra.lungo),
+                                      barra(r.destra.lungo), barra(r.sinistra.corto),
+                                      barra(r.destra.corto)};
+  for (std::size_t i = 0; i < barre.size(); ++i) {
+    if (barre[i].diametro == 0) continue;
+    cdLunghezze[i].SetText(FormatPattern(barre[i].lunghezza, kDueDecimali));
+    lblDiametri[i].SetText("Ø " + NumberText(barre[i].diametro));
+  }
+  for (TestoBox& zona : cdZonePiene) zona.SetText(FormatPattern(r.zonaPiena * 100, "##0.0"));
+}
+
+void PannelloVisteSolaio::Mostra(const ProgettoSolaioT& progetto) {
+  progetto_ = progetto;
+  const RisultatiSolaioT& r = progetto_->risultati;
+  const Ammissibili& ammissibili = r.ammissibili;
+  const std::array sollecitazioni = {r.taglio, r.sinistra.momento, r.destra.momento,
+                                     r.momentoMezzeria};
+  for (std::size_t i = 0; i < sollecitazioni.size(); ++i)
+    cdSollecitazioni[i].SetText(FormatPattern(sollecitazioni[i], kDueDecimali));
+  Scrivi(MezzeriaCls, r.clsMezzeria, ammissibili.cls);
+  Scrivi(MezzeriaAcciaio, r.acciaioMezzeria, ammissibili.acciaio);
+  Scrivi(SinClsPiena, r.sinistra.clsPiena, ammissibili.cls);
+  Scrivi(SinClsTravetto, r.sinistra.clsNervata, ammissibili.cls);
+  Scrivi(SinAcciaioPiena, r.sinistra.acciaioPiena, ammissibili.acciaio);
+  Scrivi(SinAcciaioTravetto, r.sinistra.acciaioNervata, ammissibili.acciaio);
+  Scrivi(DexClsPiena, r.destra.clsPiena, ammissibili.cls);
+  Scrivi(DexClsTravetto, r.destra.clsNervata, ammissibili.cls);
+  Scrivi(DexAcciaioPiena, r.destra.acciaioPiena, ammissibili.acciaio);
+  Scrivi(DexAcciaioTravetto, r.destra.acciaioNervata, ammissibili.acciaio);
+  Scrivi(Tangenziale, r.tau, ammissibili.taglio);
+  ScriviFerri(r);
+  optVisualizza[Disegno].SetValue(true);
+  ScegliVista();
+}
+
+}  // namespace orm
