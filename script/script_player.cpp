@@ -1,6 +1,7 @@
 #include "script/script_player.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 #include "dialogs/lavagna.h"
@@ -47,6 +48,17 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
              "\n  ottenuto: " + right;
   }
   return "le righe sono uguali, non i fine riga";
+}
+
+// Where a file that a script names stands: in its folder, or in the nearest one above that has it,
+// or that has it among what an installation brings. The script's folder when nobody has it.
+WorkFolder FolderWith(const std::string& name, const WorkFolder& scriptFolder) {
+  namespace fs = std::filesystem;
+  for (fs::path above = fs::absolute(scriptFolder.Path()); above.has_relative_path();
+       above = above.parent_path())
+    for (const char* place : {"", "data", "data/sample"})
+      if (WorkFolder folder((above / place).string()); folder.Exists(name)) return folder;
+  return scriptFolder;
 }
 
 std::optional<Answer> AnswerOf(const std::string& word) {
@@ -154,7 +166,8 @@ bool ScriptPlayer::PlayAnywhere(const Statement& s) {
     screen_.width = static_cast<int>(ParseNumber(w[1].text).value_or(0));
     screen_.height = static_cast<int>(ParseNumber(w[2].text).value_or(0));
   } else if (verb == "copy") {
-    folder_.Replace(w.size() == 4 ? w[3].text : w[1].text, scriptFolder_.Read(w[1].text));
+    folder_.Replace(w.size() == 4 ? w[3].text : w[1].text,
+                    FolderWith(w[1].text, scriptFolder_).Read(w[1].text));
   } else if (verb == "write") {
     std::string bytes;
     for (const char c : ToWindows1252(w[2].text))
@@ -188,14 +201,12 @@ void ScriptPlayer::Starts(const Statement& s) {
 
 void ScriptPlayer::Compare(const Statement& s, const std::string& name, const std::string& actual,
                            const std::string& expectedName) {
-  if (options_.update) return scriptFolder_.Replace(expectedName, actual);
-  const bool exists = scriptFolder_.Exists(expectedName);
-  const std::string expected = exists ? scriptFolder_.Read(expectedName) : std::string();
+  const WorkFolder place = FolderWith(expectedName, scriptFolder_);
+  const bool exists = place.Exists(expectedName);
+  const std::string expected = exists ? place.Read(expectedName) : std::string();
   const std::string received = expectedName + ".received";
-  if (exists && expected == actual) {
-    scriptFolder_.Remove(received);
-    return;
-  }
+  if (exists && expected == actual) return scriptFolder_.Remove(received);
+  if (options_.update) return scriptFolder_.Replace(expectedName, actual);
   scriptFolder_.Replace(received, actual);
   Fail(s.line, name + (exists ? " diverso da " : ": manca il file atteso ") + expectedName +
                    (exists ? ", " + FirstDifference(expected, actual) : ""));

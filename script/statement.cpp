@@ -9,21 +9,40 @@
 namespace orm {
 namespace {
 
+using Words = std::vector<Word>;
+
 struct Grammar {
   std::string_view verb;
-  std::size_t least, most;  // words behind the verb
+  std::size_t least, most;      // words behind the verb
+  std::string_view joint = {};  // of a file's second name; empty: none
+  bool several = false;         // the words may come again, for as many statements
 };
 
-constexpr std::array kGrammar = {
-    Grammar{"today", 1, 1},  Grammar{"screen", 2, 2},  Grammar{"copy", 1, 3},
-    Grammar{"write", 2, 2},  Grammar{"remove", 1, 1},  Grammar{"start", 0, 0},
-    Grammar{"menu", 1, 1},   Grammar{"dialog", 1, 1},  Grammar{"set", 2, 2},
-    Grammar{"press", 1, 1},  Grammar{"close", 0, 0},   Grammar{"expect", 2, 2},
-    Grammar{"show", 1, 1},   Grammar{"message", 2, 3}, Grammar{"failure", 1, 1},
-    Grammar{"starts", 2, 2}, Grammar{"drawing", 2, 2}, Grammar{"compare", 1, 3},
-    Grammar{"same", 1, 1},   Grammar{"absent", 1, 1},  Grammar{"picture", 1, 1},
-    Grammar{"file", 1, 1},   Grammar{"help", 0, 0},    Grammar{"repeat", 1, 1},
-    Grammar{"end", 0, 0}};
+constexpr std::array kGrammar = {Grammar{"today", 1, 1},
+                                 Grammar{"screen", 2, 2},
+                                 Grammar{"copy", 1, 1, "as", true},
+                                 Grammar{"write", 2, 2},
+                                 Grammar{"remove", 1, 1, {}, true},
+                                 Grammar{"start", 0, 0},
+                                 Grammar{"menu", 1, 1},
+                                 Grammar{"dialog", 1, 1},
+                                 Grammar{"set", 2, 2, {}, true},
+                                 Grammar{"press", 1, 1},
+                                 Grammar{"close", 0, 0},
+                                 Grammar{"expect", 2, 2, {}, true},
+                                 Grammar{"show", 1, 1},
+                                 Grammar{"message", 2, 3},
+                                 Grammar{"failure", 1, 1},
+                                 Grammar{"starts", 2, 2},
+                                 Grammar{"drawing", 2, 2},
+                                 Grammar{"compare", 1, 1, "with", true},
+                                 Grammar{"same", 1, 1, {}, true},
+                                 Grammar{"absent", 1, 1, {}, true},
+                                 Grammar{"picture", 1, 1},
+                                 Grammar{"file", 1, 1},
+                                 Grammar{"help", 0, 0},
+                                 Grammar{"repeat", 1, 1},
+                                 Grammar{"end", 0, 0}};
 
 constexpr double kMostRounds = 1000;
 constexpr std::size_t kMostStatements = 20000;  // of a script with its rounds written out
@@ -43,8 +62,8 @@ Word QuotedWord(std::string_view line, std::size_t& at, int number) {
   return word;
 }
 
-std::vector<Word> Words(std::string_view line, int number) {
-  std::vector<Word> words;
+Words WordsOf(std::string_view line, int number) {
+  Words words;
   for (std::size_t at = 0; at < line.size();) {
     if (line[at] == ' ' || line[at] == '\t') {
       ++at;
@@ -59,29 +78,43 @@ std::vector<Word> Words(std::string_view line, int number) {
   return words;
 }
 
-void Check(const Statement& statement) {
+const Grammar* RuleOf(const Word& word) {
   const auto rule = std::find_if(kGrammar.begin(), kGrammar.end(),
-                                 [&](const Grammar& g) { return g.verb == statement.Verb(); });
-  if (rule == kGrammar.end())
-    throw Mismatch{statement.line, "istruzione sconosciuta: " + statement.Verb()};
-  const std::size_t arguments = statement.words.size() - 1;
-  if (arguments < rule->least || arguments > rule->most)
-    throw Mismatch{statement.line, "numero di argomenti errato per " + statement.Verb()};
+                                 [&](const Grammar& g) { return word.Is(g.verb); });
+  return rule == kGrammar.end() ? nullptr : &*rule;
 }
 
-// One line of the script: a statement, or the two of a form that is left at once,
-// `dialog NAME press BUTTON` and `dialog NAME close`.
-void Append(Statement line, std::vector<Statement>& script) {
-  const auto& w = line.words;
-  if (line.Verb() == "dialog" && w.size() > 2 && (w[2].Is("press") || w[2].Is("close"))) {
-    Statement inside{line.line, {w.begin() + 2, w.end()}};
-    line.words.resize(2);
-    Append(std::move(line), script);
-    Append(std::move(inside), script);
-    return;
+// How many of the words behind a verb, the first of them at `at`, belong to one statement.
+std::size_t Arguments(const Grammar& rule, const Words& words, std::size_t at) {
+  const bool renamed = !rule.joint.empty() && at + 1 < words.size() && words[at + 1].Is(rule.joint);
+  return renamed ? 3 : rule.several ? rule.least : words.size() - at;
+}
+
+// A verb with its words: one statement, or one for each of several things that it is done with.
+void AppendVerb(int line, const Words& words, std::vector<Statement>& script) {
+  const Grammar* rule = RuleOf(words[0]);
+  if (rule == nullptr) throw Mismatch{line, "istruzione sconosciuta: " + words[0].text};
+  std::size_t at = 1;
+  do {
+    const std::size_t count = Arguments(*rule, words, at);
+    const bool renamed = !rule->joint.empty() && count == 3;
+    if (count < rule->least || (count > rule->most && !renamed) || at + count > words.size())
+      throw Mismatch{line, "numero di argomenti errato per " + words[0].text};
+    Words statement = {words[0]};
+    for (const std::size_t end = at + count; at < end; ++at) statement.push_back(words[at]);
+    script.push_back({line, std::move(statement)});
+  } while (at < words.size());
+}
+
+// A line of the script: each bare word that is a verb begins a statement.
+std::vector<Statement> StatementsOf(int line, const Words& words) {
+  std::vector<Statement> statements;
+  for (auto verb = words.begin(); verb != words.end();) {
+    const auto next = std::find_if(verb + 1, words.end(), RuleOf);
+    AppendVerb(line, {verb, next}, statements);
+    verb = next;
   }
-  Check(line);
-  script.push_back(std::move(line));
+  return statements;
 }
 
 // A `repeat` that waits for its `end`: where its statements begin.
@@ -121,16 +154,16 @@ std::vector<Statement> ParseScript(std::string_view text) {
     if (line.ends_with('\r')) line.remove_suffix(1);
     const auto first = line.find_first_not_of(" \t");
     if (first == std::string_view::npos || line[first] == '#') continue;
-    Append({number, Words(line, number)}, script);
-    if (script.back().Verb() == "repeat") {
-      rounds.push_back(BeginRound(script.back(), script.size() - 1));
-      script.pop_back();
-    } else if (script.back().Verb() == "end") {
-      script.pop_back();
-      if (rounds.empty()) throw Mismatch{number, "end senza repeat"};
-      WriteOut(rounds.back(), number, script);
-      rounds.pop_back();
-    }
+    for (Statement& statement : StatementsOf(number, WordsOf(line, number)))
+      if (statement.Verb() == "repeat") {
+        rounds.push_back(BeginRound(statement, script.size()));
+      } else if (statement.Verb() == "end") {
+        if (rounds.empty()) throw Mismatch{number, "end senza repeat"};
+        WriteOut(rounds.back(), number, script);
+        rounds.pop_back();
+      } else {
+        script.push_back(std::move(statement));
+      }
   }
   if (!rounds.empty()) throw Mismatch{rounds.back().line, "repeat senza end"};
   return script;

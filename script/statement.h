@@ -1,4 +1,5 @@
-// The script language: one statement a line, texts in double quotes, '#' begins a comment line.
+// The script language: statements of a verb and its words, texts in double quotes, '#' begins a
+// comment line.
 #pragma once
 
 #include <string>
@@ -25,10 +26,10 @@ struct Mismatch {
   std::string text;
 };
 
-// The statements as they are played: what stands between `repeat N` and `end` N times over, a form
-// that is left on its own line (`dialog NAME press BUTTON`) as two. Throws Mismatch on a word
-// without its closing quote, an unknown verb, a wrong number of words, rounds that are not closed
-// or too many.
+// The statements as they are played: those of one line one after the other, `set A 1 B 2` as two of
+// them, what stands between `repeat N` and `end` N times over. Throws Mismatch on a word without
+// its closing quote, an unknown verb, a wrong number of words, rounds that are not closed or too
+// many.
 std::vector<Statement> ParseScript(std::string_view text);
 
 }  // namespace orm

@@ -2,7 +2,8 @@
 # The program without a screen: exit codes, messages, and a folder that recalculates byte for byte.
 # Called with CALCOLO.
 set -uo pipefail
-readonly calcolo=$1 scripts=$(cd "$(dirname "$0")/scripts" && pwd)
+readonly calcolo=$1 tests=$(cd "$(dirname "$0")" && pwd)
+readonly scripts=$tests/scripts sample=$tests/../data/sample
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 broken=0
@@ -23,18 +24,17 @@ expects 3 'GG/MM/AAAA' "$calcolo" PPE --data 31/02/2002
 expects 3 'Uso:' "$calcolo" --tutti --euro
 expects 1 'NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA' "$calcolo" PPE --cartella "$work"
 
-cp "$scripts/ppe/UTENTE.DAG" "$work"
+cp "$sample/UTENTE.DAG" "$work"
 expects 1 'NON ESISTE IL FILE DEI DATI DI INTESTAZIONE' "$calcolo" PPE --cartella "$work"
-cp "$scripts/ppe/lire_INT.DAP" "$work/INT_PPE.DAP"
+cp "$sample/INT_PPE.DAP" "$work"
 printf '2,cinque\r\n' >"$work/INP_PPE.DAP"
 expects 2 'Campo : NumParticelle' "$calcolo" PPE --cartella "$work"
 [ ! -e "$work/OUT_PPE.DOC" ] || { echo "NON VALE: resta una parcella a metà"; broken=1; }
 
 # The notes of both currencies, each as its script has it, and again without a change.
-cp "$scripts/ppe/lire_INP.DAP" "$work/INP_PPE.DAP"
+cp "$sample"/INP_PPE{,_E}.DAP "$work"
 expects 0 '' "$calcolo" PPE --cartella "$work" --data 15/03/2002
 cmp "$work/OUT_PPE.DOC" "$scripts/ppe/lire.DOC" || broken=1
-cp "$scripts/ppe/euro_INP.DAP" "$work/INP_PPE_E.DAP"
 cp "$scripts/ppe/euro_CRITERI.PER" "$work/CRITERI.PER"
 cp "$work/INT_PPE.DAP" "$work/INT_PPE_E.DAP"
 expects 0 '' "$calcolo" --tutti --cartella "$work" --data 15/03/2002

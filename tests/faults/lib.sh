@@ -28,11 +28,8 @@ skip() {
 # A folder with the files of the worked example in both currencies, and an older report.
 sample_folder() {
   rm -rf "$1" && mkdir -p "$1"
-  local scripts=$here/../scripts/ppe
-  cp "$scripts/UTENTE.DAG" "$1"
-  cp "$scripts/lire_INT.DAP" "$1/INT_PPE.DAP"
-  cp "$scripts/lire_INP.DAP" "$1/INP_PPE.DAP"
-  cp "$scripts/euro_CRITERI.PER" "$1/CRITERI.PER"
+  cp "$here"/../../data/sample/{UTENTE.DAG,INT_PPE.DAP,INP_PPE.DAP} "$1"
+  cp "$here/../scripts/ppe/euro_CRITERI.PER" "$1/CRITERI.PER"
   printf '"visore","editor","pdf"\r\n' >"$1/EDITOR.PER"
   printf 'la parcella di prima\r\n' >"$1/OUT_PPE.DOC"
 }

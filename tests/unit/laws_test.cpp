@@ -14,6 +14,7 @@
 
 #include "cases/fee_case.h"
 #include "runtime/folder.h"
+#include "script/statement.h"
 #include "shell/commands.h"
 #include "shell/menu_tree.h"
 
@@ -51,12 +52,21 @@ std::vector<std::string> LogicSources() {
   return all;
 }
 
-std::string AllScripts() {
-  std::string text;
-  for (const std::string& file :
-       FilesOf("tests/scripts", [](const fs::path& p) { return p.extension() == ".copione"; }))
-    text += kRoot.Read(file) + "\n";
-  return text;
+// Every word with which the scripts use a verb, or the first one alone.
+Names InScripts(std::string_view verb, std::size_t most = 9) {
+  static const std::vector<Statement> statements = [] {
+    std::vector<Statement> all;
+    for (const std::string& file :
+         FilesOf("tests/scripts", [](const fs::path& p) { return p.extension() == ".copione"; }))
+      std::ranges::move(ParseScript(kRoot.Read(file)), std::back_inserter(all));
+    return all;
+  }();
+  Names names;
+  for (const Statement& statement : statements)
+    if (statement.Verb() == verb)
+      for (std::size_t i = 1; i < statement.words.size() && i <= most; ++i)
+        names.insert(statement.words[i].text);
+  return names;
 }
 
 // All first groups of a pattern in a text.
@@ -226,14 +236,14 @@ Names DataFiles() {
   return files;
 }
 
-// Adjacent literals of a source as one text, with their escapes, which are those of scripts too.
+// Adjacent literals of a source as one text; their escapes are those of scripts.
 const std::string kLiteral = "\"(?:[^\"\\\\]|\\\\.)*\"";
 const std::string kLiterals = "((?:" + kLiteral + "\\s*)+)";
 
 void AddTexts(const std::string& code, const std::string& pattern, Names& texts) {
   for (const std::string& found : Found(code, pattern.c_str())) {
     const std::string joined = std::regex_replace(found, std::regex("\"\\s*\""), "");
-    if (joined.size() > 2) texts.insert(joined.substr(1, joined.rfind('"') - 1));
+    if (joined.size() > 2) texts.insert(ParseScript("failure " + joined)[0].words[1].text);
   }
 }
 
@@ -271,7 +281,6 @@ bool IsTold(const std::string& text, const Names& told) {
 }
 
 Names NotCovered() {
-  const std::string scripts = AllScripts();
   Names missing, commands, forms;
   const auto miss = [&](const std::string& kind, const Names& wanted, const Names& there) {
     for (const std::string& name : wanted)
@@ -279,15 +288,14 @@ Names NotCovered() {
   };
   Leaves(BuildMenu(), commands);
   for (const std::string& name : CommandsNotYet(BuildMenu())) commands.erase(name);
-  miss("command", commands, Found(scripts, "(?:^|\\n)menu (\\w+)"));
+  miss("command", commands, InScripts("menu"));
   for (const std::string& file : LogicSources())
     for (const std::string& name : Found(kRoot.Read(file), "\"(frm[A-Z]+_\\w+)\""))
       forms.insert(name);
-  miss("form", forms, Found(scripts, "(?:^|\\n)dialog (\\w+)"));
-  miss("file", DataFiles(), Found(scripts, "(?:^|\\n)compare ([\\w.]+)"));
-  Names told;
-  for (const std::string& line : Found(scripts, "(?:^|\\n)(?:message|failure) ([^\\n]*)"))
-    told.merge(Found(line, "\"((?:[^\"\\\\]|\\\\.)*)\""));
+  miss("form", forms, InScripts("dialog"));
+  miss("file", DataFiles(), InScripts("compare", 1));
+  Names told = InScripts("message");
+  told.merge(InScripts("failure"));
   for (const std::string& text : BoxTexts())
     if (!IsTold(text, told)) missing.insert("message " + text);
   return missing;

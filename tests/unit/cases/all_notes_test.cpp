@@ -202,8 +202,9 @@ class SenzaMenu : public TutteLeNote {
     std::string cartella = ORM_SOURCE_DIR "/tests/scripts/";
     cartella += codice[0] == 'C' ? "cs2" : "sc2";
     const WorkFolder attesi(cartella);
-    stato.folder.Replace("UTENTE.DAG", attesi.Read("UTENTE.DAG"));
-    stato.folder.Replace("INT.DAP", attesi.Read("INT.DAP"));
+    stato.folder.Replace("UTENTE.DAG",
+                         WorkFolder(ORM_SOURCE_DIR "/data/sample").Read("UTENTE.DAG"));
+    stato.folder.Replace("INT.DAP", WorkFolder(ORM_SOURCE_DIR "/tests/scripts").Read("INT.DAP"));
     Prepara(codice, attesi.Read(nome + "_INP.DAP"));
     Calcola(codice).uscita.Save(stato.folder, "OUT.DOC");
     EXPECT_EQ(FromWindows1252(stato.folder.Read("OUT.DOC")),
