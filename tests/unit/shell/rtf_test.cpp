@@ -73,44 +73,21 @@ class RandomMemo {
   std::mt19937 dice_;
 };
 
-TEST(Rtf, WhatIsWrittenIsReadBack) {
+TEST(Rtf, WhatIsWrittenInSevenBitsIsReadBack) {
   for (unsigned seed = 1; seed <= 400; ++seed) {
     const RichDocument document = RandomMemo(seed).Document();
-    const RtfReading reading = ReadRtf(WriteRtf(document));
+    const std::string file = WriteRtf(document);
+    const RtfReading reading = ReadRtf(file);
     EXPECT_TRUE(reading.losses.empty()) << seed;
-    ASSERT_EQ(reading.document, document) << seed << "\n" << WriteRtf(document);
+    ASSERT_EQ(reading.document, document) << seed << "\n" << file;
+    for (const char c : file) ASSERT_TRUE(c == '\r' || c == '\n' || (c >= 32 && c < 127)) << seed;
   }
-}
-
-TEST(Rtf, WrittenFilesAreSevenBit) {
-  for (unsigned seed = 1; seed <= 50; ++seed)
-    for (const char c : WriteRtf(RandomMemo(seed).Document()))
-      ASSERT_TRUE(c == '\r' || c == '\n' || (c >= 32 && c < 127));
 }
 
 TEST(Rtf, AFileCutShortIsRefused) {
   const std::string file = WriteRtf(RandomMemo(7).Document());
   for (std::size_t size = 0; size < file.rfind('}'); ++size)
     EXPECT_THROW(ReadRtf(file.substr(0, size)), RuntimeFailure) << size;
-}
-
-// Whatever happens to a byte, the answer is a document or a failure with a text.
-TEST(Rtf, DamagedFilesEndInAFailureOrAText) {
-  std::mt19937 dice(11);
-  int refused = 0;
-  for (unsigned seed = 1; seed <= 300; ++seed) {
-    std::string file = WriteRtf(RandomMemo(seed).Document());
-    for (int n = 0; n < 4; ++n)
-      file[std::uniform_int_distribution<std::size_t>(0, file.size() - 1)(dice)] =
-          static_cast<char>(std::uniform_int_distribution<int>(0, 255)(dice));
-    try {
-      ReadRtf(file);
-    } catch (const RuntimeFailure& failure) {
-      ++refused;
-      EXPECT_EQ(failure.Text().find("Il documento RTF è danneggiato: "), 0U);
-    }
-  }
-  EXPECT_GT(refused, 50);
 }
 
 TEST(Rtf, RefusesWhatIsNoRichText) {

@@ -26,16 +26,6 @@ TEST(AccountingFee, WorkedFigures) {
   EXPECT_EQ(Onorario({{5, 1, -3}}), 0);
 }
 
-TEST(AccountingFee, LinesOfTheReport) {
-  const auto lire = CalcoloOnorarioContabilita({{5, 1, 8000000}}, true);
-  ASSERT_EQ(lire.fasce.size(), 2U);
-  EXPECT_EQ(TestoFasciaContabilita(lire.fasce[0], true),
-            "1,83965% x 1,00 x       5.000.000 =          91.982");
-  const auto euro = CalcoloOnorarioContabilita({{1, 1.2, 1000.5}}, false);
-  EXPECT_EQ(TestoFasciaContabilita(euro.fasce[0], false),
-            "0,96600% x 1,20 x        1.000,50 =           11,59");
-}
-
 // Cutting a row into pieces of the same period and coefficient changes nothing.
 TEST(AccountingFee, PiecesAddUpToTheWhole) {
   std::mt19937 dice(5);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "runtime/failure.h"
@@ -16,21 +17,22 @@ std::string Lettere(double importo) {
   return testo;
 }
 
-TEST(AmountInWords, WholeAmounts) {
-  EXPECT_EQ(Lettere(1234.50), "milleduecentotrentaquattro/50");
-  EXPECT_EQ(Lettere(21000), "ventunomila/00");
-  EXPECT_EQ(Lettere(1), "uno/00");
-  EXPECT_EQ(Lettere(100), "cento/00");
-  EXPECT_EQ(Lettere(1000000), "unmilione/00");
-  EXPECT_EQ(Lettere(1000000000), "unmiliardo/00");
-  EXPECT_EQ(Lettere(2002001101.07), "duemiliardiduemilionimillecentouno/07");
-  EXPECT_EQ(Lettere(999999999.99),
-            "novecentonovantanovemilioninovecentonovantanovemilanovecentonovantanove/99");
-}
-
-TEST(AmountInWords, NothingAndLessThanOne) {
-  EXPECT_EQ(Lettere(0), "zero/0");
-  EXPECT_EQ(Lettere(0.5), "/50");
+TEST(AmountInWords, WholeAndCents) {
+  for (const auto& [importo, testo] : std::map<double, std::string>{
+           {0, "zero/0"},
+           {0.5, "/50"},
+           {1, "uno/00"},
+           {100, "cento/00"},
+           {1234.50, "milleduecentotrentaquattro/50"},
+           {21000, "ventunomila/00"},
+           {1000000, "unmilione/00"},
+           {1000000000, "unmiliardo/00"},
+           {2002001101.07, "duemiliardiduemilionimillecentouno/07"},
+           {999999999.99,
+            "novecentonovantanovemilioninovecentonovantanovemilanovecentonovantanove/99"}})
+    EXPECT_EQ(Lettere(importo), testo);
+  EXPECT_THROW(Lettere(1e12), RuntimeFailure);
+  EXPECT_THROW(Lettere(1e14), RuntimeFailure);
 }
 
 TEST(AmountInWords, CutsItsArgument) {
@@ -41,20 +43,11 @@ TEST(AmountInWords, CutsItsArgument) {
   EXPECT_EQ(importo, 12.34);
 }
 
-TEST(AmountInWords, TooGreat) {
-  EXPECT_THROW(Lettere(1e12), RuntimeFailure);
-  EXPECT_THROW(Lettere(1e14), RuntimeFailure);
-}
-
 TEST(Hundreds, VowelsMeet) {
-  EXPECT_EQ(CentinaioInLettere(21), "ventuno");
-  EXPECT_EQ(CentinaioInLettere(28), "ventotto");
-  EXPECT_EQ(CentinaioInLettere(23), "ventitre");
-  EXPECT_EQ(CentinaioInLettere(80), "ottanta");
-  EXPECT_EQ(CentinaioInLettere(108), "centootto");
-  EXPECT_EQ(CentinaioInLettere(117), "centodiciassette");
-  EXPECT_EQ(CentinaioInLettere(380), "trecentoottanta");
-  EXPECT_EQ(CentinaioInLettere(0), "");
+  const std::map<std::int16_t, std::string> parole = {
+      {21, "ventuno"},    {28, "ventotto"},          {23, "ventitre"},         {80, "ottanta"},
+      {108, "centootto"}, {117, "centodiciassette"}, {380, "trecentoottanta"}, {0, ""}};
+  for (const auto& [numero, testo] : parole) EXPECT_EQ(CentinaioInLettere(numero), testo);
 }
 
 TEST(Hundreds, AllAreDifferent) {

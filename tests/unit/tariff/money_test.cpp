@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <random>
 
 #include "runtime/numbers.h"
@@ -27,81 +28,72 @@ Cut Formatta(double valore, int decimali) {
   return {testo, valore};
 }
 
-using C = Cut;
+constexpr double kNonDetto = std::numeric_limits<double>::quiet_NaN();
 
+// An amount, its decimals (negative: with their zeros), its text, and what is left of it.
 TEST(FormattaNumero, CutsAndWritesBack) {
-  EXPECT_EQ(Formatta(1234.5678, 2), (C{"1.234,56", 1234.56}));
-  EXPECT_EQ(Formatta(1234.5678, -2), (C{"1.234,56", 1234.56}));
-  EXPECT_EQ(Formatta(1999.99, 0), (C{"1.999", 1999}));
-  EXPECT_EQ(Formatta(0.5, 0), (C{"0", 0}));
-  EXPECT_EQ(Formatta(1000000, 0), (C{"1.000.000", 1000000}));
-  EXPECT_EQ(Formatta(999, 0), (C{"999", 999}));
-  EXPECT_EQ(Formatta(-1500.75, -2), (C{"-1.500,75", -1500.75}));
-  EXPECT_EQ(Formatta(-1500.75, 0), (C{"-1.500", -1500}));
-  EXPECT_EQ(Formatta(123456789012.345, -2), (C{"123.456.789.012,34", 123456789012.34}));
-}
-
-TEST(FormattaNumero, KeepsZerosOnlyForFixedDecimals) {
-  EXPECT_EQ(Formatta(1234.5, -2), (C{"1.234,50", 1234.5}));
-  EXPECT_EQ(Formatta(1234, -2), (C{"1.234,00", 1234}));
-  EXPECT_EQ(Formatta(1234.5, 2), (C{"1.234,5", 1234.5}));
-  EXPECT_EQ(Formatta(1234, 2), (C{"1.234", 1234}));
-  EXPECT_EQ(Formatta(0, -2), (C{"0", 0}));
-  EXPECT_EQ(Formatta(0.001, 2).text, "0");
-  EXPECT_EQ(Formatta(0.001, -2).text, "0,00");
-}
-
-TEST(FormattaNumero, WhatIsCutAwayWhollyLeavesATrace) {
-  EXPECT_EQ(Formatta(0.001, -2).value, 1e-18);
-  EXPECT_EQ(Formatta(-0.001, -2), (C{"-0,00", -1e-18}));
-  EXPECT_EQ(Formatta(0.4, 0).value, 0);
-  EXPECT_EQ(Formatta(-0.4, 0).text, "-0");
-}
-
-TEST(FormattaNumero, SevenNinesAreTheNextWholeNumber) {
-  EXPECT_EQ(Formatta(12.9999999, 0), (C{"13", 13}));
-  EXPECT_EQ(Formatta(12.9999999, -2), (C{"13,00", 13}));
-  EXPECT_EQ(Formatta(12.9999998, 0), (C{"12", 12}));
-  EXPECT_EQ(Formatta(12.999999, 0), (C{"12", 12}));
-  EXPECT_EQ(Formatta(999.99999999, 0), (C{"1.000", 1000}));
-  EXPECT_EQ(Formatta(-0.99999999, 2), (C{"-1", -1}));
-}
-
-TEST(FormattaNumero, FiveNinesBehindTheCutGrowTheLastDecimal) {
-  EXPECT_EQ(Formatta(2.4599999, -2), (C{"2,46", 2.46}));
-  EXPECT_EQ(Formatta(2.4599998, -2), (C{"2,45", 2.45}));
-  EXPECT_EQ(Formatta(2.459999, -2), (C{"2,45", 2.45}));
-  EXPECT_EQ(Formatta(2.0099999, -2), (C{"2,01", 2.01}));
-  EXPECT_EQ(Formatta(2.0999999, -2), (C{"2,10", 2.1}));
-  EXPECT_EQ(Formatta(1.005 * 1000, -2), (C{"1.005,00", 1005}));
-}
-
-// The carry does not reach the whole part: 1,9 and one tenth is 1,10.
-TEST(FormattaNumero, ACarryOutOfTheDecimalsStaysThere) {
-  EXPECT_EQ(Formatta(1.9999998, -1), (C{"1,10", 1.1}));
-  EXPECT_EQ(Formatta(1.9999998, 1), (C{"1,1", 1.1}));
-}
-
-TEST(FormattaNumero, SmallNumbersComeInExponentForm) {
-  EXPECT_EQ(Formatta(0.000015, 5).text, "0,00001");
-  EXPECT_EQ(Formatta(0.000015, 6).text, "0,000015");
-  EXPECT_EQ(Formatta(0.0000157, -6).text, "0,000015");
-  EXPECT_EQ(Formatta(0.000015, -2), (C{"0,00", 1e-18}));
-  EXPECT_NEAR(Formatta(0.000015, 6).value, 0.000015, 1e-17);
-}
-
-TEST(FormattaNumero, NinesOfAMantissa) {
-  EXPECT_EQ(Formatta(9.9999999e-5, 5).text, "0,0001");
-  EXPECT_EQ(Formatta(1.9999e-5, 6).text, "0,00002");
-  // Four nines further on: the digit before them gives way to a blank.
-  EXPECT_EQ(Formatta(1.23999945e-5, 9).text, "0,000012 ");
+  const struct {
+    double valore;
+    int decimali;
+    const char* testo;
+    double taglio = kNonDetto;
+  } casi[] = {
+      {1234.5678, 2, "1.234,56", 1234.56},
+      {1234.5678, -2, "1.234,56", 1234.56},
+      {1999.99, 0, "1.999", 1999},
+      {0.5, 0, "0", 0},
+      {1000000, 0, "1.000.000", 1000000},
+      {999, 0, "999", 999},
+      {-1500.75, -2, "-1.500,75", -1500.75},
+      {-1500.75, 0, "-1.500", -1500},
+      {123456789012.345, -2, "123.456.789.012,34", 123456789012.34},
+      {1234.5, -2, "1.234,50", 1234.5},
+      {1234, -2, "1.234,00", 1234},
+      {1234.5, 2, "1.234,5", 1234.5},
+      {1234, 2, "1.234", 1234},
+      {0, -2, "0", 0},
+      {0.001, 2, "0"},
+      // What is cut away wholly leaves a trace.
+      {0.001, -2, "0,00", 1e-18},
+      {-0.001, -2, "-0,00", -1e-18},
+      {0.4, 0, "0", 0},
+      {-0.4, 0, "-0"},
+      // Seven nines are the next whole number.
+      {12.9999999, 0, "13", 13},
+      {12.9999999, -2, "13,00", 13},
+      {12.9999998, 0, "12", 12},
+      {12.999999, 0, "12", 12},
+      {999.99999999, 0, "1.000", 1000},
+      {-0.99999999, 2, "-1", -1},
+      // Five nines behind the cut grow the last decimal.
+      {2.4599999, -2, "2,46", 2.46},
+      {2.4599998, -2, "2,45", 2.45},
+      {2.459999, -2, "2,45", 2.45},
+      {2.0099999, -2, "2,01", 2.01},
+      {2.0999999, -2, "2,10", 2.1},
+      {1.005 * 1000, -2, "1.005,00", 1005},
+      // The carry does not reach the whole part: 1,9 and one tenth is 1,10.
+      {1.9999998, -1, "1,10", 1.1},
+      {1.9999998, 1, "1,1", 1.1},
+      // Small numbers come in exponent form, with the nines of their mantissa; four nines further
+      // on, the digit before them gives way to a blank.
+      {0.000015, 5, "0,00001"},
+      {0.000015, 6, "0,000015", 0.000015000000000001},
+      {0.0000157, -6, "0,000015"},
+      {0.000015, -2, "0,00", 1e-18},
+      {9.9999999e-5, 5, "0,0001"},
+      {1.9999e-5, 6, "0,00002"},
+      {1.23999945e-5, 9, "0,000012 "},
+      {1.5e15, -2, "1.500.000.000.000.000,00", 1.5e15},
+      {1e20, 0, "100.000.000.000.000.000.000", 1e20},
+      {9.99999999999999e15, 0, "10.000.000.000.000.000", 1e16},
+  };
+  for (const auto& caso : casi) {
+    const Cut cut = Formatta(caso.valore, caso.decimali);
+    EXPECT_EQ(cut.text, caso.testo) << NumberText(caso.valore) << ' ' << caso.decimali;
+    EXPECT_TRUE(std::isnan(caso.taglio) || cut.value == caso.taglio) << caso.testo;
+  }
   EXPECT_NEAR(Formatta(1.23999945e-5, 9).value, 1.2e-5, 1e-16);
-}
-
-TEST(FormattaNumero, GreatNumbers) {
-  EXPECT_EQ(Formatta(1.5e15, -2), (C{"1.500.000.000.000.000,00", 1.5e15}));
-  EXPECT_EQ(Formatta(1e20, 0), (C{"100.000.000.000.000.000.000", 1e20}));
-  EXPECT_EQ(Formatta(9.99999999999999e15, 0), (C{"10.000.000.000.000.000", 1e16}));
 }
 
 std::string CentsText(std::int64_t cents) {

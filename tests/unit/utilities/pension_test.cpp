@@ -8,10 +8,6 @@
 #include <random>
 #include <vector>
 
-#include "runtime/failure.h"
-#include "tests/unit/cases/note_test.h"
-#include "utilities/pension_file.h"
-
 namespace orm {
 namespace {
 
@@ -108,37 +104,6 @@ TEST(Pension, TheBestTwelveOfTheYearsSeen) {
     for (std::size_t i = 0; i < 12; ++i) somma += rivalutati[i];
     EXPECT_NEAR(RedditoMedio(redditi, anni), somma / 12, 1e-6);
   }
-}
-
-class PensionFile : public testing::Test {
- protected:
-  TemporaryFolder place_;  // its own, beside other runs of the tests
-  WorkFolder folder_{place_.Path()};
-};
-
-TEST_F(PensionFile, KeepsTheFirstLine) {
-  FileRedditi dati = RedditiIniziali();
-  dati.redditi = kMisti;
-  ScriviRedditi(folder_, dati);
-  EXPECT_EQ(folder_.Read(kFileRedditi).substr(0, 41),
-            "\"01/01/1940\",\"01/01/1979\",\"M\",0\r\n40000000");
-  const FileRedditi letti = LeggiRedditi(folder_);
-  EXPECT_EQ(letti.redditi, kMisti);
-  EXPECT_EQ(letti.testata.terzo, "M");
-}
-
-TEST_F(PensionFile, ShortFilesEndInZeros) {
-  folder_.Replace(kFileRedditi, "\"\",\"\",\"\",0\r\n5\r\n7.5\r\n");
-  const FileRedditi letti = LeggiRedditi(folder_);
-  EXPECT_EQ(letti.redditi[1], 7.5);
-  EXPECT_EQ(letti.redditi[2], 0);
-}
-
-TEST_F(PensionFile, RowsBeyondTheDialogAreRefused) {
-  std::string testo = "\"\",\"\",\"\",0\r\n";
-  for (int i = 0; i < 18; ++i) testo += "1\r\n";
-  folder_.Replace(kFileRedditi, testo);
-  EXPECT_THROW(LeggiRedditi(folder_), RuntimeFailure);
 }
 
 }  // namespace
