@@ -16,6 +16,7 @@
 #include "runtime/folder.h"
 #include "script/statement.h"
 #include "shell/commands.h"
+#include "shell/help/help_books.h"
 #include "shell/menu_tree.h"
 
 namespace orm {
@@ -217,6 +218,13 @@ void Leaves(const std::vector<MenuItem>& menu, Names& names) {
   }
 }
 
+Names CommandsThatAreThere() {
+  Names commands;
+  Leaves(BuildMenu(), commands);
+  for (const std::string& name : CommandsNotYet(BuildMenu())) commands.erase(name);
+  return commands;
+}
+
 // The files that the commands which are there read and write.
 Names DataFiles() {
   Names files;
@@ -281,14 +289,12 @@ bool IsTold(const std::string& text, const Names& told) {
 }
 
 Names NotCovered() {
-  Names missing, commands, forms;
+  Names missing, forms;
   const auto miss = [&](const std::string& kind, const Names& wanted, const Names& there) {
     for (const std::string& name : wanted)
       if (!there.contains(name)) missing.insert(kind + " " + name);
   };
-  Leaves(BuildMenu(), commands);
-  for (const std::string& name : CommandsNotYet(BuildMenu())) commands.erase(name);
-  miss("command", commands, InScripts("menu"));
+  miss("command", CommandsThatAreThere(), InScripts("menu"));
   for (const std::string& file : LogicSources())
     for (const std::string& name : Found(kRoot.Read(file), "\"(frm[A-Z]+_\\w+)\""))
       forms.insert(name);
@@ -304,6 +310,16 @@ Names NotCovered() {
 TEST(Laws, NothingGoesWithoutAScript) {
   ASSERT_GT(BoxTexts().size(), 60U);
   ExpectListed(NotCovered(), "tests/unit/not_yet_covered.txt");
+}
+
+TEST(Laws, EveryCommandHasOnePageOfTheManual) {
+  const auto books = HelpBooks();
+  const auto& pages = std::ranges::find(books, kManuale, &HelpBook::file)->pages;
+  for (const std::string& command : CommandsThatAreThere())
+    EXPECT_EQ(
+        std::ranges::count_if(pages, [&](const HelpPage& page) { return page.Describes(command); }),
+        1)
+        << command;
 }
 
 TEST(Laws, CommandsNotYetThereAreListed) {
