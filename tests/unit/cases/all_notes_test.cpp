@@ -1,5 +1,5 @@
-// All notes through their files: properties over random data of each case, the conversion of the
-// files, and the notes that no menu reaches against reports worked out apart.
+// All notes through their files: properties over random data of each case, and the notes that no
+// menu reaches against reports worked out apart.
 #include <regex>
 
 #include "cases/fee_case.h"
@@ -21,37 +21,23 @@ std::string Bytes(Dati dati, Chiusura chiusura) {
   return file.Bytes();
 }
 
-// A case, its random data, and the bytes that reading and writing them again gives.
+// A case and the file of its random data.
 struct Prova {
   const char* codice;
-  std::string (*bytes)(CasoNote&, const Chiusura&);
-  std::string (*riletti)(const WorkFolder&, const std::string&);
+  std::string (*bytes)(CasoNote&);
 };
 
-template <class Dati>
-std::string Rileggi(const WorkFolder& folder, const std::string& file) {
-  Dati dati;
-  Chiusura chiusura;
-  LeggiFileDati(folder, file, dati, chiusura);
-  return Bytes(dati, chiusura);
-}
-
-const Prova kProve[] = {
-    {"PPE", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Ppe(), k); }, Rileggi<DatiPpe>},
-    {"COA", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Coa(), k); }, Rileggi<DatiCoa>},
-    {"ESL", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Esl(), k); }, Rileggi<DatiEsl>},
-    {"PDL", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Pdl(), k); }, Rileggi<DatiPdl>},
-    {"STC", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Stc(), k); }, Rileggi<DatiStc>},
-    {"AGP", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Agp(), k); }, Rileggi<DatiAgp>},
-    {"CS1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(true), k); }, Rileggi<DatiCos>},
-    {"CS2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Cos(false), k); },
-     Rileggi<DatiCos>},
-    {"GEO", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Geo(), k); },
-     Rileggi<DatiGeotecnici>},
-    {"SC1", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc1), k); },
-     Rileggi<DatiSicurezza>},
-    {"SC2", [](CasoNote& c, const Chiusura& k) { return Bytes(c.Sic(kVersioneSc2), k); },
-     Rileggi<DatiSicurezza>}};
+const Prova kProve[] = {{"PPE", [](CasoNote& caso) { return Bytes(caso.Ppe(), {}); }},
+                        {"COA", [](CasoNote& caso) { return Bytes(caso.Coa(), {}); }},
+                        {"ESL", [](CasoNote& caso) { return Bytes(caso.Esl(), {}); }},
+                        {"PDL", [](CasoNote& caso) { return Bytes(caso.Pdl(), {}); }},
+                        {"STC", [](CasoNote& caso) { return Bytes(caso.Stc(), {}); }},
+                        {"AGP", [](CasoNote& caso) { return Bytes(caso.Agp(), {}); }},
+                        {"CS1", [](CasoNote& caso) { return Bytes(caso.Cos(true), {}); }},
+                        {"CS2", [](CasoNote& caso) { return Bytes(caso.Cos(false), {}); }},
+                        {"GEO", [](CasoNote& caso) { return Bytes(caso.Geo(), {}); }},
+                        {"SC1", [](CasoNote& caso) { return Bytes(caso.Sic(kVersioneSc1), {}); }},
+                        {"SC2", [](CasoNote& caso) { return Bytes(caso.Sic(kVersioneSc2), {}); }}};
 
 constexpr unsigned kNote = 40;
 
@@ -97,7 +83,7 @@ TEST_F(TutteLeNote, PrintedFeesAddUp) {
       stato.criteri = criteri.CriteriDiCalcolo();
       stato.ModoLire = criteri.Uno(2);
       CasoNote caso(seme, stato.ModoLire);
-      const std::string bytes = prova.bytes(caso, {});
+      const std::string bytes = prova.bytes(caso);
       Prepara(prova.codice, bytes);
       std::string report;
       ASSERT_NO_THROW(report = Report(Calcola(prova.codice))) << prova.codice << '\n' << bytes;
@@ -114,85 +100,16 @@ TEST_F(TutteLeNote, PrintedFeesAddUp) {
     }
 }
 
-TEST_F(TutteLeNote, ReadingAndWritingChangesNoByte) {
-  for (const Prova& prova : kProve)
-    for (unsigned seme = 0; seme < kNote; ++seme) {
-      CasoNote caso(seme, seme % 2 == 0);
-      const std::string bytes = prova.bytes(caso, {12.5, 1000, "CONCORDATA", 3});
-      Prepara(prova.codice, bytes);
-      ASSERT_EQ(prova.riletti(stato.folder, stato.FileInp), bytes) << prova.codice << ' ' << seme;
-    }
-}
-
 TEST_F(TutteLeNote, CutFileIsAFailure) {
   stato.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
   for (const Prova& prova : kProve) {
     CasoNote caso(11, true);
-    const std::string intero = prova.bytes(caso, {});
+    const std::string intero = prova.bytes(caso);
     for (std::size_t n = 0; n < intero.size() - 3; n += 1 + n % 29) {
       Prepara(prova.codice, intero.substr(0, n));
       ASSERT_THROW(Calcola(prova.codice), RuntimeFailure) << prova.codice << ' ' << n;
     }
   }
-}
-
-// Whatever bytes are changed, in the data or in the tariff files, there is a report or a message.
-TEST_F(TutteLeNote, DamagedFileIsReadOrRefused) {
-  std::mt19937 motore(5);
-  for (const Prova& prova : kProve)
-    for (unsigned giro = 0; giro < 40; ++giro) {
-      CasoNote caso(giro % 20, true);
-      Prepara(prova.codice, prova.bytes(caso, {}));
-      const std::string codice = prova.codice;
-      const std::string tariffa = codice == "STC" ? "IND.CFG" : codice + ".CFG";
-      const bool nellaTariffa = giro % 2 == 0 && stato.folder.Exists(tariffa);
-      const std::string file = nellaTariffa ? tariffa : stato.FileInp;
-      const std::string intero = stato.folder.Read(file);
-      std::string bytes = intero;
-      for (int k = 0; k < 3; ++k)
-        bytes[motore() % bytes.size()] = "0123456789\",-.+aTxE\r\n"[motore() % 21];
-      stato.folder.Replace(file, bytes, Durability::Remakeable);
-      try {
-        Calcola(prova.codice);
-      } catch (const RuntimeFailure&) {
-      }
-      stato.folder.Replace(file, intero, Durability::Remakeable);
-    }
-}
-
-// The Lire file stays, the Euro file is the same each time, and the converted note calculates.
-TEST_F(TutteLeNote, ConversionCopiesAndTheCopyCalculates) {
-  for (const Prova& prova : kProve)
-    for (unsigned seme = 0; seme < 8; ++seme) {
-      stato.ModoLire = true;
-      CasoNote caso(seme, true);
-      const std::string lire = prova.bytes(caso, {10, 1000000, "", 2});
-      Prepara(prova.codice, lire);
-      const NomiFile euro = NomiDiCaso(prova.codice, false);
-      FindFeeCase(prova.codice)->converti(stato.folder, prova.codice);
-      const std::string prima = stato.folder.Read(euro.FileInp);
-      FindFeeCase(prova.codice)->converti(stato.folder, prova.codice);
-      ASSERT_EQ(stato.folder.Read(euro.FileInp), prima);
-      ASSERT_EQ(stato.folder.Read(stato.FileInp), lire);
-      ASSERT_EQ(stato.folder.Read(euro.FileInt), stato.folder.Read("INT.DAP"));
-      ASSERT_TRUE(prima.ends_with("10,516.46,\"\",2\r\n")) << prima;
-      stato.ModoLire = false;
-      stato.FileInp = euro.FileInp;
-      ASSERT_NO_THROW(Calcola(prova.codice)) << prova.codice << ' ' << seme << '\n' << prima;
-    }
-}
-
-// A damaged note in Lire leaves both Euro files as they were.
-TEST_F(TutteLeNote, DamagedNoteIsNotConverted) {
-  stato.folder.Replace("INT_AGP_E.DAP", "prima");
-  stato.folder.Replace("INP_AGP_E.DAP", "prima");
-  Prepara("AGP", "\"NUOVE ANALISI\",\"NO\",\"5\",1\r\n\"1\",\"a\",1\r\n");
-  EXPECT_THROW(FindFeeCase("AGP")->converti(stato.folder, "AGP"), RuntimeFailure);
-  stato.folder.Replace("INP_AGP.DAP", "\"NUOVE ANALISI\",\"NO\",\"5\",0\r\n0,0,\"\",1\r\n");
-  stato.folder.Remove("INT_AGP.DAP");
-  EXPECT_THROW(FindFeeCase("AGP")->converti(stato.folder, "AGP"), RuntimeFailure);
-  EXPECT_EQ(stato.folder.Read("INT_AGP_E.DAP"), "prima");
-  EXPECT_EQ(stato.folder.Read("INP_AGP_E.DAP"), "prima");
 }
 
 // The notes in Euro of the versions that the menus leave out.

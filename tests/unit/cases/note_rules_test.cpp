@@ -118,16 +118,6 @@ TEST_F(RegoleNote, SteppedFormulas) {
   }
 }
 
-TEST_F(RegoleNote, SurchargeLeavesTheBuildingsAlone) {
-  const Parcella p =
-      CalcoloStc(nota, {2000, 1, 0, 500, 0, 1993, 1, 0.25}, IndiciFoi(kInstallazione));
-  EXPECT_EQ(Righe(p, " Maggiorazione per fronti stradali                     L.         93.750\n"),
-            1);
-  EXPECT_EQ(Righe(p, "Percentuale rivalutazione da Gennnaio-1993 a 1 - 1993  0%\n"), 1);
-  EXPECT_EQ(Righe(p, "TOTALE (Onorari e Compensi)                            L.        818.750\n"),
-            1);
-}
-
 // The official revaluation, and what the table cannot answer.
 TEST(Indici, Revaluation) {
   const TemporaryFolder place;
@@ -177,14 +167,6 @@ TEST_F(RegoleNote, RoundsToTheNearestMultiple) {
   nota.ModoLire = false;
   EXPECT_EQ(ArrotondaAlleCifreDi(nota, 1, 1000), 1.03);  // 1936 Lire, then 2000
   EXPECT_EQ(ArrotondaAlleCifreDi(nota, 0.2, 1000), 0);
-}
-
-TEST_F(RegoleNote, SharesOfARevision) {
-  EXPECT_EQ(AliquotaRevisione("CS1", {"7", "b", "", 0}), 0.135);
-  EXPECT_EQ(AliquotaRevisione("CS2", {"7", "b", "", 0}), 0.04);
-  EXPECT_EQ(AliquotaRevisione("CS1", {"7", "d", "", 0}), 0);
-  EXPECT_EQ(AliquotaRevisione("CS1", {"1", "g", "", 0}), 0.28);
-  EXPECT_EQ(AliquotaRevisione("CS2", {"8", "", "", 0}), 0.1);
 }
 
 // The first step repeats the second; flat below it, falling on above the last but never below 0.

@@ -3,33 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "shell/state/run_state.h"
 #include "tariff/files/user_files.h"
 #include "tariff/parcella.h"
+#include "tests/temporary_folder.h"
 #include "tests/unit/fake_player.h"
 
 namespace orm {
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "orm-XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 // A page written as a raw string: it begins behind the first line end, and '|' shows where each
 // line ends.
@@ -38,6 +21,28 @@ inline std::string Page(std::string_view drawn) {
   for (std::size_t i = 1; i < drawn.size(); ++i)
     if (drawn[i] != '|' || drawn[i + 1] != '\n') page += drawn[i];
   return page;
+}
+
+// The amount at the end of a printed line, in hundredths.
+inline long long Centesimi(const std::string& riga) {
+  long long centesimi = 0;
+  int decimali = -1;
+  const std::string importo = riga.substr(riga.find_last_of(' ') + 1);
+  for (const char c : importo) {
+    if (c == ',') decimali = 0;
+    if (c < '0' || c > '9') continue;
+    centesimi = centesimi * 10 + (c - '0');
+    if (decimali >= 0) ++decimali;
+  }
+  for (decimali = std::max(decimali, 0); decimali < 2; ++decimali) centesimi *= 10;
+  return importo.find('-') == std::string::npos ? centesimi : -centesimi;
+}
+
+// The same of the line of a report that begins so; 0 without such a line.
+inline long long Centesimi(const std::string& report, const std::string& inizio) {
+  const auto at = report.find("\n" + inizio);
+  if (at == std::string::npos) return 0;
+  return Centesimi(report.substr(at + 1, report.find('\n', at + 1) - at - 1));
 }
 
 // A blank note in Lire, ready to be printed on.

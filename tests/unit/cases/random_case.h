@@ -1,10 +1,8 @@
-// Random but valid notes of the cases with lots, and what a report of theirs says, for properties
-// that hold whatever the figures.
+// Random but valid notes of the cases with lots, for properties that hold whatever the figures.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -135,61 +133,5 @@ class Caso {
   std::mt19937 motore_;
   bool lire_;
 };
-
-// The printed fees of a report: those of the lines that belong to an entry of the summary, the
-// entries of the summary, and the total, in hundredths.
-struct Stampato {
-  std::map<std::string, long long> righe, riepilogo;
-  long long totale = 0;
-};
-
-inline long long Centesimi(const std::string& riga) {
-  long long centesimi = 0;
-  bool virgola = false, negativo = false;
-  int decimali = 0;
-  for (std::size_t i = riga.find_last_of(' ') + 1; i < riga.size(); ++i) {
-    if (riga[i] == '-') negativo = true;
-    if (riga[i] == ',') virgola = true;
-    if (riga[i] < '0' || riga[i] > '9') continue;
-    centesimi = centesimi * 10 + (riga[i] - '0');
-    decimali += virgola;
-  }
-  for (; decimali < 2; ++decimali) centesimi *= 10;
-  return negativo ? -centesimi : centesimi;
-}
-
-inline Stampato LeggiStampato(const std::string& report) {
-  static const std::vector<std::pair<const char*, const char*>> kTitoli = {
-      {"PROGETT", "PROGETTAZIONE"},
-      {"PERIZIA DI", "PROGETTAZIONE"},
-      {"DIREZIONE LAVORI", "DIREZIONE LAVORI"},
-      {"PROVE DI OFFICINA", "DIREZIONE LAVORI"},
-      {"ASSISTENZA AL", "DIREZIONE LAVORI"},
-      {"LIQUIDAZIONE", "DIREZIONE LAVORI"},
-      {"SORVEGLIANZA", "SORVEGLIANZA"},
-      {"MISURE E CONT", "MISURE E CONTABILITÀ"},
-      {"CALCOLO COMPENSO", "REVISIONE PREZZI"},
-      {"CERTIFICATO", "CERTIFICATO REGOLARE ESECUZIONE"}};
-  Stampato stampato;
-  std::string voce;
-  for (std::size_t da = 0, a = 0; da < report.size(); da = a + 1) {
-    a = std::min(report.find('\n', da), report.size());
-    const std::string riga = report.substr(da, a - da);
-    for (const auto& [inizio, nome] : kTitoli)
-      if (riga.starts_with(inizio)) voce = nome;
-    const bool importo =
-        riga.find("L. ") != std::string::npos || riga.find("€") != std::string::npos;
-    const bool formula =
-        riga.find("(Tab. A)") == std::string::npos &&
-        (riga.find('=') != std::string::npos || riga.find("% x ") != std::string::npos);
-    if (importo && riga.starts_with("Per "))
-      stampato.riepilogo[riga.substr(4, riga.find("  ") - 4)] = Centesimi(riga);
-    else if (importo && riga.starts_with("TOTALE (Onorari"))
-      stampato.totale = Centesimi(riga);
-    else if (importo && formula && !voce.empty())
-      stampato.righe[voce] += Centesimi(riga);
-  }
-  return stampato;
-}
 
 }  // namespace orm

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/failure.h"
+#include <map>
+
 #include "tests/unit/cases/note_test.h"
 
 namespace orm {
@@ -18,14 +19,14 @@ class Compensations : public NoteTest {
 
   double Cfg(double importo) const { return nota.scaglioni.PercCompensiAccessoriCfg(importo); }
 
-  std::string FailureOf(const std::string& file) {
-    folder.Replace("CAC.CFG", file);
-    try {
-      Cfg(1000);
-    } catch (const RuntimeFailure& failure) {
-      return failure.Text();
-    }
-    return "";
+  // The block of an amount, and the coefficient as number and text.
+  void Blocco(double importo, double coefficiente, const char* testo, const std::string& stampa) {
+    nota.CompensiAccessori(importo);
+    EXPECT_EQ(nota.Coefficiente, coefficiente);
+    EXPECT_EQ(nota.StringaCoefficiente, testo);
+    EXPECT_EQ(
+        Report(),
+        "=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================\n" + stampa);
   }
 
   TemporaryFolder place;
@@ -54,23 +55,6 @@ TEST_F(Compensations, OneStepAndThirtySteps) {
   EXPECT_EQ(Cfg(301), 30);
 }
 
-TEST_F(Compensations, DamagedFiles) {
-  EXPECT_EQ(FailureOf("31,\"\"\r\n"),
-            "Il numero di elementi deve essere fra 0 e 30.\nFile : CAC.CFG\nRiga : 1\n"
-            "Campo : numero degli scaglioni");
-  EXPECT_EQ(FailureOf("0,\"\"\r\n"),
-            "Gli scaglioni devono essere almeno uno.\nFile : CAC.CFG\nRiga : 1\n"
-            "Campo : numero degli scaglioni");
-  EXPECT_EQ(
-      FailureOf("2,\"\"\r\n100,30,\"\"\r\n200"),
-      "Il file finisce prima di questo campo.\nFile : CAC.CFG\nRiga : 3\nCampo : percentuale");
-  EXPECT_EQ(FailureOf("2,\"\"\r\n200,30,\"\"\r\n100,20,\"\"\r\n"),
-            "Gli importi degli scaglioni devono essere crescenti.\nFile : CAC.CFG\nRiga : 3\n"
-            "Campo : importo");
-  folder.Remove("CAC.CFG");
-  EXPECT_THROW(Cfg(1000), RuntimeFailure);
-}
-
 TEST_F(Compensations, NewTariff) {
   EXPECT_EQ(PercCompensiNuovaTariffaLire(1000), 30);
   EXPECT_EQ(PercCompensiNuovaTariffaLire(50000000), 30);
@@ -86,50 +70,30 @@ TEST_F(Compensations, NewTariff) {
   EXPECT_NEAR(PercCompensiNuovaTariffaEuro(25835756.38), 22.5, 1e-9);
 }
 
-TEST_F(Compensations, ByTheFileInLire) {
-  nota.CompensiAccessori(123456789);
-  EXPECT_EQ(nota.Coefficiente, 1.27654321);  // 30 - 10 * 0,23456789 = 27,6543211, cut to 6 decimals
-  EXPECT_EQ(nota.StringaCoefficiente, " x 1,27654321");
-  EXPECT_EQ(Report(), Page(R"(
-=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
-Percentuale : 27,654321% su                    L.      123.456.789|
-)"));
+TEST_F(Compensations, ByTheFile) {
+  // 30 - 10 * 0,23456789 = 27,6543211, cut to 6 decimals
+  Blocco(123456789, 1.27654321, " x 1,27654321",
+         "Percentuale : 27,654321% su                    L.      123.456.789\n");
 }
 
 TEST_F(Compensations, ByTheFileInEuroWithDecimalsOfTheCriteria) {
   nota.ModoLire = false;
   nota.criteri.DecimaliCompensi = 2;
-  nota.CompensiAccessori(123456789);
-  EXPECT_EQ(nota.Coefficiente, 1.2765);
-  EXPECT_EQ(nota.StringaCoefficiente, " x 1,2765");
-  EXPECT_EQ(Report(), Page(R"(
-=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
-Percentuale : 27,65% su                        €       63.760,11|
-)"));
+  Blocco(123456789, 1.2765, " x 1,2765",
+         "Percentuale : 27,65% su                        €       63.760,11\n");
 }
 
 TEST_F(Compensations, NewTariffIsReckonedInLireInBothModes) {
   nota.ModoLire = false;
   nota.criteri.TipoPercentualeCompensi = "NUOVA TARIFFA";
-  nota.CompensiAccessori(40000000);
-  EXPECT_EQ(nota.Coefficiente, 1.3);
-  EXPECT_EQ(nota.StringaCoefficiente, " x 1,3");
-  EXPECT_EQ(Report(), Page(R"(
-=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
-Percentuale : 30% su                           €       20.658,28|
-)"));
+  Blocco(40000000, 1.3, " x 1,3",
+         "Percentuale : 30% su                           €       20.658,28\n");
 }
 
 TEST_F(Compensations, GivenPercentageStandsAsAPlainNumber) {
   nota.criteri.TipoPercentualeCompensi = "ASSEGNATA";
   nota.criteri.PercCompensiAssegnata = 12.5;
-  nota.CompensiAccessori(1000000);
-  EXPECT_EQ(nota.Coefficiente, 1.125);
-  EXPECT_EQ(nota.StringaCoefficiente, " x 1.125");
-  EXPECT_EQ(Report(), Page(R"(
-=============== COMPENSI ACCESSORI CONGLOBATI (art. 13) ================|
-Percentuale : 12.5%|
-)"));
+  Blocco(1000000, 1.125, " x 1.125", "Percentuale : 12.5%\n");
 }
 
 TEST_F(Compensations, NothingPrintsNothing) {
@@ -151,26 +115,18 @@ TEST_F(Compensations, NothingPrintsNothing) {
 
 TEST_F(Compensations, OfTheRegionByAmountAndResidence) {
   nota.criteri.TipoPercentualeCompensi = "CALABRIA";
-  struct {
-    double importo;
-    const char* fuori;
-    const char* oltre;
-    const char* entro;
-  } rows[] = {{1500000000, " x 1.6", " x 1.6", " x 1.6"},
-              {1500000001, " x 1.6", " x 1.45", " x 1.45"},
-              {3000000000, " x 1.6", " x 1.45", " x 1.45"},
-              {3000000001, " x 1.6", " x 1.45", " x 1.3"}};
-  for (const auto& row : rows) {
-    nota.criteri.ResidenzaCollaudatore = "FUORIREGIONE";
-    nota.CompensiAccessori(row.importo);
-    EXPECT_EQ(nota.StringaCoefficiente, row.fuori);
-    nota.criteri.ResidenzaCollaudatore = "OLTRE100KM";
-    nota.CompensiAccessori(row.importo);
-    EXPECT_EQ(nota.StringaCoefficiente, row.oltre);
-    nota.criteri.ResidenzaCollaudatore = "ENTRO100KM";
-    nota.CompensiAccessori(row.importo);
-    EXPECT_EQ(nota.StringaCoefficiente, row.entro);
-  }
+  using Testi = std::map<std::string, std::string>;
+  const std::map<double, Testi> attesi = {
+      {1500000000, {{"FUORIREGIONE", "1.6"}, {"OLTRE100KM", "1.6"}, {"ENTRO100KM", "1.6"}}},
+      {1500000001, {{"FUORIREGIONE", "1.6"}, {"OLTRE100KM", "1.45"}, {"ENTRO100KM", "1.45"}}},
+      {3000000000, {{"FUORIREGIONE", "1.6"}, {"OLTRE100KM", "1.45"}, {"ENTRO100KM", "1.45"}}},
+      {3000000001, {{"FUORIREGIONE", "1.6"}, {"OLTRE100KM", "1.45"}, {"ENTRO100KM", "1.3"}}}};
+  for (const auto& [importo, testi] : attesi)
+    for (const auto& [residenza, testo] : testi) {
+      nota.criteri.ResidenzaCollaudatore = residenza;
+      nota.CompensiAccessori(importo);
+      EXPECT_EQ(nota.StringaCoefficiente, " x " + testo) << residenza;
+    }
 }
 
 }  // namespace

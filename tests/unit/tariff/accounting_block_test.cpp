@@ -55,11 +55,6 @@ MISURE E CONTABILITÀ LAVORI ( tab. E )|
 )"));
 }
 
-TEST_F(BloccoContabilita, LinesAreApartByALineFeedAlone) {
-  Calcola({{5, 1, 4000000}});
-  EXPECT_TRUE(nota.uscita.Contents().starts_with("MISURE E CONTABILITÀ LAVORI ( tab. E )\n1,8"));
-}
-
 TEST_F(BloccoContabilita, EleventhRowIsAFailure) {
   EXPECT_NO_THROW(Calcola(std::vector<RigaContabilita>(10)));
   EXPECT_THROW(Calcola(std::vector<RigaContabilita>(11)), RuntimeFailure);

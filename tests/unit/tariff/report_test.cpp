@@ -1,9 +1,7 @@
-// The frame of a report and the files that it shows.
+// The frame of a report.
 #include "tariff/report.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "runtime/failure.h"
 #include "tests/unit/cases/note_test.h"
@@ -12,7 +10,6 @@ namespace orm {
 namespace {
 
 using ReportFrame = NoteTest;
-using ReportFiles = NoteInFolder;
 
 TEST_F(ReportFrame, AmountField) {
   EXPECT_EQ(nota.StringaImporto("1.000", TipoImporto::Onorari), "L.          1.000");
@@ -88,34 +85,8 @@ Delibera n. 12|
 }
 // clang-format on
 
-TEST_F(ReportFiles, FirstUserFile) {
-  ScriviUtentePredefinito(stato.folder);
-  std::string lines;
-  for (int i = 0; i < 10; ++i) lines += "\r\n";
-  EXPECT_EQ(stato.folder.Read(kFileUtente), lines + "\"CATANZARO\",\"\",\"\",\"Ingegnere\"\r\n");
-  const DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
-  EXPECT_EQ(utente.Nome, "");
-  EXPECT_EQ(utente.PartitaIva, "");
-  EXPECT_EQ(utente.Ordine, "CATANZARO");
-  EXPECT_EQ(utente.Professione, "Ingegnere");
-}
-
-TEST_F(ReportFiles, UserFileIsOneTextALine) {
-  DatiProfessionista utente;
-  utente.Nome = "Anna \"Nina\" Verdi";
-  utente.Citta = "Forlì";
-  ScriviDatiProfessionista(stato.folder, utente);
-  const std::string bytes = stato.folder.Read(kFileUtente);
-  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 14);
-  const DatiProfessionista letto = LeggiDatiProfessionista(stato.folder);
-  EXPECT_EQ(letto.Nome, utente.Nome);
-  EXPECT_EQ(letto.Citta, utente.Citta);
-}
-
-TEST_F(ReportFiles, HeaderOfEmptyTexts) {
-  ScriviIntestazione(stato.folder, "INT.DAP", {});
-  EXPECT_EQ(stato.folder.Read("INT.DAP"), "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
-  nota.intestazione = LeggiIntestazione(stato.folder, "INT.DAP");
+TEST_F(ReportFrame, HeadingOfEmptyTexts) {
+  nota.intestazione = {};
   nota.ApriParcella("relative a :");
   EXPECT_TRUE(Report().ends_with("relative a :\n\n"));
 }
