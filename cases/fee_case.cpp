@@ -15,6 +15,9 @@
 #include "cases/geo/config.h"
 #include "cases/geo/data.h"
 #include "cases/geo/geo.h"
+#include "cases/inc/config.h"
+#include "cases/inc/data.h"
+#include "cases/inc/inc.h"
 #include "cases/pdl/data.h"
 #include "cases/pdl/pdl.h"
 #include "cases/ppe/data.h"
@@ -23,6 +26,8 @@
 #include "cases/sic/sic.h"
 #include "cases/stc/data.h"
 #include "cases/stc/stc.h"
+#include "cases/sup/data.h"
+#include "cases/sup/sup.h"
 #include "tariff/config/price_index.h"
 #include "tariff/files/conversion.h"
 
@@ -44,7 +49,7 @@ const std::vector<FeeCase>& FeeCases() {
       {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
       {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>},
-      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kCompensiETabelle, InputInc, CalcolaDaFile<CalcoloInc>, ConvertiParcella<DatiInc>},
       {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcolaDaFile<CalcoloPdl>, ConvertiParcella<DatiPdl>},
       {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, CalcolaDaFile<CalcoloEsl>, ConvertiParcella<DatiEsl>},
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcolaDaFile<CalcoloGEO>, ConvertiParcella<DatiGeotecnici>},
@@ -55,7 +60,7 @@ const std::vector<FeeCase>& FeeCases() {
       {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcolaDaFile<CalcoloStc>, ConvertiParcella<DatiStc>},
       {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr, nullptr},
       {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr, nullptr},
-      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kCompensiETabelle, InputSup, CalcolaDaFile<CalcoloSup>, nullptr},
   };
   // clang-format on
   return kCases;

@@ -97,6 +97,13 @@ double Parcella::StampaOnorario(const RigaFormula& f, double onorario) {
   return onorario;
 }
 
+void Parcella::StampaVoce(std::string_view titolo, std::string formula, double onorario) {
+  uscita.Line(Numero() + " " + std::string(titolo));
+  onorario = IntInLire(onorario);
+  StampaRigaOnorario(1, formula, onorario);
+  TotaleGenerale += onorario;
+}
+
 // In Lire the cut comes before the division by 100, as nowhere else in these notes.
 double Parcella::StampaCertificato(int periodo, double SommaDirezione) {
   uscita.Line("CERTIFICATO REGOLARE ESECUZIONE  ( tab. C )");

@@ -131,6 +131,9 @@ class Parcella {
   // One line with a fee and how it comes about. In Lire it is cut to its whole part; comes back as
   // printed.
   double StampaOnorario(const RigaFormula& formula, double onorario);
+  // A fee under its number and title, and how it comes about on the next line. In Lire it is cut to
+  // its whole part; the sum of the fees grows by it as printed.
+  void StampaVoce(std::string_view titolo, std::string formula, double onorario);
 
   // ---- measuring and accounting (accounting_block.cpp)
   // Prints the bands and the totals of `contemp`, sorted by period and with the rows of one period

@@ -1,30 +1,22 @@
 // The fee of price updating: for each lot a part of the design fee of Table A.
 #include "cases/agp/agp.h"
 #include "cases/agp/data.h"
-#include "runtime/failure.h"
-#include "runtime/numbers.h"
 #include "tariff/law/table_articles.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
+#include "tariff/period_code.h"
 
 namespace orm {
 namespace {
-
-int Periodo(const DatiAgp& dati) {
-  const auto periodo = ParseNumber(dati.PeriodoTariffario);
-  if (!periodo || *periodo < 1 || *periodo > 6 || *periodo != Int(*periodo))
-    throw RuntimeFailure("Il periodo tariffario \"" + dati.PeriodoTariffario + "\" non esiste.")
-        .AtField("PeriodoTariffario");
-  return static_cast<int>(*periodo);
-}
 
 class NotaAgp : public Parcella {
  public:
   NotaAgp(Parcella parcella, const DatiAgp& dati)
       : Parcella(std::move(parcella)),
         d(dati),
-        periodo(Periodo(dati)),
+        periodo(PeriodoDaCodice(dati.PeriodoTariffario, kPeriodo2001)),
         CoefficienteMetodo(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO"
                                ? kAggiornamentoSemplice
                                : kNuoveAnalisi) {}

@@ -1,0 +1,116 @@
+// The fee of the chief engineer: shares of supervision, assistance to testing and liquidation in
+// the fee of Table A, and of Table C where a certificate was confirmed.
+#include "cases/inc/config.h"
+#include "cases/inc/data.h"
+#include "cases/inc/inc.h"
+#include "tariff/law/table_periods.h"
+#include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
+#include "tariff/parcella.h"
+#include "tariff/period_code.h"
+
+namespace orm {
+namespace {
+
+class NotaInc : public Parcella {
+ public:
+  NotaInc(Parcella parcella, const DatiInc& dati, const QuoteInc& quoteDiLegge)
+      : Parcella(std::move(parcella)),
+        d(dati),
+        quote(quoteDiLegge),
+        periodo(PeriodoDaCodice(dati.PeriodoTariffario, kPeriodo1987)) {
+    for (const LottoInc& lotto : d.Lotti) somma += lotto.Importo;
+  }
+
+  void StampaSpecifica();
+  void CalcolaCompensi();
+  void CalcolaLotti();
+  void CalcolaCertificato();
+
+ private:
+  void CalcolaLotto(const LottoInc& lotto, double aliquota);
+  static bool Svolta(const LottoInc& lotto, char lettera) {
+    return lotto.Prestazioni.find(lettera) != std::string::npos;
+  }
+
+  const DatiInc& d;
+  const QuoteInc quote;
+  const int periodo;
+  double somma = 0;
+};
+
+void NotaInc::StampaSpecifica() {
+  uscita.Line(kRigaImporti);
+  for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
+    uscita.Line(TitoloLotto(i + 1, d.Lotti[i].Classe, d.Lotti[i].Categoria));
+    StampaLavori(5, " - Importo LAVORI ", d.Lotti[i].Importo);
+  }
+}
+
+// The tariff of the chief engineer allows no more than its own greatest percentage.
+void NotaInc::CalcolaCompensi() {
+  CompensiAccessori(ImportoInLire(somma));
+  const double massimo = 1 + quote.massimoCompensi / 100;
+  if (Coefficiente <= massimo) return;
+  Coefficiente = massimo;
+  StringaCoefficiente = " x " + FormattaNumero(Coefficiente, 2);
+  uscita.Text("ridotta al massimo del ").Bare(quote.massimoCompensi).Line("%");
+}
+
+// A lot without services has no fee and no number.
+void NotaInc::CalcolaLotti() {
+  uscita.Line(kRigaOnorariCompensi);
+  for (const LottoInc& lotto : d.Lotti) {
+    double aliquota = 0;
+    bool svolta = false;
+    for (const auto& [lettera, quota] :
+         {std::pair{'g', quote.direzione}, {'i', quote.assistenza}, {'l', quote.liquidazione}}) {
+      if (!Svolta(lotto, lettera)) continue;
+      svolta = true;
+      aliquota += quota * AliquotaTabellaB(lotto.Classe, lotto.Categoria, lettera);
+    }
+    if (svolta) CalcolaLotto(lotto, aliquota);
+  }
+}
+
+void NotaInc::CalcolaLotto(const LottoInc& lotto, double aliquota) {
+  uscita.Line(TitoloLotto(++progressivo, lotto.Classe, lotto.Categoria) + " (" +
+              NomePeriodoTariffario(periodo) + ")");
+  uscita.Line("  Prestazioni : " + lotto.Prestazioni);
+  const auto percentuali =
+      PercentualiDellaBase(lotto.Importo, periodo, lotto.Classe, lotto.Categoria);
+  const auto quoteImporto = QuoteDellImporto(percentuali, lotto.Importo);
+  for (const auto& [importo, P] : quoteImporto)
+    StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
+  for (const auto& [importo, P] : quoteImporto)
+    TotaleGenerale += StampaOnorario({.inizio = "",
+                                      .aliquota = aliquota,
+                                      .decimali = 4,
+                                      .percentuale = P,
+                                      .importo = TestoImporto(importo)},
+                                     P.valore * importo * aliquota / 100 * Coefficiente);
+}
+
+void NotaInc::CalcolaCertificato() {
+  if (d.CertificatoRegolareEsecuzione != "SI" || somma <= 0) return;
+  const Percentuale P = PercentualeDaTabellaC(periodo, ImportoInLire(somma));
+  StampaVoce("CONFERMA CERTIFICATO DI REGOLARE ESECUZIONE",
+             FormattaCopia(quote.tabellaC, 2) + " x " + P.testo + " x " + TestoImporto(somma) +
+                 StringaCoefficiente + " =",
+             quote.tabellaC * P.valore * somma / 100 * Coefficiente);
+}
+
+}  // namespace
+
+Parcella CalcoloInc(Parcella parcella, const DatiInc& dati, const TariffaInc& tariffa) {
+  NotaInc nota(std::move(parcella), dati, tariffa.Quote());
+  nota.ApriParcella("per le prestazioni di Ingegnere Capo relative a :");
+  nota.StampaSpecifica();
+  nota.CalcolaCompensi();
+  nota.CalcolaLotti();
+  nota.CalcolaCertificato();
+  nota.ChiudiConCompensi();
+  return nota;
+}
+
+}  // namespace orm

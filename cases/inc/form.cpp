@@ -1,0 +1,48 @@
+#include "cases/inc/form.h"
+
+#include "runtime/numbers.h"
+#include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
+
+namespace orm {
+namespace {
+constexpr std::string_view kLettere = "gil";
+}
+
+FrmIncDati::FrmIncDati(DatiInc& dati, double massimoCompensi)
+    : Form("frmINC_Dati", "INGEGNERE CAPO : DATI GENERALI") {
+  SetContent(Column({Group(Frame1, {Decreti}), Group(Frame2, {Row({Option1, Option2})}),
+                     lblCompensi, Buttons({Command1})}));
+  Decreti.Mostra(dati.PeriodoTariffario);
+  certificato.Choose(dati.CertificatoRegolareEsecuzione == "SI" ? 0 : 1);
+  lblCompensi.SetText("COMPENSI ACCESSORI max " + FormattaCopia(massimoCompensi, 5) + " %");
+  Command1.onPress = [this, &dati] {
+    Decreti.Prendi(dati.PeriodoTariffario);
+    dati.CertificatoRegolareEsecuzione = Option1.Value() ? "SI" : "NO";
+    Esci(Uscita::Conferma);
+  };
+}
+
+FrmIncPrestazioni::FrmIncPrestazioni(const std::string& dove, LottoInc& lotto)
+    : Form("frmINC_Prestazioni", "PRESTAZIONI DELL'INGEGNERE CAPO") {
+  SetContent(Column({lblLotto,
+                     Fields({Row({Check[0], lblAliquota[0]}), Row({Check[1], lblAliquota[1]}),
+                             Row({Check[2], lblAliquota[2]})}),
+                     Buttons({Command1})}));
+  lblLotto.SetText(dove);
+  for (std::size_t i = 0; i < kLettere.size(); ++i) {
+    Check[i].SetValue(lotto.Prestazioni.find(kLettere[i]) != std::string::npos);
+    lblAliquota[i].SetText(
+        "aliquota " +
+        FormattaCopia(AliquotaTabellaB(lotto.Classe, lotto.Categoria, kLettere[i]), -2));
+  }
+  Command1.onPress = [this, &lotto] {
+    lotto.Prestazioni.clear();
+    for (std::size_t i = 0; i < kLettere.size(); ++i)
+      if (Check[i].Value())
+        lotto.Prestazioni += (lotto.Prestazioni.empty() ? "" : "+") + std::string(1, kLettere[i]);
+    Esci(Uscita::Conferma);
+  };
+}
+
+}  // namespace orm
