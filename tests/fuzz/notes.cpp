@@ -9,10 +9,12 @@
 #include "cases/esl/data.h"
 #include "cases/fee_case.h"
 #include "cases/geo/data.h"
+#include "cases/inc/data.h"
 #include "cases/pdl/data.h"
 #include "cases/ppe/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
+#include "cases/sup/data.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/files/user_files.h"
 #include "tests/fuzz/fuzzer.h"
@@ -23,7 +25,7 @@ namespace {
 
 // A folder as an installation brings it, with a header.
 void Prepare() {
-  for (const char* name : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "IND.CFG"})
+  for (const char* name : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "INC.CFG", "IND.CFG"})
     Put(name, WorkFolder(ORM_SOURCE_DIR "/data").Read(name));
   ScriviDatiProfessionista(Place(), {});
   ScriviIntestazione(Place(), "INT.DAP", {"Comune", "Strada", "", ""});
@@ -98,10 +100,12 @@ Formats NoteFormats() {
   add("cos", {"CS1", "CS2"}, DatiCos());
   add("esl", {"ESL"}, DatiEsl());
   add("geo", {"GEO"}, DatiGeotecnici());
+  add("inc", {"INC"}, DatiInc());
   add("parcella", {"PPE"}, DatiPpe());
   add("pdl", {"PDL"}, DatiPdl());
   add("sic", {"SC1", "SC2"}, DatiSicurezza());
   add("stc", {"STC"}, DatiStc());
+  add("sup", {"SUP"}, DatiSup());
   for (const FeeCase& fee : FeeCases())
     Require(fee.calcolo == nullptr || known.contains(fee.code), "ogni caso ha il suo formato");
   return formats;

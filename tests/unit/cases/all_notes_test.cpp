@@ -33,6 +33,8 @@ const Prova kProve[] = {{"PPE", [](CasoNote& caso) { return Bytes(caso.Ppe(), {}
                         {"PDL", [](CasoNote& caso) { return Bytes(caso.Pdl(), {}); }},
                         {"STC", [](CasoNote& caso) { return Bytes(caso.Stc(), {}); }},
                         {"AGP", [](CasoNote& caso) { return Bytes(caso.Agp(), {}); }},
+                        {"INC", [](CasoNote& caso) { return Bytes(caso.Inc(), {}); }},
+                        {"SUP", [](CasoNote& caso) { return Bytes(caso.Sup(), {}); }},
                         {"CS1", [](CasoNote& caso) { return Bytes(caso.Cos(true), {}); }},
                         {"CS2", [](CasoNote& caso) { return Bytes(caso.Cos(false), {}); }},
                         {"GEO", [](CasoNote& caso) { return Bytes(caso.Geo(), {}); }},
@@ -44,7 +46,7 @@ constexpr unsigned kNote = 40;
 class TutteLeNote : public NoteInFolder {
  protected:
   TutteLeNote() {
-    for (const char* file : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "IND.CFG"})
+    for (const char* file : {"CAC.CFG", "CS1.CFG", "CS2.CFG", "GEO.CFG", "INC.CFG", "IND.CFG"})
       stato.folder.Replace(file, WorkFolder(ORM_SOURCE_DIR "/data").Read(file));
   }
 

@@ -5,9 +5,11 @@
 #include "cases/coa/data.h"
 #include "cases/cos/data.h"
 #include "cases/geo/data.h"
+#include "cases/inc/data.h"
 #include "cases/ppe/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
+#include "cases/sup/data.h"
 #include "tariff/law/site_safety.h"
 #include "tests/unit/cases/random_case.h"
 
@@ -49,6 +51,30 @@ class CasoNote : public Caso {
     d.PeriodoTariffario = Fra({"1", "2", "3", "4", "5"});
     for (int n = Fino(21); n > 0; --n) {
       LottoAgp& l = d.Lotti.emplace_back();
+      Classe(l.Classe, l.Categoria);
+      l.Importo = Importo();
+    }
+    return d;
+  }
+
+  DatiInc Inc() {
+    DatiInc d;
+    d.PeriodoTariffario = Fra({"1", "2", "3", "4", "5"});
+    d.CertificatoRegolareEsecuzione = Fra({"SI", "NO"});
+    for (int n = Fino(21); n > 0; --n) {
+      LottoInc& l = d.Lotti.emplace_back();
+      Classe(l.Classe, l.Categoria);
+      l.Importo = Importo();
+      l.Prestazioni = Alcune({"g", "i", "l"});
+    }
+    return d;
+  }
+
+  DatiSup Sup() {
+    DatiSup d;
+    for (int n = Fino(11); n > 0; --n) d.Attivita.push_back({"Attività", Fino(100001) / 100000.0});
+    for (int n = Fino(21); n > 0; --n) {
+      LottoSup& l = d.Lotti.emplace_back();
       Classe(l.Classe, l.Categoria);
       l.Importo = Importo();
     }
