@@ -20,8 +20,14 @@
 #include "cases/inc/inc.h"
 #include "cases/pdl/data.h"
 #include "cases/pdl/pdl.h"
+#include "cases/pes/data.h"
+#include "cases/pes/pes.h"
 #include "cases/ppe/data.h"
 #include "cases/ppe/ppe.h"
+#include "cases/rim/data.h"
+#include "cases/rim/rim.h"
+#include "cases/rpa/data.h"
+#include "cases/rpa/rpa.h"
 #include "cases/sic/data.h"
 #include "cases/sic/sic.h"
 #include "cases/stc/data.h"
@@ -55,11 +61,11 @@ const std::vector<FeeCase>& FeeCases() {
       {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcolaDaFile<CalcoloGEO>, ConvertiParcella<DatiGeotecnici>},
       {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>},
       {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>},
-      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kCompensiETabelle, InputPes, CalcolaDaFile<CalcoloPes>, ConvertiParcella<DatiPes>},
       {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcolaDaFile<CalcoloPpe>, ConvertiParcella<DatiPpe>},
       {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcolaDaFile<CalcoloStc>, ConvertiParcella<DatiStc>},
-      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kAllCriteria, nullptr, nullptr, nullptr},
-      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kAllCriteria, nullptr, nullptr, nullptr},
+      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kNoCriteria, InputRim, CalcolaDaFile<CalcoloRim>, ConvertiParcella<DatiRim>},
+      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kNoCriteria, InputRpa, CalcolaDaFile<CalcoloRpa>, ConvertiParcella<DatiRpa>},
       {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kCompensiETabelle, InputSup, CalcolaDaFile<CalcoloSup>, nullptr},
   };
   // clang-format on

@@ -11,7 +11,10 @@
 #include "cases/geo/data.h"
 #include "cases/inc/data.h"
 #include "cases/pdl/data.h"
+#include "cases/pes/data.h"
 #include "cases/ppe/data.h"
+#include "cases/rim/data.h"
+#include "cases/rpa/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
 #include "cases/sup/data.h"
@@ -103,6 +106,9 @@ Formats NoteFormats() {
   add("inc", {"INC"}, DatiInc());
   add("parcella", {"PPE"}, DatiPpe());
   add("pdl", {"PDL"}, DatiPdl());
+  add("pes", {"PES"}, DatiPes());
+  add("rim", {"RIM"}, DatiRim());
+  add("rpa", {"RPA"}, DatiRpa());
   add("sic", {"SC1", "SC2"}, DatiSicurezza());
   add("stc", {"STC"}, DatiStc());
   add("sup", {"SUP"}, DatiSup());

@@ -6,7 +6,10 @@
 #include "cases/cos/data.h"
 #include "cases/geo/data.h"
 #include "cases/inc/data.h"
+#include "cases/pes/data.h"
 #include "cases/ppe/data.h"
+#include "cases/rim/data.h"
+#include "cases/rpa/data.h"
 #include "cases/sic/data.h"
 #include "cases/stc/data.h"
 #include "cases/sup/data.h"
@@ -70,6 +73,25 @@ class CasoNote : public Caso {
     return d;
   }
 
+  DatiPes Pes() {
+    DatiPes d;
+    for (int n = Fino(21); n > 0; --n)
+      d.Beni.push_back({"Bene", Importo(), (1 + Fino(300)) / 99.0});
+    return d;
+  }
+
+  DatiRim Rim() {
+    DatiRim d{Fra({"SI", "NO"}), Fra({"SI", "NO"}), Fra({"SI", "NO"}), {}};
+    for (int n = Fino(21); n > 0; --n) {
+      ElaboratoRim e{.TipoElaborato = static_cast<std::int16_t>(1 + Fino(6)),
+                     .Quantita = (1 + Fino(99999)) / 8.0};
+      e.Scala = static_cast<std::int16_t>(e.Pianta() ? 1 + Fino(6) : 0);
+      e.Numero = static_cast<std::int16_t>(e.Sezione() ? 1 : 1 + Fino(5));
+      d.Elaborati.push_back(e);
+    }
+    return d;
+  }
+
   DatiSup Sup() {
     DatiSup d;
     for (int n = Fino(11); n > 0; --n) d.Attivita.push_back({"Attività", Fino(100001) / 100000.0});
@@ -78,6 +100,15 @@ class CasoNote : public Caso {
       Classe(l.Classe, l.Categoria);
       l.Importo = Importo();
     }
+    return d;
+  }
+
+  DatiRpa Rpa() {
+    DatiRpa d{Fino(99) / 8.0, Fino(99) / 4.0, 0, Fino(3) * 99999, Fino(99), {}};
+    for (int n = Fino(21); n > 0; --n)
+      d.Terreni.push_back({static_cast<std::int16_t>(1 + Fino(3)),
+                           static_cast<std::int16_t>(1 + Fino(3)),
+                           static_cast<std::int16_t>(1 + Fino(2)), (1 + Fino(999)) / 99.0});
     return d;
   }
 

@@ -1,0 +1,60 @@
+// The fee of estimates: for each good the percentage of Table F, which the person gives.
+#include "cases/pes/data.h"
+#include "cases/pes/pes.h"
+#include "tariff/money.h"
+#include "tariff/parcella.h"
+
+namespace orm {
+namespace {
+
+class NotaPes : public Parcella {
+ public:
+  NotaPes(Parcella parcella, const DatiPes& dati) : Parcella(std::move(parcella)), d(dati) {}
+
+  void StampaSpecifica();
+  void CalcolaCompensi();
+  void CalcolaOnorari();
+
+ private:
+  const DatiPes& d;
+};
+
+void NotaPes::StampaSpecifica() {
+  uscita.Line(kRigaImporti);
+  for (const BenePes& bene : d.Beni) {
+    uscita.Line(Numero() + " " + bene.Descrizione);
+    StampaLavori(5, " - Valore stimato ", bene.Valore);
+  }
+}
+
+void NotaPes::CalcolaCompensi() {
+  double somma = 0;
+  for (const BenePes& bene : d.Beni) somma += bene.Valore;
+  CompensiAccessori(ImportoInLire(somma));
+}
+
+void NotaPes::CalcolaOnorari() {
+  uscita.Line(kRigaOnorariCompensi);
+  progressivo = 0;
+  for (const BenePes& bene : d.Beni) {
+    double P = bene.PercentualeTabellaF;
+    const std::string percentuale = FormattaNumero(P, 5);
+    StampaVoce(bene.Descrizione,
+               percentuale + "% x " + TestoImporto(bene.Valore) + StringaCoefficiente + " =",
+               bene.Valore * P / 100 * Coefficiente);
+  }
+}
+
+}  // namespace
+
+Parcella CalcoloPes(Parcella parcella, const DatiPes& dati) {
+  NotaPes nota(std::move(parcella), dati);
+  nota.ApriParcella("per le prestazioni di perizia estimativa relative a :");
+  nota.StampaSpecifica();
+  nota.CalcolaCompensi();
+  nota.CalcolaOnorari();
+  nota.ChiudiConCompensi();
+  return nota;
+}
+
+}  // namespace orm
