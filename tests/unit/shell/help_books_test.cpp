@@ -17,14 +17,6 @@ const HelpBook& Manual(const std::vector<HelpBook>& books) {
   return *std::ranges::find(books, kManuale, &HelpBook::file);
 }
 
-void Leaves(const std::vector<MenuItem>& menu, std::vector<std::string>& names) {
-  for (const MenuItem& item : menu)
-    if (!item.children.empty())
-      Leaves(item.children, names);
-    else if (!item.IsSeparator())
-      names.push_back(item.name);
-}
-
 TEST(HelpBooks, PagesAreReadWithTheirHeadings) {
   const HelpPage page =
       ReadHelpPage("manuale/x.md",
@@ -52,8 +44,7 @@ TEST(HelpBooks, EveryBookHasPagesAndTheManualIsInOrder) {
 
 TEST(HelpBooks, EveryCommandThatIsThereHasOnePage) {
   const auto books = HelpBooks();
-  std::vector<std::string> commands;
-  Leaves(BuildMenu(), commands);
+  std::vector<std::string> commands = CommandsOf(BuildMenu());
   for (const std::string& missing : CommandsNotYet(BuildMenu())) std::erase(commands, missing);
   for (const std::string& command : commands)
     EXPECT_EQ(std::ranges::count_if(Manual(books).pages,
