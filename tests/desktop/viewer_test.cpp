@@ -20,11 +20,11 @@
 #include "desktop/export/zip.h"
 #include "desktop/find_bar.h"
 #include "desktop/italian_captions.h"
-#include "desktop/viewer/viewer_file.h"
-#include "desktop/viewer/viewer_messages.h"
-#include "desktop/viewer/viewer_notice.h"
-#include "desktop/viewer/viewer_page.h"
-#include "desktop/viewer/viewer_window.h"
+#include "desktop/viewer/file.h"
+#include "desktop/viewer/messages.h"
+#include "desktop/viewer/notice.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -415,6 +415,7 @@ TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
 TEST(ViewerItalian, OwnCaptionsReplaceThoseOfTheToolkit) {
   const ItalianCaptions captions;
   EXPECT_EQ(captions.translate("QPlatformTheme", "Cancel", nullptr, -1), "Annulla");
+  EXPECT_EQ(captions.translate("QPrintPropertiesWidget", "Advanced", nullptr, -1), "Avanzate");
   EXPECT_TRUE(captions.translate("QPlatformTheme", "unknown", nullptr, -1).isNull());
 }
 
