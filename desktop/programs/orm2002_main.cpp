@@ -7,6 +7,7 @@
 #include "desktop/screen.h"
 #include "runtime/folder.h"
 #include "shell/shell.h"
+#include "tariff/message_boxes.h"
 
 int main(int argc, char** argv) {
   orm::TellFileSizeErrors();
@@ -23,10 +24,9 @@ int main(int argc, char** argv) {
   orm::DesktopPlayer player(folder.Path());
   const orm::FolderLock lock(folder);
   if (!lock.Held()) {
-    player.Ask({"  ATTENZIONE !! ",
-                "ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
-                "CHIUDERE PRIMA L'ALTRO PROGRAMMA",
-                orm::MessageBox::Icon::Exclamation, orm::MessageBox::Buttons::Ok});
+    player.Ask(
+        orm::Avviso("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
+                    "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
     return 1;
   }
   orm::Shell shell(player, folder);
