@@ -1,5 +1,7 @@
 #include "shell/dispatch.h"
 
+#include <optional>
+
 #include "cases/fee_case.h"
 #include "runtime/failure.h"
 #include "shell/personal/form_criteria.h"
@@ -19,14 +21,11 @@ std::string SetFileNames(RunState& stato) {
 }
 
 // The message of the first file that a calculation lacks, if any.
-const MessageBox* MissingFile(const RunState& stato) {
-  static const MessageBox kUtente = AvvisoFileUtenteAssente();
-  static const MessageBox kIntestazione = AvvisoFileIntestazioneAssente();
-  static const MessageBox kDati = AvvisoFileDatiAssente();
-  if (!stato.folder.Exists(kFileUtente)) return &kUtente;
-  if (!stato.folder.Exists(stato.FileInt)) return &kIntestazione;
-  if (!stato.folder.Exists(stato.FileInp)) return &kDati;
-  return nullptr;
+std::optional<MessageBox> MissingFile(const RunState& stato) {
+  if (!stato.folder.Exists(kFileUtente)) return AvvisoFileUtenteAssente();
+  if (!stato.folder.Exists(stato.FileInt)) return AvvisoFileIntestazioneAssente();
+  if (!stato.folder.Exists(stato.FileInp)) return AvvisoFileDatiAssente();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -50,7 +49,7 @@ bool CalcoloParcella(RunState& stato) {
     stato.player.Ask(ProceduraNonDisponibile());
     return false;
   }
-  if (const MessageBox* missing = MissingFile(stato)) {
+  if (const auto missing = MissingFile(stato)) {
     stato.player.Ask(*missing);
     return false;
   }

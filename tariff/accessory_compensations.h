@@ -8,6 +8,8 @@
 
 namespace orm {
 
+inline constexpr const char* kFileCompensi = "CAC.CFG";
+
 // Percentage by the steps of CAC.CFG, which the user keeps: a count (1 to 30) and a note, then for
 // each step an amount in Lire, a percentage and a note. Between two steps it is interpolated,
 // beyond either end it stays; an amount of 0 gives 0. A file that is absent, short, has another

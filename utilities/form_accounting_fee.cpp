@@ -4,7 +4,6 @@
 #include <array>
 #include <initializer_list>
 
-#include "tariff/forms/amount_limits.h"
 #include "tariff/law/accounting_fee.h"
 #include "tariff/law/tariff_tables.h"
 
@@ -12,47 +11,33 @@ namespace orm {
 namespace {
 
 constexpr std::array kCoefficienti = {1.0, 1.1, 1.2, 1.4, 0.7};
-constexpr int kPeriodi = 6;
-constexpr int kPeriodoProposto = 5;
 
 }  // namespace
 
-void MostraContabilita(RunState& run) {
-  FrmUtiContabilita form(run);
-  run.player.Show(form);
-}
-
-FrmUtiContabilita::FrmUtiContabilita(RunState& run)
+FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
     : Form("frmUTI_CONTABILITA", "ONORARI A VIDEO - CONTABILITÀ LAVORI ( tab. E )"),
-      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kWorksLire),
-      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kWorksEuro) {
-  std::vector<std::string> periodi, coefficienti;
-  for (int periodo = 1; periodo <= kPeriodi; ++periodo)
-    periodi.push_back(NomePeriodoTariffario(periodo));
+      lavori(*this, stato) {
+  std::vector<std::string> coefficienti;
   for (const double coefficiente : kCoefficienti)
     coefficienti.push_back(CoefficienteInStringa(coefficiente));
-  comPeriodo.SetItems(std::move(periodi));
-  comPeriodo.SetIndex(kPeriodoProposto - 1);
   comCoefficiente.SetItems(std::move(coefficienti));
   comCoefficiente.SetIndex(0);
-  valuta.Choose(run.ModoLire ? 0 : 1);
-  ScegliValuta();
 
-  optValuta1.onChange = optValuta2.onChange = [this] { ScegliValuta(); };
-  for (Control* dato :
-       std::initializer_list<Control*>{&ciImporto, &cdImporto, &comPeriodo, &comCoefficiente})
+  lavori.optValuta1.onChange = lavori.optValuta2.onChange = [this] { ScegliValuta(); };
+  for (Control* dato : std::initializer_list<Control*>{&lavori.ciImporto, &lavori.cdImporto,
+                                                       &lavori.comPeriodo, &comCoefficiente})
     dato->onChange = [this] { SvuotaRisultati(); };
   cmdCALCOLA.onPress = [this] { Calcola(); };
   cmdESCI.onPress = [this] { Close(); };
-  SetFirstFocus(run.ModoLire ? static_cast<Control&>(ciImporto) : cdImporto);
-  SetContent(Column({Group(fraValuta, {Row({optValuta1, optValuta2})}),
-                     Fields({ciImporto, cdImporto, comPeriodo, comCoefficiente}),
-                     Fields({Text1, Text2}), Buttons({cmdESCI, cmdCALCOLA})}));
+  SetFirstFocus(lavori.Lire() ? static_cast<Control&>(lavori.ciImporto) : lavori.cdImporto);
+  SetContent(
+      Column({Group(lavori.fraValuta, {Row({lavori.optValuta1, lavori.optValuta2})}),
+              Fields({lavori.ciImporto, lavori.cdImporto, lavori.comPeriodo, comCoefficiente}),
+              Fields({Text1, Text2}), Buttons({cmdESCI, cmdCALCOLA})}));
 }
 
 void FrmUtiContabilita::ScegliValuta() {
-  ciImporto.SetVisible(optValuta1.Value());
-  cdImporto.SetVisible(!optValuta1.Value());
+  lavori.MostraImporto();
   SvuotaRisultati();
 }
 
@@ -62,11 +47,10 @@ void FrmUtiContabilita::SvuotaRisultati() {
 }
 
 void FrmUtiContabilita::Calcola() {
-  const bool lire = optValuta1.Value();
-  const double importo = lire ? ciImporto.Value() : cdImporto.Value();
-  const RigaContabilita riga{comPeriodo.Index() + 1,
+  const bool lire = lavori.Lire();
+  const RigaContabilita riga{lavori.Periodo(),
                              kCoefficienti[static_cast<std::size_t>(comCoefficiente.Index())],
-                             importo};
+                             lavori.Importo()};
   const OnorarioContabilita esito = CalcoloOnorarioContabilita({riga}, lire);
   std::string testo;
   for (const FasciaContabilita& fascia : esito.fasce)

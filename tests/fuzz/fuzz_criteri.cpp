@@ -12,9 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       [&] {
         LeggiCriteri(stato);
         fuzz::Values values;
-        CampiCriteri(values, stato.criteri);
+        Campi(values, stato.criteri);
         return values;
       },
-      [&] { ScriviCriteri(stato); });
+      [&] { ScriviCriteri(stato.folder, stato.criteri); });
   return 0;
 }

@@ -12,9 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       [&] {
         LeggiEditor(stato);
         fuzz::Values values;
-        CampiEditors(values, stato.editors);
+        Campi(values, stato.editors);
         return values;
       },
-      [&] { ScriviEditor(stato); });
+      [&] { ScriviEditor(stato.folder, stato.editors); });
   return 0;
 }

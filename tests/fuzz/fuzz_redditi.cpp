@@ -7,7 +7,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const fuzz::FuzzFolder place;
   FileRedditi dati;
   fuzz::CheckFile(
-      place, std::string(kFileRedditi), fuzz::Text(data, size),
+      place, kFileRedditi, fuzz::Text(data, size),
       [&] {
         dati = LeggiRedditi(place.Folder());
         fuzz::Values values;

@@ -183,15 +183,6 @@ TEST(Laws, NothingDependsOnTheLocale) {
 
 // ---------------------------------------------------------------- nothing without a script
 
-void Leaves(const std::vector<MenuItem>& menu, Names& names) {
-  for (const MenuItem& item : menu) {
-    if (!item.children.empty())
-      Leaves(item.children, names);
-    else if (!item.IsSeparator())
-      names.insert(item.name);
-  }
-}
-
 // The files that the commands which are there read and write.
 Names DataFiles() {
   Names files;
@@ -242,19 +233,20 @@ bool IsTold(const std::string& text, const Names& told) {
 
 Names NotCovered() {
   const std::string scripts = AllScripts();
-  Names missing, commands, forms;
+  const std::vector<std::string> all = CommandsOf(BuildMenu());
+  Names missing, commands(all.begin(), all.end()), forms;
   const auto miss = [&](const std::string& kind, const Names& wanted, const Names& there) {
     for (const std::string& name : wanted)
       if (!there.contains(name)) missing.insert(kind + " " + name);
   };
-  Leaves(BuildMenu(), commands);
   for (const std::string& name : CommandsNotYet(BuildMenu())) commands.erase(name);
   miss("command", commands, Found(scripts, "(?:^|\\n)menu (\\w+)"));
+  // Only the names of forms have this shape; every one that a script meets must be among them.
   for (const std::string& file : LogicSources())
-    for (const std::string& name :
-         Found(kRoot.Read(file), "\\b(?:Form|FrmCarichi|FormRiprendibile)\\(\\s*\"(frm\\w+)\""))
-      forms.insert(name);
-  miss("form", forms, Found(scripts, "(?:^|\\n)dialog (\\w+)"));
+    forms.merge(Found(kRoot.Read(file), "\"(frm[A-Z]+_\\w+)\""));
+  const Names met = Found(scripts, "(?:^|\\n)dialog (\\w+)");
+  miss("form", forms, met);
+  miss("form without a name of its own", met, forms);
   miss("file", DataFiles(), Found(scripts, "(?:^|\\n)compare ([\\w.]+)"));
   Names told;
   for (const std::string& line : Found(scripts, "(?:^|\\n)(?:message|failure) ([^\\n]*)"))

