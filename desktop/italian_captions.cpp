@@ -38,7 +38,7 @@ ItalianCaptions::ItalianCaptions(QObject* parent) : QTranslator(parent) {
 
 QString ItalianCaptions::translate(const char* context, const char* source,
                                    const char* disambiguation, int number) const {
-  const QString known = QTranslator::translate(context, source, disambiguation, number);
+  QString known = QTranslator::translate(context, source, disambiguation, number);
   if (!known.isNull()) return known;
   const auto* found =
       std::find_if(kCaptions.begin(), kCaptions.end(),

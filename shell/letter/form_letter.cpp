@@ -76,7 +76,7 @@ void FrmGenLettera::Conferma() {
   dati.DocumentiAllegati = Text1.Text();
   TryAndStay(stato_.player, [&] {
     ScriviLettera(stato_.folder, dati);
-    Close();
+    Esci(Uscita::Conferma);
   });
 }
 
