@@ -12,7 +12,6 @@ void BatchPlayer::Show(Form& form) {
 }
 
 Answer BatchPlayer::Ask(const MessageBox& box) {
-  (box.title == kFailureTitle ? failed_ : told_) = true;
   const std::string text = box.text + "\n";
   // Nobody to tell when standard error is closed.
   if (::write(STDERR_FILENO, text.data(), text.size()) < 0) return Answer::Cancel;

@@ -19,15 +19,8 @@ class BatchPlayer : public Player {
   ScreenSize Screen() override { return {}; }
   Date Today() override { return today_; }
 
-  // The kind of the last message: whether a command ended by itself or in a run-time failure.
-  bool Failed() const { return failed_; }
-  bool Told() const { return told_; }
-  void Forget() { failed_ = told_ = false; }
-
  private:
   Date today_;
-  bool failed_ = false;
-  bool told_ = false;
 };
 
 }  // namespace orm

@@ -73,7 +73,6 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
 
 int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
               bool lire) {
-  player.Forget();
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
   try {

@@ -1,4 +1,5 @@
-// The captions of Qt's own dialogs and menus in Italian, whatever language packages are installed.
+// The captions of Qt's own dialogs and menus in Italian, whatever language packages are installed:
+// Qt's translation is within the program.
 #pragma once
 
 #include <QTranslator>
@@ -7,10 +8,9 @@ namespace orm {
 
 class ItalianCaptions : public QTranslator {
  public:
-  using QTranslator::QTranslator;
+  explicit ItalianCaptions(QObject* parent = nullptr);
   QString translate(const char* context, const char* source, const char* disambiguation,
                     int number) const override;
-  bool isEmpty() const override { return false; }
 };
 
 }  // namespace orm

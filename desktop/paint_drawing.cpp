@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <cmath>
 
 #include "desktop/qt_text.h"
 
@@ -27,7 +28,7 @@ QPen PenOf(const DrawOperation& op) {
 
 void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& corner) {
   QFont font = painter.font();
-  font.setPixelSize(std::max(1, static_cast<int>(op.fontSize * kPixelsPerPoint + 0.5)));
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(op.fontSize * kPixelsPerPoint))));
   font.setBold(op.bold);
   painter.setFont(font);
   painter.drawText(corner + QPointF(0, QFontMetricsF(font).ascent()), ToQt(op.text));

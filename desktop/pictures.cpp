@@ -5,7 +5,7 @@
 #include <QPainterPath>
 
 // The pictures lie in a static library, from which only what is called for is linked.
-static void LoadPictures() { Q_INIT_RESOURCE(pictures); }
+static void LoadPictures() { Q_INIT_RESOURCE(resources); }
 
 namespace orm {
 

@@ -38,6 +38,12 @@ Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons) {
   return {Layout::Kind::Buttons, nullptr, std::move(parts)};
 }
 
+std::vector<Control*> ControlsOf(const Layout& layout) {
+  std::vector<Control*> controls;
+  CollectControls(layout, controls);
+  return controls;
+}
+
 Form::Form(std::string name, std::string title)
     : name_(std::move(name)), title_(std::move(title)), content_(Column({})) {}
 
@@ -56,8 +62,7 @@ void Form::SetContent(Layout content) {
   content_ = std::move(content);
   AdoptInto(nullptr, content_);
   // Members are built in an order of their own; a person goes through the form as it is laid out.
-  std::vector<Control*> reading;
-  CollectControls(content_, reading);
+  const std::vector<Control*> reading = ControlsOf(content_);
   const auto place = [&reading](const Control* control) {
     return std::find(reading.begin(), reading.end(), control) - reading.begin();
   };

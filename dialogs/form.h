@@ -7,7 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "dialogs/control.h"
+#include "dialogs/choices.h"
+#include "dialogs/entries.h"
+#include "dialogs/fittings.h"
+#include "dialogs/pickers.h"
 
 namespace orm {
 
@@ -37,6 +40,9 @@ Layout Group(Frame& frame, std::vector<Layout> parts);
 // stands behind it; of an option or check box as label, and what belongs to it.
 Layout Fields(std::vector<Layout> lines);
 Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons);
+
+// The controls of a layout, frames too, in the order in which a person reads them.
+std::vector<Control*> ControlsOf(const Layout& layout);
 
 // What a form tells the player that shows it.
 class FormView {

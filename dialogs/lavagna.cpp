@@ -145,8 +145,6 @@ void Lavagna::DrawText(double x, double y, std::string text) {
   Add(std::move(operation));
 }
 
-std::string Lavagna::Enter(std::string_view) { return "Non è un campo da riempire."; }
-
 std::string Lavagna::AsText() const {
   std::string out = "scale " + Shown(left_) + " " + Shown(bottom_) + " " + Shown(right_) + " " +
                     Shown(top_) + "\nbackground " + Shown(background_) + "\n";

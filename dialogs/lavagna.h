@@ -68,7 +68,6 @@ class Lavagna : public Control {
 
   bool TakesFocus() const override { return false; }
   std::string ShownText() const override { return AsText(); }
-  std::string Enter(std::string_view) override;
 
  private:
   DrawOperation Pen(DrawOperation::Kind kind) const;

@@ -18,6 +18,9 @@ struct MenuItem {
 // The top entry whose tree holds the command, or nullptr.
 const MenuItem* TopOf(const std::vector<MenuItem>& menu, std::string_view commandName);
 
+// The commands of a menu with all its submenus, in their order.
+std::vector<std::string> CommandsOf(const std::vector<MenuItem>& menu);
+
 class MainWindow {
  public:
   virtual ~MainWindow() = default;

@@ -11,9 +11,11 @@ inline MessageBox Avviso(std::string testo) {
   return {kAttenzione, std::move(testo), MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok};
 }
 
-inline MessageBox ProceduraNonDisponibile() {
-  return {"ORM2002", "PROCEDURA NON ANCORA DISPONIBILE", MessageBox::Icon::Information,
-          MessageBox::Buttons::Ok};
+inline MessageBox AvvisoFileUtenteAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA     \n"
+      "OPZIONE DEL MENÚ PERSONALIZZAZIONE            ");
 }
 
 }  // namespace orm

@@ -119,4 +119,20 @@ class DataWriter {
   bool lineStarts_ = true;
 };
 
+// A whole file of one record by its Campi. What the file does not have fields for is refused.
+template <class Dati>
+Dati LeggiFile(const WorkFolder& folder, const std::string& name, Dati dati = {}) {
+  DataReader file(folder, name);
+  Campi(file, dati);
+  file.ExpectEnd();
+  return dati;
+}
+
+template <class Dati>
+void ScriviFile(const WorkFolder& folder, std::string_view name, Dati dati) {
+  DataWriter file;
+  Campi(file, dati);
+  file.Replace(folder, name);
+}
+
 }  // namespace orm

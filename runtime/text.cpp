@@ -157,10 +157,4 @@ std::string ToWindows1252(std::string_view s) {
 
 bool FitsWindows1252(char32_t c) { return ByteOf(c) >= 0; }
 
-bool FitsWindows1252(std::string_view s) {
-  for (std::size_t i = 0; i < s.size();)
-    if (ByteOf(NextCharacter(s, i)) < 0) return false;
-  return true;
-}
-
 }  // namespace orm

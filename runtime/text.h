@@ -32,8 +32,7 @@ std::string FromWindows1252(std::string_view bytes);
 // Text to bytes of a file. A character that Windows-1252 lacks is a RuntimeFailure.
 std::string ToWindows1252(std::string_view utf8);
 
-// True when every character of the text can be stored: an entry control takes no other.
-bool FitsWindows1252(std::string_view utf8);
+// True when the character can be stored: an entry control takes no other.
 bool FitsWindows1252(char32_t character);
 
 // Decodes the character that starts at `position` and moves `position` behind it; U+FFFD for a

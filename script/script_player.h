@@ -2,13 +2,13 @@
 #pragma once
 
 #include <deque>
-#include <map>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "script/script_files.h"
 #include "script/stage.h"
 #include "script/statement.h"
 
@@ -38,30 +38,22 @@ class ScriptPlayer : public Actor {
 
  private:
   void Fail(int line, std::string text);
+  void Require(const Statement& statement, std::string objection);  // fails unless it is empty
   const Statement* Next() const;  // the statement to come, nullptr at the end
   int Line() const;               // of the statement to come or the last one
 
   void PlayOutside(Stage& stage, MainWindow& window);
   void ChooseCommand(const Statement& statement, Stage& stage, MainWindow& window);
   void PlayInForm(const Statement& statement, Form& form, FormHand& hand);
-  Control* Find(const Statement& statement, Form& form);
-  void Set(const Statement& statement, Form& form, FormHand& hand);
-  void Press(const Statement& statement, Form& form, FormHand& hand);
-  void Expect(const Statement& statement, Form& form, FormHand& hand);
-  void Show(const Statement& statement, Form& form, FormHand& hand);
   // Statements that may stand anywhere; false when this is none of them.
   bool PlayAnywhere(const Statement& statement);
   void Starts(const Statement& statement);
-  void Compare(const Statement& statement, const std::string& name, const std::string& actual,
-               const std::string& expectedName);
-  void Same(const Statement& statement);
-  void Snapshot();
 
   Stage* stage_ = nullptr;  // while the script plays
   MainWindow* window_ = nullptr;
   std::vector<Statement> script_;
   std::size_t at_ = 0;
-  WorkFolder scriptFolder_, folder_;
+  ScriptFiles files_;
   ScriptOptions options_;
   Date today_{2002, 3, 15};
   ScreenSize screen_;
@@ -69,7 +61,6 @@ class ScriptPlayer : public Actor {
   int shownAfterMismatch_ = 0;
   bool settled_ = false;  // the settings have been read after the files were prepared
   std::deque<std::pair<std::string, std::string>> started_;
-  std::map<std::string, std::string> snapshot_;
 };
 
 }  // namespace orm

@@ -169,4 +169,16 @@ std::vector<Statement> ParseScript(std::string_view text) {
   return script;
 }
 
+bool Matches(const std::string& expected, const std::string& actual) {
+  static const std::string kRest = "…";
+  if (!expected.ends_with(kRest)) return expected == actual;
+  return actual.starts_with(expected.substr(0, expected.size() - kRest.size()));
+}
+
+std::string Quoted(const std::string& text) {
+  std::string out = "\"";
+  for (const char c : text) out += c == '\n' ? std::string("\\n") : std::string(1, c);
+  return out + "\"";
+}
+
 }  // namespace orm

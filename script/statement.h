@@ -32,4 +32,9 @@ struct Mismatch {
 // many.
 std::vector<Statement> ParseScript(std::string_view text);
 
+// Whether a text is the expected one, which may end in "…" to tell a beginning.
+bool Matches(const std::string& expected, const std::string& actual);
+
+std::string Quoted(const std::string& text);  // as a script writes it
+
 }  // namespace orm

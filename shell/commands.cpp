@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "cases/cos/config.h"
 #include "cases/fee_case.h"
+#include "cases/geo/config.h"
+#include "cases/inc/config.h"
 #include "shell/dispatch.h"
 #include "shell/form_conversion.h"
 #include "shell/form_title.h"
@@ -22,6 +25,7 @@
 #include "structures/steel_beams/form_cantilever.h"
 #include "structures/steel_beams/form_slab.h"
 #include "structures/truss_slab/form_truss_slab.h"
+#include "tariff/config/compensation_steps.h"
 #include "utilities/form_accounting_fee.h"
 #include "utilities/form_calculator.h"
 #include "utilities/form_interest.h"
@@ -42,13 +46,10 @@ void Show(RunState& stato) {
   stato.player.Show(form);
 }
 
-template <const char* File>
+template <const char* const& File>
 void EditConfiguration(RunState& stato) {
   stato.player.StartProgram(stato.editors.EditorConfigurazione, File);
 }
-
-constexpr char kCac[] = "CAC.CFG", kTus[] = "TUS.CFG", kCs1[] = "CS1.CFG", kCs2[] = "CS2.CFG",
-               kInc[] = "INC.CFG", kGeo[] = "GEO.CFG";
 
 void ShowCriteria(RunState& stato) {
   stato.CasoDiParcella.clear();
@@ -63,12 +64,12 @@ void ShowInformation(RunState& stato) {
 constexpr std::array kCommands = {
     Command{"CONF_EDITOR", Show<FrmPerEditor>},
     Command{"CONF_NOTA", [](RunState& stato) { stato.player.Ask(AvvisoNotaConfigurazione()); }},
-    Command{"CONFIG_COMPACCES", EditConfiguration<kCac>},
-    Command{"CONFIG_TUS", EditConfiguration<kTus>},
-    Command{"CONFIG_CS1", EditConfiguration<kCs1>},
-    Command{"CONFIG_CS2", EditConfiguration<kCs2>},
-    Command{"CONFIG_INC", EditConfiguration<kInc>},
-    Command{"CONFIG_GEO", EditConfiguration<kGeo>},
+    Command{"CONFIG_COMPACCES", EditConfiguration<kFileCompensi>},
+    Command{"CONFIG_TUS", EditConfiguration<kFileTus>},
+    Command{"CONFIG_CS1", EditConfiguration<kFileCs1>},
+    Command{"CONFIG_CS2", EditConfiguration<kFileCs2>},
+    Command{"CONFIG_INC", EditConfiguration<kFileInc>},
+    Command{"CONFIG_GEO", EditConfiguration<kFileGeo>},
     Command{"PERS_UTENTE", Show<FrmPerUtente>},
     Command{"PERS_CRITERI", ShowCriteria},
     Command{"PERS_EDITMEMO", EditaMemo},
@@ -76,10 +77,10 @@ constexpr std::array kCommands = {
     Command{"UTIL_LETTERA_VS", VisualizzaLettera},
     Command{"UTIL_CONVERTI", Show<FrmGenConversione>},
     Command{"UTIL_MORA", MostraInteressiMora},
-    Command{"UTIL_PERC_COMBO", MostraPercentuali},
-    Command{"UTIL_OV_CL_COMBO", MostraContabilita},
-    Command{"UTIL_CALCOLATRICE", MostraCalcolatrice},
-    Command{"INAR_PENSIONE_INARCASSA", MostraPensioneInarcassa},
+    Command{"UTIL_PERC_COMBO", Show<FrmUtiPercentuali>},
+    Command{"UTIL_OV_CL_COMBO", Show<FrmUtiContabilita>},
+    Command{"UTIL_CALCOLATRICE", Show<FrmUtiCalcolatrice>},
+    Command{"INAR_PENSIONE_INARCASSA", Show<FrmInaInPensione>},
     Command{"INFORMA_Avvertenze", MostraAvvertenze},
     Command{"INFORMA_Note", MostraMemo},
     Command{"INFORMA_Norme", MostraNorme},
@@ -108,9 +109,6 @@ struct CaseCommand {
   bool isInput = false;
   bool isEuro = false;
   bool Acts() const { return !isEuro || fee->actsInEuroMenu; }
-  bool IsThere() const {
-    return (isInput ? fee->input != nullptr : fee->calcolo != nullptr) || !Acts();
-  }
 };
 
 CaseCommand FindCaseCommand(std::string_view name) {
@@ -125,31 +123,12 @@ CaseCommand FindCaseCommand(std::string_view name) {
   return {};
 }
 
-void CollectLeaves(const std::vector<MenuItem>& menu, std::vector<std::string>& names) {
-  for (const MenuItem& item : menu) {
-    if (!item.children.empty())
-      CollectLeaves(item.children, names);
-    else if (!item.IsSeparator())
-      names.push_back(item.name);
-  }
-}
-
-bool IsThere(const std::string& name) {
-  if (name == "File_Esci" || FindCommand(name) != nullptr) return true;
-  const CaseCommand command = FindCaseCommand(name);
-  return command.fee != nullptr && command.IsThere();
-}
-
 }  // namespace
 
 void RunCommand(RunState& stato, std::string_view name) {
   if (const Command* command = FindCommand(name)) return command->run(stato);
   const CaseCommand command = FindCaseCommand(name);
-  if (command.fee == nullptr) {
-    stato.player.Ask(ProceduraNonDisponibile());
-    return;
-  }
-  if (!command.Acts()) return;
+  if (command.fee == nullptr || !command.Acts()) return;
   stato.CasoDiParcella = command.fee->code;
   if (command.isInput)
     InputDatiParcella(stato);
@@ -157,11 +136,9 @@ void RunCommand(RunState& stato, std::string_view name) {
     CalcoloParcella(stato);
 }
 
-std::vector<std::string> CommandsNotYet(const std::vector<MenuItem>& menu) {
-  std::vector<std::string> names;
-  CollectLeaves(menu, names);
-  std::erase_if(names, IsThere);
-  return names;
+bool IsCommand(std::string_view name) {
+  return name == "File_Esci" || FindCommand(name) != nullptr ||
+         FindCaseCommand(name).fee != nullptr;
 }
 
 }  // namespace orm

@@ -1,5 +1,7 @@
 #include "shell/dispatch.h"
 
+#include <optional>
+
 #include "cases/fee_case.h"
 #include "dialogs/message_boxes.h"
 #include "shell/personal/form_criteria.h"
@@ -19,14 +21,11 @@ std::string SetFileNames(RunState& stato) {
 }
 
 // The message of the first file that a calculation lacks, if any.
-const MessageBox* MissingFile(const RunState& stato) {
-  static const MessageBox kUtente = AvvisoFileUtenteAssente();
-  static const MessageBox kIntestazione = AvvisoFileIntestazioneAssente();
-  static const MessageBox kDati = AvvisoFileDatiAssente();
-  if (!stato.folder.Exists(kFileUtente)) return &kUtente;
-  if (!stato.folder.Exists(stato.FileInt)) return &kIntestazione;
-  if (!stato.folder.Exists(stato.FileInp)) return &kDati;
-  return nullptr;
+std::optional<MessageBox> MissingFile(const RunState& stato) {
+  if (!stato.folder.Exists(kFileUtente)) return AvvisoFileUtenteAssente();
+  if (!stato.folder.Exists(stato.FileInt)) return AvvisoFileIntestazioneAssente();
+  if (!stato.folder.Exists(stato.FileInp)) return AvvisoFileDatiAssente();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -34,23 +33,14 @@ const MessageBox* MissingFile(const RunState& stato) {
 void InputDatiParcella(RunState& stato) {
   SetFileNames(stato);
   const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
-  if (fee == nullptr || fee->stem == nullptr) return;
-  if (fee->input == nullptr) {
-    stato.player.Ask(ProceduraNonDisponibile());
-    return;
-  }
-  fee->input(stato);
+  if (fee != nullptr && fee->input != nullptr) fee->input(stato);
 }
 
 bool CalcoloParcella(RunState& stato) {
   const std::string report = SetFileNames(stato);
   const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
   if (fee == nullptr) return false;
-  if (fee->calcolo == nullptr) {
-    stato.player.Ask(ProceduraNonDisponibile());
-    return false;
-  }
-  if (const MessageBox* missing = MissingFile(stato)) {
+  if (const auto missing = MissingFile(stato)) {
     stato.player.Ask(*missing);
     return false;
   }

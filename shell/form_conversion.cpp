@@ -1,5 +1,6 @@
 #include "shell/form_conversion.h"
 
+#include <array>
 #include <utility>
 
 #include "cases/fee_case.h"
@@ -31,37 +32,39 @@ constexpr std::array<Voce, 15> kVoci = {{{"AGGIORNAMENTO PREZZI", "AGP"},
                                          {"RILIEVI PLANO-ALTIMETRICI", "RPA"},
                                          {"COLLAUDO AMMINISTRATIVO", "COA"}}};
 
-template <std::size_t... i>
-std::array<Button, sizeof...(i)> MakeButtons(Form& form, std::index_sequence<i...>) {
-  return {{{form, "cmdConverti(" + NumberText(i) + ")", kVoci[i].didascalia}...}};
-}
-
 }  // namespace
 
 FrmGenConversione::FrmGenConversione(RunState& stato)
-    : Form("frmGEN_Conversione", "Conversione file DATI da LIRE ad EURO"),
-      cmdConverti(MakeButtons(*this, std::make_index_sequence<kVoci.size()>())),
-      cmdESCI(*this, "cmdESCI", "ESCI", Button::Role::Close) {
+    : Form("frmGEN_Conversione", "Conversione file DATI da LIRE ad EURO"), stato_(stato) {
   std::vector<Layout> voci;
   for (std::size_t i = 0; i < kVoci.size(); ++i) {
-    voci.emplace_back(cmdConverti[i]);
-    const FeeCase* fee = FindFeeCase(kVoci[i].codice);
+    const char* codice = kVoci[i].codice;
+    const FeeCase* fee = FindFeeCase(codice);
     cmdConverti[i].SetEnabled(fee != nullptr && fee->converti != nullptr &&
-                              stato.folder.Exists(NomiDiCaso(kVoci[i].codice, true).FileInp));
-    cmdConverti[i].onPress = [this, &stato, i] { Convert(stato, i); };
+                              stato.folder.Exists(NomiDiCaso(codice, true).FileInp));
+    cmdConverti[i].onPress = [this, codice] { Converti(codice); };
+    voci.emplace_back(cmdConverti[i]);
   }
   SetContent(Column({Column(std::move(voci)), Buttons({cmdESCI})}));
   cmdESCI.onPress = [this] { Close(); };
 }
 
-void FrmGenConversione::Convert(RunState& stato, std::size_t i) {
-  if (stato.player.Ask({"ATTENZIONE", "I FILE DATI IN EURO VERRANNO SOVRASCRITTI",
-                        MessageBox::Icon::Exclamation, MessageBox::Buttons::OkCancel}) !=
+std::deque<Button> FrmGenConversione::Pulsanti() {
+  std::deque<Button> pulsanti;
+  for (const Voce& voce : kVoci)
+    pulsanti.emplace_back(*this, "cmdConverti(" + NumberText(pulsanti.size()) + ")",
+                          voce.didascalia);
+  return pulsanti;
+}
+
+void FrmGenConversione::Converti(const char* codice) {
+  if (stato_.player.Ask({"ATTENZIONE", "I FILE DATI IN EURO VERRANNO SOVRASCRITTI",
+                         MessageBox::Icon::Exclamation, MessageBox::Buttons::OkCancel}) !=
       Answer::Ok)
     return;
-  FindFeeCase(kVoci[i].codice)->converti(stato.folder, kVoci[i].codice);
-  stato.player.Ask({"MESSAGGIO", "CONVERSIONE ESEGUITA", MessageBox::Icon::Information,
-                    MessageBox::Buttons::Ok});
+  FindFeeCase(codice)->converti(stato_.folder, codice);
+  stato_.player.Ask({"MESSAGGIO", "CONVERSIONE ESEGUITA", MessageBox::Icon::Information,
+                     MessageBox::Buttons::Ok});
 }
 
 }  // namespace orm

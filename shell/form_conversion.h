@@ -1,7 +1,7 @@
 // frmGEN_Conversione: the stored data of a case from Lire to Euro.
 #pragma once
 
-#include <array>
+#include <deque>
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
@@ -13,11 +13,14 @@ class FrmGenConversione : public Form {
   explicit FrmGenConversione(RunState& stato);
 
   // Active where the case has data in Lire and the program knows them.
-  std::array<Button, 15> cmdConverti;
-  Button cmdESCI;
+  std::deque<Button> cmdConverti = Pulsanti();
+  Button cmdESCI{*this, "cmdESCI", "ESCI", Button::Role::Close};
 
  private:
-  void Convert(RunState& stato, std::size_t i);
+  std::deque<Button> Pulsanti();
+  void Converti(const char* codice);
+
+  RunState& stato_;
 };
 
 }  // namespace orm

@@ -10,17 +10,23 @@ class FrmGenPresentazione : public Form {
   FrmGenPresentazione();
   bool ClosesOnAnyKey() const override { return true; }
 
-  Image Image1;
-  Label Label1, Label2, Label3, Label4;
+  Image Image1{*this, "Image1", Image::Subject::Program};
+  Label Label1{*this, "Label1", "PROCEDURA"};
+  Label Label2{*this, "Label2", "ORM", Label::Style::Title};
+  Label Label3{*this, "Label3", "2002", Label::Style::Title};
+  Label Label4{*this, "Label4", "Per iniziare premere un tasto", Label::Style::Note};
 };
 
 class FrmGenInforma : public Form {
  public:
   FrmGenInforma();
 
-  Image Image1;
-  Label Label1, Label2, Label3;
-  Button cmdOK;
+  Image Image1{*this, "Image1", Image::Subject::Program};
+  Label Label1{*this, "Label1", "ORM2002 - Onorari Rilievi Misure", Label::Style::Title};
+  Label Label2{*this, "Label2", " VERSIONE : 3.02.02"};
+  Label Label3{*this, "Label3",
+               "LA BRENTOLI\nProcedura per le parcelle professionali di ingegneri e architetti"};
+  Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};
 };
 
 }  // namespace orm

@@ -11,6 +11,7 @@
 #include "shell/personal/settings.h"
 #include "shell/shell_boxes.h"
 #include "tariff/files/user_files.h"
+#include "utilities/pension_file.h"
 
 namespace orm {
 
@@ -38,7 +39,7 @@ bool Shell::Load() {
   }
   ReadSettings();
   Guard([this] {
-    if (!stato_.folder.Exists(kFileRedditi)) ScriviRedditiIniziali(stato_.folder);
+    if (!stato_.folder.Exists(kFileRedditi)) ScriviRedditi(stato_.folder, RedditiIniziali());
   });
   Guard([this] {
     if (!stato_.folder.Exists(kFileUtente)) ScriviUtentePredefinito(stato_.folder);

@@ -18,13 +18,6 @@ MessageBox AvvisoNotaConfigurazione() {
           MessageBox::Icon::Information, MessageBox::Buttons::Ok};
 }
 
-MessageBox AvvisoFileUtenteAssente() {
-  return Avviso(
-      "NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA\n"
-      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA     \n"
-      "OPZIONE DEL MENÚ PERSONALIZZAZIONE            ");
-}
-
 MessageBox AvvisoFileIntestazioneAssente() {
   return Avviso(
       "NON ESISTE IL FILE DEI DATI DI INTESTAZIONE DELLA PARCELLA\n"
@@ -37,13 +30,6 @@ MessageBox AvvisoFileDatiAssente() {
       "NON ESISTE IL FILE DEI DATI DELLA PARCELLA\n"
       "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA     \n"
       "OPZIONE DEL MENÚ PARCELLE                                 ");
-}
-
-MessageBox AvvisoFileLetteraAssente() {
-  return Avviso(
-      "NON ESISTE IL FILE DEI DATI RELATIVO ALLA LETTERA DI TRASMISSIONE\n"
-      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA                        \n"
-      "OPZIONE DEL MENÚ UTILITÁ                                         ");
 }
 
 }  // namespace orm

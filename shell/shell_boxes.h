@@ -7,9 +7,7 @@ namespace orm {
 
 MessageBox AvvisoRisoluzione();
 MessageBox AvvisoNotaConfigurazione();
-MessageBox AvvisoFileUtenteAssente();
 MessageBox AvvisoFileIntestazioneAssente();
 MessageBox AvvisoFileDatiAssente();
-MessageBox AvvisoFileLetteraAssente();
 
 }  // namespace orm

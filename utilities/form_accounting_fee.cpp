@@ -6,9 +6,7 @@
 #include <initializer_list>
 
 #include "tariff/accounting_block.h"
-#include "tariff/forms/amount_box.h"
 #include "tariff/law/table_e.h"
-#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {
@@ -25,42 +23,30 @@ constexpr auto kCoefficienti = [] {
 
 }  // namespace
 
-void MostraContabilita(RunState& run) {
-  FrmUtiContabilita form(run);
-  run.player.Show(form);
-}
-
-FrmUtiContabilita::FrmUtiContabilita(RunState& run)
+FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
     : Form("frmUTI_CONTABILITA", "ONORARI A VIDEO - CONTABILITÀ LAVORI ( tab. E )"),
-      ciImporto(*this, "ciImporto", "IMPORTO DEI LAVORI", kLavori.lire),
-      cdImporto(*this, "cdImporto", "IMPORTO DEI LAVORI", kLavori.euro) {
-  std::vector<std::string> periodi, coefficienti;
-  for (int periodo = 1; periodo <= kPeriodo2001; ++periodo)
-    periodi.push_back(NomePeriodoTariffario(periodo));
+      lavori(*this, stato) {
+  std::vector<std::string> coefficienti;
   for (const double coefficiente : kCoefficienti)
     coefficienti.push_back(CoefficienteInStringa(coefficiente));
-  comPeriodo.SetItems(std::move(periodi));
-  comPeriodo.SetIndex(kPeriodo1987 - 1);
   comCoefficiente.SetItems(std::move(coefficienti));
   comCoefficiente.SetIndex(0);
-  valuta.Choose(run.ModoLire ? 0 : 1);
-  ScegliValuta();
 
-  optValuta1.onChange = optValuta2.onChange = [this] { ScegliValuta(); };
-  for (Control* dato :
-       std::initializer_list<Control*>{&ciImporto, &cdImporto, &comPeriodo, &comCoefficiente})
+  lavori.optValuta1.onChange = lavori.optValuta2.onChange = [this] { ScegliValuta(); };
+  for (Control* dato : std::initializer_list<Control*>{&lavori.ciImporto, &lavori.cdImporto,
+                                                       &lavori.comPeriodo, &comCoefficiente})
     dato->onChange = [this] { SvuotaRisultati(); };
   cmdCALCOLA.onPress = [this] { Calcola(); };
   cmdESCI.onPress = [this] { Close(); };
-  SetFirstFocus(run.ModoLire ? static_cast<Control&>(ciImporto) : cdImporto);
-  SetContent(Column({Group(fraValuta, {Row({optValuta1, optValuta2})}),
-                     Fields({ciImporto, cdImporto, comPeriodo, comCoefficiente}),
-                     Fields({Text1, Text2}), Buttons({cmdESCI, cmdCALCOLA})}));
+  SetFirstFocus(lavori.Lire() ? static_cast<Control&>(lavori.ciImporto) : lavori.cdImporto);
+  SetContent(
+      Column({Group(lavori.fraValuta, {Row({lavori.optValuta1, lavori.optValuta2})}),
+              Fields({lavori.ciImporto, lavori.cdImporto, lavori.comPeriodo, comCoefficiente}),
+              Fields({Text1, Text2}), Buttons({cmdESCI, cmdCALCOLA})}));
 }
 
 void FrmUtiContabilita::ScegliValuta() {
-  ciImporto.SetVisible(optValuta1.Value());
-  cdImporto.SetVisible(!optValuta1.Value());
+  lavori.MostraImporto();
   SvuotaRisultati();
 }
 
@@ -70,11 +56,10 @@ void FrmUtiContabilita::SvuotaRisultati() {
 }
 
 void FrmUtiContabilita::Calcola() {
-  const bool lire = optValuta1.Value();
-  const double importo = lire ? ciImporto.Value() : cdImporto.Value();
-  const RigaContabilita riga{comPeriodo.Index() + 1,
+  const bool lire = lavori.Lire();
+  const RigaContabilita riga{lavori.Periodo(),
                              kCoefficienti[static_cast<std::size_t>(comCoefficiente.Index())],
-                             importo};
+                             lavori.Importo()};
   const OnorarioContabilita esito = CalcoloOnorarioContabilita({riga}, lire);
   std::string testo;
   for (const FasciaContabilita& fascia : esito.fasce)

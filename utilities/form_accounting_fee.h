@@ -3,20 +3,15 @@
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
+#include "utilities/works_questions.h"
 
 namespace orm {
 
 class FrmUtiContabilita : public Form {
  public:
-  explicit FrmUtiContabilita(RunState& run);
+  explicit FrmUtiContabilita(RunState& stato);
 
-  Frame fraValuta{*this, "fraValuta", "Valuta"};
-  OptionGroup valuta;
-  OptionButton optValuta1{*this, "optValuta1", "Lire", valuta};
-  OptionButton optValuta2{*this, "optValuta2", "Euro", valuta};
-  InterBox ciImporto;
-  FloatBox cdImporto;
-  ComboBox comPeriodo{*this, "comPeriodo", "TARIFFA"};
+  DomandeLavori lavori;
   ComboBox comCoefficiente{*this, "comCoefficiente", "COEFFICIENTE"};
   TestoBox Text1{*this,
                  "Text1",
@@ -31,7 +26,5 @@ class FrmUtiContabilita : public Form {
   void Calcola();
   void SvuotaRisultati();
 };
-
-void MostraContabilita(RunState& run);
 
 }  // namespace orm

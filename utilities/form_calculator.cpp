@@ -3,28 +3,11 @@
 
 #include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
-#include "tariff/forms/amount_box.h"
 
 namespace orm {
-namespace {
 
-constexpr double kMassimo = 999999999999999.0;
-
-}  // namespace
-
-void MostraCalcolatrice(RunState& run) {
-  FrmUtiCalcolatrice form(run);
-  run.player.Show(form);
-}
-
-FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& run)
-    : Form("frmUTI_CALCOLATRICE", "CALCOLATRICE - CONVERTITORE"),
-      cdNumero(*this, "cdNumero", "Numero", {.least = -kMassimo, .most = kMassimo, .decimals = 10}),
-      ciLire(*this, "ciLire", "Lire", kLavori.lire),
-      cdEuro(*this, "cdEuro", "Euro", kLavori.euro),
-      Text1(*this, "Text1", "Nastro",
-            {.longest = 100000, .lines = 10, .readOnly = true, .width = 40, .columns = true}),
-      run_(run) {
+FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& stato)
+    : Form("frmUTI_CALCOLATRICE", "CALCOLATRICE - CONVERTITORE"), stato_(stato) {
   cmdPiu.onPress = [this] { Premi('+'); };
   cmdMeno.onPress = [this] { Premi('-'); };
   cmdPer.onPress = [this] { Premi('x'); };
@@ -61,7 +44,7 @@ void FrmUtiCalcolatrice::Premi(char operazione) {
     cdNumero.SetValue(calcolatrice_.Premi(cdNumero.Value(), operazione));
     MostraNastro();
   } catch (const RuntimeFailure& rifiuto) {
-    run_.player.Ask(Avviso(rifiuto.Reason()));
+    stato_.player.Ask(Avviso(rifiuto.Reason()));
   }
   MoveFocus(cdNumero);
 }

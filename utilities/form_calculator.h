@@ -3,16 +3,18 @@
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
+#include "tariff/forms/amount_box.h"
 #include "utilities/calculator.h"
 
 namespace orm {
 
 class FrmUtiCalcolatrice : public Form {
  public:
-  explicit FrmUtiCalcolatrice(RunState& run);
+  explicit FrmUtiCalcolatrice(RunState& stato);
 
   Frame fraCalcolatrice{*this, "fraCalcolatrice", "CALCOLATRICE"};
-  FloatBox cdNumero;
+  FloatBox cdNumero{
+      *this, "cdNumero", "Numero", {.least = -kMassimo, .most = kMassimo, .decimals = 10}};
   Button cmdPiu{*this, "cmdPiu", "+"};
   Button cmdMeno{*this, "cmdMeno", "-"};
   Button cmdPer{*this, "cmdPer", "x"};
@@ -20,22 +22,26 @@ class FrmUtiCalcolatrice : public Form {
   Button cmdUguale{*this, "cmdUguale", "=", Button::Role::Default};
   Button cmdAzzera{*this, "cmdAzzera", "&C"};
   Frame fraConvertitore{*this, "fraConvertitore", "CONVERTITORE  (1 Euro = 1936,27 Lire)"};
-  InterBox ciLire;
+  InterBox ciLire{*this, "ciLire", "Lire", kLavori.lire};
   Button cmdInEuro{*this, "cmdInEuro", "Lire in &Euro"};
-  FloatBox cdEuro;
+  FloatBox cdEuro{*this, "cdEuro", "Euro", kLavori.euro};
   Button cmdInLire{*this, "cmdInLire", "Euro in &Lire"};
-  TestoBox Text1;  // the tape, to be read and copied
+  // The tape, to be read and copied.
+  TestoBox Text1{*this,
+                 "Text1",
+                 "Nastro",
+                 {.longest = 100000, .lines = 10, .readOnly = true, .width = 40, .columns = true}};
   Button cmdNastro{*this, "cmdNastro", "&Nastro nuovo"};
   Button cmdESCI{*this, "cmdESCI", "E&SCI", Button::Role::Close};
 
  private:
+  static constexpr double kMassimo = 999999999999999.0;
+
   void Premi(char operazione);
   void MostraNastro();
 
-  RunState& run_;
+  RunState& stato_;
   Calcolatrice calcolatrice_;
 };
-
-void MostraCalcolatrice(RunState& run);
 
 }  // namespace orm

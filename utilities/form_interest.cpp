@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/numbers.h"
 #include "utilities/interest.h"
 
@@ -16,27 +17,27 @@ Date Dopo(const Date& data, long giorni) { return DateOfDay(DayNumber(data) + gi
 
 }  // namespace
 
-void MostraInteressiMora(RunState& run) {
-  FrmUtiIntereMora form(run, LeggiTabellaTus(run.folder, run.player.Today()));
-  run.player.Show(form);
+void MostraInteressiMora(RunState& stato) {
+  FrmUtiIntereMora form(stato, LeggiTabellaTus(stato.folder, stato.player.Today()));
+  stato.player.Show(form);
 }
 
-FrmUtiIntereMora::FrmUtiIntereMora(RunState& run, TabellaTus tabella)
+FrmUtiIntereMora::FrmUtiIntereMora(RunState& stato, TabellaTus tabella)
     : Form("frmUTI_INTEREMORA", " INTERESSI DI MORA PER RITARDATO PAGAMENTO PARCELLA"),
       DTPicker1(*this, "DTPicker1", "DATA INIZIO MORA", tabella.front().InizioPeriodo,
                 kUltimoGiorno),
       DTPicker2(*this, "DTPicker2", "DATA FINE MORA", Dopo(tabella.front().InizioPeriodo, 1),
                 kUltimoGiorno),
-      run_(run),
+      stato_(stato),
       tabella_(std::move(tabella)) {
   Option1.SetValue(true);
-  DTPicker1.SetValue(Dopo(run_.player.Today(), -kGiorniProposti));
-  DTPicker2.SetValue(run_.player.Today());
+  DTPicker1.SetValue(Dopo(stato_.player.Today(), -kGiorniProposti));
+  DTPicker2.SetValue(stato_.player.Today());
 
   for (Control* dato :
        std::initializer_list<Control*>{&casellainteri1, &DTPicker1, &DTPicker2, &Option1, &Option2})
     dato->onChange = [this] { SvuotaRisultati(); };
-  Command1.onPress = [this] { TryAndStay(run_.player, [this] { Calcola(); }); };
+  Command1.onPress = [this] { TryAndStay(stato_.player, [this] { Calcola(); }); };
   Command2.onPress = [this] { Close(); };
 
   SetContent(Column({Fields({casellainteri1, DTPicker1, DTPicker2}),
@@ -50,8 +51,8 @@ void FrmUtiIntereMora::SvuotaRisultati() {
 
 void FrmUtiIntereMora::Calcola() {
   if (DTPicker1.Value() > DTPicker2.Value()) {
-    run_.player.Ask({"  ATTENZIONE !! ", "DATA NON ACCETTABILE : \nsuperiore a quella di fine mora",
-                     MessageBox::Icon::Critical});
+    stato_.player.Ask({kAttenzione, "DATA NON ACCETTABILE : \nsuperiore a quella di fine mora",
+                       MessageBox::Icon::Critical});
     MoveFocus(DTPicker1);
     return;
   }

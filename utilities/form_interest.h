@@ -8,11 +8,11 @@
 namespace orm {
 
 // Reads the table of rates, then shows the dialog; nothing is saved.
-void MostraInteressiMora(RunState& run);
+void MostraInteressiMora(RunState& stato);
 
 class FrmUtiIntereMora : public Form {
  public:
-  FrmUtiIntereMora(RunState& run, TabellaTus tabella);
+  FrmUtiIntereMora(RunState& stato, TabellaTus tabella);
 
   InterBox casellainteri1{*this, "casellainteri1", "ONORARIO"};
   DatePicker DTPicker1;
@@ -34,7 +34,7 @@ class FrmUtiIntereMora : public Form {
   void Calcola();
   void SvuotaRisultati();
 
-  RunState& run_;
+  RunState& stato_;
   TabellaTus tabella_;
 };
 

@@ -3,15 +3,11 @@
 
 #include <string>
 
+#include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 
 namespace orm {
-
-void MostraPensioneInarcassa(RunState& run) {
-  FrmInaInPensione form(run);
-  run.player.Show(form);
-}
 
 void FrmInaInPensione::Righe() {
   for (int i = 0; i < kAnniReddito; ++i) {
@@ -22,8 +18,9 @@ void FrmInaInPensione::Righe() {
   }
 }
 
-FrmInaInPensione::FrmInaInPensione(RunState& run)
-    : Form("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001"), run_(run) {
+FrmInaInPensione::FrmInaInPensione(RunState& stato)
+    : Form("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001"),
+      stato_(stato) {
   lblPensioneMinima.SetStyle(Label::Style::Warning);
   lblPensioneMinima.SetVisible(false);
   ciPensioneAnnuale.SetReadOnly(true);
@@ -35,7 +32,7 @@ FrmInaInPensione::FrmInaInPensione(RunState& run)
     if (Option2.Value()) Archiviato();
   };
   cmdCALCOLOPENSIONE.onPress = [this] { CalcolaPensione(); };
-  cmdARCHIVIA.onPress = [this] { TryAndStay(run_.player, [this] { Archivia(); }); };
+  cmdARCHIVIA.onPress = [this] { TryAndStay(stato_.player, [this] { Archivia(); }); };
   Righe();
   SetContent(Disposizione());
 }
@@ -75,12 +72,12 @@ void FrmInaInPensione::Nuovo() {
 void FrmInaInPensione::Archiviato() {
   FileRedditi dati{testata_, {}};
   try {
-    if (run_.folder.Exists(kFileRedditi)) dati = LeggiRedditi(run_.folder);
+    if (stato_.folder.Exists(kFileRedditi)) dati = LeggiRedditi(stato_.folder);
   } catch (const RuntimeFailure& failure) {
     torna_ = true;
     Option1.SetValue(true);
     torna_ = false;
-    run_.player.Ask(FailureBox(failure));
+    stato_.player.Ask(FailureBox(failure));
     return;
   }
   SvuotaRisultato();
@@ -90,7 +87,7 @@ void FrmInaInPensione::Archiviato() {
 
 // The file gets its first line as held: empty as long as no file has been read.
 void FrmInaInPensione::Archivia() {
-  ScriviRedditi(run_.folder, {testata_, Redditi()});
+  ScriviRedditi(stato_.folder, {testata_, Redditi()});
   if (Option2.Value())
     Archiviato();
   else
@@ -101,9 +98,9 @@ void FrmInaInPensione::CalcolaPensione() {
   SvuotaRisultato();
   const int Anni = static_cast<int>(ciAnni.Value());
   if (Anni <= 0) {
-    run_.player.Ask({"  ATTENZIONE !! ",
-                     "L'ANZIANITÁ NON È BEN DEFINITA\n\nIL CALCOLO NON SARÁ ESEGUITO",
-                     MessageBox::Icon::Information});
+    stato_.player.Ask({kAttenzione,
+                       "L'ANZIANITÁ NON È BEN DEFINITA\n\nIL CALCOLO NON SARÁ ESEGUITO",
+                       MessageBox::Icon::Information});
     return;
   }
   PensioneDelReddito(RedditoMedio(Redditi(), Anni), Anni, static_cast<int>(ciGiorni.Value()),

@@ -10,11 +10,9 @@
 
 namespace orm {
 
-void MostraPensioneInarcassa(RunState& run);
-
 class FrmInaInPensione : public Form {
  public:
-  explicit FrmInaInPensione(RunState& run);
+  explicit FrmInaInPensione(RunState& stato);
 
   Frame fraCaso{*this, "fraCaso", "CASO"};
   OptionGroup caso;
@@ -46,7 +44,7 @@ class FrmInaInPensione : public Form {
   RedditiAnnui Redditi() const;
   void MostraRedditi(const RedditiAnnui& redditi);
 
-  RunState& run_;
+  RunState& stato_;
   TestataRedditi testata_;  // as read, empty until a file has been read
   double Pensione_ = 0;     // of the last calculation, also when the minimum is shown
   bool torna_ = false;      // back to a new case whose figures stand: the file could not be read

@@ -4,27 +4,23 @@
 #include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 #include "shell/state/run_state.h"
+#include "utilities/percentage_curve.h"
 #include "utilities/percentages.h"
+#include "utilities/works_questions.h"
 
 namespace orm {
 
 class FrmUtiPercentuali : public Form {
  public:
-  explicit FrmUtiPercentuali(RunState& run);
+  explicit FrmUtiPercentuali(RunState& stato);
 
   ComboBox comClasse{*this, "comClasse", "CLASSE"};
   ComboBox comCategoria{*this, "comCategoria", "CATEGORIA"};
-  ComboBox comPeriodo{*this, "comPeriodo", "TARIFFA"};
-  Frame fraValuta{*this, "fraValuta", "Valuta"};
-  OptionGroup valuta;
-  OptionButton optValuta1{*this, "optValuta1", "Lire", valuta};
-  OptionButton optValuta2{*this, "optValuta2", "Euro", valuta};
-  InterBox ciImporto;
-  FloatBox cdImporto;
+  DomandeLavori lavori;
   TestoBox Text1{*this, "Text1", "Tabella A", {.readOnly = true, .width = 16, .figure = true}};
   TestoBox Text2{*this, "Text2", "Tabella C", {.readOnly = true, .width = 16, .figure = true}};
   TestoBox Text3{*this, "Text3", "D.M. 4-4-2001", {.readOnly = true, .width = 16, .figure = true}};
-  Lavagna picCurva;
+  Lavagna picCurva{*this, "picCurva", kLarghezzaCurva, kAltezzaCurva};
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Default};
 
  private:
@@ -33,9 +29,7 @@ class FrmUtiPercentuali : public Form {
   void Aggiorna();
   Layout Disposizione();
 
-  RunState& run_;
+  RunState& stato_;
 };
-
-void MostraPercentuali(RunState& run);
 
 }  // namespace orm

@@ -18,7 +18,7 @@ Date LeggiData(DataReader& file, const char* field) {
 }  // namespace
 
 TabellaTus LeggiTabellaTus(const WorkFolder& folder, const Date& today) {
-  DataReader file(folder, std::string(kFileTus));
+  DataReader file(folder, kFileTus);
   const int NumeroPeriodi = file.Count("NumeroPeriodi", kPeriodiTus);
   if (NumeroPeriodi == 0) file.Fail("NumeroPeriodi", "La tabella dei tassi non contiene periodi.");
   file.Text("(intestazione)");

@@ -1,7 +1,6 @@
 // TUS.CFG: the official discount rate by periods, kept up to date by the user in a text editor.
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "runtime/dates.h"
@@ -9,7 +8,7 @@
 
 namespace orm {
 
-inline constexpr std::string_view kFileTus = "TUS.CFG";
+inline constexpr const char* kFileTus = "TUS.CFG";
 inline constexpr int kPeriodiTus = 100;  // the most that the table holds
 
 struct PeriodoTus {

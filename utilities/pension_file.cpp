@@ -17,7 +17,7 @@ void Testata(Archive& file, TestataRedditi& t) {
 FileRedditi RedditiIniziali() { return {{"01/01/1940", "01/01/1979", "M", 0}, {}}; }
 
 FileRedditi LeggiRedditi(const WorkFolder& folder) {
-  DataReader file(folder, std::string(kFileRedditi));
+  DataReader file(folder, kFileRedditi);
   FileRedditi dati;
   Testata(file, dati.testata);
   for (double& reddito : dati.redditi) {

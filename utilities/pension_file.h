@@ -3,14 +3,13 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "runtime/folder.h"
 #include "utilities/pension.h"
 
 namespace orm {
 
-inline constexpr std::string_view kFileRedditi = "REDDITI.PER";
+inline constexpr const char* kFileRedditi = "REDDITI.PER";
 
 // The first line is kept as it was read; nothing here uses it.
 struct TestataRedditi {

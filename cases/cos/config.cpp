@@ -10,7 +10,8 @@ namespace {
 // Reads fields and skips the comment behind each.
 class LettoreCos {
  public:
-  LettoreCos(const WorkFolder& folder, const std::string& codice) : file(folder, codice + ".CFG") {}
+  LettoreCos(const WorkFolder& folder, const std::string& codice)
+      : file(folder, codice == "CS1" ? kFileCs1 : kFileCs2) {}
 
   std::string Testo(const char* campo) {
     std::string testo = file.Text(campo);

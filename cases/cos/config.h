@@ -16,6 +16,9 @@
 
 namespace orm {
 
+inline constexpr const char* kFileCs1 = "CS1.CFG";
+inline constexpr const char* kFileCs2 = "CS2.CFG";
+
 struct TestataCos {
   std::array<std::string, kPeriodiCos> NomePeriodo;
   std::array<std::string, kVariazioniCos> NomeVariazione;

@@ -12,7 +12,7 @@ constexpr std::size_t kPerRiga = 3;
 
 class LettoreGeo {
  public:
-  explicit LettoreGeo(const WorkFolder& folder) : file(folder, "GEO.CFG") {}
+  explicit LettoreGeo(const WorkFolder& folder) : file(folder, kFileGeo) {}
 
   void LeggiTestata(TabelleGeo& tabelle) {
     for (std::string& nome : tabelle.NomePeriodo) {

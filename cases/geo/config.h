@@ -14,6 +14,7 @@
 
 namespace orm {
 
+inline constexpr const char* kFileGeo = "GEO.CFG";
 inline constexpr std::size_t kPeriodiGeo = 5;
 inline constexpr std::size_t kSottoclassiGeo = 4;
 

@@ -5,7 +5,7 @@
 namespace orm {
 
 QuoteInc TariffaInc::Quote() const {
-  DataReader file(folder_, "INC.CFG");
+  DataReader file(folder_, kFileInc);
   const auto numero = [&file](const char* campo) {
     const double valore = file.Number(campo);
     if (valore < 0) file.Fail(campo, "Il numero non può essere negativo.");

@@ -8,6 +8,8 @@
 
 namespace orm {
 
+inline constexpr const char* kFileInc = "INC.CFG";
+
 struct QuoteInc {
   double direzione = 0, assistenza = 0, liquidazione = 0;  // of the aliquots g, i and l
   double tabellaC = 0;                                     // of the certificate's percentage

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QToolButton>
 #include <QWidgetAction>
+#include <algorithm>
 
 #include "desktop/controls/entry_view.h"
 #include "desktop/controls/views.h"
@@ -35,10 +36,10 @@ class DateView : public EntryView {
  protected:
   std::string Admit(QString& text, bool inserted) const override {
     if (inserted) text = text.trimmed();
-    for (const QChar c : text)
-      if (!c.isDigit() && !QStringLiteral("/-.").contains(c))
-        return "La data si scrive gg/mm/aaaa.";
-    return text.size() > 10 ? "La data si scrive gg/mm/aaaa." : "";
+    const bool written = std::all_of(text.cbegin(), text.cend(), [](QChar c) {
+      return c.isDigit() || QStringLiteral("/-.").contains(c);
+    });
+    return written && text.size() <= 10 ? "" : DatePicker::Writing();
   }
   Verdict Take(const std::string& text) override {
     return {picker_.Enter(text), text.size() == 10};

@@ -10,6 +10,11 @@
 
 namespace orm {
 
+std::string CopyOf(CopyKind kind, const QString& text, const QString& title) {
+  if (kind == CopyKind::Pdf) return PdfOf(text, title);
+  return kind == CopyKind::Odt ? OdtOf(text) : Utf8Of(text);
+}
+
 std::string PdfOf(const QString& text, const QString& title) {
   QByteArray bytes;
   QBuffer buffer(&bytes);

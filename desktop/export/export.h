@@ -7,6 +7,9 @@
 
 namespace orm {
 
+enum class CopyKind { Pdf, Odt, Utf8 };
+std::string CopyOf(CopyKind kind, const QString& text, const QString& title);
+
 // A4 pages with text that can be selected. Needs a QGuiApplication. `title` names the document.
 std::string PdfOf(const QString& text, const QString& title);
 

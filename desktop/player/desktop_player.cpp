@@ -11,6 +11,7 @@
 #include "desktop/player/message_window.h"
 #include "desktop/player/outside_programs.h"
 #include "desktop/qt_text.h"
+#include "dialogs/message_boxes.h"
 
 namespace orm {
 
@@ -52,8 +53,7 @@ std::optional<std::string> DesktopPlayer::ChooseFile(const FileChoice& choice) {
 void DesktopPlayer::StartProgram(const std::string& program, const std::string& argument) {
   const QStringList arguments = argument.empty() ? QStringList() : QStringList(ToQt(argument));
   if (QProcess::startDetached(ToQt(program), arguments, ToQt(folder_))) return;
-  Ask({"  ATTENZIONE !! ", "NON È STATO POSSIBILE AVVIARE IL PROGRAMMA\n" + program,
-       MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
+  Ask(Avviso("NON È STATO POSSIBILE AVVIARE IL PROGRAMMA\n" + program));
 }
 
 bool DesktopPlayer::ProgramExists(const std::string& path) {

@@ -17,11 +17,6 @@ namespace {
 
 constexpr int kTitleButtons = 120;  // room in the title bar beside the title
 
-void Gather(const Layout& layout, std::vector<Control*>& controls) {
-  if (layout.control != nullptr) controls.push_back(layout.control);
-  for (const Layout& child : layout.children) Gather(child, controls);
-}
-
 // As great as its content wherever the screen lets it; bars appear only beyond that.
 class ContentArea : public QScrollArea {
  public:
@@ -65,7 +60,7 @@ void FormDialog::Arrange() {
   Layout layout = form_.Content();
   if (layout.children.empty())
     for (Control* control : form_.Controls()) layout.children.emplace_back(*control);
-  Gather(layout, reading_);
+  reading_ = ControlsOf(layout);
   // The foot of the form stays in sight when the rest has to be scrolled.
   std::vector<Layout> foot;
   const bool hasFoot = layout.kind == Layout::Kind::Column && !layout.children.empty() &&

@@ -5,6 +5,7 @@
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/screen.h"
+#include "dialogs/message_boxes.h"
 #include "runtime/folder.h"
 #include "shell/shell.h"
 
@@ -23,10 +24,9 @@ int main(int argc, char** argv) {
   orm::DesktopPlayer player(folder.Path());
   const orm::FolderLock lock(folder);
   if (!lock.Held()) {
-    player.Ask({"  ATTENZIONE !! ",
-                "ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
-                "CHIUDERE PRIMA L'ALTRO PROGRAMMA",
-                orm::MessageBox::Icon::Exclamation, orm::MessageBox::Buttons::Ok});
+    player.Ask(
+        orm::Avviso("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
+                    "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
     return 1;
   }
   orm::Shell shell(player, folder);

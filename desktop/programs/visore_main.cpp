@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <cstdio>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,8 @@
 #include "desktop/export/export.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/screen.h"
-#include "desktop/viewer/viewer_messages.h"
-#include "desktop/viewer/viewer_window.h"
+#include "desktop/viewer/messages.h"
+#include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
 #include "shell/memo/form_memo.h"
@@ -29,6 +30,9 @@ constexpr int kDone = 0, kFailed = 1, kWrongUsage = 3;
 constexpr const char* kUsage =
     "Uso: orm2002-visore FILE\n"
     "oppure: orm2002-visore --pdf|--odt|--utf8 COPIA FILE";
+
+const std::map<std::string, CopyKind> kCopies = {
+    {"--pdf", CopyKind::Pdf}, {"--odt", CopyKind::Odt}, {"--utf8", CopyKind::Utf8}};
 
 struct Request {
   std::string copyOption;  // empty: show the file
@@ -46,8 +50,7 @@ Request RequestOf(const std::vector<std::string>& arguments) {
     request.valid = true;
   } else if (arguments.size() == 3) {
     request.copyOption = arguments[0], request.copy = arguments[1], request.file = arguments[2];
-    request.valid = request.copyOption == "--pdf" || request.copyOption == "--odt" ||
-                    request.copyOption == "--utf8";
+    request.valid = kCopies.contains(request.copyOption);
   }
   return request;
 }
@@ -60,11 +63,8 @@ int WriteCopy(const Request& request) {
   try {
     const FilePlace place = FilePlace::Of(request.file);
     const QString text = QString::fromStdString(DecodeText(place.Read()).text);
-    const FilePlace copy = FilePlace::Of(request.copy);
-    if (request.copyOption == "--pdf")
-      copy.Replace(PdfOf(text, QString::fromStdString(place.name)));
-    if (request.copyOption == "--odt") copy.Replace(OdtOf(text));
-    if (request.copyOption == "--utf8") copy.Replace(Utf8Of(text));
+    FilePlace::Of(request.copy)
+        .Replace(CopyOf(kCopies.at(request.copyOption), text, QString::fromStdString(place.name)));
     return kDone;
   } catch (RuntimeFailure& failure) {
     Complain(failure.AtFile(request.file).Text());
@@ -76,8 +76,8 @@ int WriteCopy(const Request& request) {
 int ShowRichText(const std::string& file) {
   const FilePlace place = FilePlace::Of(file);
   DesktopPlayer player(place.folder.Path());
-  RunState run(player, place.folder);
-  FrmGenVisualizzaRtf form(run);
+  RunState stato(player, place.folder);
+  FrmGenVisualizzaRtf form(stato);
   form.NomeFile = place.name;
   form.SetTitle(place.name);
   player.Show(form);

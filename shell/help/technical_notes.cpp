@@ -8,26 +8,26 @@
 namespace orm {
 namespace {
 
-void MostraPdf(RunState& run, const std::string& file) {
-  const std::string& lettore = run.editors.LettorePdf;
+void MostraPdf(RunState& stato, const std::string& file) {
+  const std::string& lettore = stato.editors.LettorePdf;
   if (lettore.empty()) {
-    run.player.Ask(Avviso(
+    stato.player.Ask(Avviso(
         "NON È INDICATO IL PROGRAMMA DI VISUALIZZAZIONE DEI FILE PDF DA UTILIZZARE\n"
         "RICHIAMARE L'APPOSITA OPZIONE - SCELTA DEGLI EDITOR - E INSERIRE I DATI RICHIESTI     "));
     return;
   }
-  if (!run.player.ProgramExists(lettore)) {
-    run.player.Ask(Avviso(
+  if (!stato.player.ProgramExists(lettore)) {
+    stato.player.Ask(Avviso(
         "IL PROGRAMMA DI VISUALIZZAZIONE DEI FILE PDF NON SI TROVA NELLA POSIZIONE INDICATA\n"
         "RICHIAMARE L'APPOSITA OPZIONE - SCELTA DEGLI EDITOR - E INSERIRE I DATI ESATTI     "));
     return;
   }
-  run.player.StartProgram(lettore, file);
+  stato.player.StartProgram(lettore, file);
 }
 
 }  // namespace
 
-void MostraNotaBalconi(RunState& run) { MostraPdf(run, "BALCONI.PDF"); }
-void MostraNotaSolai(RunState& run) { MostraPdf(run, "SOLAIATRALICCIO.PDF"); }
+void MostraNotaBalconi(RunState& stato) { MostraPdf(stato, "BALCONI.PDF"); }
+void MostraNotaSolai(RunState& stato) { MostraPdf(stato, "SOLAIATRALICCIO.PDF"); }
 
 }  // namespace orm

@@ -5,7 +5,7 @@
 
 namespace orm {
 
-void MostraNotaBalconi(RunState& run);
-void MostraNotaSolai(RunState& run);
+void MostraNotaBalconi(RunState& stato);
+void MostraNotaSolai(RunState& stato);
 
 }  // namespace orm

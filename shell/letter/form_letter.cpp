@@ -5,10 +5,10 @@
 
 namespace orm {
 
-FrmGenLettera::FrmGenLettera(RunState& run)
-    : Form("frmGEN_Lettera", "LETTERA di TRASMISSIONE PARCELLA ALL'ORDINE"), run_(run) {
+FrmGenLettera::FrmGenLettera(RunState& stato)
+    : Form("frmGEN_Lettera", "LETTERA di TRASMISSIONE PARCELLA ALL'ORDINE"), stato_(stato) {
   Regole();
-  Mostra(run.folder.Exists(kFileLettera) ? LeggiLettera(run.folder) : DatiLettera());
+  Mostra(stato.folder.Exists(kFileLettera) ? LeggiLettera(stato.folder) : DatiLettera());
   cmdOK.onPress = [this] { Conferma(); };
   SetContent(Disposizione());
 }
@@ -45,9 +45,9 @@ void FrmGenLettera::Mostra(const DatiLettera& dati) {
   cmbRiferimento.SetIndex(dati.RiferimentoParcella == "SI" ? 0 : 1);
   ctNumero.SetText(dati.NumeroPrecedente);
   ctData.SetText(dati.DataPrecedente);
-  stato.Choose(dati.StatoProfessionale == "Libero"    ? 0
-               : dati.StatoProfessionale == "Docente" ? 1
-                                                      : 2);
+  statoProfessionale.Choose(dati.StatoProfessionale == "Libero"    ? 0
+                            : dati.StatoProfessionale == "Docente" ? 1
+                                                                   : 2);
   Text1.SetText(dati.DocumentiAllegati);
 }
 
@@ -74,9 +74,9 @@ void FrmGenLettera::Conferma() {
   dati.TipoLettera = static_cast<std::int16_t>(tipo.Chosen());
   dati.ValutaLettera = optValuta1.Value() ? "LIRE" : "EURO";
   dati.DocumentiAllegati = Text1.Text();
-  TryAndStay(run_.player, [&] {
-    ScriviLettera(run_.folder, dati);
-    Close();
+  TryAndStay(stato_.player, [&] {
+    ScriviLettera(stato_.folder, dati);
+    Esci(Uscita::Conferma);
   });
 }
 

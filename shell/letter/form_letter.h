@@ -13,7 +13,7 @@ namespace orm {
 class FrmGenLettera : public Form {
  public:
   // Shows the values of LETTERA.DAG if it exists. "O.K." writes the file.
-  explicit FrmGenLettera(RunState& run);
+  explicit FrmGenLettera(RunState& stato);
 
   TestoBox ctOrdine{*this, "ctOrdine", "ORDINE di"};
   Frame fraValuta{*this, "fraValuta", "Valuta"};
@@ -28,10 +28,10 @@ class FrmGenLettera : public Form {
   TestoBox ctNumero{*this, "ctNumero", "Numero", {.width = 12}};
   TestoBox ctData{*this, "ctData", "Data", {.width = 12}};
   Frame frmStato{*this, "frmStato", "STATO PROFESSIONALE"};
-  OptionGroup stato;
-  OptionButton Option1{*this, "Option1", "Libero professionista", stato};
-  OptionButton Option2{*this, "Option2", "Docente", stato};
-  OptionButton Option3{*this, "Option3", "Dipendente", stato};
+  OptionGroup statoProfessionale;
+  OptionButton Option1{*this, "Option1", "Libero professionista", statoProfessionale};
+  OptionButton Option2{*this, "Option2", "Docente", statoProfessionale};
+  OptionButton Option3{*this, "Option3", "Dipendente", statoProfessionale};
   TestoBox Text1{
       *this, "Text1", "DOCUMENTAZIONE ALLEGATA", {.longest = 2000, .lines = 4, .width = 60}};
   Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};
@@ -43,7 +43,7 @@ class FrmGenLettera : public Form {
   Layout Disposizione();
   void Conferma();
 
-  RunState& run_;
+  RunState& stato_;
 };
 
 }  // namespace orm

@@ -1,11 +1,11 @@
 // The letter to the Order.
 #include "shell/letter/letter.h"
 
+#include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/report_printer.h"
 #include "runtime/text.h"
-#include "shell/shell_boxes.h"
 #include "tariff/files/user_files.h"
 
 namespace orm {
@@ -60,10 +60,10 @@ void StampaDichiarazioni(ReportPrinter& foglio, const DatiLettera& lettera) {
   }
   foglio.Line(".").Line();
 
-  const std::string stato = lettera.StatoProfessionale == "Libero"    ? "libero professionista"
-                            : lettera.StatoProfessionale == "Docente" ? "docente"
-                                                                      : "dipendente";
-  foglio.Line("Il sottoscritto dichiara di essere " + stato + ".");
+  const std::string professione = lettera.StatoProfessionale == "Libero" ? "libero professionista"
+                                  : lettera.StatoProfessionale == "Docente" ? "docente"
+                                                                            : "dipendente";
+  foglio.Line("Il sottoscritto dichiara di essere " + professione + ".");
 
   if (!lettera.DocumentiAllegati.empty())
     foglio.Line("Allega i seguenti documenti :").Line().Line(lettera.DocumentiAllegati).Line();
@@ -80,6 +80,13 @@ void StampaFirma(ReportPrinter& foglio, const DatiProfessionista& utente, const 
   foglio.Tab(colonna).Line(nome);
 }
 
+MessageBox AvvisoFileLetteraAssente() {
+  return Avviso(
+      "NON ESISTE IL FILE DEI DATI RELATIVO ALLA LETTERA DI TRASMISSIONE\n"
+      "INSERIRE TALI DATI RICHIAMANDO L'APPOSITA                        \n"
+      "OPZIONE DEL MENÚ UTILITÁ                                         ");
+}
+
 MessageBox AvvisoIntestazioneAssente() {
   return {kAttenzione,
           "NON ESISTE IL FILE DATI DI INTESTAZIONE PER LA PARCELLA RICHIESTA\n"
@@ -92,10 +99,7 @@ MessageBox AvvisoIntestazioneAssente() {
 }  // namespace
 
 DatiLettera LeggiLettera(const WorkFolder& folder) {
-  DataReader file(folder, kFileLettera);
-  DatiLettera dati;
-  Campi(file, dati);
-  file.ExpectEnd();
+  DatiLettera dati = LeggiFile<DatiLettera>(folder, kFileLettera);
   if (dati.TipoLettera < 0 || dati.TipoLettera >= static_cast<int>(kTipiLettera.size()))
     throw RuntimeFailure("Il tipo di parcella deve essere fra 0 e 14.")
         .AtFile(kFileLettera)
@@ -103,46 +107,44 @@ DatiLettera LeggiLettera(const WorkFolder& folder) {
   return dati;
 }
 
-void ScriviLettera(const WorkFolder& folder, DatiLettera dati) {
-  DataWriter file;
-  Campi(file, dati);
-  file.Replace(folder, kFileLettera);
+void ScriviLettera(const WorkFolder& folder, const DatiLettera& dati) {
+  ScriviFile(folder, kFileLettera, dati);
 }
 
-void STAMPALETTERA(RunState& run) {
-  const DatiProfessionista utente = LeggiDatiProfessionista(run.folder);
+void STAMPALETTERA(RunState& stato) {
+  const DatiProfessionista utente = LeggiDatiProfessionista(stato.folder);
   ReportPrinter foglio;
   StampaMittente(foglio, utente);
 
-  const DatiLettera lettera = LeggiLettera(run.folder);
+  const DatiLettera lettera = LeggiLettera(stato.folder);
   const std::string intestazione =
       std::string("INT_") + kTipiLettera[static_cast<std::size_t>(lettera.TipoLettera)].codice +
       (lettera.ValutaLettera == "LIRE" ? ".DAP" : "_E.DAP");
-  if (!run.folder.Exists(intestazione)) {
+  if (!stato.folder.Exists(intestazione)) {
     // The letter goes no further, and is opened with its heading only.
-    foglio.Save(run.folder, kFileLetteraStampata);
-    run.player.Ask(AvvisoIntestazioneAssente());
+    foglio.Save(stato.folder, kFileLetteraStampata);
+    stato.player.Ask(AvvisoIntestazioneAssente());
     return;
   }
-  const Intestazione parcella = LeggiIntestazione(run.folder, intestazione);
+  const Intestazione parcella = LeggiIntestazione(stato.folder, intestazione);
   StampaDestinatario(foglio, utente, lettera);
   StampaRichiesta(foglio, utente, parcella);
   StampaDichiarazioni(foglio, lettera);
-  StampaFirma(foglio, utente, run.player.Today());
-  foglio.Save(run.folder, kFileLetteraStampata);
+  StampaFirma(foglio, utente, stato.player.Today());
+  foglio.Save(stato.folder, kFileLetteraStampata);
 }
 
-void VisualizzaLettera(RunState& run) {
-  if (!run.folder.Exists(kFileUtente)) {
-    run.player.Ask(AvvisoFileUtenteAssente());
+void VisualizzaLettera(RunState& stato) {
+  if (!stato.folder.Exists(kFileUtente)) {
+    stato.player.Ask(AvvisoFileUtenteAssente());
     return;
   }
-  if (!run.folder.Exists(kFileLettera)) {
-    run.player.Ask(AvvisoFileLetteraAssente());
+  if (!stato.folder.Exists(kFileLettera)) {
+    stato.player.Ask(AvvisoFileLetteraAssente());
     return;
   }
-  STAMPALETTERA(run);
-  run.player.StartProgram(run.editors.EditorTesti, kFileLetteraStampata);
+  STAMPALETTERA(stato);
+  stato.player.StartProgram(stato.editors.EditorTesti, kFileLetteraStampata);
 }
 
 }  // namespace orm

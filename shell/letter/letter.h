@@ -61,13 +61,13 @@ void Campi(Archive& file, DatiLettera& dati) {
 
 // An index that the table lacks is a RuntimeFailure.
 DatiLettera LeggiLettera(const WorkFolder& folder);
-void ScriviLettera(const WorkFolder& folder, DatiLettera dati);
+void ScriviLettera(const WorkFolder& folder, const DatiLettera& dati);
 
 // Writes OUT_LET.DOC from UTENTE.DAG, LETTERA.DAG and the header of the fee note. Without the
 // header the person is told, and the file holds the heading of the letter alone.
-void STAMPALETTERA(RunState& run);
+void STAMPALETTERA(RunState& stato);
 
 // The command of the menu: checks the two files, writes the letter, opens it in EditorTesti.
-void VisualizzaLettera(RunState& run);
+void VisualizzaLettera(RunState& stato);
 
 }  // namespace orm

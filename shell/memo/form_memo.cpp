@@ -1,31 +1,32 @@
 // The memo.
 #include "shell/memo/form_memo.h"
 
+#include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "shell/memo/rtf.h"
 
 namespace orm {
 
-void MostraMemo(RunState& run) {
-  FrmGenVisualizzaRtf form(run);
+void MostraMemo(RunState& stato) {
+  FrmGenVisualizzaRtf form(stato);
   form.NomeFile = kFileMemo;
-  run.player.Show(form);
+  stato.player.Show(form);
 }
 
-void EditaMemo(RunState& run) { run.player.StartProgram(run.editors.EditorTesti, kFileMemo); }
+void EditaMemo(RunState& stato) { stato.player.StartProgram(stato.editors.EditorTesti, kFileMemo); }
 
-FrmGenVisualizzaRtf::FrmGenVisualizzaRtf(RunState& run)
-    : Form("frmGEN_VisualizzaRTF", "MEMO"), run_(run) {
+FrmGenVisualizzaRtf::FrmGenVisualizzaRtf(RunState& stato)
+    : Form("frmGEN_VisualizzaRTF", "MEMO"), stato_(stato) {
   SetContent(Column({RichTextBox1}));
 }
 
 void FrmGenVisualizzaRtf::OnOpen() {
-  if (!run_.folder.Exists(NomeFile)) {
+  if (!stato_.folder.Exists(NomeFile)) {
     RichTextBox1.SetDocument(PlainDocument("NON ESISTE UN FILE MEMO :\nLO SI PUÓ CREARE ADESSO"));
     return;
   }
-  letto_ = run_.folder.Read(NomeFile);
+  letto_ = stato_.folder.Read(NomeFile);
   try {
     RtfReading lettura = ReadRtf(letto_);
     perdite_ = std::move(lettura.losses);
@@ -37,7 +38,7 @@ void FrmGenVisualizzaRtf::OnOpen() {
 
 std::vector<std::string> FrmGenVisualizzaRtf::Rischi() const {
   std::vector<std::string> rischi = perdite_;
-  if (run_.folder.Exists(NomeFile) && run_.folder.Read(NomeFile) != letto_)
+  if (stato_.folder.Exists(NomeFile) && stato_.folder.Read(NomeFile) != letto_)
     rischi.emplace_back("modifiche fatte nel frattempo da un altro programma");
   return rischi;
 }
@@ -46,13 +47,13 @@ std::vector<std::string> FrmGenVisualizzaRtf::Rischi() const {
 std::string FrmGenVisualizzaRtf::NomeDelPrecedente() const {
   const std::string radice = NomeFile.substr(0, NomeFile.find_last_of('.')) + "_ORIGINALE";
   std::string nome = radice + ".RTF";
-  for (int n = 2; run_.folder.Exists(nome); ++n) nome = radice + NumberText(n) + ".RTF";
+  for (int n = 2; stato_.folder.Exists(nome); ++n) nome = radice + NumberText(n) + ".RTF";
   return nome;
 }
 
 void FrmGenVisualizzaRtf::OnWindowClose() {
   if (!RichTextBox1.Edited()) return Close();
-  TryAndStay(run_.player, [this] {
+  TryAndStay(stato_.player, [this] {
     const std::vector<std::string> rischi = Rischi();
     const Answer risposta = rischi.empty() && !fallito_ ? Answer::Yes : ChiediSeSalvare(rischi);
     if (risposta == Answer::Cancel) return;
@@ -69,14 +70,15 @@ Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& risc
     for (const std::string& rischio : rischi) testo += " - " + rischio + "\n";
     testo += "\nSalvando, il file di prima resta con il nome " + NomeDelPrecedente() + ".\n";
   }
-  return run_.player.Ask({"  ATTENZIONE !! ", testo + "SALVARE LE MODIFICHE ?",
-                          MessageBox::Icon::Exclamation, MessageBox::Buttons::YesNoCancel});
+  return stato_.player.Ask({kAttenzione, testo + "SALVARE LE MODIFICHE ?",
+                            MessageBox::Icon::Exclamation, MessageBox::Buttons::YesNoCancel});
 }
 
 void FrmGenVisualizzaRtf::Salva(bool conservaIlPrecedente) {
   fallito_ = true;
-  if (conservaIlPrecedente) run_.folder.Replace(NomeDelPrecedente(), run_.folder.Read(NomeFile));
-  run_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
+  if (conservaIlPrecedente)
+    stato_.folder.Replace(NomeDelPrecedente(), stato_.folder.Read(NomeFile));
+  stato_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
   fallito_ = false;
 }
 

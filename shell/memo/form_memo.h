@@ -12,13 +12,13 @@ namespace orm {
 
 inline constexpr const char* kFileMemo = "MEMO.RTF";
 
-void MostraMemo(RunState& run);
+void MostraMemo(RunState& stato);
 // Opens the memo in the word processor.
-void EditaMemo(RunState& run);
+void EditaMemo(RunState& stato);
 
 class FrmGenVisualizzaRtf : public Form {
  public:
-  explicit FrmGenVisualizzaRtf(RunState& run);
+  explicit FrmGenVisualizzaRtf(RunState& stato);
 
   std::string NomeFile;  // the file to show
 
@@ -37,7 +37,7 @@ class FrmGenVisualizzaRtf : public Form {
   Answer ChiediSeSalvare(const std::vector<std::string>& rischi) const;
   void Salva(bool conservaIlPrecedente);
 
-  RunState& run_;
+  RunState& stato_;
   std::string letto_;  // the file as it was read
   std::vector<std::string> perdite_;
   bool fallito_ = false;  // the last save; whoever wants to leave all the same is asked

@@ -16,6 +16,7 @@ namespace orm {
 struct RtfReading {
   RichDocument document;
   std::vector<std::string> losses;  // what the model cannot hold, in Italian, each once
+  void Lose(const char* what);      // names a loss
 };
 
 // A text that is not RTF, ends too early or is damaged is a RuntimeFailure. A document with more

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "dialogs/rich_document.h"
+
 namespace orm {
 
 // What is lost, by the word that tells it.
@@ -98,6 +100,20 @@ inline constexpr std::string_view kSkipped[] = {"stylesheet",
                                                 "pntxtb",
                                                 "themedata",
                                                 "private1"};
+
+inline constexpr std::pair<std::string_view, RichSetting::Alignment> kAlignments[] = {
+    {"ql", RichSetting::Alignment::Left},
+    {"qc", RichSetting::Alignment::Centre},
+    {"qr", RichSetting::Alignment::Right},
+    {"qj", RichSetting::Alignment::Justified}};
+
+// Lengths of a paragraph, in twips.
+inline constexpr std::pair<std::string_view, int RichSetting::*> kMeasures[] = {
+    {"fi", &RichSetting::first},
+    {"li", &RichSetting::left},
+    {"ri", &RichSetting::right},
+    {"sb", &RichSetting::before},
+    {"sa", &RichSetting::after}};
 
 inline constexpr std::string_view kPageWords[] = {"paperw", "paperh", "margl", "margr",
                                                   "margt",  "margb",  "deftab"};

@@ -13,10 +13,9 @@ class FrmGenListaFile : public Form {
  public:
   FrmGenListaFile(Player& player, std::string inizio);
 
-  std::string Percorso;  // the chosen path; empty when nothing was chosen
-
-  TestoBox File1;
-  Button cmdCerca, cmdOK;
+  TestoBox File1{*this, "File1", "Nome Programma", {.width = 50}};  // the chosen path
+  Button cmdCerca{*this, "cmdCerca", "&Cerca in..."};
+  Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};
 };
 
 }  // namespace orm

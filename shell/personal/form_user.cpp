@@ -1,6 +1,7 @@
 #include "shell/personal/form_user.h"
 
 #include <array>
+#include <utility>
 
 #include "tariff/files/user_files.h"
 
@@ -31,29 +32,14 @@ constexpr std::array<Entry, 13> kEntries = {{
     {"casellatesto13", "Data di iscrizione", &DatiProfessionista::DataIscrizione, 12},
 }};
 
-std::vector<Layout> Items(std::deque<TestoBox>& boxes) {
-  std::vector<Layout> items;
-  for (TestoBox& box : boxes) items.emplace_back(box);
-  return items;
-}
-
 }  // namespace
 
 FrmPerUtente::FrmPerUtente(RunState& stato)
-    : Form("frmPER_Utente", "UTILIZZATORE DELLA PROCEDURA"),
-      casellatesto([this] {
-        std::deque<TestoBox> boxes;
-        for (const Entry& entry : kEntries)
-          boxes.emplace_back(*this, entry.name, entry.caption,
-                             TextOptions{.longest = 60, .width = entry.width});
-        return boxes;
-      }()),
-      Frame1(*this, "Frame1"),
-      Option1(*this, "Option1", "INGEGNERE", professione),
-      option2(*this, "option2", "ARCHITETTO", professione),
-      Command1(*this, "Command1", "&O.K.", Button::Role::Default) {
-  SetContent(Column({Layout(Layout::Kind::Fields, nullptr, Items(casellatesto)),
-                     Group(Frame1, {Row({Option1, option2})}), Buttons({Command1})}));
+    : Form("frmPER_Utente", "UTILIZZATORE DELLA PROCEDURA") {
+  std::vector<Layout> righe;
+  for (TestoBox& casella : casellatesto) righe.emplace_back(casella);
+  SetContent(Column(
+      {Fields(std::move(righe)), Group(Frame1, {Row({Option1, option2})}), Buttons({Command1})}));
   const DatiProfessionista dati = stato.folder.Exists(kFileUtente)
                                       ? LeggiDatiProfessionista(stato.folder)
                                       : DatiProfessionista();
@@ -61,16 +47,24 @@ FrmPerUtente::FrmPerUtente(RunState& stato)
     casellatesto[i].SetText(dati.*kEntries[i].value);
   // A profession of another first letter counts as Ingegnere.
   professione.Choose(dati.Professione.starts_with('A') ? 1 : 0);
-  Command1.onPress = [this, &stato] {
-    TryAndStay(stato.player, [&] {
-      DatiProfessionista taken;
-      for (std::size_t i = 0; i < kEntries.size(); ++i)
-        taken.*kEntries[i].value = casellatesto[i].Text();
-      taken.Professione = option2.Value() ? "Architetto" : "Ingegnere";
-      ScriviDatiProfessionista(stato.folder, taken);
-      Close();
-    });
-  };
+  Command1.onPress = [this, &stato] { TryAndStay(stato.player, [&] { Conferma(stato.folder); }); };
+}
+
+std::deque<TestoBox> FrmPerUtente::Caselle() {
+  std::deque<TestoBox> caselle;
+  for (const Entry& entry : kEntries)
+    caselle.emplace_back(*this, entry.name, entry.caption,
+                         TextOptions{.longest = 60, .width = entry.width});
+  return caselle;
+}
+
+void FrmPerUtente::Conferma(const WorkFolder& folder) {
+  DatiProfessionista dati;
+  for (std::size_t i = 0; i < kEntries.size(); ++i)
+    dati.*kEntries[i].value = casellatesto[i].Text();
+  dati.Professione = option2.Value() ? "Architetto" : "Ingegnere";
+  ScriviDatiProfessionista(folder, dati);
+  Esci(Uscita::Conferma);
 }
 
 }  // namespace orm

@@ -13,11 +13,16 @@ class FrmPerUtente : public Form {
   // Shows UTENTE.DAG; "O.K." writes it.
   explicit FrmPerUtente(RunState& stato);
 
-  std::deque<TestoBox> casellatesto;  // casellatesto1 to casellatesto13
-  Frame Frame1;
+  std::deque<TestoBox> casellatesto = Caselle();  // casellatesto1 to casellatesto13
+  Frame Frame1{*this, "Frame1"};
   OptionGroup professione;
-  OptionButton Option1, option2;
-  Button Command1;
+  OptionButton Option1{*this, "Option1", "INGEGNERE", professione};
+  OptionButton option2{*this, "option2", "ARCHITETTO", professione};
+  Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
+
+ private:
+  std::deque<TestoBox> Caselle();
+  void Conferma(const WorkFolder& folder);
 };
 
 }  // namespace orm

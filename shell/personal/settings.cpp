@@ -1,44 +1,25 @@
 #include "shell/personal/settings.h"
 
-#include "runtime/data_file.h"
-
 namespace orm {
 
 void LeggiEditor(RunState& stato) {
   const OutsidePrograms programs = stato.player.DefaultPrograms();
-  Editors editors{programs.reports, programs.configuration, programs.pdf};
-  if (stato.folder.Exists(kFileEditor)) {
-    DataReader file(stato.folder, kFileEditor);
-    CampiEditors(file, editors);
-    file.ExpectEnd();
-  }
-  stato.editors = editors;
+  const Editors usuali{programs.reports, programs.configuration, programs.pdf};
+  stato.editors =
+      stato.folder.Exists(kFileEditor) ? LeggiFile(stato.folder, kFileEditor, usuali) : usuali;
 }
 
 void LeggiCriteri(RunState& stato) {
-  Criteri criteri;
-  if (stato.folder.Exists(kFileCriteri)) {
-    DataReader file(stato.folder, kFileCriteri);
-    CampiCriteri(file, criteri);
-    file.ExpectEnd();
-  }
-  stato.criteri = criteri;
+  stato.criteri = stato.folder.Exists(kFileCriteri) ? LeggiFile<Criteri>(stato.folder, kFileCriteri)
+                                                    : Criteri();
 }
 
-void ScriviEditor(const RunState& stato) {
-  DataWriter file;
-  Editors editors = stato.editors;
-  CampiEditors(file, editors);
-  file.Replace(stato.folder, kFileEditor);
+void ScriviEditor(const WorkFolder& folder, const Editors& editors) {
+  ScriviFile(folder, kFileEditor, editors);
 }
 
-void ScriviCriteri(const RunState& stato) {
-  DataWriter file;
-  Criteri criteri = stato.criteri;
-  CampiCriteri(file, criteri);
-  file.Replace(stato.folder, kFileCriteri);
+void ScriviCriteri(const WorkFolder& folder, const Criteri& criteri) {
+  ScriviFile(folder, kFileCriteri, criteri);
 }
-
-void ScriviRedditiIniziali(const WorkFolder& folder) { ScriviRedditi(folder, RedditiIniziali()); }
 
 }  // namespace orm

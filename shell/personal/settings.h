@@ -1,16 +1,14 @@
-// What the program remembers of its user: criteria, outside programs, and the files that a first
-// start lays down.
+// What the program remembers of its user: criteria and outside programs.
 #pragma once
 
 #include "runtime/data_file.h"
 #include "shell/state/run_state.h"
-#include "utilities/pension_file.h"
 
 namespace orm {
 
 // CRITERI.PER, four lines.
 template <class Archive>
-void CampiCriteri(Archive& file, Criteri& c) {
+void Campi(Archive& file, Criteri& c) {
   file.Line(Field("TipoPercentualeCompensi", c.TipoPercentualeCompensi),
             Field("AliquoteDirezioneLavori", c.AliquoteDirezioneLavori),
             Field("ResidenzaCollaudatore", c.ResidenzaCollaudatore),
@@ -31,7 +29,7 @@ void CampiCriteri(Archive& file, Criteri& c) {
 
 // EDITOR.PER, one line.
 template <class Archive>
-void CampiEditors(Archive& file, Editors& e) {
+void Campi(Archive& file, Editors& e) {
   file.Line(Field("EditorTesti", e.EditorTesti),
             Field("EditorConfigurazione", e.EditorConfigurazione),
             Field("LettorePdf", e.LettorePdf));
@@ -44,10 +42,7 @@ inline constexpr const char* kFileEditor = "EDITOR.PER";
 // leaves the values of the run state as they were.
 void LeggiEditor(RunState& stato);
 void LeggiCriteri(RunState& stato);
-void ScriviEditor(const RunState& stato);
-void ScriviCriteri(const RunState& stato);
-
-// The incomes that start-up lays down where there are none.
-void ScriviRedditiIniziali(const WorkFolder& folder);
+void ScriviEditor(const WorkFolder& folder, const Editors& editors);
+void ScriviCriteri(const WorkFolder& folder, const Criteri& criteri);
 
 }  // namespace orm

@@ -10,7 +10,6 @@
 namespace orm {
 namespace {
 
-constexpr const char* kFileCompensi = "CAC.CFG";
 constexpr int kScaglioniMassimi = 30;
 
 struct Scaglione {

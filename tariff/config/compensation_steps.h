@@ -8,6 +8,8 @@
 
 namespace orm {
 
+inline constexpr const char* kFileCompensi = "CAC.CFG";
+
 // The steps of a folder; the file is opened when a percentage is asked for.
 class ScaglioniCompensi {
  public:

@@ -1,33 +1,16 @@
 // The files of the professional's data and of the header of a fee note.
 #include "tariff/files/user_files.h"
 
+#include <utility>
+
 namespace orm {
-namespace {
-
-template <class Dati>
-Dati Leggi(const WorkFolder& folder, const std::string& nomeFile) {
-  DataReader file(folder, nomeFile);
-  Dati dati;
-  Campi(file, dati);
-  file.ExpectEnd();
-  return dati;
-}
-
-template <class Dati>
-void Scrivi(const WorkFolder& folder, const std::string& nomeFile, Dati& dati) {
-  DataWriter file;
-  Campi(file, dati);
-  file.Replace(folder, nomeFile);
-}
-
-}  // namespace
 
 DatiProfessionista LeggiDatiProfessionista(const WorkFolder& folder) {
-  return Leggi<DatiProfessionista>(folder, kFileUtente);
+  return LeggiFile<DatiProfessionista>(folder, kFileUtente);
 }
 
 void ScriviDatiProfessionista(const WorkFolder& folder, DatiProfessionista dati) {
-  Scrivi(folder, kFileUtente, dati);
+  ScriviFile(folder, kFileUtente, std::move(dati));
 }
 
 void ScriviUtentePredefinito(const WorkFolder& folder) {
@@ -42,11 +25,11 @@ void ScriviUtentePredefinito(const WorkFolder& folder) {
 }
 
 Intestazione LeggiIntestazione(const WorkFolder& folder, const std::string& nomeFile) {
-  return Leggi<Intestazione>(folder, nomeFile);
+  return LeggiFile<Intestazione>(folder, nomeFile);
 }
 
 void ScriviIntestazione(const WorkFolder& folder, const std::string& nomeFile, Intestazione dati) {
-  Scrivi(folder, nomeFile, dati);
+  ScriviFile(folder, nomeFile, std::move(dati));
 }
 
 }  // namespace orm

@@ -1,12 +1,8 @@
 // The desktop player as a whole: message boxes, life of a form, menus, texts with looks, drawings.
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QImage>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPainter>
-#include <QTest>
 #include <QTextDocument>
 
 #include "desktop/controls/rich_text_document.h"
@@ -16,7 +12,8 @@
 #include "desktop/player/message_window.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
-#include "tests/desktop/gallery_form.h"
+#include "shell/letter/form_letter.h"
+#include "tests/desktop/test_player.h"
 
 namespace orm {
 namespace {
@@ -44,12 +41,11 @@ TEST(Ask, EnterIsTheFirstButtonAndEscapeTheOneThatChangesNothing) {
 
 class PlainForm : public Form {
  public:
-  explicit PlainForm(bool anyKey = false)
-      : Form("frmSemplice", "  Titolo "), cmdOK(*this, "cmdOK", "&O.K."), anyKey_(anyKey) {
+  explicit PlainForm(bool anyKey = false) : Form("frmSemplice", "  Titolo "), anyKey_(anyKey) {
     SetContent(Column({Buttons({cmdOK})}));
   }
   bool ClosesOnAnyKey() const override { return anyKey_; }
-  Button cmdOK;
+  Button cmdOK{*this, "cmdOK", "&O.K."};
 
  private:
   bool anyKey_;
@@ -109,6 +105,21 @@ TEST(MenuKeys, EachCaptionGetsALetterOfItsOwn) {
       MenuKeys({"FILE", "PARCELLE ( £ )", "PARCELLE ( € )", "A & B", " 1 - UNO", "", "A"});
   EXPECT_EQ(keys, (std::vector<std::string>{"&FILE", "&PARCELLE ( £ )", "P&ARCELLE ( € )",
                                             "A && &B", " &1 - UNO", "", "A"}));
+}
+
+// A frame that comes and goes leaves the window as it was.
+TEST(Show, GrowsAndShrinksWithAFrame) {
+  TestPlayer player;
+  RunState stato(player, WorkFolder("."));
+  FrmGenLettera form(stato);
+  player.onForm = [&](FormDialog& dialog) {
+    const QSize before = dialog.size();
+    form.fraParcella.SetVisible(false);
+    EXPECT_LT(dialog.height(), before.height());
+    form.fraParcella.SetVisible(true);
+    EXPECT_EQ(dialog.size(), before);
+  };
+  player.Show(form);
 }
 
 class SampleWindow : public MainWindow {

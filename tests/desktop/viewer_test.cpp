@@ -1,18 +1,12 @@
 // The report viewer: what it reads comes back byte for byte, a failed save loses nothing, and paper
 // has the columns of the report.
-#include <gtest/gtest.h>
-
 #include <QAction>
-#include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 #include <random>
 
 #include "desktop/export/export.h"
@@ -20,56 +14,17 @@
 #include "desktop/export/zip.h"
 #include "desktop/find_bar.h"
 #include "desktop/italian_captions.h"
-#include "desktop/viewer/viewer_file.h"
-#include "desktop/viewer/viewer_messages.h"
-#include "desktop/viewer/viewer_notice.h"
-#include "desktop/viewer/viewer_page.h"
-#include "desktop/viewer/viewer_window.h"
+#include "desktop/viewer/file.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/window.h"
 #include "runtime/failure.h"
+#include "tests/desktop/test_player.h"
 
 namespace orm {
 namespace {
 
-QApplication& Application() {
-  if (!QApplication::instance()) {
-    static int argc = 1;
-    static char name[] = "orm_desktop_tests";
-    static char* argv[] = {name, nullptr};
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    new QApplication(argc, argv);
-  }
-  return *qApp;
-}
-
-// Presses the button of the next message box, by its caption, and keeps what the box said.
-class Answer {
- public:
-  explicit Answer(const QString& caption) {
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, caption] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (!box) return;
-      timer_.stop();
-      said_ = box->text() + '\n' + box->informativeText();
-      for (QAbstractButton* button : box->buttons())
-        if (button->text().remove('&') == caption) return button->click();
-      ADD_FAILURE() << "no button " << caption.toStdString();
-      box->reject();
-    });
-    timer_.start(10);
-  }
-  QString Said() const { return said_; }
-
- private:
-  QTimer timer_;
-  QString said_;
-};
-
 class ViewerTest : public testing::Test {
  protected:
-  void SetUp() override {
-    Application();
-    ASSERT_TRUE(folder_.isValid());
-  }
   std::string PathOf(const std::string& name) const {
     return folder_.filePath(QString::fromStdString(name)).toStdString();
   }
@@ -180,11 +135,11 @@ TEST_F(ViewerTest, FailedSaveKeepsEditsAndFile) {
   window.Open(PathOf("A.DOC"));
   window.SetEditing(true);
   QTest::keyClicks(&window.Page(), "Nota");
-  Answer answer("Chiudi");
+  Person person("Chiudi");
   EXPECT_FALSE(window.Save());
-  EXPECT_TRUE(answer.Said().contains("Il file non è stato salvato."))
-      << answer.Said().toStdString();
-  EXPECT_TRUE(answer.Said().contains("A.DOC"));
+  EXPECT_TRUE(person.Said().contains("Il file non è stato salvato."))
+      << person.Said().toStdString();
+  EXPECT_TRUE(person.Said().contains("A.DOC"));
   EXPECT_EQ(Read("A.DOC"), kReport);
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_EQ(window.Page().Text().substr(0, 4), "Nota");
@@ -196,9 +151,9 @@ TEST_F(ViewerTest, RefusesToSaveACharacterThatTheFileCannotHold) {
   window.Open(PathOf("A.DOC"));
   window.SetEditing(true);
   window.Page().insertPlainText("→");
-  Answer answer("Annulla");
+  Person person("Annulla");
   EXPECT_FALSE(window.Save());
-  EXPECT_TRUE(answer.Said().contains("«→» della riga 1")) << answer.Said().toStdString();
+  EXPECT_TRUE(person.Said().contains("«→» della riga 1")) << person.Said().toStdString();
   EXPECT_EQ(Read("A.DOC"), kReport);
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_TRUE(window.SaveCopy(CopyKind::Utf8, PathOf("copia.txt")));
@@ -213,16 +168,16 @@ TEST_F(ViewerTest, ClosingWithEditsAsks) {
   window.show();
   QTest::keyClicks(&window.Page(), "x");
   {
-    Answer answer("Annulla");
+    Person person("Annulla");
     EXPECT_FALSE(window.close());
   }
   {
-    Answer answer("Non salvare");
+    Person person("Non salvare");
     EXPECT_TRUE(window.close());
   }
   EXPECT_EQ(Read("A.txt"), "uno\r\n");
   window.show();
-  Answer answer("Salva");
+  Person person("Salva");
   EXPECT_TRUE(window.close());
   EXPECT_EQ(Read("A.txt"), "xuno\r\n");
 }
@@ -258,7 +213,7 @@ TEST_F(ViewerTest, ANewCalculationDoesNotTakeTheEdits) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return notice->isVisible(); }, 3000));
   EXPECT_TRUE(window.Page().Text().starts_with("Nota"));
   {
-    Answer answer("Annulla");  // saving now would overwrite the calculation unasked
+    Person person("Annulla");  // saving now would overwrite the calculation unasked
     EXPECT_FALSE(window.Save());
   }
   EXPECT_EQ(Read("A.DOC"), "Nuovo calcolo\r\n");
@@ -415,6 +370,7 @@ TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
 TEST(ViewerItalian, OwnCaptionsReplaceThoseOfTheToolkit) {
   const ItalianCaptions captions;
   EXPECT_EQ(captions.translate("QPlatformTheme", "Cancel", nullptr, -1), "Annulla");
+  EXPECT_EQ(captions.translate("QPrintPropertiesWidget", "Advanced", nullptr, -1), "Avanzate");
   EXPECT_TRUE(captions.translate("QPlatformTheme", "unknown", nullptr, -1).isNull());
 }
 

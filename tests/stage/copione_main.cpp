@@ -16,18 +16,13 @@ struct Options {
 };
 
 int PlayAll(const Options& options) {
-  int failed = 0;
   std::set<std::string> faults;
   const orm::StageBuilder build =
       options.desktop ? orm::DesktopStage({options.pictures, &faults}) : orm::BuildPlainStage;
-  for (const std::string& script : options.scripts) {
-    const auto mismatch = orm::RunScript(script, build, {options.update, &std::cout});
-    if (!mismatch) continue;
-    ++failed;
-    std::cerr << script << ":" << mismatch->line << ": " << mismatch->text << std::endl;
-  }
+  const int failed =
+      orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;
-  return failed == 0 && faults.empty() ? 0 : 1;
+  return faults.empty() ? failed : 1;
 }
 
 }  // namespace

@@ -5,16 +5,13 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOptionFrame>
-#include <algorithm>
-#include <map>
-#include <set>
 
 #include "desktop/player/form_dialog.h"
 #include "desktop/qt_text.h"
+#include "tests/unit/form_rules.h"
 
 namespace orm {
 namespace {
@@ -27,17 +24,10 @@ QRect PlaceOf(const QWidget& widget, const QWidget& window) {
 }
 
 void LintNames(const FormDialog& dialog, Faults& faults) {
-  std::set<std::string> seen;
   for (const Control* control : dialog.Model().Controls()) {
-    const std::string& name = control->Name();
-    if (name.empty()) faults.push_back("un controllo senza nome");
-    if (!seen.insert(name).second) faults.push_back(name + ": nome doppio");
     const QWidget* field = dialog.ViewOf(*control).Field();
-    const auto& placed = dialog.ReadingOrder();
-    if (std::find(placed.begin(), placed.end(), control) == placed.end())
-      faults.push_back(name + ": non ha posto nella finestra");
     if (control->TakesFocus() && field->isVisible() && field->accessibleName().isEmpty())
-      faults.push_back(name + ": senza etichetta");
+      faults.push_back(control->Name() + ": senza etichetta");
   }
 }
 
@@ -57,20 +47,6 @@ void LintOrder(const FormDialog& dialog, Faults& faults) {
     }
     before = control;
   }
-}
-
-void LintKeys(const FormDialog& dialog, Faults& faults) {
-  std::map<QString, std::string> keys;
-  int defaults = 0;
-  for (const Control* control : dialog.Model().Controls()) {
-    if (control->GetKind() != Control::Kind::Button) continue;
-    defaults += static_cast<const Button*>(control)->GetRole() == Button::Role::Default ? 1 : 0;
-    const QString key = QKeySequence::mnemonic(ToQt(control->Caption())).toString();
-    if (key.isEmpty() || !control->IsShown()) continue;
-    const auto [other, fresh] = keys.emplace(key, control->Name());
-    if (!fresh) faults.push_back(control->Name() + ": stesso tasto di " + other->second);
-  }
-  if (defaults > 1) faults.push_back("più pulsanti predefiniti");
 }
 
 // The least size in which the widget shows its text whole.
@@ -124,10 +100,9 @@ void LintRoom(const FormDialog& dialog, Faults& faults) {
 }  // namespace
 
 std::vector<std::string> LintForm(const FormDialog& dialog) {
-  Faults faults;
+  Faults faults = FormRules::Broken(dialog.Model());
   LintNames(dialog, faults);
   LintOrder(dialog, faults);
-  LintKeys(dialog, faults);
   LintRoom(dialog, faults);
   return faults;
 }

@@ -14,6 +14,8 @@
 namespace orm {
 namespace {
 
+const char* const kNotTaken = "non prende questo valore";
+
 void TypeKeys(QWidget* widget, const QString& text) {
   for (const QChar c : text) {
     const bool line = c == '\n';
@@ -95,7 +97,7 @@ std::string WidgetHand::Set(Control& control, std::string_view text) {
       objection = Slide(static_cast<Slider&>(control), text);
       break;
     default:
-      return "Non è un campo da riempire.";
+      return kNotTaken;
   }
   typed_ = objection.empty() ? &control : nullptr;
   Settle();
@@ -114,7 +116,7 @@ void WidgetHand::GoOn() {
 }
 
 std::string WidgetHand::Type(Control& control, std::string_view text) {
-  if (!control.TakesFocus()) return "Non è un campo da riempire.";
+  if (!control.TakesFocus()) return kNotTaken;
   QWidget* field = WidgetOf(control);
   ControlView& view = dialog_.ViewOf(control);
   const std::string before = view.Shown();
@@ -130,10 +132,8 @@ std::string WidgetHand::Type(Control& control, std::string_view text) {
 
 std::string WidgetHand::Switch(Control& control, std::string_view text) {
   auto* button = dynamic_cast<QAbstractButton*>(WidgetOf(control));
-  if (text != "on" && text != "off") return "Si può solo scegliere (on) o lasciare (off).";
   const bool on = text == "on";
-  if (!on && control.GetKind() == Control::Kind::Option)
-    return "Un'opzione si lascia scegliendone un'altra.";
+  if (!on && (text != "off" || control.GetKind() == Control::Kind::Option)) return kNotTaken;
   if (button->isChecked() != on)
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
   return {};
@@ -141,7 +141,7 @@ std::string WidgetHand::Switch(Control& control, std::string_view text) {
 
 std::string WidgetHand::Pick(ListControl& control, std::string_view text) {
   const int index = PlaceOf(control, text);
-  if (index < 0) return "La lista non ha questa voce.";
+  if (index < 0) return kNotTaken;
   QAbstractItemView* items = nullptr;
   auto* combo = dynamic_cast<QComboBox*>(WidgetOf(control));
   if (combo != nullptr) {

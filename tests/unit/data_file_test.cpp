@@ -117,6 +117,21 @@ TEST(DataWriter, RefusesCharactersThatFilesLack) {
             "Il carattere \"Ω\" non può essere scritto nei file della procedura.\nCampo : OGGETTO");
 }
 
+// The bytes that are no text are refused, every other one is a character and comes back; the
+// control characters that Unicode has in the place of 0x80 to 0x9F are none of them.
+TEST(Windows1252, EveryByteIsACharacterOrRefused) {
+  const std::string lacking = "\x7F\x81\x8D\x8F\x90\x9D";
+  for (int code = 0; code < 256; ++code) {
+    const std::string byte(1, static_cast<char>(code));
+    if (lacking.find(byte) != std::string::npos ||
+        (code < 0x20 && code != '\t' && code != '\n' && code != '\r'))
+      EXPECT_THROW(FromWindows1252(byte), RuntimeFailure) << code;
+    else
+      EXPECT_EQ(ToWindows1252(FromWindows1252(byte)), byte);
+    EXPECT_EQ(FitsWindows1252(static_cast<char32_t>(code)), code < 0x80 || code >= 0xA0) << code;
+  }
+}
+
 // Whatever is written is read back the same, and written again byte for byte.
 TEST(DataFile, RoundTripsRandomFields) {
   std::mt19937 random(143);

@@ -18,8 +18,8 @@ class FormRules {
 
  private:
   explicit FormRules(const Form& form) : form_(form) {
-    Walk(form.Content(), nullptr);
-    if (reading_ != form.Controls())
+    Walk(form.Content());
+    if (ControlsOf(form.Content()) != form.Controls())
       Break(form.Name(), "l'ordine di tabulazione non è quello di lettura, o manca un controllo");
     CheckNames();
     CheckKeys();
@@ -31,12 +31,11 @@ class FormRules {
     broken_.push_back(form_.Name() + "." + name + " : " + why);
   }
 
-  void Walk(const Layout& layout, const Layout* parent) {
-    if (layout.control != nullptr) {
-      reading_.push_back(layout.control);
-      parent_[layout.control] = parent;
+  void Walk(const Layout& layout) {
+    for (const Layout& part : layout.children) {
+      if (part.control != nullptr) around_[part.control] = &layout;
+      Walk(part);
     }
-    for (const Layout& part : layout.children) Walk(part, &layout);
   }
 
   void CheckNames() {
@@ -74,7 +73,7 @@ class FormRules {
     if (!control.Caption().empty()) return true;
     for (const Frame* frame = control.Parent(); frame != nullptr; frame = frame->Parent())
       if (!frame->Caption().empty()) return true;
-    const Layout* around = parent_[&control];
+    const Layout* around = around_[&control];
     if (around == nullptr || around->kind != Layout::Kind::Row) return false;
     return std::any_of(around->children.begin(), around->children.end(), [&](const Layout& part) {
       if (part.control == nullptr || part.control == &control) return false;
@@ -85,8 +84,7 @@ class FormRules {
   }
 
   const Form& form_;
-  std::vector<Control*> reading_;
-  std::map<const Control*, const Layout*> parent_;
+  std::map<const Control*, const Layout*> around_;
   std::vector<std::string> broken_;
 };
 

@@ -42,7 +42,7 @@ TEST(HelpBooks, EveryBookHasPagesAndTheManualIsInOrder) {
 TEST(HelpBooks, PageOfACommand) {
   EXPECT_EQ(HelpFor("PARCELLE_COA_E_VS"), "manuale/coa.md");
   EXPECT_EQ(HelpFor(""), kManuale);
-  EXPECT_EQ(HelpFor("PARCELLE_INC_ID"), kManuale);
+  EXPECT_EQ(HelpFor("UN_ALTRO"), kManuale);
 }
 
 TEST(HelpBooks, EveryLinkAndPictureLeadsSomewhere) {

@@ -1,5 +1,5 @@
 // The sheet on the screen: its place on the table, its letters and its zoom.
-#include "desktop/viewer/viewer_page.h"
+#include "desktop/viewer/page.h"
 
 #include <QKeyEvent>
 #include <QLinearGradient>

@@ -1,5 +1,5 @@
 // Encoding and line ends of a viewed file, and its place on the disk.
-#include "desktop/viewer/viewer_file.h"
+#include "desktop/viewer/file.h"
 
 #include <algorithm>
 #include <filesystem>

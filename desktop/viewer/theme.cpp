@@ -1,5 +1,5 @@
 // The palettes of the two themes; the system's own is left as it was found.
-#include "desktop/viewer/viewer_theme.h"
+#include "desktop/viewer/theme.h"
 
 #include <QApplication>
 #include <QPalette>

@@ -4,10 +4,11 @@
 #include <QMainWindow>
 #include <string>
 
-#include "desktop/viewer/viewer_commands.h"
-#include "desktop/viewer/viewer_file.h"
-#include "desktop/viewer/viewer_theme.h"
-#include "desktop/viewer/viewer_watch.h"
+#include "desktop/viewer/commands.h"
+#include "desktop/viewer/file.h"
+#include "desktop/viewer/file_names.h"
+#include "desktop/viewer/theme.h"
+#include "desktop/viewer/watch.h"
 
 class QLabel;
 class QSettings;
@@ -17,8 +18,6 @@ namespace orm {
 class FindBar;
 class NoticeBar;
 class ViewerPage;
-
-enum class CopyKind { Pdf, Odt, Utf8 };
 
 // A report made by the program, to be read: it opens closed to editing.
 bool IsReport(const std::string& name);
@@ -70,8 +69,7 @@ class ViewerWindow : public QMainWindow {
   void LookAtDisk();
   void ShowState();
   QString Title() const { return QString::fromStdString(place_.name); }
-  QString AskName(const QString& title, const QString& filter, const QString& suffix,
-                  const QString& proposal);
+  QString AskName(const NameQuestion& question);
 
   NoticeBar* notice_;
   ViewerPage* page_;

@@ -1,9 +1,8 @@
 // The window of the report viewer and what it does with its file.
-#include "desktop/viewer/viewer_window.h"
+#include "desktop/viewer/window.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QScreen>
@@ -12,12 +11,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/export/export.h"
 #include "desktop/find_bar.h"
-#include "desktop/viewer/viewer_messages.h"
-#include "desktop/viewer/viewer_notice.h"
-#include "desktop/viewer/viewer_page.h"
-#include "desktop/viewer/viewer_print.h"
+#include "desktop/viewer/messages.h"
+#include "desktop/viewer/notice.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/print.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 
@@ -34,11 +32,6 @@ QLabel* StateLabel(ViewerWindow* window, const char* name) {
   label->setContentsMargins(8, 0, 8, 0);
   window->statusBar()->addPermanentWidget(label);
   return label;
-}
-
-std::string BytesOfCopy(CopyKind kind, const QString& text, const QString& title) {
-  if (kind == CopyKind::Pdf) return PdfOf(text, title);
-  return kind == CopyKind::Odt ? OdtOf(text) : Utf8Of(text);
 }
 
 }  // namespace
@@ -170,7 +163,7 @@ bool ViewerWindow::SaveAs(const std::string& path) {
 
 bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path) {
   try {
-    FilePlace::Of(path).Replace(BytesOfCopy(kind, page_->Visible(), Title()));
+    FilePlace::Of(path).Replace(CopyOf(kind, page_->Visible(), Title()));
   } catch (const RuntimeFailure& failure) {
     Tell(this, QMessageBox::Warning, QStringLiteral("La copia non è stata salvata."),
          QString::fromStdString(failure.Text()));
@@ -181,41 +174,19 @@ bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path) {
   return true;
 }
 
-QString ViewerWindow::AskName(const QString& title, const QString& filter, const QString& suffix,
-                              const QString& proposal) {
-  QFileDialog dialog(this, title, QString::fromStdString(place_.folder.Path()), filter);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(suffix);
-  dialog.selectFile(proposal);
-  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
-  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome del file:"));
-  dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Salva"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  return dialog.selectedFiles().first();
-}
-
 bool ViewerWindow::AskSaveAs() {
   const QString path =
-      AskName(QStringLiteral("Salva con nome"), QStringLiteral("Tutti i file (*)"), {}, Title());
+      AskName({QStringLiteral("Salva con nome"), QStringLiteral("Tutti i file (*)"), {}, Title()});
   return !path.isEmpty() && SaveAs(path.toStdString());
 }
 
 bool ViewerWindow::AskCopy(CopyKind kind) {
-  const QString base = QFileInfo(Title()).completeBaseName();
-  QString path;
-  if (kind == CopyKind::Pdf)
-    path = AskName(QStringLiteral("Esporta PDF"), QStringLiteral("Documento PDF (*.pdf)"),
-                   QStringLiteral("pdf"), base + ".pdf");
-  if (kind == CopyKind::Odt)
-    path =
-        AskName(QStringLiteral("Salva copia ODT"), QStringLiteral("Documento di testo ODT (*.odt)"),
-                QStringLiteral("odt"), base + ".odt");
-  if (kind == CopyKind::Utf8)
-    path = AskName(QStringLiteral("Salva copia UTF-8"), QStringLiteral("Testo (*.txt)"),
-                   QStringLiteral("txt"), base + ".txt");
+  const QString path = AskName(NameOfCopy(kind, Title()));
   return !path.isEmpty() && SaveCopy(kind, path.toStdString());
+}
+
+QString ViewerWindow::AskName(const NameQuestion& question) {
+  return AskFileName(this, QString::fromStdString(place_.folder.Path()), question);
 }
 
 void ViewerWindow::AskReload() {

@@ -1,6 +1,6 @@
 // Watching a file that is replaced, not written in place: the folder is watched as well, because
 // the watch of the file itself goes with its old contents.
-#include "desktop/viewer/viewer_watch.h"
+#include "desktop/viewer/watch.h"
 
 #include <QFileInfo>
 #include <utility>

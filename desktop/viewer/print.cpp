@@ -1,5 +1,5 @@
 // The print dialog and the preview.
-#include "desktop/viewer/viewer_print.h"
+#include "desktop/viewer/print.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -14,7 +14,7 @@
 
 #include "desktop/export/pages.h"
 #include "desktop/icons.h"
-#include "desktop/viewer/viewer_messages.h"
+#include "desktop/viewer/messages.h"
 
 namespace orm {
 namespace {

@@ -1,5 +1,5 @@
 // The notice bar.
-#include "desktop/viewer/viewer_notice.h"
+#include "desktop/viewer/notice.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,5 +1,5 @@
 // Message boxes of the viewer.
-#include "desktop/viewer/viewer_messages.h"
+#include "desktop/viewer/messages.h"
 
 #include <QAbstractButton>
 #include <QPushButton>

@@ -1,5 +1,5 @@
 // Menus, tool bar and keys of the viewer.
-#include "desktop/viewer/viewer_commands.h"
+#include "desktop/viewer/commands.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -10,8 +10,8 @@
 
 #include "desktop/find_bar.h"
 #include "desktop/icons.h"
-#include "desktop/viewer/viewer_page.h"
-#include "desktop/viewer/viewer_window.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/window.h"
 
 namespace orm {
 namespace {

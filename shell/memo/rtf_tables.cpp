@@ -1,0 +1,33 @@
+#include "shell/memo/rtf_tables.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dialogs/rich_document.h"
+
+namespace orm {
+
+std::string RtfTables::FontName(int index) const {
+  const auto font = fonts_.find(index);
+  return font == fonts_.end() || font->second.name.empty() ? RichStyle{}.font : font->second.name;
+}
+
+bool RtfTables::HasOtherLetters(int index) const {
+  const auto font = fonts_.find(index);
+  const int charset = font == fonts_.end() ? 0 : font->second.charset;
+  return charset > 2 && charset != 255;
+}
+
+void RtfTables::SetPrimary(int Colour::*primary, int shade) {
+  if (!colour_) colour_.emplace();
+  *colour_.*primary = std::clamp(shade, 0, 255);
+}
+
+void RtfTables::EndColour() { colours_.push_back(std::exchange(colour_, std::nullopt)); }
+
+std::optional<Colour> RtfTables::ColourAt(int index) const {
+  const auto place = static_cast<std::size_t>(std::max(index, 0));
+  return place < colours_.size() ? colours_[place] : std::nullopt;
+}
+
+}  // namespace orm
