@@ -5,7 +5,7 @@
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 class QTextDocument;
 

@@ -5,7 +5,7 @@
 
 #include "desktop/controls/control_view.h"
 #include "dialogs/lavagna.h"
-#include "dialogs/rich_text.h"
+#include "dialogs/rich_text/rich_text.h"
 
 namespace orm {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "dialogs/form.h"
-#include "dialogs/rich_text.h"
+#include "dialogs/rich_text/rich_text.h"
 #include "shell/state/run_state.h"
 
 namespace orm {

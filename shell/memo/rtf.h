@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 namespace orm {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 #include "shell/memo/rtf.h"
 #include "shell/memo/rtf_tables.h"
 

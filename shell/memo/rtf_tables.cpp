@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 namespace orm {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 namespace orm {
 

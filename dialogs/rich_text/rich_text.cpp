@@ -1,5 +1,5 @@
 // A control for a text with looks.
-#include "dialogs/rich_text.h"
+#include "dialogs/rich_text/rich_text.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/control.h"
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 namespace orm {
 

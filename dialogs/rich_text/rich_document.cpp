@@ -1,5 +1,5 @@
 // A text with looks.
-#include "dialogs/rich_document.h"
+#include "dialogs/rich_text/rich_document.h"
 
 #include <algorithm>
 
