@@ -118,6 +118,20 @@ class Parcella {
   void StampaLavori(double importo);
   // One line with it: `voce` from `colonna`.
   void StampaLavori(int colonna, std::string_view voce, double importo);
+  // The list of amounts of lots that have no more than a class and one amount, each under `voce`,
+  // and the compensations on their sum, which comes back.
+  template <class Lotto>
+  double StampaImporti(std::string_view voce, const std::vector<Lotto>& lotti) {
+    uscita.Line(kRigaImporti);
+    double somma = 0;
+    for (std::size_t i = 0; i < lotti.size(); ++i) {
+      uscita.Line(TitoloLotto(i + 1, lotti[i].Classe, lotti[i].Categoria));
+      StampaLavori(5, voce, lotti[i].Importo);
+      somma += lotti[i].Importo;
+    }
+    CompensiAccessori(ImportoInLire(somma));
+    return somma;
+  }
   // The works designed and supervised as the list of amounts calls them: a design with a minus is
   // the original one and shown without it; a design of 0 and a supervision of 3 or less are not
   // shown.

@@ -21,8 +21,6 @@ class NotaAgp : public Parcella {
                                ? kAggiornamentoSemplice
                                : kNuoveAnalisi) {}
 
-  void StampaSpecifica();
-  void CalcolaCompensi();
   void StampaMetodologia();
   void CalcolaLotti();
   void CalcolaMaggiorazione();
@@ -38,20 +36,6 @@ class NotaAgp : public Parcella {
   const double CoefficienteMetodo;
   double maggiorazione = 0;
 };
-
-void NotaAgp::StampaSpecifica() {
-  uscita.Line(kRigaImporti);
-  for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
-    uscita.Line(TitoloLotto(i + 1, d.Lotti[i].Classe, d.Lotti[i].Categoria));
-    StampaLavori(5, " - Importo aggiornato LAVORI ", d.Lotti[i].Importo);
-  }
-}
-
-void NotaAgp::CalcolaCompensi() {
-  double somma = 0;
-  for (const LottoAgp& lotto : d.Lotti) somma += lotto.Importo;
-  CompensiAccessori(ImportoInLire(somma));
-}
 
 void NotaAgp::StampaMetodologia() {
   uscita.Line(kRigaAggiornamentoPrezzi);
@@ -104,8 +88,7 @@ void NotaAgp::CalcolaMaggiorazione() {
 Parcella CalcoloAgp(Parcella parcella, const DatiAgp& dati) {
   NotaAgp nota(std::move(parcella), dati);
   nota.ApriParcella("Per l'aggiornamento prezzi relativo a :");
-  nota.StampaSpecifica();
-  nota.CalcolaCompensi();
+  nota.StampaImporti(" - Importo aggiornato LAVORI ", dati.Lotti);
   nota.StampaMetodologia();
   nota.CalcolaLotti();
   nota.CalcolaMaggiorazione();

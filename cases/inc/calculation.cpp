@@ -18,12 +18,9 @@ class NotaInc : public Parcella {
       : Parcella(std::move(parcella)),
         d(dati),
         quote(quoteDiLegge),
-        periodo(PeriodoDaCodice(dati.PeriodoTariffario, kPeriodo1987)) {
-    for (const LottoInc& lotto : d.Lotti) somma += lotto.Importo;
-  }
+        periodo(PeriodoDaCodice(dati.PeriodoTariffario, kPeriodo1987)) {}
 
-  void StampaSpecifica();
-  void CalcolaCompensi();
+  void CalcolaImporti();
   void CalcolaLotti();
   void CalcolaCertificato();
 
@@ -39,17 +36,9 @@ class NotaInc : public Parcella {
   double somma = 0;
 };
 
-void NotaInc::StampaSpecifica() {
-  uscita.Line(kRigaImporti);
-  for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
-    uscita.Line(TitoloLotto(i + 1, d.Lotti[i].Classe, d.Lotti[i].Categoria));
-    StampaLavori(5, " - Importo LAVORI ", d.Lotti[i].Importo);
-  }
-}
-
 // The tariff of the chief engineer allows no more than its own greatest percentage.
-void NotaInc::CalcolaCompensi() {
-  CompensiAccessori(ImportoInLire(somma));
+void NotaInc::CalcolaImporti() {
+  somma = StampaImporti(" - Importo LAVORI ", d.Lotti);
   const double massimo = 1 + quote.massimoCompensi / 100;
   if (Coefficiente <= massimo) return;
   Coefficiente = massimo;
@@ -105,8 +94,7 @@ void NotaInc::CalcolaCertificato() {
 Parcella CalcoloInc(Parcella parcella, const DatiInc& dati, const TariffaInc& tariffa) {
   NotaInc nota(std::move(parcella), dati, tariffa.Quote());
   nota.ApriParcella("per le prestazioni di Ingegnere Capo relative a :");
-  nota.StampaSpecifica();
-  nota.CalcolaCompensi();
+  nota.CalcolaImporti();
   nota.CalcolaLotti();
   nota.CalcolaCertificato();
   nota.ChiudiConCompensi();

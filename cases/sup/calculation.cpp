@@ -14,8 +14,6 @@ class NotaSup : public Parcella {
  public:
   NotaSup(Parcella parcella, const DatiSup& dati) : Parcella(std::move(parcella)), d(dati) {}
 
-  void StampaSpecifica();
-  void CalcolaCompensi();
   void CalcolaLotti();
 
  private:
@@ -23,20 +21,6 @@ class NotaSup : public Parcella {
 
   const DatiSup& d;
 };
-
-void NotaSup::StampaSpecifica() {
-  uscita.Line(kRigaImporti);
-  for (std::size_t i = 0; i < d.Lotti.size(); ++i) {
-    uscita.Line(TitoloLotto(i + 1, d.Lotti[i].Classe, d.Lotti[i].Categoria));
-    StampaLavori(5, " - Importo LAVORI ", d.Lotti[i].Importo);
-  }
-}
-
-void NotaSup::CalcolaCompensi() {
-  double somma = 0;
-  for (const LottoSup& lotto : d.Lotti) somma += lotto.Importo;
-  CompensiAccessori(ImportoInLire(somma));
-}
 
 void NotaSup::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
@@ -66,8 +50,7 @@ void NotaSup::CalcolaLotto(const LottoSup& lotto) {
 Parcella CalcoloSup(Parcella parcella, const DatiSup& dati) {
   NotaSup nota(std::move(parcella), dati);
   nota.ApriParcella("per le prestazioni di supporto al responsabile del procedimento relative a :");
-  nota.StampaSpecifica();
-  nota.CalcolaCompensi();
+  nota.StampaImporti(" - Importo LAVORI ", dati.Lotti);
   nota.CalcolaLotti();
   nota.ChiudiConCompensi();
   return nota;
