@@ -137,17 +137,22 @@ TEST(SectionCircular, OutcomesOfBadData) {
   for (double DatiCircolare::*ring : {&DatiCircolare::Dd1, &DatiCircolare::Dd2}) {
     for (const double good : {58.0, 38.0})  // up to 2 cm inside the hole
       EXPECT_EQ(with(ring, good), EsitoC::Fatto) << good;
-    for (const double bad : {-1.0, 58.01, 37.99})
+    for (const double bad : {58.01, 37.99})
       EXPECT_EQ(with(ring, bad), EsitoC::ArmaturaErrata) << bad;
+    DatiCircolare solid = kAnnular;
+    solid.Di = 0, solid.*ring = -1;
+    EXPECT_EQ(Results(solid).esito, EsitoC::ArmaturaErrata);
   }
   for (double DatiCircolare::*group : {&DatiCircolare::d1, &DatiCircolare::d2}) {
-    for (const double good : {8.0, 52.0}) EXPECT_EQ(with(group, good), EsitoC::Fatto) << good;
+    for (const double good : {8.0, 52.0, 58.0}) EXPECT_EQ(with(group, good), EsitoC::Fatto) << good;
     for (const double bad : {1.99, 58.01, 8.01, 51.99})
       EXPECT_EQ(with(group, bad), EsitoC::ArmaturaErrata) << bad;
   }
   EXPECT_EQ(Results({.D = 60, .Dd1 = 50, .M = 1e6}).esito, EsitoC::SenzaArmatura);
   // Reinforcement is looked at before its sum.
   EXPECT_EQ(Results({.D = 60, .Dd1 = 59, .M = 1e6}).esito, EsitoC::ArmaturaErrata);
+  // A solid section has room for a group anywhere.
+  EXPECT_EQ(Results({.D = 60, .Ac1 = 5, .d1 = 30, .M = 1e6}).esito, EsitoC::Fatto);
   // A thin wall refuses groups that are not there.
   EXPECT_EQ(Results({60, 57, 20, 58, 0, 0, 0, 0, 0, 0, 1e6}).esito, EsitoC::ArmaturaErrata);
   EXPECT_EQ(Results({60, 56, 20, 58, 0, 0, 0, 0, 0, 0, 1e6}).esito, EsitoC::Fatto);
