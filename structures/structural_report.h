@@ -16,6 +16,7 @@ inline constexpr int kColonnaUnita = 42;
 inline constexpr int kColonnaLimite = 50;
 inline constexpr int kColonnaUnitaLimite = 70;
 
+inline constexpr const char* kDueDecimali = "###0.00";
 inline constexpr const char* kAmmessa = "Ammessa : ";
 inline constexpr const char* kAccettata = "Accettata : ";
 

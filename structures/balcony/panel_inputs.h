@@ -35,7 +35,7 @@ struct PannelloMisure {
 };
 
 class PannelloDatiBalcone {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
   RunState& stato_;
 
  public:

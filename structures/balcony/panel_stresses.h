@@ -12,7 +12,7 @@
 namespace orm {
 
 class PannelloTensioniBalcone {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
   RunState& stato_;
 
  public:

@@ -20,7 +20,7 @@ struct VociPutrelle {
 };
 
 class PannelloDatiPutrelle {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
   RunState& stato_;
   VociPutrelle voci_;
 

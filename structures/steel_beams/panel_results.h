@@ -15,7 +15,7 @@ struct ValoreVerificato {
 };
 
 class PannelloRisultatiPutrelle {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
   std::vector<std::string> voci_;
 
  public:

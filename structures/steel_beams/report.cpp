@@ -10,8 +10,6 @@
 namespace orm {
 namespace {
 
-constexpr const char* kDueDecimali = "###0.00";
-
 // The words in which the two reports differ.
 struct ParoleRelazione {
   const char* titolo;

@@ -17,7 +17,7 @@ std::vector<std::string> Elenco(const Voci& voci) {
 }
 
 class PannelloDatiSolaio {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
   RunState& stato_;
 
  public:

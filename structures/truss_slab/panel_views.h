@@ -23,7 +23,7 @@ struct ProgettoSolaioT {
 };
 
 class PannelloVisteSolaio {
-  Form& form_;
+  Form& form_;  // before the controls, which are built on it
 
  public:
   explicit PannelloVisteSolaio(Form& form);

@@ -9,7 +9,6 @@
 namespace orm {
 namespace {
 
-constexpr const char* kDueDecimali = "###0.00";
 constexpr const char* kKgCmq = "Kg/cmq";
 
 constexpr int kColonnaDisegno = 34, kColonnaProduttore = 60;
