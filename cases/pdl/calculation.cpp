@@ -27,7 +27,7 @@ int PeriodoDelCertificato(const std::string& PeriodoMassimo) {
 
 }  // namespace
 
-void NotaPdl::StampaVoce(std::string_view voce, double importo) {
+void NotaPdl::StampaSeNonNullo(std::string_view voce, double importo) {
   if (importo != 0) StampaLavori(2, voce, importo);
 }
 
@@ -38,9 +38,9 @@ void NotaPdl::StampaSpecifica() {
     if (std::ranges::any_of(ImportiDella(r), [](double x) { return x != 0; }))
       uscita.Line(TitoloLotto(i + 1, r.Classe, r.Categoria));
     StampaProgettoSpecifica(2, r.ImportoProgetto);
-    StampaVoce(" - ESPROPRIAZIONI", r.ImportoEspropri);
-    StampaVoce(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi);
-    StampaVoce(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie);
+    StampaSeNonNullo(" - ESPROPRIAZIONI", r.ImportoEspropri);
+    StampaSeNonNullo(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi);
+    StampaSeNonNullo(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie);
     StampaDirezioneSpecifica(2, d.TipoParcella, r.ImportoDirezione);
   }
 }
@@ -113,10 +113,10 @@ void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numeroRiga) {
 
 // A design that is left out shows its minus here.
 void NotaPdl::StampaImportiRiga(const RigaPdl& r) {
-  StampaVoce(" - Lavori di progetto", r.ImportoProgetto);
-  StampaVoce(" - Espropriazioni", r.ImportoEspropri);
-  StampaVoce(" - Lavori suppletivi", r.ImportoSuppletivi);
-  StampaVoce(" - Espropri in perizia", r.ImportoEsproPerizie);
+  StampaSeNonNullo(" - Lavori di progetto", r.ImportoProgetto);
+  StampaSeNonNullo(" - Espropriazioni", r.ImportoEspropri);
+  StampaSeNonNullo(" - Lavori suppletivi", r.ImportoSuppletivi);
+  StampaSeNonNullo(" - Espropri in perizia", r.ImportoEsproPerizie);
   StampaDirezioneOnorari(d.TipoParcella, r.ImportoDirezione);
 }
 

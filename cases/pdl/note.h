@@ -42,7 +42,7 @@ class NotaPdl : public Parcella {
   Conto PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
                      double direzionePrima) const;
   void CalcolaRiga(const Conto& conto, std::size_t numeroRiga);
-  void StampaVoce(std::string_view voce, double importo);
+  void StampaSeNonNullo(std::string_view voce, double importo);
   void StampaImportiRiga(const RigaPdl& riga);
   void StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
                          double base);
