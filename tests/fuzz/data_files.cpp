@@ -38,7 +38,8 @@ void CriteriDiCalcolo(std::string_view input) {
   RunState stato(nobody, Place());
   CheckFile(
       kFileCriteri, input, [&] { LeggiCriteri(stato); },
-      [&](Values& values) { CampiCriteri(values, stato.criteri); }, [&] { ScriviCriteri(stato); });
+      [&](Values& values) { Campi(values, stato.criteri); },
+      [&] { ScriviCriteri(Place(), stato.criteri); });
 }
 
 void Editor(std::string_view input) {
@@ -46,7 +47,8 @@ void Editor(std::string_view input) {
   RunState stato(nobody, Place());
   CheckFile(
       kFileEditor, input, [&] { LeggiEditor(stato); },
-      [&](Values& values) { CampiEditors(values, stato.editors); }, [&] { ScriviEditor(stato); });
+      [&](Values& values) { Campi(values, stato.editors); },
+      [&] { ScriviEditor(Place(), stato.editors); });
 }
 
 void Redditi(std::string_view input) {
