@@ -20,6 +20,7 @@
 #include "cases/sup/data.h"
 #include "tariff/files/closing_line.h"
 #include "tariff/files/user_files.h"
+#include "tariff/parcella.h"
 #include "tests/fuzz/fuzzer.h"
 #include "tests/unit/fake_player.h"
 
