@@ -36,7 +36,7 @@ TEST(OrdinaArray, SortsPairsBetweenItsLimits) {
     const int from = static_cast<int>(random() % (keys.size() + 1));
     const int to = from - 1 + static_cast<int>(random() % (keys.size() - from + 1));
     OrdinaArray(keys, mates, from, to);
-    EXPECT_TRUE(std::is_sorted(keys.begin() + from, keys.begin() + to + 1));
+    EXPECT_TRUE(std::is_sorted(keys.begin() + from, keys.begin() + (to + 1)));
     for (std::size_t i = 0; i < keys.size(); ++i) {
       EXPECT_EQ(keys[i], before[static_cast<std::size_t>(mates[i])]);
       if (static_cast<int>(i) < from || static_cast<int>(i) > to) {
