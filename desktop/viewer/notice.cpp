@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <utility>
 
 namespace orm {
 
@@ -20,7 +19,7 @@ NoticeBar::NoticeBar(QWidget* parent)
 }
 
 void NoticeBar::Ask(const QString& text, const QStringList& captions,
-                    std::function<void(int)> pressed) {
+                    const std::function<void(int)>& pressed) {
   qDeleteAll(findChildren<QPushButton*>());
   text_->setText(text);
   for (int i = 0; i < captions.size(); ++i) {

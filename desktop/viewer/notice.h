@@ -16,7 +16,8 @@ class NoticeBar : public QWidget {
 
   // Shows the text with a button for each caption; `pressed` gets the index of the one pressed,
   // and the bar goes. A new question takes the place of an older one.
-  void Ask(const QString& text, const QStringList& captions, std::function<void(int)> pressed);
+  void Ask(const QString& text, const QStringList& captions,
+           const std::function<void(int)>& pressed);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
