@@ -17,8 +17,9 @@ double NotaPdl::StampaQuota(double aliquota, const QuotaImporto& quota) {
 double NotaPdl::OnorarioArticolo18(double aliquota, const QuotaImporto& quota, bool oltreLimite) {
   const auto& [importo, P] = quota;
   const bool conCompensi = criteri.CompensiSuMaggiorazione != "NO";
-  std::string inizio = " " + TestoQuota(kIncaricoParziale);
-  if (oltreLimite && !conCompensi) inizio.pop_back();
+  static const std::string quarto = " " + TestoQuota(kIncaricoParziale);
+  const std::string_view inizio =
+      std::string_view(quarto).substr(0, quarto.size() - (oltreLimite && !conCompensi ? 1 : 0));
   double onorario = kIncaricoParziale * aliquota * P.valore * importo / 100;
   if (conCompensi) onorario *= Coefficiente;
   onorario = StampaOnorario({.inizio = inizio,
@@ -89,7 +90,7 @@ double NotaPdl::OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia) {
 // Above the limit the report's whole decides, and each of its amounts is split.
 double NotaPdl::OnorarioPerizia(double aliquota, double importo,
                                 const PercentualiTabellaA& percentuali) {
-  const std::string inizio = " " + TestoQuota(kPerizie);
+  static const std::string inizio = " " + TestoQuota(kPerizie);
   double totale = 0;
   for (const auto& [parte, P] : QuoteDellImporto(percentuali, importo))
     totale += StampaOnorario(
@@ -145,7 +146,7 @@ double NotaPdl::OnorarioSorveglianza(const Conto& conto) {
   const double aliquota = conto.aliquote[7];  // done or not
   const bool conCompensi = criteri.CompensiSuSorveglianza != "NO";
   uscita.Line("SORVEGLIANZA ( art. 17 )");
-  const std::string inizio = " " + TestoQuota(kSorveglianza);
+  static const std::string inizio = " " + TestoQuota(kSorveglianza);
   double totale = 0;
   for (const auto& [importo, P] :
        QuoteProgressive(conto.direzione, conto.riga.ImportoDirezione, conto.direzionePrima)) {
