@@ -14,6 +14,7 @@
 #include "cases/fee_case.h"
 #include "runtime/text.h"
 #include "shell/dispatch.h"
+#include "shell/help/program_texts.h"
 #include "shell/personal/settings.h"
 #include "tariff/files/case_files.h"
 
@@ -21,10 +22,7 @@ namespace {
 
 constexpr int kDone = 0, kEndedByMessage = 1, kRuntimeFailure = 2, kWrongUsage = 3;
 
-constexpr const char* kUsage =
-    "Uso: orm2002-calcolo CODICE [--euro] [--cartella DIR] [--data GG/MM/AAAA]\n"
-    "     orm2002-calcolo --tutti [--cartella DIR] [--data GG/MM/AAAA]\n"
-    "CODICE è il codice di tre lettere del caso (PPE, COA, ...).\n";
+constexpr const char* kProgram = "orm2002-calcolo";
 
 void Tell(std::string_view text, int descriptor) {
   if (::write(descriptor, text.data(), text.size()) < 0) return;
@@ -40,7 +38,9 @@ struct Arguments {
 
 // Reads the command line into `a`. Returns the exit code when there is nothing more to do.
 std::optional<int> Read(int count, char** words, Arguments& a) {
+  if (orm::AnswersForItself(kProgram, count, words)) return kDone;
   CLI::App app;
+  app.set_help_flag();
   std::string data;
   auto* codice = app.add_option("CODICE", a.codice);
   auto* euro = app.add_flag("--euro", a.euro);
@@ -50,9 +50,6 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
   std::string objection;
   try {
     app.parse(count, words);
-  } catch (const CLI::CallForHelp&) {
-    Tell(kUsage, STDOUT_FILENO);
-    return kDone;
   } catch (const CLI::ParseError&) {
     objection = "Argomenti errati.";
   }
@@ -67,7 +64,7 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
     a.data = date.value_or(a.data);
   }
   if (objection.empty()) return std::nullopt;
-  Tell(objection + "\n" + kUsage, STDERR_FILENO);
+  Tell(objection + "\n" + std::string(orm::ProgramUsage(kProgram)), STDERR_FILENO);
   return kWrongUsage;
 }
 

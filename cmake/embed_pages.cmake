@@ -1,4 +1,5 @@
-# Writes the pages of the help into a source file: cmake -DOUTPUT=... -DROOT=... -DPAGES=a;b -P this
+# Writes pages into a source file, as what the routine NAME of shell/help/help_texts.h gives:
+# cmake -DOUTPUT=... -DNAME=... -DROOT=... -DPAGES=a;b -P this
 file(WRITE ${OUTPUT}.new "// Made from the pages under docs/ by cmake/embed_pages.cmake.
 #include \"shell/help/help_texts.h\"
 
@@ -12,7 +13,7 @@ endforeach()
 file(APPEND ${OUTPUT}.new "};
 }  // namespace
 
-std::span<const HelpText> HelpTexts() { return kTexts; }
+std::span<const HelpText> ${NAME}() { return kTexts; }
 
 }  // namespace orm\n")
 file(COPY_FILE ${OUTPUT}.new ${OUTPUT} ONLY_IF_DIFFERENT)

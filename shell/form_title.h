@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/form.h"
+#include "runtime/version.h"
 
 namespace orm {
 
@@ -23,7 +24,7 @@ class FrmGenInforma : public Form {
 
   Image Image1{*this, "Image1", Image::Subject::Program};
   Label Label1{*this, "Label1", "ORM2002 - Onorari Rilievi Misure", Label::Style::Title};
-  Label Label2{*this, "Label2", " VERSIONE : 3.02.02"};
+  Label Label2{*this, "Label2", " VERSIONE : " + std::string(kVersione)};
   Label Label3{*this, "Label3",
                "LA BRENTOLI\nProcedura per le parcelle professionali di ingegneri e architetti"};
   Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};

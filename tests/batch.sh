@@ -19,6 +19,7 @@ expects() {
 }
 
 expects 3 'Uso:' "$calcolo"
+expects 0 '' "$calcolo" PPE --help
 expects 3 'Codice sconosciuto' "$calcolo" XXX
 expects 3 'GG/MM/AAAA' "$calcolo" PPE --data 31/02/2002
 expects 3 'Uso:' "$calcolo" --tutti --euro

@@ -11,6 +11,7 @@
 #include "desktop/desktop_app.h"
 #include "desktop/guide/help_window.h"
 #include "desktop/screen.h"
+#include "shell/help/program_texts.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ void ShowWhatOthersAsk(QLocalServer& server, orm::HelpWindow& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (orm::AnswersForItself("orm2002-guida", argc, argv)) return 0;
   orm::PlatformChoice platform;
   QApplication application(argc, argv);
   if (platform.IsUnseen()) {

@@ -20,6 +20,7 @@
 #include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
+#include "shell/help/program_texts.h"
 #include "shell/memo/form_memo.h"
 
 namespace orm {
@@ -27,9 +28,7 @@ namespace {
 
 constexpr int kDone = 0, kFailed = 1, kWrongUsage = 3;
 
-constexpr const char* kUsage =
-    "Uso: orm2002-visore FILE\n"
-    "oppure: orm2002-visore --pdf|--odt|--utf8 COPIA FILE";
+constexpr const char* kProgram = "orm2002-visore";
 
 const std::map<std::string, CopyKind> kCopies = {
     {"--pdf", CopyKind::Pdf}, {"--odt", CopyKind::Odt}, {"--utf8", CopyKind::Utf8}};
@@ -106,6 +105,7 @@ int ShowFile(const std::string& file) {
 }
 
 int Run(int argc, char** argv) {
+  if (AnswersForItself(kProgram, argc, argv)) return kDone;
   const Request request = RequestOf({argv + 1, argv + argc});
   PlatformChoice platform(request.copyOption.empty());
   QApplication application(argc, argv);
@@ -113,7 +113,7 @@ int Run(int argc, char** argv) {
 
   if (request.valid && !request.copyOption.empty()) return WriteCopy(request);
   if (!request.valid && unseen) {
-    Complain(kUsage);
+    Complain(std::string(ProgramUsage(kProgram)));
     return kWrongUsage;
   }
   if (unseen) {
@@ -125,7 +125,7 @@ int Run(int argc, char** argv) {
   Tell(nullptr, QMessageBox::Information,
        argc > 1 ? QStringLiteral("Gli argomenti non sono quelli attesi.")
                 : QStringLiteral("Manca il nome del file da mostrare."),
-       QString::fromUtf8(kUsage));
+       QString::fromUtf8(ProgramUsage(kProgram)).trimmed());
   return kWrongUsage;
 }
 

@@ -7,6 +7,9 @@
 #include <filesystem>
 #include <regex>
 
+#include "cases/fee_case.h"
+#include "shell/help/program_texts.h"
+
 namespace orm {
 namespace {
 
@@ -90,6 +93,16 @@ TEST(HelpSearch, ExcerptsAreWholeWordsAroundTheHit) {
 
 TEST(HelpSearch, LettersWithoutAccents) {
   EXPECT_EQ(PlainLetters("perché Àncora ñ ß σ 12"), "PERCHE ANCORA N ß σ 12");
+}
+
+// What the program says of itself, and with it its manual page and its completion.
+TEST(ProgramTexts, TheBatchProgramNamesEveryCaseThatItCalculates) {
+  for (const FeeCase& fee : FeeCases()) {
+    const std::string entry = "\n  " + std::string(fee.code) + "\n";
+    EXPECT_EQ(ProgramText("orm2002-calcolo").find(entry) != std::string_view::npos,
+              fee.calcolo != nullptr)
+        << fee.code;
+  }
 }
 
 }  // namespace
