@@ -82,6 +82,8 @@ void ScriptPlayer::PlayOutside(Stage& stage, MainWindow& window) {
     if (statement.Verb() == "start") {
       settled_ = true;
       if (!window.Load()) return;
+      if (statement.words.size() > 1)
+        static_cast<Shell&>(window).PreparaCartella(scriptFolder_.PathOf(statement.words[1].text));
       stage.Raise(window);
       window.FirstActivation();
     } else if (statement.Verb() == "menu") {

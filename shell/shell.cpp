@@ -6,6 +6,7 @@
 #include "shell/form_title.h"
 #include "shell/help/help.h"
 #include "shell/help/help_books.h"
+#include "shell/installed_files.h"
 #include "shell/menu_tree.h"
 #include "shell/personal/form_editor.h"
 #include "shell/personal/settings.h"
@@ -45,6 +46,10 @@ bool Shell::Load() {
     if (!stato_.folder.Exists(kFileUtente)) ScriviUtentePredefinito(stato_.folder);
   });
   return true;
+}
+
+void Shell::PreparaCartella(const std::string& installati) {
+  Guard([&] { DisponiFileInstallati(stato_, WorkFolder(installati)); });
 }
 
 void Shell::ReadSettings() {

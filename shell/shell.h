@@ -21,6 +21,9 @@ class Shell : public MainWindow {
   void Help(std::string_view commandName) override;
   bool Ended() const override { return ended_; }
 
+  // Part of a start: the files that the folder lacks, out of the folder of the installed ones.
+  void PreparaCartella(const std::string& installati);
+
   // Editors and criteria from their files, or their defaults.
   void ReadSettings();
 

@@ -32,4 +32,13 @@ MessageBox AvvisoFileDatiAssente() {
       "OPZIONE DEL MENÚ PARCELLE                                 ");
 }
 
+MessageBox AvvisoFileInstallatiAssenti(const std::string& nomi) {
+  return Avviso(
+      "NELLA CARTELLA DI LAVORO MANCANO DEI FILE CHE NON SONO\n"
+      "NEPPURE TRA QUELLI INSTALLATI CON IL PROGRAMMA :\n" +
+      nomi +
+      "\n"
+      "INSTALLARE DI NUOVO ORM2002");
+}
+
 }  // namespace orm

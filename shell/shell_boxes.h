@@ -9,5 +9,7 @@ MessageBox AvvisoRisoluzione();
 MessageBox AvvisoNotaConfigurazione();
 MessageBox AvvisoFileIntestazioneAssente();
 MessageBox AvvisoFileDatiAssente();
+// `nomi`: the files that neither the working folder has nor the installation.
+MessageBox AvvisoFileInstallatiAssenti(const std::string& nomi);
 
 }  // namespace orm

@@ -3,7 +3,8 @@
 // and who gives up at the first failure.
 //
 //   orm_saver FOLDER COMMAND [FORM]   COMMAND of the menu; FORM is left by its window instead
-//   orm_saver FOLDER --avvio          start-up, which lays down the files of a new installation
+//   orm_saver FOLDER --avvio [FILES]  start-up, which lays down the files of a new installation and
+//                                     those that it finds in the folder FILES
 //   orm_saver FOLDER --tiene          holds the folder until it is killed; tells so on its output
 //
 // Exit codes as those of orm2002-calcolo: 0 done; 1 a message; 2 a run-time failure; 3 wrong usage.
@@ -80,6 +81,7 @@ int main(int count, char** words) {
   orm::Shell shell(person, folder);
   if (command == "--avvio") {
     shell.Load();
+    if (count > 3) shell.PreparaCartella(words[3]);
     return person.Code();
   }
   shell.ReadSettings();

@@ -103,8 +103,13 @@ cp -r "$old" "$work/state-acconti"
 "$saver" "$work/state-acconti" PARCELLE_PPE_ID frmGEN_Acconti
 loop "input di una parcella" "$saver" "$at" PARCELLE_PPE_ID
 
-rm -rf "$old" "$work"/state-* && mkdir "$old"
-loop "avvio in una cartella nuova" "$saver" "$at" --avvio
+# A folder that lacks two of the installed files.
+rm -rf "$old" "$work"/state-* && mkdir "$old" "$work/installed"
+for name in {CAC,CS1,CS2,GEO,IND,TUS}.CFG {BALCONI,SOLAIATRALICCIO}.PDF; do
+  echo "$name" >"$work/installed/$name"
+done
+cp "$work"/installed/* "$old" && rm "$old/CS2.CFG" "$old/SOLAIATRALICCIO.PDF"
+loop "avvio in una cartella nuova" "$saver" "$at" --avvio "$work/installed"
 
 # Files that an error hides are not files that are not there.
 sample_folder "$old"
