@@ -12,7 +12,7 @@ chmod 755 "$work"
 fails() { echo "NON VALE: $*"; exit 1; }
 
 cpack --config "$1/CPackConfig.cmake" -B "$work" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
-deb=$(echo "$work"/orm2002_*_amd64.deb) tar=$(echo "$work"/orm2002-*.tar.gz)
+deb=$(echo "$work"/orm2002_*.deb) tar=$(echo "$work"/orm2002-*.tar.gz)
 
 # What the validators say.
 lintian --allow-root --fail-on error,warning "$deb"
