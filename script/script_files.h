@@ -16,6 +16,7 @@ class ScriptFiles {
   ScriptFiles(WorkFolder home, WorkFolder work, bool update);
 
   const WorkFolder& Work() const { return work_; }
+  std::string PathBesideScript(const std::string& name) const { return home_.PathOf(name); }
 
   void Copy(const std::string& name, const std::string& as);
   void Write(const std::string& name, const std::string& text);

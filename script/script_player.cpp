@@ -83,7 +83,8 @@ void ScriptPlayer::PlayOutside(Stage& stage, MainWindow& window) {
       settled_ = true;
       if (!window.Load()) return;
       if (statement.words.size() > 1)
-        static_cast<Shell&>(window).PreparaCartella(scriptFolder_.PathOf(statement.words[1].text));
+        static_cast<Shell&>(window).PreparaCartella(
+            files_.PathBesideScript(statement.words[1].text));
       stage.Raise(window);
       window.FirstActivation();
     } else if (statement.Verb() == "menu") {

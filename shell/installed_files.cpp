@@ -9,8 +9,9 @@ namespace orm {
 namespace {
 
 // All of data/*.CFG, and the notes made of docs/notes.
-constexpr std::array kFileInstallati = {"CAC.CFG", "CS1.CFG", "CS2.CFG",     "GEO.CFG",
-                                        "IND.CFG", "TUS.CFG", "BALCONI.PDF", "SOLAIATRALICCIO.PDF"};
+constexpr std::array kFileInstallati = {"CAC.CFG", "CS1.CFG",     "CS2.CFG",
+                                        "GEO.CFG", "INC.CFG",     "IND.CFG",
+                                        "TUS.CFG", "BALCONI.PDF", "SOLAIATRALICCIO.PDF"};
 
 }  // namespace
 

@@ -36,14 +36,14 @@ sources=()
 for list in /etc/apt/sources.list /etc/apt/sources.list.d/debian.sources; do
   if [ -s $list ]; then sources+=("$list"); fi
 done
-ppe=$here/scripts/ppe
+sample=$here/../data/sample
 mmdebstrap --quiet --variant=apt --dpkgopt=force-unsafe-io \
   --customize-hook="echo arrivato" \
   --customize-hook="upload $deb /tmp/orm2002.deb" --customize-hook="upload $tar /tmp/orm2002.tar.gz" \
-  --customize-hook="upload $ppe/lire_INT.DAP /tmp/INT_PPE.DAP" \
-  --customize-hook="upload $ppe/lire_INP.DAP /tmp/INP_PPE.DAP" \
-  --customize-hook="upload $ppe/UTENTE.DAG /tmp/UTENTE.DAG" \
-  --customize-hook="upload $ppe/lire.DOC /tmp/attesa.DOC" \
+  --customize-hook="upload $sample/INT_PPE.DAP /tmp/INT_PPE.DAP" \
+  --customize-hook="upload $sample/INP_PPE.DAP /tmp/INP_PPE.DAP" \
+  --customize-hook="upload $sample/UTENTE.DAG /tmp/UTENTE.DAG" \
+  --customize-hook="upload $here/scripts/ppe/lire.DOC /tmp/attesa.DOC" \
   --customize-hook="upload $here/package_user.sh /tmp/package_user.sh" \
   --customize-hook='chroot "$1" bash /tmp/package_user.sh' \
   "$VERSION_CODENAME" /dev/null "${sources[@]}" >"$work/log" 2>&1 && exit
