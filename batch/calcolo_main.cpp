@@ -12,10 +12,12 @@
 
 #include "batch/batch_player.h"
 #include "cases/fee_case.h"
+#include "runtime/folder_lock.h"
 #include "runtime/text.h"
 #include "shell/dispatch.h"
 #include "shell/help/program_texts.h"
 #include "shell/personal/settings.h"
+#include "shell/shell_boxes.h"
 #include "tariff/files/case_files.h"
 
 namespace {
@@ -74,7 +76,10 @@ int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string&
   stato.ModoLire = lire;
   try {
     orm::LeggiCriteri(stato);
-    return orm::CalcoloParcella(stato) ? kDone : kEndedByMessage;
+    const bool done = orm::CalcoloParcella(stato);
+    if (const std::string why = stato.folder.TakeWarning(); !why.empty())
+      player.Ask(orm::AvvisoVersioneNonConservata(why));
+    return done ? kDone : kEndedByMessage;
   } catch (const orm::RuntimeFailure& failure) {
     player.Ask(orm::FailureBox(failure));
     return kRuntimeFailure;

@@ -2,6 +2,7 @@
 // opened by bare name.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,48 +25,45 @@ class WorkFolder {
   const std::string& Path() const { return path_; }
   std::string PathOf(std::string_view name) const;
 
-  // A name that cannot be looked at (a disk error) is a RuntimeFailure, not an absent file.
+  // A name that cannot be looked at (a disk error), a link that leads nowhere and a folder that has
+  // gone are RuntimeFailures, not an absent file.
   bool Exists(std::string_view name) const;
-  std::vector<std::string> Names() const;  // sorted
+  std::vector<std::string> Names() const;  // of files, sorted
 
   // All bytes of a file. A file that is missing, unreadable or too large is a RuntimeFailure that
   // names it.
   std::string Read(std::string_view name) const;
 
   // Replaces a file or creates it: the bytes are written beside it, checked, flushed and renamed
-  // into place, with the rights of the old file. Whatever happens, the name holds the old contents
-  // or the new ones, whole. Any error is a RuntimeFailure that names the file, and nothing is left
-  // beside it; the old contents stay, but for the very last step, the flush of the folder, which
-  // fails with the new ones in place and says so.
+  // into place, with group, access lists and mode of the old file; a link stays and its file is
+  // replaced. Whatever happens, the name holds the old contents or the new ones, whole. Any error
+  // is a RuntimeFailure that names the file, and nothing is left beside it; the old contents stay,
+  // but for the very last step, the flush of the folder, which fails with the new ones in place and
+  // says so. Data, settings and reports that are replaced stay in `storico`
+  // (runtime/generations.h), and are refused when they are too large to be read again.
   void Replace(std::string_view name, std::string_view bytes,
                Durability durability = Durability::Flushed) const;
 
   void Remove(std::string_view name) const;  // an absent file is no error
 
+  // Why what a save replaced could not be kept in `storico`: told once, the first time of a run.
+  // Empty when there is nothing to tell.
+  std::string TakeWarning() const;
+
  private:
+  void Keep(std::string_view name, const std::string& target, std::string_view bytes,
+            Durability durability) const;
+
   std::string path_;
+  struct Untold {
+    std::string warning;
+    bool known = false;
+  };
+  std::shared_ptr<Untold> untold_;  // of all copies of this folder
 };
 
 // A file beyond the size that the system allows is an error to be told like any other; without this
 // call, made once by each program, it ends the process.
 void TellFileSizeErrors();
-
-// Holds a folder for one program at a time. The lock is of the running process: it goes with it,
-// however it ends, and leaves no file behind.
-class FolderLock {
- public:
-  explicit FolderLock(const WorkFolder& folder);
-  ~FolderLock();
-  FolderLock(const FolderLock&) = delete;
-  FolderLock& operator=(const FolderLock&) = delete;
-
-  // False when another program holds the folder. A folder that cannot be locked at all (a file
-  // system without locks) counts as held by us: better a missing guard than no program.
-  bool Held() const { return held_; }
-
- private:
-  int descriptor_ = -1;
-  bool held_ = false;
-};
 
 }  // namespace orm

@@ -43,7 +43,7 @@ WorkFolder FolderWith(const std::string& name, const WorkFolder& home) {
   for (fs::path above = fs::absolute(home.Path()); above.has_relative_path();
        above = above.parent_path())
     for (const char* place : {"", "data", "data/sample"})
-      if (WorkFolder folder((above / place).string()); folder.Exists(name)) return folder;
+      if (fs::exists(above / place / name)) return WorkFolder((above / place).string());
   return home;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/shell.h"
 
+#include <exception>
 #include <new>
 
 #include "shell/commands.h"
@@ -28,7 +29,11 @@ void Shell::Guard(const std::function<void()>& step) {
     stato_.player.Ask(FailureBox(failure));
   } catch (const std::bad_alloc&) {
     stato_.player.Ask(FailureBox(RuntimeFailure("La memoria non basta per eseguire il comando.")));
+  } catch (const std::exception& error) {
+    stato_.player.Ask(FailureBox(RuntimeFailure(std::string("Errore interno: ") + error.what())));
   }
+  if (const std::string why = stato_.folder.TakeWarning(); !why.empty())
+    stato_.player.Ask(AvvisoVersioneNonConservata(why));
 }
 
 bool Shell::Load() {

@@ -41,4 +41,12 @@ MessageBox AvvisoFileInstallatiAssenti(const std::string& nomi) {
       "INSTALLARE DI NUOVO ORM2002");
 }
 
+MessageBox AvvisoVersioneNonConservata(const std::string& perche) {
+  return {kAttenzione,
+          "I DATI SONO SALVATI, MA QUELLI DI PRIMA NON SI SONO POTUTI CONSERVARE\n"
+          "NELLA CARTELLA storico\n" +
+              perche,
+          MessageBox::Icon::Information, MessageBox::Buttons::Ok};
+}
+
 }  // namespace orm

@@ -11,5 +11,7 @@ MessageBox AvvisoFileIntestazioneAssente();
 MessageBox AvvisoFileDatiAssente();
 // `nomi`: the files that neither the working folder has nor the installation.
 MessageBox AvvisoFileInstallatiAssenti(const std::string& nomi);
+// A save has gone well, but what it replaced is not in `storico`: `perche` says why.
+MessageBox AvvisoVersioneNonConservata(const std::string& perche);
 
 }  // namespace orm

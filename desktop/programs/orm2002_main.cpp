@@ -8,7 +8,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/screen.h"
 #include "dialogs/message_boxes.h"
-#include "runtime/folder.h"
+#include "runtime/folder_lock.h"
 #include "shell/help/program_texts.h"
 #include "shell/shell.h"
 

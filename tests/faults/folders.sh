@@ -56,6 +56,41 @@ else
   echo "SALTATO (in parte): non è permesso montare un disco; il disco pieno è provato in saves.sh"
 fi
 
+# Two users on a shared folder: group and mode stay, so that each goes on after the other.
+if [ "$(id -u)" = 0 ]; then
+  sample_folder "$at"
+  chgrp -R 60000 "$at" && chmod 2770 "$at" && chmod 660 "$at"/*
+  for user in 60001 60002 60001; do
+    tried=$((tried + 1))
+    setpriv --reuid=$user --regid=$user --groups=60000 bash -c \
+      'umask 077; "$1" PPE --cartella "$2" && "$3" "$2" PERS_UTENTE' _ "$calcolo" "$at" "$saver" \
+      >/dev/null 2>&1 || breaks "utente $user: non salva nella cartella comune"
+    for file in UTENTE.DAG OUT_PPE.DOC storico/OUT_PPE.*; do
+      [ "$(stat -c '%g %a' "$at/"$file | sort -u)" = '60000 660' ] || breaks "utente $user: $file ha perso i suoi diritti"
+    done
+    echo ritoccata >>"$at/OUT_PPE.DOC"
+  done
+fi
+
+# Names that stood beside a file once, and leftovers of ours: a person's stay, ours go when old.
+sample_folder "$at"
+mkfifo "$at/OUT_PPE.DOC.tmp"
+touch "$at/.orm2002-adesso.tmp" && touch -d '1 hour ago' "$at/.orm2002-prima.tmp" "$at/mio.tmp"
+timeout 5 "$calcolo" PPE --cartella "$at" >/dev/null 2>&1 || breaks "una pipe di nome OUT_PPE.DOC.tmp ferma il calcolo"
+tried=$((tried + 1))
+[ "$(cd "$at" && echo .orm2002* *.tmp)" = ".orm2002-adesso.tmp OUT_PPE.DOC.tmp mio.tmp" ] ||
+  breaks "file di altri, o lasciati a metà: $(cd "$at" && echo .orm2002* *.tmp)"
+
+# File systems that keep no rights: the errors of their calls are none of the save.
+if strace -o /dev/null true 2>/dev/null; then
+  for call in fchmod fchown fsetxattr,fremovexattr listxattr; do
+    sample_folder "$at" && chmod 606 "$at/OUT_PPE.DOC" && echo altro >>"$at/OUT_PPE.DOC"
+    tried=$((tried + 1))
+    strace -o /dev/null -e inject="$call:error=EPERM" "$calcolo" PPE --cartella "$at" >/dev/null 2>&1 ||
+      breaks "$call con EPERM: non salva"
+  done
+fi
+
 # A limit on the size of files: an error like the others, not the end of the process.
 sample_folder "$at"
 limited() {

@@ -35,4 +35,4 @@ sample_folder() {
 }
 
 # Names and contents of a folder, to compare.
-picture() { (cd "$1" && for f in *; do [ -e "$f" ] && echo "$f $(cksum <"$f")"; done); }
+picture() { (cd "$1" && for f in *; do [ -f "$f" ] && echo "$f $(cksum <"$f")"; done); }

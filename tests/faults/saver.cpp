@@ -6,6 +6,7 @@
 //   orm_saver FOLDER --avvio [FILES]  start-up, which lays down the files of a new installation and
 //                                     those that it finds in the folder FILES
 //   orm_saver FOLDER --tiene          holds the folder until it is killed; tells so on its output
+//   orm_saver FOLDER --riscrive TEXT  replaces OUT_PPE.DOC by many TEXTs, again and again, unlocked
 //
 // Exit codes as those of orm2002-calcolo: 0 done; 1 a message; 2 a run-time failure; 3 wrong usage.
 #include <unistd.h>
@@ -15,6 +16,7 @@
 #include <string_view>
 
 #include "dialogs/form.h"
+#include "runtime/folder_lock.h"
 #include "shell/shell.h"
 
 namespace {
@@ -34,6 +36,7 @@ class Hurried : public orm::Player {
   }
   orm::Answer Ask(const orm::MessageBox& box) override {
     Tell(box.text + "\n", STDERR_FILENO);
+    if (box.icon == orm::MessageBox::Icon::Information) return orm::Answer::Ok;  // nothing failed
     code_ = std::max(code_, box.title == orm::kFailureTitle ? 2 : 1);
     return orm::Answer::Ok;
   }
@@ -71,6 +74,11 @@ int main(int count, char** words) {
   if (count < 3) return 3;
   const orm::WorkFolder folder(words[1]);
   const std::string command = words[2];
+  if (command == "--riscrive" && count > 3) {
+    std::string text;
+    while (text.size() < 200'000) text += words[3];
+    for (;;) folder.Replace("OUT_PPE.DOC", text, orm::Durability::Remakeable);
+  }
   const orm::FolderLock lock(folder);
   if (!lock.Held()) return 1;
   if (command == "--tiene") {

@@ -12,23 +12,33 @@ readonly old=$work/old new=$work/new at=$work/at errors="ENOSPC EIO EROFS"
 
 # File by file: old, new, or another whole state that the command may leave.
 check_whole() {
-  local file state
-  for file in $(ls "$old" "$new" "$at" | grep -v -e : -e '\.tmp$' | sort -u); do
+  local file state named
+  for file in $(ls "$old" "$new" "$at" | grep -v -e : -e '^storico$' | sort -u); do
     for state in "$old" "$new" "$work"/state-*; do
       if [ ! -e "$state/$file" ] && [ ! -e "$at/$file" ]; then continue 2; fi
       cmp -s "$state/$file" "$at/$file" 2>/dev/null && continue 2
     done
     breaks "$1: $file non è intero"
   done
+  # A generation is what some file of its name held, whole.
+  for file in "$at"/storico/*; do
+    [ -e "$file" ] || continue
+    named=$(basename "$file" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
+    for state in "$old" "$new" "$work"/state-*; do cmp -s "$state/$named" "$file" && continue 2; done
+    breaks "$1: $file non è intero"
+  done
 }
+
+# What a person sees of two folders is the same.
+same_files() { diff -rq -x storico -x '.orm2002-*' "$1" "$2" >/dev/null; }
 
 check_error() {
   local code=$1 where=$2 named
   check_whole "$where"
-  if ls "$at"/*.tmp >/dev/null 2>&1; then breaks "$where: resta un file .tmp"; fi
+  if [ -n "$(find "$at" -name '.orm2002-*')" ]; then breaks "$where: resta un file a metà"; fi
   if [ "$code" = 0 ]; then
     [ -s "$work/told" ] && return  # told before the command, which went on
-    diff -rq "$new" "$at" >/dev/null || breaks "$where: nessun messaggio, ma i file non sono i nuovi"
+    same_files "$new" "$at" || breaks "$where: nessun messaggio, ma i file non sono i nuovi"
     return
   fi
   [ "$code" = 2 ] || breaks "$where: esce con $code"
@@ -73,7 +83,7 @@ loop() {
       run_with "$call" signal=KILL $n || break
       check_whole "$title, interrotto a $call $n"
       "${run[@]}" >/dev/null 2>&1 || breaks "$title, dopo l'interruzione a $call $n: esce con $?"
-      diff -rq "$new" "$at" >/dev/null || breaks "$title, dopo l'interruzione a $call $n: non riparte"
+      same_files "$new" "$at" || breaks "$title, dopo l'interruzione a $call $n: non riparte"
     done
     for error in $errors; do
       for ((n = 1; ; n++)); do

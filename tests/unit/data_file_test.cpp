@@ -8,6 +8,7 @@
 #include <random>
 
 #include "runtime/failure.h"
+#include "runtime/folder_lock.h"
 #include "runtime/text.h"
 #include "tests/temporary_folder.h"
 

@@ -19,7 +19,7 @@ class FailedSaves : public ::testing::Test {
     EXPECT_EQ(player.messages[0].title, "ERRORE DI ESECUZIONE");
   }
   FakePlayer player;
-  RunState run{player, WorkFolder("/nowhere/at/all")};
+  RunState run{player, WorkFolder("/proc")};
 };
 
 // The chain of a note writes its data before the agreements are asked: a failure costs nothing of
@@ -35,7 +35,7 @@ TEST_F(FailedSaves, DataOfANote) {
     std::string shown;
     bool open = false;
   } person;
-  RunState note{person, WorkFolder("/nowhere/at/all")};
+  RunState note{person, WorkFolder("/proc")};
   note.FileInp = "INP_PPE.DAP";
   ChiediAcconti(note, DataWriter());
   EXPECT_EQ(person.shown, "frmGEN_Acconti");
