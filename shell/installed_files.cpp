@@ -1,7 +1,9 @@
 #include "shell/installed_files.h"
 
 #include <array>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "shell/shell_boxes.h"
 
@@ -16,10 +18,12 @@ constexpr std::array kFileInstallati = {"CAC.CFG", "CS1.CFG",     "CS2.CFG",
 }  // namespace
 
 void DisponiFileInstallati(RunState& stato, const WorkFolder& installati) {
+  std::error_code none;
+  const bool installato = std::filesystem::is_directory(installati.Path(), none);
   std::string assenti;
   for (const char* nome : kFileInstallati) {
     if (stato.folder.Exists(nome)) continue;
-    if (installati.Exists(nome))
+    if (installato && installati.Exists(nome))
       stato.folder.Replace(nome, installati.Read(nome));
     else
       assenti += std::string(assenti.empty() ? "" : ", ") + nome;
