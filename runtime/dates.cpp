@@ -12,14 +12,14 @@ std::chrono::year_month_day Calendar(const Date& d) {
          std::chrono::day(static_cast<unsigned>(d.day));
 }
 
+}  // namespace
+
 std::string Padded(int value, std::size_t width) {
   char buffer[16];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
   std::string text(buffer, end);
   return std::string(text.size() < width ? width - text.size() : 0, '0') + text;
 }
-
-}  // namespace
 
 bool IsValid(const Date& d) {
   return d.year >= 1 && d.year <= 9999 && d.month >= 1 && d.month <= 12 && d.day >= 1 &&

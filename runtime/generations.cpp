@@ -10,6 +10,7 @@
 #include <ctime>
 #include <map>
 
+#include "runtime/dates.h"
 #include "runtime/failure.h"
 #include "runtime/file_calls.h"
 #include "runtime/numbers.h"
@@ -30,11 +31,6 @@ bool HasShape(std::string_view text, std::string_view shape) {
   return std::equal(text.begin(), text.end(), shape.begin(), shape.end(), [](char c, char wanted) {
     return wanted == 'd' ? c >= '0' && c <= '9' : c == wanted;
   });
-}
-
-std::string Padded(int value, std::size_t width) {
-  const std::string text = NumberText(value);
-  return std::string(text.size() < width ? width - text.size() : 0, '0') + text;
 }
 
 std::string Now() {

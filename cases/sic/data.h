@@ -11,6 +11,9 @@
 namespace orm {
 
 inline constexpr int kLottiSicMassimi = 20;
+// Of the duties, from 0; these two have increments.
+inline constexpr std::size_t kCoordinatoreProgetto = 3, kCoordinatoreEsecuzione = 4;
+inline constexpr std::size_t kIncrementi = 3;  // of each
 
 // Amounts are in the currency of the note. A design amount below 0 is that of the first project: it
 // counts in sums without its sign and yields to the amount executed.

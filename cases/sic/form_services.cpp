@@ -5,9 +5,7 @@
 namespace orm {
 namespace {
 
-constexpr std::size_t kCoordinatoreProgetto = 3, kCoordinatoreEsecuzione = 4;
 constexpr std::size_t kCaselleMaggiorazioni = 10;  // "SC1" shows five of them
-constexpr std::size_t kIncrementi = 3;
 
 std::string Numero(std::size_t n) { return NumberText(static_cast<double>(n)); }
 std::string Percento(double valore) { return FormattaCopia(valore, 2); }

@@ -7,9 +7,6 @@
 namespace orm {
 namespace {
 
-constexpr std::size_t kCoordinatoreProgetto = 3, kCoordinatoreEsecuzione = 4;
-constexpr std::size_t kIncrementi = 3;
-
 std::string_view Fetta(std::string_view segni, std::size_t primo, std::size_t quanti) {
   return primo < segni.size() ? segni.substr(primo, quanti) : std::string_view();
 }

@@ -12,18 +12,22 @@ fuzzer=$work/tests/fuzz/fuzz_dati
 [ -x $fuzzer ] || { echo "Manca il programma: cmake --preset fuzz && cmake --build --preset fuzz"; exit 1; }
 [ ! -d /dev/shm ] || export TMPDIR=/dev/shm
 mkdir -p $work/findings
-for format in ${*:-$(ls corpus)}; do
+export runs work fuzzer
+
+fuzz() {
+  local format=$1 log=$work/$1.log started
   rm -rf "$work/corpus/$format" && mkdir -p "$work/corpus/$format"
   cp corpus/"$format"/* "$work/corpus/$format"
-  log=$work/$format.log
   started=$(date +%s)
   if ! "$fuzzer" "$format" -runs="$runs" -max_len=2048 -seed=20020315 -timeout=10 -rss_limit_mb=1024 \
       -dict=fields.dict -artifact_prefix="$work/findings/$format-" -print_final_stats=1 \
       "$work/corpus/$format" >"$log" 2>&1; then
     tail -40 "$log"
     echo "$format: una legge non vale; l'ingresso è in build/fuzz/findings"
-    exit 1
+    return 1
   fi
   printf '%-13s %8d ingressi in %4d s, %s\n' "$format" "$runs" $(($(date +%s) - started)) \
     "$(grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | tail -1)"
-done
+}
+export -f fuzz
+printf '%s\n' ${*:-$(ls corpus)} | xargs -P "$(nproc)" -I '{}' bash -c 'fuzz {}'
