@@ -17,10 +17,14 @@ struct RtfReading {
   RichDocument document;
   std::vector<std::string> losses;  // what the model cannot hold, in Italian, each once
   void Lose(const char* what);      // names a loss
+  // False, and named as a loss, where a count has reached what a memo can have.
+  bool Within(std::size_t now, std::size_t most);
 };
 
 // A text that is not RTF, ends too early or is damaged is a RuntimeFailure. A document with more
-// than a hundred groups within each other counts as damaged.
+// than a hundred groups within each other, or 50,000 paragraphs and stretches of one look, counts
+// as damaged; tabs, fonts and colours beyond all use are left out as losses, so that no file fills
+// the memory.
 RtfReading ReadRtf(std::string_view bytes);
 
 // Seven-bit text with CRLF.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/text.h"
+#include "shell/memo/rtf_lexer.h"
 #include "shell/memo/rtf_words.h"
 
 namespace orm {
@@ -17,7 +18,23 @@ bool IsBulletSign(std::string_view text) {
                  !((c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')));
 }
 
+constexpr std::size_t kMostPieces = 50'000;
+constexpr std::size_t kLongestListText = 64;
+
+void RefuseTooMany(std::size_t pieces) {
+  if (pieces > kMostPieces) FailRtf("ha troppi paragrafi o cambi di carattere");
+}
+
 }  // namespace
+
+void RtfBody::Append(std::string_view text, const RichStyle& style) {
+  paragraph_.Append(text, style);
+  RefuseTooMany(pieces_ + paragraph_.runs.size());
+}
+
+void RtfBody::AppendToListText(std::string_view text) {
+  if (reading_.Within(listText_.size(), kLongestListText)) listText_ += text;
+}
 
 void RtfBody::EndParagraph(const RichSetting& setting, const RichStyle& style) {
   paragraph_.setting = setting;
@@ -30,6 +47,8 @@ void RtfBody::EndParagraph(const RichSetting& setting, const RichStyle& style) {
     paragraph_.runs = std::move(numbered.runs);
   }
   listText_.clear();
+  pieces_ += 1 + paragraph_.runs.size();
+  RefuseTooMany(pieces_);
   reading_.document.paragraphs.push_back(std::exchange(paragraph_, {}));
 }
 

@@ -12,9 +12,9 @@ class RtfBody {
  public:
   explicit RtfBody(RtfReading& reading) : reading_(reading) {}
 
-  void Append(std::string_view text, const RichStyle& style) { paragraph_.Append(text, style); }
+  void Append(std::string_view text, const RichStyle& style);
   // What the file shows before a list item.
-  void AppendToListText(std::string_view text) { listText_ += text; }
+  void AppendToListText(std::string_view text);
 
   // `style` is that of a number which stands before no other text.
   void EndParagraph(const RichSetting& setting, const RichStyle& style);
@@ -27,6 +27,7 @@ class RtfBody {
   RtfReading& reading_;
   RichParagraph paragraph_;
   std::string listText_;
+  std::size_t pieces_ = 0;  // paragraphs that have ended, and their runs
 };
 
 }  // namespace orm

@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kFarthest = 31680;  // twips, 22 inches
 constexpr int kGreatestHalfPoints = 3276;
+constexpr std::size_t kMostTabs = 64;  // of a paragraph
 
 template <class Row, std::size_t N>
 const Row* Find(const Row (&rows)[N], std::string_view word) {
@@ -55,7 +56,9 @@ bool TakeParagraphWord(std::string_view word, int number, RichSetting& setting,
     if (number != 0 && number != 240) reading.Lose(kSpacing);
   } else if (word == "tx") {
     const auto place = std::lower_bound(setting.tabs.begin(), setting.tabs.end(), length);
-    if (place == setting.tabs.end() || *place != length) setting.tabs.insert(place, length);
+    const bool known = place != setting.tabs.end() && *place == length;
+    if (!known && reading.Within(setting.tabs.size(), kMostTabs))
+      setting.tabs.insert(place, length);
   } else {
     return false;
   }

@@ -15,6 +15,7 @@ namespace orm {
 namespace {
 
 constexpr std::size_t kDeepest = 100;  // groups within each other
+constexpr std::size_t kMostPageWords = 100;
 
 class RtfReader {
  public:
@@ -51,7 +52,7 @@ class RtfReader {
   std::vector<Group> groups_;
   RtfReading out_;
   RtfBody body_{out_};
-  RtfTables tables_;
+  RtfTables tables_{out_};
   int usualFont_ = 0;
   int toSkip_ = 0;
   char32_t highHalf_ = 0;
@@ -212,7 +213,8 @@ void RtfReader::FileWord(std::string_view word, int number) {
     out_.Lose(kOtherSet);
   } else if (std::find(std::begin(kPageWords), std::end(kPageWords), word) !=
              std::end(kPageWords)) {
-    out_.document.page.emplace_back(word, number);
+    if (out_.Within(out_.document.page.size(), kMostPageWords))
+      out_.document.page.emplace_back(word, number);
   }
 }
 
@@ -273,6 +275,11 @@ void RtfReader::Text(std::string_view text) {
 }
 
 }  // namespace
+
+bool RtfReading::Within(std::size_t now, std::size_t most) {
+  if (now >= most) Lose("quanto supera i limiti di un promemoria (tabulazioni, caratteri, colori)");
+  return now < most;
+}
 
 void RtfReading::Lose(const char* what) {
   if (std::find(losses.begin(), losses.end(), what) == losses.end()) losses.emplace_back(what);

@@ -8,15 +8,18 @@
 #include <vector>
 
 #include "dialogs/lavagna.h"
+#include "shell/memo/rtf.h"
 
 namespace orm {
 
 class RtfTables {
  public:
+  explicit RtfTables(RtfReading& reading) : reading_(reading) {}
+
   // A font of the table begins; text and set of characters that follow are its own.
-  void BeginFont(int index) { fonts_[index] = {}; }
-  void AddToName(int index, std::string_view text) { fonts_[index].name += text; }
-  void SetCharset(int index, int charset) { fonts_[index].charset = charset; }
+  void BeginFont(int index);
+  void AddToName(int index, std::string_view text);
+  void SetCharset(int index, int charset);
   // The usual font of text where the table has none of this number, or one without a name.
   std::string FontName(int index) const;
   // True when the font's bytes are not those of Windows-1252, nor signs of its own.
@@ -32,6 +35,7 @@ class RtfTables {
     std::string name;
     int charset = 0;
   };
+  RtfReading& reading_;
   std::map<int, Font> fonts_;
   std::vector<std::optional<Colour>> colours_;
   std::optional<Colour> colour_;

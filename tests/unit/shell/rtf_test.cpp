@@ -100,6 +100,25 @@ TEST(Rtf, RefusesWhatIsNoRichText) {
 }
 
 // As word processors of the time write it.
+// Files made to fill the memory: what is beyond all use is left out and told, or the file refused.
+TEST(Rtf, NoBomb) {
+  const auto many = [](int times, const std::string& what) {
+    std::string text;
+    for (int i = 0; i < times; ++i) text += what;
+    return text;
+  };
+  std::string tabs;
+  for (int i = 0; i < 20'000; ++i) tabs += "\\tx" + std::to_string(i);
+  const RtfReading read = ReadRtf("{\\rtf1" + tabs + many(20'000, "a\\par ") + "}");
+  EXPECT_EQ(read.document.paragraphs.size(), 20'000U);
+  EXPECT_LT(read.document.paragraphs.back().setting.tabs.size(), 100U);
+  EXPECT_EQ(read.losses.size(), 1U);
+  const RtfReading name = ReadRtf("{\\rtf1{\\fonttbl{\\f0 " + many(5'000, "nome") + ";}}\\f0 a}");
+  EXPECT_LT(name.document.paragraphs[0].runs[0].style.font.size(), 100U);
+  EXPECT_THROW(ReadRtf("{\\rtf1" + many(60'000, "\\par ") + "}"), RuntimeFailure);
+  EXPECT_THROW(ReadRtf("{\\rtf1" + many(30'000, "\\b a\\b0 a") + "}"), RuntimeFailure);
+}
+
 TEST(Rtf, ReadsAFileOfAnotherProgram) {
   const RtfReading reading = ReadRtf(
       "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1040{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}"
