@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <exception>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +25,7 @@
 namespace {
 
 constexpr int kDone = 0, kEndedByMessage = 1, kRuntimeFailure = 2, kWrongUsage = 3;
+constexpr int kNone = -1;  // there was nothing to do
 
 constexpr const char* kProgram = "orm2002-calcolo";
 
@@ -70,20 +73,31 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
   return kWrongUsage;
 }
 
+// Runs a step; a failure becomes its message and its code.
+template <class Step>
+int Guard(orm::BatchPlayer& player, Step&& step) {
+  try {
+    return step();
+  } catch (const orm::RuntimeFailure& failure) {
+    player.Ask(orm::FailureBox(failure));
+  } catch (const std::exception& error) {
+    player.Ask(
+        orm::FailureBox(orm::RuntimeFailure(std::string("Errore interno: ") + error.what())));
+  }
+  return kRuntimeFailure;
+}
+
 int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
               bool lire) {
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
-  try {
+  return Guard(player, [&] {
     orm::LeggiCriteri(stato);
     const bool done = orm::CalcoloParcella(stato);
     if (const std::string why = stato.folder.TakeWarning(); !why.empty())
       player.Ask(orm::AvvisoVersioneNonConservata(why));
     return done ? kDone : kEndedByMessage;
-  } catch (const orm::RuntimeFailure& failure) {
-    player.Ask(orm::FailureBox(failure));
-    return kRuntimeFailure;
-  }
+  });
 }
 
 // Every note of the folder that has its two data files.
@@ -92,8 +106,10 @@ int CalculateAll(orm::RunState& stato, orm::BatchPlayer& player) {
   for (const orm::FeeCase& fee : orm::FeeCases())
     for (const bool lire : {true, false}) {
       const orm::NomiFile nomi = orm::NomiDiCaso(fee.code, lire);
-      if (!stato.folder.Exists(nomi.FileInt) || !stato.folder.Exists(nomi.FileInp)) continue;
-      const int outcome = Calculate(stato, player, fee.code, lire);
+      const int outcome = Guard(player, [&] {
+        if (!stato.folder.Exists(nomi.FileInt) || !stato.folder.Exists(nomi.FileInp)) return kNone;
+        return Calculate(stato, player, fee.code, lire);
+      });
       if (outcome == kDone) Tell(nomi.Report + "\n", STDOUT_FILENO);
       worst = std::max(worst, outcome);
     }
@@ -108,12 +124,21 @@ int main(int count, char** words) {
   if (const auto outcome = Read(count, words, arguments)) return *outcome;
   orm::BatchPlayer player(arguments.data);
   orm::RunState stato(player, orm::WorkFolder(arguments.cartella));
+  std::error_code error;
+  if (!std::filesystem::is_directory(arguments.cartella, error)) {
+    Tell("LA CARTELLA DI LAVORO NON ESISTE O NON SI PUÒ APRIRE : " + arguments.cartella + "\n",
+         STDERR_FILENO);
+    return kEndedByMessage;
+  }
   const orm::FolderLock lock(stato.folder);
   if (!lock.Held()) {
     Tell("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO.\nChiudere prima l'altro programma.\n",
          STDERR_FILENO);
     return kEndedByMessage;
   }
+  if (!lock.Certain())
+    Tell("La cartella è di rete, o di un altro sistema: un altro computer può usarla intanto.\n",
+         STDERR_FILENO);
   return arguments.tutti ? CalculateAll(stato, player)
                          : Calculate(stato, player, arguments.codice, !arguments.euro);
 }

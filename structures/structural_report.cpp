@@ -63,7 +63,7 @@ void RelazioneStrutturale::Stampa(const StampaElemento& stampa, const char* avvi
   stampa(testo, !accodata, Numero());
   const std::string bytes =
       (accodata ? stato_.folder.Read(file_) : "") + ToWindows1252(testo.Contents());
-  stato_.folder.Replace(file_, bytes, Durability::Remakeable);
+  stato_.folder.Replace(file_, bytes);  // grown by hand: it is not made again
   ++stato_.memoria.The<ElementiStampati>().quanti[file_];
   stato_.player.StartProgram(stato_.editors.EditorTesti, file_);
 }

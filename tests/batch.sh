@@ -47,4 +47,11 @@ for file in "$work/prima"/*; do cmp "$file" "$work/$(basename "$file")" || broke
 # The sample notes that an installation brings.
 mkdir "$work/esempi" && cp "$scripts"/../../data/*.CFG "$scripts"/../../data/sample/* "$work/esempi"
 expects 0 '' "$calcolo" --tutti --cartella "$work/esempi"
+
+# A note that fails does not keep the others from being made; the worst code counts.
+rm "$work/INT_PPE.DAP" && ln -s INT_PPE.DAP "$work/INT_PPE.DAP" && rm "$work/OUT_PPE_E.DOC"
+expects 2 'collegamento' "$calcolo" --tutti --cartella "$work"
+[ -e "$work/OUT_PPE_E.DOC" ] || { echo "NON VALE: le altre parcelle non si calcolano"; broken=1; }
+expects 1 "$work/assente" "$calcolo" --tutti --cartella "$work/assente"
+expects 1 'NON ESISTE' "$calcolo" PPE --cartella "$(printf 'x%.0s' {1..5000})"
 exit $broken
