@@ -180,12 +180,23 @@ void DataWriter::Write(Field<bool> field) {
   bytes_ += field.value ? "#TRUE#" : "#FALSE#";
 }
 
+namespace {
+// Before a file is replaced: its new contents are read to their end, field by field.
+void CheckOpensAgain(std::string_view name, std::string_view bytes) {
+  DataReader again = DataReader::OfBytes(std::string(name), bytes);
+  while (!again.AtEnd()) again.Text("(da salvare)");
+}
+}  // namespace
+
 void DataWriter::Replace(const WorkFolder& folder, std::string_view name) const {
+  CheckOpensAgain(name, bytes_);
   folder.Replace(name, bytes_);
 }
 
 void DataWriter::Append(const WorkFolder& folder, std::string_view name) const {
-  folder.Replace(name, folder.Read(name) + bytes_);
+  const std::string bytes = folder.Read(name) + bytes_;
+  CheckOpensAgain(name, bytes);
+  folder.Replace(name, bytes);
 }
 
 }  // namespace orm

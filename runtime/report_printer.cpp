@@ -45,7 +45,9 @@ ReportPrinter& ReportPrinter::LineFeed() {
 
 void ReportPrinter::Save(const WorkFolder& folder, std::string_view name) const {
   try {
-    folder.Replace(name, ToWindows1252(contents_), Durability::Remakeable);
+    const std::string bytes = ToWindows1252(contents_);
+    FromWindows1252(bytes);  // what could not be read again takes no report's place
+    folder.Replace(name, bytes, Durability::Remakeable);
   } catch (RuntimeFailure& failure) {
     throw failure.AtFile(std::string(name));
   }

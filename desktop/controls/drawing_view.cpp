@@ -13,6 +13,7 @@
 
 #include "desktop/controls/views.h"
 #include "desktop/paint_drawing.h"
+#include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
@@ -61,8 +62,17 @@ class DrawingWidget : public QWidget {
   QString AskPath(const QString& ending) {
     QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
                                                 ending.toUpper() + " (*." + ending + ")");
-    if (!path.isEmpty() && !path.endsWith("." + ending, Qt::CaseInsensitive)) path += "." + ending;
-    return path;
+    if (path.isEmpty() || path.endsWith("." + ending, Qt::CaseInsensitive)) return path;
+    path += "." + ending;
+    return !QFileInfo::exists(path) || MayReplace(path) ? path : QString();
+  }
+  // The name was asked for before it had its ending.
+  bool MayReplace(const QString& path) {
+    QMessageBox box(QMessageBox::Question, "ATTENZIONE", "Il file c'è già. Sostituirlo?\n" + path,
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
   }
   // An older picture of that name stays until the new one is whole.
   void Write(const QString& path, const std::string& bytes) {
@@ -70,9 +80,8 @@ class DrawingWidget : public QWidget {
     try {
       WorkFolder(FromQt(file.absolutePath())).Replace(FromQt(file.fileName()), bytes);
     } catch (const RuntimeFailure& failure) {
-      QMessageBox::warning(
-          this, "ATTENZIONE",
-          "Non è stato possibile scrivere il file\n" + path + "\n" + ToQt(failure.Reason()));
+      WarnPlainly(
+          this, "Non è stato possibile scrivere il file\n" + path + "\n" + ToQt(failure.Reason()));
     }
   }
   void SaveSvg() {
@@ -90,19 +99,21 @@ class DrawingWidget : public QWidget {
     painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    picture.save(&buffer, "PNG");
+    if (!picture.save(&buffer, "PNG"))  // no memory for it, say
+      return WarnPlainly(this, "Non è stato possibile comporre l'immagine\n" + path);
     Write(path, bytes.toStdString());
   }
   void Print() {
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    QPainter painter(&printer);
-    PaintDrawing(
-        painter, lavagna_,
-        printer.pageLayout()
-            .paintRectPixels(printer.resolution())
-            .translated(-printer.pageLayout().paintRectPixels(printer.resolution()).topLeft()));
+    const QRect paper = printer.pageLayout().paintRectPixels(printer.resolution());
+    PrintWhole(printer, this, [&] {
+      QPainter painter;
+      if (!painter.begin(&printer)) return false;
+      PaintDrawing(painter, lavagna_, paper.translated(-paper.topLeft()));
+      return painter.end();
+    });
   }
   Lavagna& lavagna_;
 };

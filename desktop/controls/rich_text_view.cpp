@@ -2,6 +2,7 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QMenu>
+#include <QMimeData>
 #include <QTextEdit>
 #include <QTextList>
 #include <QToolBar>
@@ -12,10 +13,30 @@
 #include "desktop/controls/rich_text_document.h"
 #include "desktop/controls/views.h"
 #include "desktop/look.h"
+#include "desktop/pasted_text.h"
 #include "desktop/qt_text.h"
 
 namespace orm {
 namespace {
+
+// Takes what a file of rich text can hold.
+class RichTextEdit : public QTextEdit {
+ public:
+  using QTextEdit::QTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* source) override {
+    if (isReadOnly()) return;
+    const QString text = FitForPasting(source->text(), *document(), this);
+    if (!text.isEmpty()) textCursor().insertText(text);
+    ensureCursorVisible();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->text().isEmpty() || event->text()[0] < QChar(' ') ||
+        event->key() == Qt::Key_Delete || HasRoom(*document(), 1, this))
+      QTextEdit::keyPressEvent(event);
+  }
+};
 
 class RichTextView : public ControlView {
  public:
@@ -24,7 +45,7 @@ class RichTextView : public ControlView {
         box_(box),
         whole_(new QWidget(host.Window())),
         bar_(new QToolBar(whole_)),
-        edit_(new QTextEdit(whole_)) {
+        edit_(new RichTextEdit(whole_)) {
     edit_->setAcceptRichText(false);  // tables and pictures of other programs could not be kept
     edit_->setMinimumSize(CharactersWide(*edit_, 76), edit_->fontMetrics().lineSpacing() * 22);
     auto* column = new QVBoxLayout(whole_);

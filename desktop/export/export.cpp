@@ -2,6 +2,7 @@
 #include "desktop/export/export.h"
 
 #include <QBuffer>
+#include <QFontDatabase>
 #include <QPdfWriter>
 
 #include "desktop/export/odt.h"
@@ -16,6 +17,8 @@ std::string CopyOf(CopyKind kind, const QString& text, const QString& title) {
 }
 
 std::string PdfOf(const QString& text, const QString& title) {
+  if (QFontDatabase::families().isEmpty())
+    throw RuntimeFailure("Sul sistema non c'è alcun carattere con cui comporre il documento PDF.");
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "desktop/page_dress.h"
+#include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
 
 // The pictures lie in a static library, which a program takes them from only when told.
@@ -179,7 +180,10 @@ void HelpView::Print() {
   paper.setDefaultFont(font);
   paper.setMarkdown(ToQt(page->text));
   DressPage(paper, ColoursOnPaper(), kPaperPoints);
-  paper.print(&printer);
+  PrintWhole(printer, this, [&] {
+    paper.print(&printer);
+    return printer.printerState() != QPrinter::Error;
+  });
 }
 
 }  // namespace orm

@@ -62,13 +62,16 @@ int WriteCopy(const Request& request) {
   try {
     const FilePlace place = FilePlace::Of(request.file);
     const QString text = QString::fromStdString(DecodeText(place.Read()).text);
-    FilePlace::Of(request.copy)
-        .Replace(CopyOf(kCopies.at(request.copyOption), text, QString::fromStdString(place.name)));
+    const FilePlace copy = FilePlace::Of(request.copy);
+    RefuseSameFile(place, copy);
+    copy.Replace(CopyOf(kCopies.at(request.copyOption), text, QString::fromStdString(place.name)));
     return kDone;
   } catch (RuntimeFailure& failure) {
     Complain(failure.AtFile(request.file).Text());
-    return kFailed;
+  } catch (const std::exception& error) {
+    Complain(error.what());
   }
+  return kFailed;
 }
 
 // Rich text is no report: it has the window of the memo, which can also make it.

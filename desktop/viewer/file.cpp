@@ -11,6 +11,8 @@ namespace orm {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::size_t kLongestLine = 100'000;  // bytes
+constexpr int kMostLines = 200'000;
 
 // An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
 // like follows in Windows-1252, look like one character of two bytes: «CAFFÈ» ends in one.
@@ -35,9 +37,26 @@ void RefuseControlCharacters(std::string_view bytes) {
   const auto isControl = [](unsigned char byte) {
     return (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
   };
-  if (std::any_of(bytes.begin(), bytes.end(), isControl))
+  const auto found = std::find_if(bytes.begin(), bytes.end(), isControl);
+  if (found != bytes.end())
     throw RuntimeFailure(
-        "Il file contiene caratteri che non sono testo (file binario o danneggiato).");
+        "Il file contiene caratteri che non sono testo (file binario o danneggiato).")
+        .AtLine(1 + static_cast<int>(std::count(bytes.begin(), found, '\n')));
+}
+
+// A line or a number of lines that nobody reads would keep the window busy for minutes.
+void RefuseEndlessText(std::string_view bytes) {
+  std::size_t length = 0;
+  int line = 1;
+  for (const char c : bytes) {
+    if (c == '\n' || c == '\r') {
+      length = 0;
+      line += c == '\n';
+    } else if (++length > kLongestLine) {
+      throw RuntimeFailure("Una riga del file è troppo lunga per essere mostrata.").AtLine(line);
+    }
+  }
+  if (line > kMostLines) throw RuntimeFailure("Il file ha troppe righe per essere mostrato.");
 }
 
 LineEnd UsualLineEnd(std::string_view bytes) {
@@ -102,6 +121,7 @@ std::string WithLineEnds(std::string_view text, LineEnd usual) {
 
 DecodedText DecodeText(std::string_view bytes) {
   RefuseControlCharacters(bytes);
+  RefuseEndlessText(bytes);
   DecodedText result;
   result.format.byteOrderMark = bytes.starts_with(kByteOrderMark);
   if (result.format.byteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
@@ -111,6 +131,15 @@ DecodedText DecodeText(std::string_view bytes) {
                     ? WithoutLineEnds(bytes, result.format.lineEnd)
                     : WithoutLineEnds(FromWindows1252(bytes), result.format.lineEnd);
   return result;
+}
+
+void CheckOpensAgain(std::string_view bytes, const TextFormat& format) {
+  if (bytes.size() > WorkFolder::kLargestFile)
+    throw RuntimeFailure("Il testo è troppo grande per il suo file.");
+  const TextFormat again = DecodeText(bytes).format;
+  const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });
+  if (!ascii && again.encoding != format.encoding)
+    throw RuntimeFailure("Riaperto, il testo sarebbe preso per " + FormatName(again) + ".");
 }
 
 std::string EncodeText(std::string_view text, const TextFormat& format) {
@@ -152,12 +181,16 @@ bool IsRichText(const std::string& path) {
 }
 
 FilePlace FilePlace::Of(const std::string& path) {
-  std::error_code error;
-  std::filesystem::path whole = std::filesystem::canonical(path, error);
-  if (error) whole = path;  // not there yet, or not reachable: reading and writing tell why
+  const std::filesystem::path whole = path;
   std::string folder = whole.parent_path().string();
   if (folder.empty()) folder = ".";
   return {WorkFolder(folder), whole.filename().string()};
+}
+
+void RefuseSameFile(const FilePlace& original, const FilePlace& copy) {
+  std::error_code error;
+  if (std::filesystem::equivalent(original.Path(), copy.Path(), error))
+    throw RuntimeFailure("La copia prenderebbe il posto del file stesso.").AtFile(copy.name);
 }
 
 void FilePlace::Replace(std::string_view bytes) const {

@@ -34,6 +34,9 @@ struct DecodedText {
 // RuntimeFailure.
 DecodedText DecodeText(std::string_view bytes);
 
+// Refuses, as a RuntimeFailure, bytes that this program would not open again as the same text.
+void CheckOpensAgain(std::string_view bytes, const TextFormat& format);
+
 // The bytes of a text. A character that the encoding lacks is a RuntimeFailure.
 std::string EncodeText(std::string_view text, const TextFormat& format);
 
@@ -51,8 +54,7 @@ std::string FormatName(const TextFormat& format);
 // A document with looks, by its name or, where the name does not say, by how it begins.
 bool IsRichText(const std::string& path);
 
-// A path taken apart into its folder and its bare name. A link stands for the file it leads to, so
-// that saving never replaces the link itself.
+// A path taken apart into its folder and its bare name.
 struct FilePlace {
   WorkFolder folder;
   std::string name;
@@ -62,5 +64,8 @@ struct FilePlace {
   std::string Read() const { return folder.Read(name); }
   void Replace(std::string_view bytes) const;  // a missing folder is named
 };
+
+// A copy in place of its own original is a RuntimeFailure.
+void RefuseSameFile(const FilePlace& original, const FilePlace& copy);
 
 }  // namespace orm

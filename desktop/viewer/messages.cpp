@@ -2,22 +2,32 @@
 #include "desktop/viewer/messages.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QPushButton>
 
 namespace orm {
+namespace {
+
+// A file may have a name that looks like a page of the web.
+void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
+  box.setInformativeText(detail);
+  for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+}
+
+}  // namespace
 
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail) {
   QMessageBox box(icon, QString::fromLatin1(kViewerName), text, QMessageBox::NoButton, parent);
-  box.setInformativeText(detail);
+  ShowLetterForLetter(box, detail);
   box.setDefaultButton(box.addButton(QStringLiteral("&Chiudi"), QMessageBox::AcceptRole));
   box.exec();
 }
 
-int Choose(QWidget* parent, const QString& text, const QString& detail,
-           const QStringList& buttons) {
+int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
+           int byDefault) {
   QMessageBox box(QMessageBox::Question, QString::fromLatin1(kViewerName), text,
                   QMessageBox::NoButton, parent);
-  box.setInformativeText(detail);
+  ShowLetterForLetter(box, detail);
   QList<QPushButton*> made;
   for (const QString& caption : buttons) {
     const bool first = made.isEmpty(), last = made.size() + 1 == buttons.size();
@@ -25,7 +35,7 @@ int Choose(QWidget* parent, const QString& text, const QString& detail,
                                    : last ? QMessageBox::RejectRole
                                           : QMessageBox::DestructiveRole);
   }
-  box.setDefaultButton(made.first());
+  box.setDefaultButton(made[byDefault]);
   box.setEscapeButton(made.last());
   box.exec();
   const auto pressed = made.indexOf(qobject_cast<QPushButton*>(box.clickedButton()));

@@ -11,8 +11,9 @@ inline constexpr const char* kViewerName = "ORM2002 Visore";
 // Shows a message with one button.
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {});
 
-// Shows a question and returns the index of the button pressed. The first button is the default;
-// Esc and the window's button give the last one.
-int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons);
+// Shows a question and returns the index of the button pressed. Esc and the window's button give
+// the last one. Texts are shown letter for letter.
+int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
+           int byDefault = 0);
 
 }  // namespace orm

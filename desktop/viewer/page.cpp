@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QLinearGradient>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -11,6 +12,7 @@
 #include <cmath>
 
 #include "desktop/export/pages.h"
+#include "desktop/pasted_text.h"
 
 namespace orm {
 namespace {
@@ -122,6 +124,13 @@ void ViewerPage::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) UpdateColours();
 }
 
+void ViewerPage::insertFromMimeData(const QMimeData* source) {
+  if (isReadOnly()) return;
+  const QString text = FitForPasting(source->text(), *document(), this);
+  if (!text.isEmpty()) textCursor().insertText(text);
+  ensureCursorVisible();
+}
+
 void ViewerPage::wheelEvent(QWheelEvent* event) {
   if (!(event->modifiers() & Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(event);
   const int turn = event->angleDelta().y();
@@ -130,6 +139,9 @@ void ViewerPage::wheelEvent(QWheelEvent* event) {
 }
 
 void ViewerPage::keyPressEvent(QKeyEvent* event) {
+  if (!isReadOnly() && !event->text().isEmpty() && event->text()[0] >= QChar(' ') &&
+      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, this))
+    return;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter || isReadOnly()) return QPlainTextEdit::keyPressEvent(event);
   // With any modifier the same line end: a line feed alone would come of Shift.

@@ -30,6 +30,7 @@ class ViewerPage : public QPlainTextEdit {
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
   void changeEvent(QEvent* event) override;
 
  private:

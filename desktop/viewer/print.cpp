@@ -14,7 +14,7 @@
 
 #include "desktop/export/pages.h"
 #include "desktop/icons.h"
-#include "desktop/viewer/messages.h"
+#include "desktop/print_whole.h"
 
 namespace orm {
 namespace {
@@ -37,10 +37,8 @@ bool AskAndPrint(QPrinter& printer, const QString& text, QWidget* parent) {
   const bool range = printer.printRange() == QPrinter::PageRange;
   const int first = range ? qBound(1, printer.fromPage(), pages.Count()) : 1;
   const int last = range ? qBound(first, printer.toPage(), pages.Count()) : pages.Count();
-  if (PaintPages(pages, printer, first - 1, last - 1)) return true;
-  Tell(parent, QMessageBox::Warning, QStringLiteral("La stampa non è riuscita."),
-       QStringLiteral("Controllare la stampante, o il file su cui si stampa, e riprovare."));
-  return false;
+  return PrintWhole(printer, parent,
+                    [&] { return PaintPages(pages, printer, first - 1, last - 1); });
 }
 
 class PreviewDialog : public QDialog {

@@ -122,6 +122,7 @@ bool ViewerWindow::WriteTo(const FilePlace& place) {
   if (RefusedForEncoding()) return false;
   try {
     const std::string bytes = EncodeText(page_->Text(), format_);
+    CheckOpensAgain(bytes, format_);
     place.Replace(bytes);
     onDisk_ = bytes;
   } catch (const RuntimeFailure& failure) {
@@ -134,6 +135,10 @@ bool ViewerWindow::WriteTo(const FilePlace& place) {
   notice_->hide();
   page_->document()->setModified(false);
   statusBar()->showMessage(QStringLiteral("Salvato."), kMessageMilliseconds);
+  if (const std::string why = place.folder.TakeWarning(); !why.empty())
+    Tell(this, QMessageBox::Information,
+         QStringLiteral("Il file è salvato, ma quello di prima non è nella cartella storico."),
+         QString::fromStdString(why));
   return true;
 }
 
@@ -147,7 +152,7 @@ bool ViewerWindow::Save() {
   if (now != onDisk_ &&
       Choose(this, QStringLiteral("Il file è stato cambiato da un altro programma."),
              QStringLiteral("Salvando, quello che è stato scritto nel frattempo andrebbe perduto."),
-             {QStringLiteral("&Sovrascrivi"), QStringLiteral("&Annulla")}) != 0)
+             {QStringLiteral("&Sovrascrivi"), QStringLiteral("&Annulla")}, 1) != 0)
     return false;
   return WriteTo(place_);
 }
@@ -163,7 +168,9 @@ bool ViewerWindow::SaveAs(const std::string& path) {
 
 bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path) {
   try {
-    FilePlace::Of(path).Replace(CopyOf(kind, page_->Visible(), Title()));
+    const FilePlace copy = FilePlace::Of(path);
+    RefuseSameFile(place_, copy);
+    copy.Replace(CopyOf(kind, page_->Visible(), Title()));
   } catch (const RuntimeFailure& failure) {
     Tell(this, QMessageBox::Warning, QStringLiteral("La copia non è stata salvata."),
          QString::fromStdString(failure.Text()));

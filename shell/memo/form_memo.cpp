@@ -76,9 +76,15 @@ Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& risc
 
 void FrmGenVisualizzaRtf::Salva(bool conservaIlPrecedente) {
   fallito_ = true;
+  const std::string bytes = WriteRtf(RichTextBox1.Document());
+  try {
+    ReadRtf(bytes);  // what would not open again is not saved
+  } catch (RuntimeFailure& failure) {
+    throw failure.AtFile(NomeFile);
+  }
   if (conservaIlPrecedente)
     stato_.folder.Replace(NomeDelPrecedente(), stato_.folder.Read(NomeFile));
-  stato_.folder.Replace(NomeFile, WriteRtf(RichTextBox1.Document()));
+  stato_.folder.Replace(NomeFile, bytes);
   fallito_ = false;
 }
 

@@ -1,6 +1,7 @@
 // The report viewer: what it reads comes back byte for byte, a failed save loses nothing, and paper
 // has the columns of the report.
 #include <QAction>
+#include <QClipboard>
 #include <QFile>
 #include <QLabel>
 #include <QProcess>
@@ -143,6 +144,39 @@ TEST_F(ViewerTest, FailedSaveKeepsEditsAndFile) {
   EXPECT_EQ(Read("A.DOC"), kReport);
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_EQ(window.Page().Text().substr(0, 4), "Nota");
+}
+
+// What this program would not open again is refused at the save, or taken out before.
+TEST_F(ViewerTest, WhatIsSavedOpensAgain) {
+  Write("A.DOC", kReport);
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.SetEditing(true);
+  QApplication::clipboard()->setText(QString("pagina\fdue") + QChar(0) + QChar(7));
+  window.Page().paste();
+  EXPECT_TRUE(window.Page().Text().starts_with("paginadue "));
+  ASSERT_TRUE(window.Save());
+  EXPECT_NO_THROW(window.Open(PathOf("A.DOC")));
+  window.SetEditing(true);
+  const std::string bytes = Read("A.DOC");
+  const std::pair<QString, const char*> refused[] = {
+      {QString("\f"), "Riga : 1"},
+      {QString(200'000, 'x'), "troppo lunga"},
+      {(QString(999, 'x') + "\n").repeated(9'000), "troppo grande"},
+  };
+  for (const auto& [text, reason] : refused) {
+    window.Page().insertPlainText(text);
+    Person person("Chiudi");
+    EXPECT_FALSE(window.Save());
+    EXPECT_TRUE(person.Said().contains(reason)) << person.Said().toStdString();
+    window.Page().undo();
+    EXPECT_EQ(Read("A.DOC"), bytes);
+  }
+  EXPECT_THROW(CheckOpensAgain("citt\xC3\xA0 \xE2\x82\xAC", {}), RuntimeFailure);
+  Person person("Chiudi");
+  EXPECT_FALSE(window.SaveCopy(CopyKind::Pdf, PathOf("A.DOC")));
+  EXPECT_EQ(Read("A.DOC"), bytes);
+  window.Page().document()->setModified(false);
 }
 
 TEST_F(ViewerTest, RefusesToSaveACharacterThatTheFileCannotHold) {
