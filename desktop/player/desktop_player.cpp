@@ -4,9 +4,11 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QPushButton>
 #include <QScreen>
 #include <cmath>
 
+#include "desktop/player/chosen_programs.h"
 #include "desktop/player/form_dialog.h"
 #include "desktop/player/message_window.h"
 #include "desktop/player/outside_programs.h"
@@ -47,12 +49,38 @@ std::optional<std::string> DesktopPlayer::ChooseFile(const FileChoice& choice) {
   const QString path = QFileDialog::getOpenFileName(Front(), ToQt(choice.title).trimmed(),
                                                     ToQt(choice.start), filters);
   if (path.isEmpty()) return std::nullopt;
+  if (QFileInfo(path).isExecutable()) RememberChosen(WholePath(FromQt(path), folder_));
   return FromQt(path);
 }
 
+bool DesktopPlayer::MayStart(const std::string& path) {
+  const OutsidePrograms own = DefaultPrograms();
+  for (const std::string& known : {own.reports, own.configuration, own.pdf, own.help})
+    if (path == known) return true;
+  if (LiesIn(path, folder_)) {
+    Ask(Avviso("IL PROGRAMMA SI TROVA NELLA CARTELLA DI LAVORO E NON VIENE AVVIATO\n" + path));
+    return false;
+  }
+  if (IsChosen(path)) return true;
+  const MessageBox question{kAttenzione,
+                            "QUESTA CARTELLA CHIEDE DI AVVIARE UN PROGRAMMA CHE SU QUESTO COMPUTER "
+                            "NON È ANCORA STATO SCELTO\n" +
+                                path + "\nAVVIARLO, ORA E IN FUTURO ?",
+                            MessageBox::Icon::Question, MessageBox::Buttons::YesNo};
+  const auto shown = BuildMessageWindow(question, Front());
+  shown->setDefaultButton(qobject_cast<QPushButton*>(ButtonOf(*shown, Answer::No)));
+  Run(*shown, question);
+  if (AnswerGiven(*shown, question) != Answer::Yes) return false;
+  RememberChosen(path);
+  return true;
+}
+
 void DesktopPlayer::StartProgram(const std::string& program, const std::string& argument) {
+  const std::string path = WholePath(program, folder_);
+  if (!path.empty() && !MayStart(path)) return;
   const QStringList arguments = argument.empty() ? QStringList() : QStringList(ToQt(argument));
-  if (QProcess::startDetached(ToQt(program), arguments, ToQt(folder_))) return;
+  // By its whole path: a name alone could be found in the folder.
+  if (!path.empty() && QProcess::startDetached(ToQt(path), arguments, ToQt(folder_))) return;
   Ask(Avviso("NON È STATO POSSIBILE AVVIARE IL PROGRAMMA\n" + program));
 }
 

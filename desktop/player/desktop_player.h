@@ -36,6 +36,8 @@ class DesktopPlayer : public Player {
   virtual void Run(QMessageBox& shown, const MessageBox& box);
 
  private:
+  // What was chosen on this computer, or is now; never what lies in the working folder.
+  bool MayStart(const std::string& path);
   QWidget* Front() const { return open_.empty() ? mainWindow_ : open_.back(); }
 
   std::string folder_;

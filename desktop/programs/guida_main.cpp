@@ -6,6 +6,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSettings>
+#include <QStandardPaths>
 #include <cstdio>
 
 #include "desktop/desktop_app.h"
@@ -21,7 +22,9 @@ constexpr int kPatience = 500;  // milliseconds for a window that is open to ans
 QString Meeting() {
   QString screen = qEnvironmentVariable("WAYLAND_DISPLAY") + qEnvironmentVariable("DISPLAY");
   screen.replace('/', '_');
-  return QStringLiteral("orm2002-guida-%1-%2").arg(getuid()).arg(screen);
+  // In the folder that is the person's own: nobody else can wait there under the same name.
+  return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+         QStringLiteral("/orm2002-guida-%1-%2").arg(getuid()).arg(screen);
 }
 
 // True when an open window took the place over.

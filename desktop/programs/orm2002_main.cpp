@@ -45,6 +45,11 @@ int main(int argc, char** argv) {
                     "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
     return 1;
   }
+  if (!lock.Certain())
+    player.Ask({orm::kAttenzione,
+                "LA CARTELLA DI LAVORO È SU UN DISCO DI RETE, O DI UN ALTRO SISTEMA :\n"
+                "NON SI PUÒ SAPERE SE SU UN ALTRO COMPUTER ORM2002 LA STA USANDO",
+                orm::MessageBox::Icon::Information, orm::MessageBox::Buttons::Ok});
   orm::Shell shell(player, folder);
   if (!shell.Load()) return 0;
   shell.PreparaCartella(InstalledFiles());
