@@ -26,6 +26,7 @@ Formats TextFormats();   // what is typed or read whole
 Formats FileFormats();   // data of the program
 Formats TableFormats();  // tables kept by the user
 Formats NoteFormats();   // data of the fee cases
+Formats SavedFormats();  // what stands beside the data
 
 inline void Require(bool held, std::string_view law) {
   if (held) return;

@@ -2,6 +2,7 @@
 // size.
 #include "cases/cos/config.h"
 #include "cases/geo/config.h"
+#include "structures/truss_slab/report.h"
 #include "tariff/config/compensation_steps.h"
 #include "tariff/config/price_index.h"
 #include "tests/fuzz/fuzzer.h"
@@ -60,10 +61,19 @@ void Tariffe(std::string_view input) {
   });
 }
 
+// The maker's address, in the banner of its report.
+void Solaio(std::string_view input) {
+  Check(kFileProduttore, input, true, [] {
+    ReportPrinter report;
+    StampaIntestazioneSolaioT(report, LeggiProduttore(Place()));
+    report.Save(Place(), kRelazioneSolaioT);
+  });
+}
+
 }  // namespace
 
 Formats TableFormats() {
-  return {{"scaglioni", Scaglioni}, {"tassi", Tassi}, {"tariffe", Tariffe}};
+  return {{"scaglioni", Scaglioni}, {"solaio", Solaio}, {"tassi", Tassi}, {"tariffe", Tariffe}};
 }
 
 }  // namespace orm::fuzz

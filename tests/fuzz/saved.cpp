@@ -1,0 +1,59 @@
+// What stands beside the data: the texts that the viewer opens, and the generations of files.
+#include <filesystem>
+#include <fstream>
+
+#include "desktop/viewer/file.h"
+#include "runtime/generations.h"
+#include "tests/fuzz/fuzzer.h"
+
+namespace orm::fuzz {
+namespace {
+
+// Any file is a text that comes back byte for byte, or a failure.
+void Visore(std::string_view bytes) {
+  try {
+    const DecodedText read = DecodeText(bytes);
+    // The window shows what would not come back, and does not save it.
+    if (FirstLackingCharacter(read.text, read.format)) return;
+    const std::string saved = EncodeText(read.text, read.format);
+    CheckOpensAgain(saved, read.format);
+    const DecodedText again = DecodeText(saved);
+    Require(EncodeText(again.text, again.format) == saved, "il testo salvato si riapre uguale");
+  } catch (const RuntimeFailure& failure) {
+    Require(!failure.Reason().empty(), "il messaggio ha una ragione");
+  }
+}
+
+// `storico` with files of any names: what is no generation stays, and a save adds exactly one.
+void NomiDelloStorico(std::string_view input) {
+  const WorkFolder storico(Place().PathOf(kStorico));
+  std::filesystem::remove_all(storico.Path());
+  std::filesystem::create_directory(storico.Path());
+  std::size_t others = 0;
+  for (std::size_t at = 0; at < input.size();) {
+    const std::string name(input.substr(at, input.find('\n', at) - at));
+    at += name.size() + 1;
+    if (name.empty() || name.size() > 200 || name == "." || name == ".." ||
+        name.find_first_of(std::string_view("/\0", 2)) != name.npos ||
+        name.find("-99") != name.npos || storico.Exists(name))
+      continue;
+    const std::size_t before = Generazioni(Place()).size();
+    std::ofstream(storico.PathOf(name)) << name;
+    if (Generazioni(Place()).size() == before) ++others;
+  }
+  const std::size_t before = Generazioni(Place(), "A.DAP").size();
+  std::filesystem::remove(Place().PathOf("A.DAP"));
+  Put("A.DAP", "prima");
+  Put("A.DAP", "dopo");
+  const std::vector<Generazione> after = Generazioni(Place(), "A.DAP");
+  Require(after.size() == std::min<std::size_t>(before + 1, 20), "una generazione in più");
+  Require(LeggiGenerazione(Place(), after.front()) == "prima", "l'ultima è quella di prima");
+  Require(storico.Names().size() == Generazioni(Place()).size() + others,
+          "i file di altri restano");
+}
+
+}  // namespace
+
+Formats SavedFormats() { return {{"generazioni", NomiDelloStorico}, {"visore", Visore}}; }
+
+}  // namespace orm::fuzz
