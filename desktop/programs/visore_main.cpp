@@ -14,6 +14,7 @@
 
 #include "desktop/desktop_app.h"
 #include "desktop/export/export.h"
+#include "desktop/last_words.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/screen.h"
 #include "desktop/viewer/messages.h"
@@ -92,6 +93,7 @@ int ShowReport(const std::string& file) {
   window.Open(file);
   window.TakeHabits(habits);
   window.show();
+  const LastWords lastWords([&window] { window.KeepUnsaved(); });
   const int result = QApplication::exec();
   window.KeepHabits(habits);
   return result;

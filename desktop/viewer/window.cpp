@@ -42,6 +42,7 @@ ViewerWindow::ViewerWindow()
     : notice_(new NoticeBar),
       page_(new ViewerPage),
       find_(new FindBar(*page_)),
+      unsaved_(*page_),
       watch_([this] { LookAtDisk(); }) {
   auto* whole = new QWidget(this);
   auto* column = new QVBoxLayout(whole);
@@ -83,7 +84,8 @@ void ViewerWindow::Open(const std::string& path) {
   place_ = place;
   Show(bytes);
   page_->moveCursor(QTextCursor::Start);
-  SetEditing(!IsReport(place_.name));
+  unsaved_.Follow(place_);
+  SetEditing((editable_ && unsaved_.ComesBack(this)) || !IsReport(place_.name));
   watch_.Follow(QFileInfo(QString::fromStdString(place_.Path())).absoluteFilePath());
 }
 
@@ -160,7 +162,9 @@ bool ViewerWindow::Save() {
 bool ViewerWindow::SaveAs(const std::string& path) {
   const FilePlace place = FilePlace::Of(path);
   if (!WriteTo(place)) return false;
-  place_ = FilePlace::Of(path);
+  unsaved_.Forget();
+  place_ = place;
+  unsaved_.Follow(place_);
   watch_.Follow(QFileInfo(QString::fromStdString(place_.Path())).absoluteFilePath());
   ShowState();
   return true;
@@ -284,6 +288,7 @@ void ViewerWindow::closeEvent(QCloseEvent* event) {
       QStringLiteral("Senza salvarle andrebbero perdute."),
       {QStringLiteral("&Salva"), QStringLiteral("&Non salvare"), QStringLiteral("&Annulla")});
   const bool leave = choice == 1 || (choice == 0 && Save());
+  if (leave) unsaved_.Forget();
   event->setAccepted(leave);
 }
 

@@ -8,6 +8,7 @@
 #include "desktop/viewer/file.h"
 #include "desktop/viewer/file_names.h"
 #include "desktop/viewer/theme.h"
+#include "desktop/viewer/unsaved.h"
 #include "desktop/viewer/watch.h"
 
 class QLabel;
@@ -40,6 +41,9 @@ class ViewerWindow : public QMainWindow {
   bool AskSaveAs();
   bool AskCopy(CopyKind kind);
   void AskReload();
+
+  // Keeps what is not saved for a next window, should this one not end well.
+  void KeepUnsaved() { unsaved_.Keep(); }
 
   void Print();
   void Preview();
@@ -77,6 +81,7 @@ class ViewerWindow : public QMainWindow {
   QLabel *placeLabel_, *modeLabel_, *formatLabel_, *zoomLabel_;
   ViewerCommands commands_;
   FilePlace place_;
+  UnsavedText unsaved_;
   TextFormat format_;
   std::string onDisk_;  // the bytes that the text comes from
   std::string asked_;   // the newer bytes that the notice bar asks about

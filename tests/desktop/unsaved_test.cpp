@@ -1,0 +1,98 @@
+// What has been typed and not saved outlives the program, however it ends.
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+
+#include "desktop/last_words.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/window.h"
+#include "tests/desktop/test_player.h"
+
+namespace orm {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Unsaved : public testing::Test {
+ protected:
+  void SetUp() override {
+    qputenv("XDG_STATE_HOME", state_.path().toUtf8());
+    WorkFolder(folder_.path().toStdString()).Replace("A.TXT", "prima\r\n");
+  }
+  std::string PathOf(const char* name) const { return folder_.filePath(name).toStdString(); }
+  int Drafts(const QTemporaryDir& place) const {
+    int count = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(place.path().toStdString()))
+      count += entry.path().string().ends_with(".bozza");
+    return count;
+  }
+  // In a process of its own, with the text typed and not saved.
+  [[noreturn]] void TypeAndEnd(void (*end)()) const {
+    ViewerWindow window;
+    window.Open(PathOf("A.TXT"));
+    QTest::keyClicks(&window.Page(), "scritto ");
+    const LastWords lastWords([&window] { window.KeepUnsaved(); });
+    end();
+    QTest::qWait(60'000);
+    std::_Exit(1);
+  }
+  void ComesBack() {
+    Person person("Riprendi il testo");
+    ViewerWindow window;
+    window.Open(PathOf("A.TXT"));
+    EXPECT_EQ(window.Page().Text(), "scritto prima\n");
+    EXPECT_TRUE(window.Save());
+    window.KeepUnsaved();
+    EXPECT_EQ(Drafts(folder_) + Drafts(state_), 0);
+    WorkFolder(folder_.path().toStdString()).Replace("A.TXT", "prima\r\n");
+  }
+  QTemporaryDir folder_, state_;
+};
+
+TEST_F(Unsaved, OutlivesEveryEnd) {
+  EXPECT_EXIT(TypeAndEnd([] { std::raise(SIGTERM); }), testing::KilledBySignal(SIGTERM), "");
+  ComesBack();
+  EXPECT_EXIT(TypeAndEnd([] { std::raise(SIGHUP); }), testing::KilledBySignal(SIGHUP), "");
+  ComesBack();
+  // As Qt leaves when the screen breaks off.
+  EXPECT_EXIT(TypeAndEnd([] { std::exit(1); }), testing::ExitedWithCode(1), "");
+  ComesBack();
+  EXPECT_EXIT(TypeAndEnd([] {
+                QTest::qWait(LastWords::kEveryMilliseconds + 500);
+                std::raise(SIGKILL);
+              }),
+              testing::KilledBySignal(SIGKILL), "");
+  ComesBack();
+}
+
+TEST_F(Unsaved, LiesWithTheUserWhereTheFolderIsGone) {
+  {
+    ViewerWindow window;
+    window.Open(PathOf("A.TXT"));
+    QTest::keyClicks(&window.Page(), "scritto ");
+    fs::rename(folder_.path().toStdString(), PathOf("").substr(0, PathOf("").size() - 1) + "-via");
+    window.KeepUnsaved();
+    EXPECT_EQ(Drafts(state_), 1);
+    fs::rename(PathOf("").substr(0, PathOf("").size() - 1) + "-via", folder_.path().toStdString());
+  }
+  ComesBack();
+}
+
+TEST_F(Unsaved, AnOpenWindowKeepsItsOwnAndWhatIsNotWantedGoes) {
+  ViewerWindow one, two;
+  one.Open(PathOf("A.TXT"));
+  QTest::keyClicks(&one.Page(), "uno ");
+  one.KeepUnsaved();
+  two.Open(PathOf("A.TXT"));  // asks nothing
+  QTest::keyClicks(&two.Page(), "due ");
+  two.KeepUnsaved();
+  EXPECT_EQ(Drafts(folder_), 2);
+  Person person("Non salvare");
+  EXPECT_TRUE(one.close() && two.close());
+  EXPECT_EQ(Drafts(folder_), 0);
+}
+
+}  // namespace
+}  // namespace orm
