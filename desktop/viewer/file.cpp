@@ -195,7 +195,7 @@ void RefuseSameFile(const FilePlace& original, const FilePlace& copy) {
 
 void FilePlace::Replace(std::string_view bytes) const {
   std::error_code error;
-  if (!std::filesystem::is_directory(folder.Path(), error))
+  if (std::filesystem::status(folder.Path(), error).type() == std::filesystem::file_type::not_found)
     throw RuntimeFailure("La cartella \"" + folder.Path() + "\" non esiste.").AtFile(name);
   folder.Replace(name, bytes);
 }

@@ -48,6 +48,21 @@ for file in UTENTE.DAG INT_PPE.DAP INP_PPE.DAP CRITERI.PER OUT_PPE.DOC; do
   done
 done
 
+# The viewer takes no such thing for a report, nor puts a copy in its place.
+readonly viewer=$(dirname "$calcolo")/orm2002-visore
+[ -z "$desktop" ] || for kind in $no_files; do
+  for words in "--utf8 COPIA.txt OUT_PPE.DOC" "--pdf OUT_PPE.DOC UTENTE.DAG" "--pdf UTENTE.DAG UTENTE.DAG"; do
+    rm -rf "$at" && cp -r "$whole" "$at"
+    damage $kind "$at/OUT_PPE.DOC"
+    before=$(ls -la --time-style=full-iso "$at")
+    tried=$((tried + 1))
+    told=$(cd "$at" && timeout 5 "$viewer" $words 2>&1)
+    code=$?
+    [ $code = 1 ] || breaks "visore $words, $kind: esce con $code: $told"
+    [ "$before" = "$(ls -la --time-style=full-iso "$at")" ] || breaks "visore $words, $kind: la cartella è cambiata"
+  done
+done
+
 # A file that is not there ends the command with the program's own message.
 for file in UTENTE.DAG INT_PPE.DAP INP_PPE.DAP; do
   rm -rf "$at" && cp -r "$whole" "$at" && rm "$at/$file"

@@ -49,6 +49,9 @@ if mount -t tmpfs -o size=64k,mode=755 orm2002-prova "$at" 2>/dev/null; then
   cp "$work/sample"/* "$at"
   dd if=/dev/zero of="$at/zzz" bs=1k 2>/dev/null
   refuses_all 'spazio' "disco pieno"
+  [ -z "$desktop" ] || for what in utente visore copia stampa; do
+    refused 'spazio' "disco pieno, finestra $what" "$desktop" "$at" $what
+  done
   rm "$at/zzz"
   "$calcolo" PPE --cartella "$at" 2>/dev/null >&2 || breaks "disco di nuovo libero: non calcola"
   umount "$at"

@@ -52,6 +52,16 @@ check_error() {
   fi
 }
 
+# Follows the command: from its start, or a window's save from its own beginning. A window's program
+# starts strace itself, which ends after it: hence the pipe.
+traced() {
+  if [ "$1" = "$desktop" ]; then
+    ORM_STRACE="-qq ${options[*]}" "$@" 2>"$work/told" | cat >/dev/null
+    return "${PIPESTATUS[0]}"
+  fi
+  strace -f "${options[@]}" "$@" >/dev/null 2>"$work/told"
+}
+
 # What is done to the call, with strace's words for it; false when the call was not reached.
 run_with() {
   local call=$1 fault=$2 n=$3
@@ -59,8 +69,8 @@ run_with() {
   tried=$((tried + 1))
   # The braces keep bash from telling of every program that was killed.
   {
-    strace -f -o "$work/trace" -e trace="$call" -e inject="$call:$fault:when=$n" "${run[@]}" \
-      >/dev/null 2>"$work/told"
+    options=(-o "$work/trace" -e trace="$call" -e inject="$call:$fault:when=$n")
+    traced "${run[@]}"
     code=$?
   } 2>/dev/null
   grep -q 'INJECTED\|killed by SIGKILL' "$work/trace"
@@ -72,12 +82,12 @@ loop() {
   run=("$@")
   rm -rf "$new" && cp -r "$old" "$new" && rm -rf "$at" && cp -r "$old" "$at"
   # The calls that a run without faults makes; memory and the start of the program are no saves.
-  strace -f -o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod "${run[@]}" \
-    >/dev/null 2>"$work/told" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
+  options=(-o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod)
+  traced "${run[@]}" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
   rm -rf "$new" && cp -r "$at" "$new"
   local calls
   calls=$(grep -o '^[0-9]* *[a-z0-9_]*(' "$work/trace" | grep -o '[a-z_][a-z0-9_]*' | sort -u |
-    grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat)
+    grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat -e poll -e ppoll)
   for call in $calls; do
     for ((n = 1; ; n++)); do
       run_with "$call" signal=KILL $n || break
@@ -125,6 +135,12 @@ loop "avvio in una cartella nuova" "$saver" "$at" --avvio "$work/installed"
 sample_folder "$old"
 printf '"01/01/1940","01/01/1979","M",0\r\n' >"$old/REDDITI.PER"
 loop "avvio con i propri file" "$saver" "$at" --avvio
+
+# The windows' own saves.
+if [ -n "$desktop" ]; then
+  sample_folder "$old"
+  for what in utente visore copia; do loop "finestra, $what" "$desktop" "$at" $what; done
+fi
 
 echo "chiamate: $(echo "$reached" | tr ' ' '\n' | sort -u | tr '\n' ' ')"
 finish

@@ -1,0 +1,124 @@
+// The windows' own saves, for the fault loops:
+//
+//   orm_desktop_saver FOLDER utente|visore|copia|stampa
+//
+// the form of the professional's data, a report changed in the viewer, its copy as text, a page
+// printed to a file. Exit codes as those of orm_saver. With ORM_STRACE, options of strace, it has
+// itself followed from when everything is on the screen: Qt's own start is no part of a save.
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "desktop/desktop_app.h"
+#include "desktop/player/desktop_player.h"
+#include "desktop/player/form_dialog.h"
+#include "desktop/print_whole.h"
+#include "desktop/viewer/page.h"
+#include "desktop/viewer/window.h"
+#include "shell/shell.h"
+
+namespace {
+
+int code = 0;
+
+void BeFollowed() {
+  const char* options = std::getenv("ORM_STRACE");
+  if (options == nullptr) return;
+  ::prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY);
+  const std::string command = "exec strace -p " + std::to_string(::getpid()) + " " + options;
+  if (::fork() == 0) ::execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
+  for (std::string line; line.find("TracerPid:\t") != 0 || line == "TracerPid:\t0";) {
+    ::usleep(1000);
+    std::ifstream status("/proc/self/status");
+    while (std::getline(status, line) && line.find("TracerPid:\t") != 0) continue;
+  }
+}
+
+void Told(const std::string& text, bool failed) {
+  std::fputs((text + "\n").c_str(), stderr);
+  if (failed) code = 2;
+}
+
+class Hand : public orm::DesktopPlayer {
+ public:
+  using DesktopPlayer::DesktopPlayer;
+
+ protected:
+  void Run(orm::FormDialog& dialog) override {
+    dialog.open();
+    orm::Button* chosen = nullptr;
+    for (orm::Control* control : dialog.Model().Controls()) {
+      auto* button = dynamic_cast<orm::Button*>(control);
+      if (button != nullptr && button->GetRole() == orm::Button::Role::Default) chosen = button;
+      if (control->GetKind() == orm::Control::Kind::TextBox) control->Enter("nuovo");
+    }
+    BeFollowed();
+    dialog.Press(*chosen);
+    dialog.hide();
+  }
+  void Run(QMessageBox&, const orm::MessageBox& box) override {
+    Told(box.text, box.icon != orm::MessageBox::Icon::Information);
+  }
+};
+
+void Save(const std::string& folder, const std::string& what) {
+  orm::ViewerWindow window;
+  window.Open(folder + "/OUT_PPE.DOC");
+  window.SetEditing(true);
+  window.Page().selectAll();
+  QTest::keyClicks(&window.Page(), "parcella corretta");
+  window.show();
+  BeFollowed();
+  if (what == "visore") window.Save();
+  if (what == "copia") window.SaveCopy(orm::CopyKind::Utf8, folder + "/COPIA.txt");
+  window.Page().document()->setModified(false);
+}
+
+void Print(const std::string& path) {
+  QPrinter printer;
+  printer.setOutputFileName(QString::fromStdString(path));
+  BeFollowed();
+  orm::PrintWhole(printer, nullptr, [&] {
+    QPainter painter;
+    if (!painter.begin(&printer)) return false;
+    painter.drawText(100, 100, "parcella");
+    return painter.end();
+  });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) return 3;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  orm::DressApplication(application);
+  QTimer reader;
+  QObject::connect(&reader, &QTimer::timeout, [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      Told((box->text() + "\n" + box->informativeText()).toStdString(),
+           box->icon() != QMessageBox::Information);
+      box->reject();
+    }
+  });
+  reader.start(5);
+  const std::string folder = argv[1], what = argv[2];
+  if (what == "stampa") {
+    Print(folder + "/STAMPA.pdf");
+  } else if (what == "utente") {
+    Hand hand(folder);
+    orm::Shell(hand, orm::WorkFolder(folder)).Choose("PERS_UTENTE");
+  } else {
+    Save(folder, what);
+  }
+  return code;
+}
