@@ -4,8 +4,6 @@
 #include <QToolTip>
 #include <QWidget>
 
-#include "runtime/folder.h"
-
 namespace orm {
 namespace {
 
@@ -19,18 +17,18 @@ bool IsControl(QChar c) {
 
 }  // namespace
 
-bool HasRoom(const QTextDocument& document, qsizetype more, QWidget* at) {
+bool HasRoom(const QTextDocument& document, qsizetype more, std::size_t most, QWidget* at) {
   // Two bytes at a line's end; what characters of several bytes add is found at the save.
   const qsizetype now = document.characterCount() + document.blockCount();
-  if (now + more <= static_cast<qsizetype>(WorkFolder::kLargestFile)) return true;
+  if (now + more <= static_cast<qsizetype>(most)) return true;
   Say(at, QStringLiteral("Il testo sarebbe troppo grande per il suo file."));
   return false;
 }
 
-QString FitForPasting(QString text, const QTextDocument& document, QWidget* at) {
+QString FitForPasting(QString text, const QTextDocument& document, std::size_t most, QWidget* at) {
   const qsizetype before = text.size();
   text.removeIf(IsControl);
-  if (!HasRoom(document, text.size(), at)) return {};
+  if (!HasRoom(document, text.size(), most, at)) return {};
   if (text.size() < before)
     Say(at, QStringLiteral("Dal testo incollato sono stati tolti i caratteri di controllo."));
   return text;

@@ -27,13 +27,13 @@ class RichTextEdit : public QTextEdit {
  protected:
   void insertFromMimeData(const QMimeData* source) override {
     if (isReadOnly()) return;
-    const QString text = FitForPasting(source->text(), *document(), this);
+    const QString text = FitForPasting(source->text(), *document(), kLongestRichText, this);
     if (!text.isEmpty()) textCursor().insertText(text);
     ensureCursorVisible();
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->text().isEmpty() || event->text()[0] < QChar(' ') ||
-        event->key() == Qt::Key_Delete || HasRoom(*document(), 1, this))
+        event->key() == Qt::Key_Delete || HasRoom(*document(), 1, kLongestRichText, this))
       QTextEdit::keyPressEvent(event);
   }
 };

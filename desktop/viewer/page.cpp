@@ -13,6 +13,7 @@
 
 #include "desktop/export/pages.h"
 #include "desktop/pasted_text.h"
+#include "runtime/folder.h"
 
 namespace orm {
 namespace {
@@ -126,7 +127,7 @@ void ViewerPage::changeEvent(QEvent* event) {
 
 void ViewerPage::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly()) return;
-  const QString text = FitForPasting(source->text(), *document(), this);
+  const QString text = FitForPasting(source->text(), *document(), WorkFolder::kLargestFile, this);
   if (!text.isEmpty()) textCursor().insertText(text);
   ensureCursorVisible();
 }
@@ -140,7 +141,7 @@ void ViewerPage::wheelEvent(QWheelEvent* event) {
 
 void ViewerPage::keyPressEvent(QKeyEvent* event) {
   if (!isReadOnly() && !event->text().isEmpty() && event->text()[0] >= QChar(' ') &&
-      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, this))
+      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, WorkFolder::kLargestFile, this))
     return;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter || isReadOnly()) return QPlainTextEdit::keyPressEvent(event);

@@ -48,6 +48,10 @@ struct RichParagraph {
   bool operator==(const RichParagraph&) const = default;
 };
 
+// What a window of rich text shows in time; no memo comes near. In bytes.
+inline constexpr std::size_t kLongestRichText = 1'000'000;
+inline constexpr std::size_t kLongestRichParagraph = 20'000;
+
 struct RichDocument {
   std::vector<RichParagraph> paragraphs;
   // Page measures that a file brought along, by their name: kept for the next save.

@@ -22,9 +22,9 @@ struct RtfReading {
 };
 
 // A text that is not RTF, ends too early or is damaged is a RuntimeFailure. A document with more
-// than a hundred groups within each other, or 50,000 paragraphs and stretches of one look, counts
-// as damaged; tabs, fonts and colours beyond all use are left out as losses, so that no file fills
-// the memory.
+// than a hundred groups within each other, 50,000 paragraphs and stretches of one look, or more
+// text than a window shows in time counts as damaged; tabs, fonts and colours beyond all use are
+// left out as losses, so that no file fills the memory.
 RtfReading ReadRtf(std::string_view bytes);
 
 // Seven-bit text with CRLF.

@@ -29,6 +29,9 @@ void RefuseTooMany(std::size_t pieces) {
 
 void RtfBody::Append(std::string_view text, const RichStyle& style) {
   paragraph_.Append(text, style);
+  text_ += text.size();
+  if (text_ > kLongestRichText) FailRtf("è troppo lungo");
+  if (text_ - textBefore_ > kLongestRichParagraph) FailRtf("ha un paragrafo troppo lungo");
   RefuseTooMany(pieces_ + paragraph_.runs.size());
 }
 
@@ -47,6 +50,7 @@ void RtfBody::EndParagraph(const RichSetting& setting, const RichStyle& style) {
     paragraph_.runs = std::move(numbered.runs);
   }
   listText_.clear();
+  textBefore_ = text_;
   pieces_ += 1 + paragraph_.runs.size();
   RefuseTooMany(pieces_);
   reading_.document.paragraphs.push_back(std::exchange(paragraph_, {}));

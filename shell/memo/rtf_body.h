@@ -27,7 +27,8 @@ class RtfBody {
   RtfReading& reading_;
   RichParagraph paragraph_;
   std::string listText_;
-  std::size_t pieces_ = 0;  // paragraphs that have ended, and their runs
+  std::size_t pieces_ = 0;                 // paragraphs that have ended, and their runs
+  std::size_t text_ = 0, textBefore_ = 0;  // bytes so far, and before this paragraph
 };
 
 }  // namespace orm
