@@ -7,6 +7,7 @@
 
 #include "runtime/failure.h"
 #include "runtime/generations.h"
+#include "tests/temporary_folder.h"
 
 namespace orm {
 namespace {
@@ -15,13 +16,6 @@ namespace fs = std::filesystem;
 
 class GenerationsTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "orm2002-unit-XXXXXX").string();
-    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-    path_ = pattern;
-    folder_ = WorkFolder(path_);
-  }
-  void TearDown() override { fs::remove_all(path_); }
   void Lay(const std::string& name, const std::string& bytes) const {
     fs::create_directory(path_ + "/storico");
     std::ofstream(path_ + "/" + name) << bytes;
@@ -41,8 +35,9 @@ class GenerationsTest : public ::testing::Test {
     }
     return {};
   }
-  std::string path_;
-  WorkFolder folder_;
+  TemporaryFolder place_;
+  const std::string path_ = place_.Path();
+  const WorkFolder folder_ = place_.Folder();
 };
 
 TEST_F(GenerationsTest, WhatIsReplacedStaysOnceAndComesBack) {
