@@ -2,14 +2,7 @@
 
 #include <unistd.h>
 
-#include "dialogs/form.h"
-
 namespace orm {
-
-void BatchPlayer::Show(Form& form) {
-  form.Open();
-  if (form.IsOpen()) form.OnWindowClose();
-}
 
 Answer BatchPlayer::Ask(const MessageBox& box) {
   const std::string text = box.text + "\n";

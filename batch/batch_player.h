@@ -2,6 +2,7 @@
 // go to standard error.
 #pragma once
 
+#include "dialogs/form.h"
 #include "dialogs/player.h"
 
 namespace orm {
@@ -10,7 +11,6 @@ class BatchPlayer : public Player {
  public:
   explicit BatchPlayer(const Date& today) : today_(today) {}
 
-  void Show(Form& form) override;  // left by its window button at once
   Answer Ask(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
   void StartProgram(const std::string&, const std::string&) override {}
@@ -20,6 +20,7 @@ class BatchPlayer : public Player {
   Date Today() override { return today_; }
 
  private:
+  void Present(Form& form) override { form.OnWindowClose(); }  // left at once
   Date today_;
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "dialogs/form_values.h"
+
 namespace orm {
 namespace {
 
@@ -18,6 +20,22 @@ void AdoptInto(Frame* parent, const Layout& layout) {
 void CollectControls(const Layout& layout, std::vector<Control*>& controls) {
   if (layout.control != nullptr) controls.push_back(layout.control);
   for (const Layout& part : layout.children) CollectControls(part, controls);
+}
+
+bool IsEntry(const Control* control) {
+  using Kind = Control::Kind;
+  const Kind kind = control->GetKind();
+  return control->TakesFocus() && kind != Kind::Button && kind != Kind::Drawing &&
+         kind != Kind::RichText;
+}
+
+// The buttons that end the form, below everything else.
+Layout& LastLine(Layout& content) {
+  const auto isLine = [](const Layout& part) { return part.kind == Layout::Kind::Buttons; };
+  if (content.kind != Layout::Kind::Column) content = Column({std::move(content)});
+  std::vector<Layout>& parts = content.children;
+  if (parts.empty() || !isLine(parts.back())) parts.push_back(Buttons({}));
+  return parts.back();
 }
 
 }  // namespace
@@ -60,6 +78,12 @@ Control* Form::Find(std::string_view name) const {
 
 void Form::SetContent(Layout content) {
   content_ = std::move(content);
+  if (!resume_ && std::ranges::any_of(controls_, IsEntry)) {
+    resume_.emplace(*this, "cmdRIPRENDI", "&RIPRENDI I DATI");
+    resume_->SetHint("Riporta i dati con cui questa finestra è stata lasciata l'ultima volta.");
+    resume_->SetVisible(false);
+  }
+  if (resume_) LastLine(content_).children.insert(LastLine(content_).children.begin(), *resume_);
   AdoptInto(nullptr, content_);
   // Members are built in an order of their own; a person goes through the form as it is laid out.
   const std::vector<Control*> reading = ControlsOf(content_);
@@ -69,6 +93,8 @@ void Form::SetContent(Layout content) {
   std::stable_sort(controls_.begin(), controls_.end(),
                    [&](const Control* a, const Control* b) { return place(a) < place(b); });
 }
+
+void Form::Resume(const FormValues& values) { values.PutInto(*this); }
 
 Control* Form::FirstFocus() const {
   if (firstFocus_ != nullptr && firstFocus_->IsShown() && firstFocus_->IsActive())

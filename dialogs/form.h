@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,8 @@ class FormView {
   virtual void TitleChanged() = 0;
 };
 
+class FormValues;
+
 class Form {
  public:
   // `name` as scripts and messages know the form, `title` in its title bar.
@@ -70,7 +73,16 @@ class Form {
   Control* Find(std::string_view name) const;  // nullptr when there is none
 
   const Layout& Content() const { return content_; }
+  // A form with entries gets the button of drafts besides, before its other buttons.
   void SetContent(Layout content);
+  Button* ResumeButton() { return resume_ ? &*resume_ : nullptr; }  // hidden without a draft
+
+  // Puts a draft into the form, as a person would; a form in which one field fills another may
+  // have to hold that back.
+  virtual void Resume(const FormValues& values);
+  // What a person has entered that no control holds.
+  virtual std::vector<std::string> Hidden() const { return {}; }
+  virtual void SetHidden(const std::vector<std::string>&) {}
 
   // Where the focus stands first: the first entry that takes it, unless set.
   void SetFirstFocus(Control& control) { firstFocus_ = &control; }
@@ -109,6 +121,7 @@ class Form {
   Control* firstFocus_ = nullptr;
   FormView* view_ = nullptr;
   bool open_ = false;
+  std::optional<Button> resume_;
 };
 
 }  // namespace orm

@@ -1,8 +1,10 @@
 #include "dialogs/form_values.h"
 
+#include <utility>
+
 namespace orm {
 
-FormValues::FormValues(const Form& form) {
+FormValues::FormValues(const Form& form) : hidden_(form.Hidden()) {
   for (Control* control : form.Controls()) {
     const auto keep = [&](Value value) { values_.emplace_back(control->Name(), std::move(value)); };
     if (auto* number = dynamic_cast<NumberBox*>(control)) {
@@ -19,6 +21,8 @@ FormValues::FormValues(const Form& form) {
       keep(slider->Position());
     } else if (auto* list = dynamic_cast<ListControl*>(control)) {
       keep(list->Index());
+    } else if (auto* day = dynamic_cast<DatePicker*>(control)) {
+      keep(day->Value());
     }
   }
 }
@@ -42,8 +46,49 @@ void FormValues::PutInto(Form& form) const {
         slider->SetPosition(std::get<int>(value));
       else if (auto* list = dynamic_cast<ListControl*>(control))
         list->SetIndex(std::get<int>(value));
+      else if (auto* day = dynamic_cast<DatePicker*>(control))
+        day->SetValue(std::get<Date>(value));
     }
   }
+  form.SetHidden(hidden_);
+}
+
+Drafts::Subject::Subject(Drafts& drafts, const std::string& what)
+    : drafts_(drafts), length_(drafts.about_.size()) {
+  drafts.about_ += what + "/";
+}
+
+Drafts::Showing::Showing(Drafts& drafts, Form& form)
+    : drafts_(drafts),
+      form_(form),
+      key_(drafts.about_ + form.Name() + "/" + form.Title()),
+      given_(form) {
+  drafts_.open_.push_back(this);
+  Button* resume = form_.ResumeButton();
+  if (resume == nullptr) return;
+  resume->SetVisible(drafts_.kept_.contains(key_));
+  // What stands in the form changes places with the draft, so that this costs nothing either.
+  resume->onPress = [this] {
+    const FormValues present(form_);
+    form_.Resume(std::exchange(drafts_.kept_.at(key_), present));
+    if (Control* first = form_.FirstFocus()) form_.MoveFocus(*first);
+  };
+}
+
+Drafts::Showing::~Showing() {
+  drafts_.open_.pop_back();
+  if (form_.Confermato())
+    drafts_.kept_.erase(key_);
+  else
+    Keep();
+}
+
+void Drafts::Showing::Keep() const {
+  if (FormValues left(form_); left != given_) drafts_.kept_[key_] = std::move(left);
+}
+
+void Drafts::KeepOpen() {
+  for (const Showing* showing : open_) showing->Keep();
 }
 
 }  // namespace orm

@@ -1,7 +1,8 @@
 // What a person has put into a form, to be put back when the form is left without confirming, or
-// into another form of the same kind.
+// into another form of the same kind; and the drafts that a run of the program keeps of it.
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 #include <variant>
@@ -15,14 +16,64 @@ class FormValues {
  public:
   FormValues() = default;
   explicit FormValues(const Form& form);
-  bool IsEmpty() const { return values_.empty(); }
   bool operator==(const FormValues&) const = default;
   // Events follow as for any other change.
   void PutInto(Form& form) const;
 
+  using Value = std::variant<bool, int, double, Date, std::string>;
+  const std::vector<std::pair<std::string, Value>>& Values() const { return values_; }
+
  private:
-  using Value = std::variant<bool, int, double, std::string>;
   std::vector<std::pair<std::string, Value>> values_;  // by the names of the controls
+  std::vector<std::string> hidden_;                    // what no control holds
+};
+
+// What a person typed into forms and left without confirming, kept while the program runs: a slip
+// (Escape, the window button, the end of a list) costs nothing. A form comes up with the values
+// that it is given, and its button of drafts puts in what it was left with.
+class Drafts {
+ public:
+  // While it lives, the forms shown are about `what`, inside of what they were about before: a
+  // case, a lot, a period. A draft belongs to a form by its name and title, and to what it is
+  // about.
+  class Subject {
+   public:
+    Subject(Drafts& drafts, const std::string& what);
+    Subject(const Subject&) = delete;
+    Subject& operator=(const Subject&) = delete;
+    ~Subject() { drafts_.about_.resize(length_); }
+
+   private:
+    Drafts& drafts_;
+    const std::size_t length_;
+  };
+
+  // A form on the screen, from its opening to its leaving, however that comes about.
+  class Showing {
+   public:
+    Showing(Drafts& drafts, Form& form);
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+    ~Showing();
+
+   private:
+    friend class Drafts;
+    void Keep() const;  // if the form holds something else than it came up with
+    Drafts& drafts_;
+    Form& form_;
+    const std::string key_;
+    const FormValues given_;
+  };
+
+  // All drafts, each under its form and what it is about; forms on the screen come in with
+  // KeepOpen.
+  std::map<std::string, FormValues>& Kept() { return kept_; }
+  void KeepOpen();
+
+ private:
+  std::string about_;
+  std::map<std::string, FormValues> kept_;
+  std::vector<const Showing*> open_;
 };
 
 }  // namespace orm

@@ -6,12 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "dialogs/form_values.h"
 #include "runtime/dates.h"
 #include "runtime/failure.h"
 
 namespace orm {
-
-class Form;
 
 struct MessageBox {
   enum class Icon { None, Information, Exclamation, Critical, Question };
@@ -51,17 +50,31 @@ class Player {
  public:
   virtual ~Player() = default;
 
-  // Shows the form and comes back when it has closed. The form keeps its values.
-  virtual void Show(Form& form) = 0;
+  // Shows the form and comes back when it has closed. The form keeps its values; what it was left
+  // with unconfirmed is kept as a draft.
+  void Show(Form& form);
+  Drafts& DraftsOfRun() { return drafts_; }
+  // How many forms have been confirmed so far.
+  std::size_t Confirmations() const { return confirmations_; }
+
   virtual Answer Ask(const MessageBox& box) = 0;
   // The chosen path, or nothing when the person gave up.
   virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
   // Starts a program on a file of the working folder and does not wait for it.
   virtual void StartProgram(const std::string& program, const std::string& argument) = 0;
+  // A whole path, or the name of a program that the system finds in its PATH.
   virtual bool ProgramExists(const std::string& path) = 0;
   virtual OutsidePrograms DefaultPrograms() = 0;
   virtual ScreenSize Screen() = 0;
   virtual Date Today() = 0;
+
+ protected:
+  // Keeps the form, which has been opened, before the person until it has closed.
+  virtual void Present(Form& form) = 0;
+
+ private:
+  Drafts drafts_;
+  std::size_t confirmations_ = 0;
 };
 
 // Runs what a confirming button does. A run-time failure becomes its message and the form stays as

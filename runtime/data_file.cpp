@@ -49,9 +49,11 @@ DataReader::Raw DataReader::Next(const char* field) {
   if (at_ == 0) RefuseByteOrderMark(field);
   SkipBlanks();
   fieldLine_ = line_;
-  if (at_ >= bytes_.size()) Fail(field, "Il file finisce prima di questo campo.");
+  // A comma is followed by a field, even by an empty one at the end of the file.
+  const bool afterComma = std::exchange(afterComma_, false);
+  if (at_ >= bytes_.size() && !afterComma) Fail(field, "Il file finisce prima di questo campo.");
   Raw raw;
-  if (bytes_[at_] == '"') {
+  if (at_ < bytes_.size() && bytes_[at_] == '"') {
     raw.quoted = true;
     ++at_;
     for (;; ++at_) {
@@ -78,7 +80,8 @@ DataReader::Raw DataReader::Next(const char* field) {
   }
   if (at_ < bytes_.size()) {
     if (bytes_[at_] == '\r' && at_ + 1 < bytes_.size() && bytes_[at_ + 1] == '\n') ++at_;
-    if (bytes_[at_] != ',') ++line_;
+    afterComma_ = bytes_[at_] == ',';
+    if (!afterComma_) ++line_;
     ++at_;
   }
   try {

@@ -89,6 +89,7 @@ class DataReader {
   std::string bytes_;
   std::size_t at_ = 0;
   int line_ = 1;
+  bool afterComma_ = false;
   int fieldLine_ = 1;
 };
 

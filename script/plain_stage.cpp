@@ -45,12 +45,6 @@ class PlainPlayer : public Player {
  public:
   PlainPlayer(Actor& actor, const WorkFolder& folder, PictureTaker take)
       : actor_(actor), folder_(folder), take_(std::move(take)) {}
-  void Show(Form& form) override {
-    form.Open();
-    if (!form.IsOpen()) return;
-    PlainHand hand(form, take_);
-    actor_.MeetForm(form, hand);
-  }
   Answer Ask(const MessageBox& box) override { return actor_.MeetMessage(box); }
   std::optional<std::string> ChooseFile(const FileChoice& choice) override {
     return actor_.MeetFileChoice(choice);
@@ -66,6 +60,10 @@ class PlainPlayer : public Player {
   Date Today() override { return actor_.Today(); }
 
  private:
+  void Present(Form& form) override {
+    PlainHand hand(form, take_);
+    actor_.MeetForm(form, hand);
+  }
   Actor& actor_;
   const WorkFolder& folder_;
   PictureTaker take_;

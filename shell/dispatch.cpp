@@ -32,6 +32,7 @@ std::optional<MessageBox> MissingFile(const RunState& stato) {
 
 void InputDatiParcella(RunState& stato) {
   SetFileNames(stato);
+  const Drafts::Subject nota(stato.player.DraftsOfRun(), stato.FileInp);
   const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
   if (fee != nullptr && fee->input != nullptr) fee->input(stato);
 }

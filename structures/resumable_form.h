@@ -1,8 +1,9 @@
-// A verification comes up fresh each time; a button takes up the data of its last use in this run
-// of the program, so that a dialog closed by a slip costs nothing.
+// A verification comes up fresh each time. It is never confirmed, so that the data of its last use
+// are always there to be taken up again (dialogs/form_values.h).
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "dialogs/form.h"
 #include "dialogs/form_values.h"
@@ -12,14 +13,11 @@ namespace orm {
 
 class FormRiprendibile : public Form {
  public:
-  FormRiprendibile(std::string nome, std::string titolo, RunState& stato);
-  void Presenta();
-
-  Button cmdRIPRENDI{*this, "cmdRIPRENDI", "&RIPRENDI I DATI"};  // seen when there are such data
+  FormRiprendibile(std::string nome, std::string titolo, RunState& stato)
+      : Form(std::move(nome), std::move(titolo)), stato_(stato) {}
+  void Presenta() { stato_.player.Show(*this); }
 
  protected:
-  virtual void Riprendi(const FormValues& valori) { valori.PutInto(*this); }
-
   RunState& stato_;
 };
 

@@ -23,12 +23,46 @@ std::string Parcella::TestoImporto(double importo) const {
   return FormattaCopia(importo, DecimaliValuta());
 }
 
+namespace {
+
+// "3 - ..." or "  3 - ...", the heading of a lot or of a fee; "=== ... ===", that of a section.
+bool IsTitolo(std::string_view riga) {
+  if (riga.starts_with("===")) return true;
+  riga.remove_prefix(std::min(riga.find_first_not_of(' '), riga.size()));
+  const auto cifre = std::min(riga.find_first_not_of("0123456789"), riga.size());
+  return cifre > 0 && riga.substr(cifre).starts_with(" - ");
+}
+
+// Where a report stands, in the words of its reader: under which heading, on what line.
+std::string DoveSiTrova(std::string_view stampato) {
+  std::string_view titolo;
+  while (true) {
+    const auto fine = stampato.find("\r\n");
+    if (fine == std::string_view::npos) break;
+    if (IsTitolo(stampato.substr(0, fine))) titolo = stampato.substr(0, fine);
+    stampato.remove_prefix(fine + 2);
+  }
+  std::string dove;
+  for (const std::string_view riga : {titolo, stampato}) {
+    const auto inizio = std::min(riga.find_first_not_of(" =-"), riga.size());
+    const auto fine = std::min(riga.find_last_not_of(" =-") + 1, riga.size());
+    if (inizio < fine)
+      dove += (dove.empty() ? "\nNella parcella : " : ", ") +
+              std::string(riga.substr(inizio, fine - inizio));
+  }
+  return dove;
+}
+
+}  // namespace
+
 std::string Parcella::StringaImporto(std::string_view testo, TipoImporto tipo) const {
   const std::size_t larghezza = tipo == TipoImporto::Lavori ? 16 : 14;
   const std::size_t lunghezza = Characters(testo);
   if (lunghezza > larghezza)
-    throw RuntimeFailure("L'importo " + std::string(testo) +
-                         " è troppo lungo per la sua colonna nella parcella.");
+    throw RuntimeFailure("L'importo " + std::string(testo) + " è troppo lungo per la colonna " +
+                         (tipo == TipoImporto::Lavori ? "degli importi" : "degli onorari") +
+                         ", di " + NumberText(static_cast<double>(larghezza)) + " caratteri." +
+                         DoveSiTrova(uscita.Contents()));
   return (ModoLire ? "L. " : "€") + Blanks(larghezza - lunghezza) + std::string(testo);
 }
 

@@ -85,8 +85,9 @@ void FrmInaInPensione::Archiviato() {
   MostraRedditi(dati.redditi);
 }
 
-// The file gets its first line as held: empty as long as no file has been read.
+// The file keeps its first line, also where its incomes have not been asked for.
 void FrmInaInPensione::Archivia() {
+  if (stato_.folder.Exists(kFileRedditi)) testata_ = LeggiRedditi(stato_.folder).testata;
   ScriviRedditi(stato_.folder, {testata_, Redditi()});
   if (Option2.Value())
     Archiviato();

@@ -12,9 +12,9 @@ void InputAgp(RunState& stato) {
   FrmAgpDatig form(stato.player, dati);
   stato.player.Show(form);
   if (!form.Confermato()) return;
-  ChiediElenco(dati.Lotti, AlMassimo(kLottiAgpMassimi, "LOTTI"),
-               [&](const PostoRiga& posto, LottoAgp& lotto) {
-                 return ChiediClasseEImporto(stato, posto, dati.Lotti, lotto);
+  ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiAgpMassimi, "LOTTI"),
+               [&](const PostoRiga& posto, LottoAgp& lotto, const std::vector<LottoAgp>& altri) {
+                 return ChiediClasseEImporto(stato, posto, altri, lotto);
                });
   ConcludiInput(stato, dati);
 }

@@ -20,7 +20,7 @@ FrmCosDati::FrmCosDati(RunState& stato, const TestataCos& testata, DatiCos& dati
               Group(Frame2, {Fields({m1, m2, m3, m4, m5})}), Buttons({cmdAvvertenza, Command1})}));
   for (std::size_t i = 0; i < kPeriodiCos; ++i) {
     importi[i].SetCaption(testata.NomePeriodo[i]);
-    importi[i].Chiedi({&dati.ImportoCS[i]});
+    importi[i].Chiedi({&dati.ImportoCS[i], 0, {"", "GLI ALTRI PERIODI"}});
   }
   for (std::size_t i = 0; i < kVariazioniCos; ++i) {
     cdMaggiorazione[i].SetCaption(testata.NomeVariazione[i]);

@@ -24,9 +24,13 @@ class CatenaCos : public CatenaClassi<RigaCos> {
     return periodi ? CatenaClassi::ChiediPeriodo(qui, riga) : std::int16_t{0};
   }
 
-  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaCos& riga) override {
+  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaCos& riga,
+                  const std::vector<RigaCos>&) override {
     Intesta(qui, periodo, riga);
-    FrmGenUnoImporti form(stato, "LAVORI VERIFICATI", "Importo del Lotto", riga.ImportoVerificato);
+    // Each lot is summed by itself.
+    FrmGenUnoImporti form(stato, "LAVORI VERIFICATI", "Importo del Lotto",
+                          Chiesto(riga, &RigaCos::ImportoVerificato, qui.altreDelLotto,
+                                  {ConNumero(qui.lotto, "LOTTO"), "GLI ALTRI PERIODI"}));
     form.SetClasseCategoria("CLASSE / CATEGORIA", riga.Categoria.empty()
                                                       ? riga.Classe
                                                       : riga.Classe + " / " + riga.Categoria);

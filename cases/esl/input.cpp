@@ -17,9 +17,13 @@ namespace {
 // The dialogs of a lot, one after the other.
 class CatenaLotto {
  public:
-  CatenaLotto(RunState& run, std::string luogo, const std::vector<LottoEsl>& lottiFatti,
+  CatenaLotto(RunState& run, const PostoRiga& posto, const std::vector<LottoEsl>& altriLotti,
               LottoEsl& lottoDelCaso)
-      : stato(run), dove(std::move(luogo)), fatti(lottiFatti), lotto(lottoDelCaso) {}
+      : stato(run),
+        numero(ConNumero(posto, "LOTTO")),
+        dove(DoveSiamo(posto, lottoDelCaso.Classe, lottoDelCaso.Categoria)),
+        altri(altriLotti),
+        lotto(lottoDelCaso) {}
 
   void Chiedi();
 
@@ -30,8 +34,8 @@ class CatenaLotto {
   std::string RifiutoDiContabilita() const;
 
   RunState& stato;
-  const std::string dove;
-  const std::vector<LottoEsl>& fatti;
+  const std::string numero, dove;
+  const std::vector<LottoEsl>& altri;
   LottoEsl& lotto;
 };
 
@@ -52,11 +56,11 @@ void CatenaLotto::Chiedi() {
 void CatenaLotto::ChiediImporti() {
   FrmPdlImporti form(stato, "PARCELLA PROGETTAZIONE e D.L. D.M. 4-4-01 : IMPORTI LAVORI nel LOTTO",
                      dove,
-                     {Chiesto(lotto, &LottoEsl::ImportoProgettazione, fatti),
+                     {Chiesto(lotto, &LottoEsl::ImportoProgettazione, altri, {numero}),
                       {},
                       {},
                       {},
-                      Chiesto(lotto, &LottoEsl::ImportoDirezioneLavori, fatti)});
+                      Chiesto(lotto, &LottoEsl::ImportoDirezioneLavori, altri, {numero})});
   stato.player.Show(form);
 }
 
@@ -69,7 +73,7 @@ void CatenaLotto::ChiediPrestazioni() {
 
 std::string CatenaLotto::RifiutoDiContabilita() const {
   return RifiutoContabilita(
-      static_cast<std::size_t>(std::ranges::count(fatti, "SI", &LottoEsl::MisureContabilita)));
+      static_cast<std::size_t>(std::ranges::count(altri, "SI", &LottoEsl::MisureContabilita)));
 }
 
 void CatenaLotto::ChiediContabilita() {
@@ -93,13 +97,12 @@ void InputEsl(RunState& stato) {
   DatiEsl dati;
   if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   if (!ChiediTipologia(stato.player, dati.TipoParcella, false)) return;
-  ChiediElenco(
-      dati.Lotti, AlMassimo(kLottiMassimi, "LOTTI"), [&](const PostoRiga& posto, LottoEsl& lotto) {
-        if (!ChiediClasse(stato, posto, lotto.Classe, lotto.Categoria)) return false;
-        CatenaLotto(stato, DoveSiamo(posto, lotto.Classe, lotto.Categoria), dati.Lotti, lotto)
-            .Chiedi();
-        return true;
-      });
+  ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiMassimi, "LOTTI"),
+               [&](const PostoRiga& posto, LottoEsl& lotto, const std::vector<LottoEsl>& altri) {
+                 if (!ChiediClasse(stato, posto, lotto.Classe, lotto.Categoria)) return false;
+                 CatenaLotto(stato, posto, altri, lotto).Chiedi();
+                 return true;
+               });
   const bool conDirezione = std::ranges::any_of(
       dati.Lotti, [](const LottoEsl& lotto) { return lotto.ImportoDirezioneLavori != 0; });
   dati.CertificatoRegolare = ChiediCertificato(stato.player, "ULTERIORI PRESTAZIONI", conDirezione,

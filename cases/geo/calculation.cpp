@@ -84,7 +84,7 @@ class NotaGeo : public Parcella {
   Percentuale PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const;
   void CalcolaRiga(const GruppoGeo& gruppo, const RigaGeo& riga, int periodo);
   Blocco BloccoDi(const RigaGeo& riga, std::vector<const char*> titolo, std::size_t primo,
-                  std::size_t ultimo, bool conLettere = true) const;
+                  std::size_t ultimo) const;
   std::vector<Blocco> BlocchiDirezione(const RigaGeo& riga) const;
   double OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo);
   double OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo);
@@ -165,7 +165,7 @@ void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) 
 
 // The services from `primo` up to, but not with, `ultimo`.
 NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> titolo,
-                                  std::size_t primo, std::size_t ultimo, bool conLettere) const {
+                                  std::size_t primo, std::size_t ultimo) const {
   const auto& quote = kQuoteGeo[IndiceSottoclasse(riga)];
   const auto fatti = ServiziFattiGeo(riga);
   Blocco blocco{std::move(titolo), "", 0};
@@ -174,7 +174,7 @@ NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> 
     blocco.quota += quote[i];
     blocco.lettere += (blocco.lettere.empty() ? "" : "+") + std::string(1, kLettereGeo[i]);
   }
-  if (riga.TipoDiPrestazione != "P" || !conLettere) blocco.lettere.clear();
+  if (riga.TipoDiPrestazione != "P") blocco.lettere.clear();
   return blocco;
 }
 
@@ -184,9 +184,8 @@ std::vector<NotaGeo::Blocco> NotaGeo::BlocchiDirezione(const RigaGeo& riga) cons
                      kServiziProgettoGeo, 6)};
   return {
       BloccoDi(riga, {"CONSULENZA ED ASSISTENZA GEOTECNICA IN FASE", "DI REALIZZAZIONE DELL'OPERA"},
-               4, 5, false),
-      BloccoDi(riga, {"ASSISTENZA AL COLLAUDO E ALLE OPERAZIONI DI", "LIQUIDAZIONE LAVORI"}, 5, 6,
-               false)};
+               4, 5),
+      BloccoDi(riga, {"ASSISTENZA AL COLLAUDO E ALLE OPERAZIONI DI", "LIQUIDAZIONE LAVORI"}, 5, 6)};
 }
 
 double NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo) {
@@ -221,14 +220,13 @@ double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, d
                         onorario);
 }
 
-// It carries no compensations.
+// It carries no compensations. The cost is no fee, so that it stands behind its words.
 void NotaGeo::CalcolaCompensoAggiuntivo() {
   if (d.CostoIndagini == 0) return;
   const std::string costo = TestoImporto(d.CostoIndagini);
   uscita.Line("Compenso aggiuntivo per tenuta rapporti contabili")
       .Line("ed amministrativi con ditte e laboratori di prove")
       .Text("geotecniche per un costo complessivo di ")
-      .Tab(kColonnaImporto)
       .Line(StringaImporto(costo, TipoImporto::Onorari));
   compensoAggiuntivo = IntInLire(kCompensoIndagini * d.CostoIndagini);
   StampaRigaOnorario(1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",

@@ -13,9 +13,8 @@ namespace {
 class CatenaGeo : public CatenaRighe<RigaGeo> {
  public:
   CatenaGeo(RunState& run, const TabelleGeo& tabelleGeo, DatiGeotecnici& datiDelCaso)
-      : CatenaRighe(datiDelCaso.Gruppi, datiDelCaso.Righe,
+      : CatenaRighe(run, datiDelCaso.Gruppi, datiDelCaso.Righe,
                     {kGruppiGeoMassimi, kRigheGeoMassime, kPeriodiGeo, "GRUPPI"}),
-        stato(run),
         tabelle(tabelleGeo),
         dati(datiDelCaso) {}
 
@@ -34,19 +33,20 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
         .ChiediPeriodo();
   }
 
-  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaGeo& riga) override {
+  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaGeo& riga,
+                  const std::vector<RigaGeo>& altre) override {
     riga.Sottoclasse = qui.modello.Sottoclasse;
     riga.Tariffa = NumberText(periodo);
     const std::string nome = tabelle.NomePeriodo[static_cast<std::size_t>(periodo - 1)];
+    const Addendi addendi{ConNumero(qui.lotto, "GRUPPO"), "GLI ALTRI GRUPPI E PERIODI"};
     FrmGeoImporti importi(stato, dati.TipoDiParcella, nome,
-                          Chiesto(riga, &RigaGeo::ImportoProgetto, Fatte()),
-                          Chiesto(riga, &RigaGeo::ImportoDirezione, Fatte()));
+                          Chiesto(riga, &RigaGeo::ImportoProgetto, altre, addendi),
+                          Chiesto(riga, &RigaGeo::ImportoDirezione, altre, addendi));
     stato.player.Show(importi);
     FrmGeoPrestazio prestazioni(Dove(qui) + "   " + nome, riga);
     stato.player.Show(prestazioni);
   }
 
-  RunState& stato;
   const TabelleGeo& tabelle;
   const DatiGeotecnici& dati;
 };
@@ -68,7 +68,8 @@ void DatiGEO(RunState& stato) {
   if (!ChiediTipologia(stato.player, dati.TipoDiParcella, true)) return;
   ChiediMaggiorazione(stato.player, dati.MaggiorazioneParziale);
   CatenaGeo(stato, tabelle, dati).Chiedi();
-  FrmGenUnoImporti costo(stato, "COSTO INDAGINI E PROVE", "Costo complessivo", dati.CostoIndagini);
+  FrmGenUnoImporti costo(stato, "COSTO INDAGINI E PROVE", "Costo complessivo",
+                         {&dati.CostoIndagini});
   stato.player.Show(costo);
   ConcludiInput(stato, dati);
 }

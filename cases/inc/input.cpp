@@ -14,9 +14,9 @@ void InputInc(RunState& stato) {
   FrmIncDati form(dati, quote.massimoCompensi);
   stato.player.Show(form);
   if (!form.Confermato()) return;
-  ChiediElenco(dati.Lotti, AlMassimo(kLottiIncMassimi, "LOTTI"),
-               [&](const PostoRiga& posto, LottoInc& lotto) {
-                 if (!ChiediClasseEImporto(stato, posto, dati.Lotti, lotto)) return false;
+  ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiIncMassimi, "LOTTI"),
+               [&](const PostoRiga& posto, LottoInc& lotto, const std::vector<LottoInc>& altri) {
+                 if (!ChiediClasseEImporto(stato, posto, altri, lotto)) return false;
                  FrmIncPrestazioni prestazioni(DoveSiamo(posto, lotto.Classe, lotto.Categoria),
                                                lotto);
                  stato.player.Show(prestazioni);

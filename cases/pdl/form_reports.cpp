@@ -23,16 +23,17 @@ void FrmPdlPerizie::Conferma() {
 }
 
 FrmPdlImpPer::FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia,
-                           const AltrePerizie& altre)
+                           const std::vector<PeriziaPdl>& altre)
     : FormInput(stato, "frmPDL_ImpPer", "IMPORTI DEI LAVORI IN PERIZIA") {
   auto& [suppletivi, espropri, variati] = importo;
   SetContent(Column({lblLotto, Group(Frame1, {Combo1}), Image1,
                      AmountFields({suppletivi, espropri, variati}), Buttons({Command1})}));
   lblLotto.SetText(std::move(dove));
   Combo1.SetIndex(perizia.TipoPerizia.empty() ? -1 : perizia.TipoPerizia[0] - '1');
-  suppletivi.Chiedi({&perizia.LavoriSuppletivi, altre[0]});
-  espropri.Chiedi({&perizia.EsproPerizia, altre[1]});
-  variati.Chiedi({&perizia.LavoriVariati, altre[2]});
+  const Addendi addendi{lblLotto.Text(), "LE ALTRE PERIZIE"};
+  suppletivi.Chiedi(Chiesto(perizia, &PeriziaPdl::LavoriSuppletivi, altre, addendi));
+  espropri.Chiedi(Chiesto(perizia, &PeriziaPdl::EsproPerizia, altre, addendi));
+  variati.Chiedi(Chiesto(perizia, &PeriziaPdl::LavoriVariati, altre, addendi));
   Command1.onPress = [this, &perizia] {
     Conferma(importo);
     if (Confermato() && Combo1.Index() >= 0) perizia.TipoPerizia = Combo1.ShownText();

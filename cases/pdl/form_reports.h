@@ -26,13 +26,11 @@ class FrmPdlPerizie : public FormInput {
   std::int16_t& numero_;
 };
 
-// What the note's other reports hold: additional works, expropriations, works varied.
-using AltrePerizie = std::array<double, 3>;
-
 class FrmPdlImpPer : public FormInput {
  public:
-  // `perizia` is taken when it is confirmed.
-  FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia, const AltrePerizie& altre);
+  // `perizia` is taken when it is confirmed; `altre`: the other reports of the note.
+  FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia,
+               const std::vector<PeriziaPdl>& altre);
 
   Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "TIPO DI PERIZIA"};

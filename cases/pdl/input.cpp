@@ -23,10 +23,14 @@ class CatenaPdl : public CatenaClassi<RigaPdl> {
   }
 
  private:
-  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaPdl& riga) override {
+  void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, RigaPdl& riga,
+                  const std::vector<RigaPdl>& altre) override {
     Intesta(qui, periodo, riga);
     PeriodoMassimo = std::max(PeriodoMassimo, riga.PeriodoTariffario);
-    orm::ChiediRiga(stato, Dove(qui) + "   " + NomePeriodoTariffario(periodo), Fatte(), riga);
+    orm::ChiediRiga(stato,
+                    {ConNumero(qui.lotto, "LOTTO"),
+                     Dove(qui) + "   " + NomePeriodoTariffario(periodo), qui.posto.Nuova()},
+                    altre, riga);
   }
 
   std::string& PeriodoMassimo;

@@ -1,6 +1,7 @@
 #include "cases/pdl/row_chain.h"
 
 #include <algorithm>
+#include <span>
 
 #include "cases/pdl/form_reports.h"
 #include "cases/pdl/form_services.h"
@@ -14,9 +15,9 @@ namespace {
 
 class CatenaRiga {
  public:
-  CatenaRiga(RunState& run, const std::string& luogo, const std::vector<RigaPdl>& righeFatte,
+  CatenaRiga(RunState& run, const PostoPdl& posto, const std::vector<RigaPdl>& altreRighe,
              RigaPdl& rigaDelLotto)
-      : stato(run), dove(luogo), fatte(righeFatte), riga(rigaDelLotto) {}
+      : stato(run), qui(posto), dove(posto.dove), altre(altreRighe), riga(rigaDelLotto) {}
 
   void ChiediImporti();
   void ChiediPrestazioni();
@@ -27,16 +28,19 @@ class CatenaRiga {
  private:
   std::string RifiutoDiContabilita() const;
   void ChiediPerizia(std::size_t j);
-  AltrePerizie PerizieGiaDate(std::size_t j) const;
+  std::vector<PeriziaPdl> AltrePerizie(std::size_t j) const;  // all but the j-th of the row
 
   RunState& stato;
+  const PostoPdl& qui;
   const std::string& dove;
-  const std::vector<RigaPdl>& fatte;
+  const std::vector<RigaPdl>& altre;
   RigaPdl& riga;
 };
 
 void CatenaRiga::ChiediImporti() {
-  const auto chiesto = [this](double RigaPdl::*importo) { return Chiesto(riga, importo, fatte); };
+  const auto chiesto = [this](double RigaPdl::*importo) {
+    return Chiesto(riga, importo, altre, {qui.lotto, "GLI ALTRI LOTTI E PERIODI"});
+  };
   FrmPdlImporti form(
       stato, "PARCELLA PROGETTAZIONE E D.L.ante D.M. 4-4-01 : IMPORTI DEI LAVORI NEL LOTTO ", dove,
       {chiesto(&RigaPdl::ImportoProgetto), chiesto(&RigaPdl::ImportoEspropri),
@@ -54,24 +58,27 @@ void CatenaRiga::ChiediPrestazioni() {
 // Accounting is paid on supervision alone.
 std::string CatenaRiga::RifiutoDiContabilita() const {
   return RifiutoContabilita(static_cast<std::size_t>(std::ranges::count_if(
-      fatte, [](const RigaPdl& r) { return r.FlagContabilita == "S" && r.ImportoDirezione > 0; })));
+      altre, [](const RigaPdl& r) { return r.FlagContabilita == "S" && r.ImportoDirezione > 0; })));
 }
 
 // Without supervision nothing is asked, and the flags stay as they are.
 void CatenaRiga::ChiediAggiuntive() {
   if (riga.ImportoDirezione <= 0) return;
-  const bool perizie = riga.ImportoSuppletivi != 0 || riga.ImportoEsproPerizie != 0;
   const std::string rifiuto = RifiutoDiContabilita();
   PrestazioniAggiuntive chieste{riga.FlagSorveglianza == "S", riga.FlagContabilita == "S",
-                                riga.FlagRevisione == "S", perizie || riga.FlagPerizie == "S"};
+                                riga.FlagRevisione == "S", riga.FlagPerizie == "S"};
   FrmPdlAltri form(stato, "LAVORI PRIVATI e LL.PP. ante D.M. 4-4-2001", dove, rifiuto, chieste);
+  // Works of variations are nothing without the variations.
+  if (riga.ImportoSuppletivi != 0 || riga.ImportoEsproPerizie != 0) form.Check4.SetValue(true);
   stato.player.Show(form);
-  const auto flag = [](bool scelta) { return scelta ? "S" : "N"; };
-  riga.FlagSorveglianza = flag(chieste.Sorveglianza);
-  riga.FlagContabilita = flag(chieste.Contabilita);
-  riga.FlagRevisione = flag(chieste.Revisione);
-  riga.FlagPerizie = flag(chieste.Perizie);
-  if (riga.FlagContabilita == "N" || rifiuto.empty()) return;
+  if (form.Confermato()) {
+    const auto flag = [](bool scelta) { return scelta ? "S" : "N"; };
+    riga.FlagSorveglianza = flag(chieste.Sorveglianza);
+    riga.FlagContabilita = flag(chieste.Contabilita);
+    riga.FlagRevisione = flag(chieste.Revisione);
+    riga.FlagPerizie = flag(chieste.Perizie);
+  }
+  if (riga.FlagContabilita != "S" || rifiuto.empty()) return;
   stato.player.Ask(Avviso(rifiuto));
   riga.FlagContabilita = riga.FlagRevisione = "N";
 }
@@ -90,28 +97,32 @@ void CatenaRiga::ChiediPerizie() {
   }
   FrmPdlPerizie form(stato, dove, riga.NumeroPerizie);
   stato.player.Show(form);
+  // The ten that a new row begins with are a proposal.
+  if (!form.Confermato() && qui.nuova) riga.NumeroPerizie = 0;
   for (std::size_t j = 0; j < static_cast<std::size_t>(riga.NumeroPerizie); ++j) ChiediPerizia(j);
 }
 
-AltrePerizie CatenaRiga::PerizieGiaDate(std::size_t j) const {
-  AltrePerizie altri{};
-  const auto somma = [&altri](const RigaPdl& r, std::size_t quante) {
-    for (std::size_t k = 0; k < quante; ++k) {
-      altri[0] += r.Perizie[k].LavoriSuppletivi;
-      altri[1] += r.Perizie[k].EsproPerizia;
-      altri[2] += r.Perizie[k].LavoriVariati;
-    }
+std::vector<PeriziaPdl> CatenaRiga::AltrePerizie(std::size_t j) const {
+  const auto perizieDi = [](const RigaPdl& r) {
+    return std::span(r.Perizie).first(
+        r.FlagPerizie == "S" ? static_cast<std::size_t>(r.NumeroPerizie) : 0);
   };
-  for (const RigaPdl& r : fatte) somma(r, static_cast<std::size_t>(r.NumeroPerizie));
-  somma(riga, j);
-  return altri;
+  std::vector<PeriziaPdl> perizie;
+  for (const RigaPdl& r : altre)
+    perizie.insert(perizie.end(), perizieDi(r).begin(), perizieDi(r).end());
+  const auto sue = perizieDi(riga);
+  for (std::size_t k = 0; k < sue.size(); ++k)
+    if (k != j) perizie.push_back(sue[k]);
+  return perizie;
 }
 
 void CatenaRiga::ChiediPerizia(std::size_t j) {
   const std::string quale = dove + "\nPERIZIA n° " + NumberText(static_cast<double>(j + 1)) +
                             " di " + NumberText(riga.NumeroPerizie);
+  const Drafts::Subject parla(stato.player.DraftsOfRun(),
+                              "perizia " + NumberText(static_cast<double>(j + 1)));
   PeriziaPdl& perizia = riga.Perizie[j];
-  FrmPdlImpPer importi(stato, quale, perizia, PerizieGiaDate(j));
+  FrmPdlImpPer importi(stato, quale, perizia, AltrePerizie(j));
   stato.player.Show(importi);
   if (perizia.LavoriVariati == 0) {
     perizia.TipoPrestazioneVariati = "T";
@@ -126,9 +137,9 @@ void CatenaRiga::ChiediPerizia(std::size_t j) {
 
 }  // namespace
 
-void ChiediRiga(RunState& stato, const std::string& dove, const std::vector<RigaPdl>& fatte,
+void ChiediRiga(RunState& stato, const PostoPdl& posto, const std::vector<RigaPdl>& altre,
                 RigaPdl& riga) {
-  CatenaRiga catena(stato, dove, fatte, riga);
+  CatenaRiga catena(stato, posto, altre, riga);
   catena.ChiediImporti();
   catena.ChiediPrestazioni();
   catena.ChiediAggiuntive();

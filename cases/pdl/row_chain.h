@@ -9,9 +9,16 @@
 
 namespace orm {
 
+// A row on its way: the number of its lot, what stands above its forms, and whether the note lacked
+// it before.
+struct PostoPdl {
+  std::string lotto, dove;
+  bool nuova;
+};
+
 // Asks amounts, services, extra services and variation reports of a row whose class and period are
-// set. `fatte`: the rows of the note before it, for what a note can hold in all.
-void ChiediRiga(RunState& stato, const std::string& dove, const std::vector<RigaPdl>& fatte,
+// set. `altre`: the other rows of the note, for what a note can hold in all.
+void ChiediRiga(RunState& stato, const PostoPdl& posto, const std::vector<RigaPdl>& altre,
                 RigaPdl& riga);
 
 }  // namespace orm

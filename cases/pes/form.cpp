@@ -3,13 +3,14 @@
 namespace orm {
 
 FrmPesDati::FrmPesDati(RunState& stato, const PostoRiga& posto, BenePes& bene,
-                       const std::vector<BenePes>& fatti)
+                       const std::vector<BenePes>& altri)
     : FormRiga(stato, "frmPES_Dati", "PERIZIE ESTIMATIVE", posto, Command2), bene_(bene) {
   SetContent(Column({Label1, Fields({txtDescrizione}), Row({AmountFields({valore}), Image1}),
                      Fields({cdPercentuale}), lblTabellaF, Buttons({Command1, Command2})}));
   Label1.SetText(Etichetta(posto, "BENE"));
   txtDescrizione.SetText(bene.Descrizione);
-  valore.Chiedi(Chiesto(bene, &BenePes::Valore, fatti));
+  valore.Chiedi(
+      Chiesto(bene, &BenePes::Valore, altri, {ConNumero(posto, "BENE"), "GLI ALTRI BENI"}));
   cdPercentuale.SetValue(bene.PercentualeTabellaF);
   Command1.onPress = [this] { Conferma(); };
 }

@@ -8,9 +8,9 @@ namespace orm {
 
 class FrmPesDati : public FormRiga {
  public:
-  // `fatti`: the goods of the note entered before. `bene` is taken when it is confirmed.
+  // `altri`: the goods of the note entered before. `bene` is taken when it is confirmed.
   FrmPesDati(RunState& stato, const PostoRiga& posto, BenePes& bene,
-             const std::vector<BenePes>& fatti);
+             const std::vector<BenePes>& altri);
 
   Label Label1{*this, "Label1", "", Label::Style::Title};
   TestoBox txtDescrizione{

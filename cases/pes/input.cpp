@@ -7,14 +7,11 @@ namespace orm {
 
 void InputPes(RunState& stato) {
   DatiPes dati;
-  const Inizio inizio = IniziaInput(stato, dati);
-  if (inizio == Inizio::Rinuncia) return;
-  ChiediElenco(dati.Beni, AlMassimo(kBeniPesMassimi, "BENI"),
-               [&](const PostoRiga& posto, BenePes& bene) {
-                 return FrmPesDati(stato, posto, bene, dati.Beni).Chiedi();
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
+  ChiediElenco(stato, dati.Beni, AlMassimo(kBeniPesMassimi, "BENI"),
+               [&](const PostoRiga& posto, BenePes& bene, const std::vector<BenePes>& altri) {
+                 return FrmPesDati(stato, posto, bene, altri).Chiedi();
                });
-  // A new note of which nothing was confirmed is none.
-  if (inizio == Inizio::Nuova && dati.Beni.empty()) return;
   ConcludiInput(stato, dati);
 }
 

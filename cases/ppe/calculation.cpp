@@ -1,6 +1,9 @@
 // The fee of expropriation plans: a fixed rate for each unit.
+#include <limits>
+
 #include "cases/ppe/data.h"
 #include "cases/ppe/ppe.h"
+#include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/law/table_expropriation.h"
 #include "tariff/parcella.h"
@@ -25,17 +28,25 @@ class NotaPpe : public Parcella {
   const char* Testo(const TariffaPpe& tariffa) const {
     return ModoLire ? tariffa.testoLire : tariffa.testoEuro;
   }
-  // In Lire a product is one of 32-bit whole numbers, and a greater one a failure; the sums are
-  // not.
-  double Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
-    return ModoLire ? CheckedProduct32(numero, tariffa.lire) : numero * Tariffa(tariffa);
-  }
+  double Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const;
   void CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa);
   void CalcolaVerbale();
   void StampaBlocco(const char* titolo, const std::string& formula, double importo);
 
   const DatiPpe& d;
 };
+
+// In Lire a product is one of 32-bit whole numbers, and a greater one a failure; the sums are not.
+double NotaPpe::Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
+  if (!ModoLire) return numero * Tariffa(tariffa);
+  try {
+    return CheckedProduct32(numero, tariffa.lire);
+  } catch (const RuntimeFailure& failure) {
+    const int massimo = std::numeric_limits<std::int32_t>::max() / tariffa.lire;
+    throw RuntimeFailure(failure.Reason() + "\n" + NumberText(numero) + Testo(tariffa) +
+                         " : in Lire il numero può essere al massimo " + NumberText(massimo) + ".");
+  }
+}
 
 void NotaPpe::StampaDati() {
   const auto riga = [this](const char* etichetta, std::int16_t numero) {

@@ -7,16 +7,13 @@ namespace orm {
 
 void InputRim(RunState& stato) {
   DatiRim dati;
-  const Inizio inizio = IniziaInput(stato, dati);
-  if (inizio == Inizio::Rinuncia) return;
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   FrmRimDati form(dati);
   stato.player.Show(form);
-  ChiediElenco(dati.Elaborati, AlMassimo(kElaboratiRimMassimi, "ELABORATI"),
-               [&](const PostoRiga& posto, ElaboratoRim& elaborato) {
+  ChiediElenco(stato, dati.Elaborati, AlMassimo(kElaboratiRimMassimi, "ELABORATI"),
+               [&](const PostoRiga& posto, ElaboratoRim& elaborato, const auto&) {
                  return FrmRimElaborato(stato, posto, elaborato).Chiedi();
                });
-  // A new note of which nothing was confirmed is none.
-  if (inizio == Inizio::Nuova && !form.Confermato() && dati.Elaborati.empty()) return;
   ConcludiInput(stato, dati);
 }
 

@@ -7,16 +7,13 @@ namespace orm {
 
 void InputRpa(RunState& stato) {
   DatiRpa dati;
-  const Inizio inizio = IniziaInput(stato, dati);
-  if (inizio == Inizio::Rinuncia) return;
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   FrmRpaDati form(dati);
   stato.player.Show(form);
-  ChiediElenco(dati.Terreni, AlMassimo(kTerreniRpaMassimi, "TERRENI"),
-               [&](const PostoRiga& posto, TerrenoRpa& terreno) {
+  ChiediElenco(stato, dati.Terreni, AlMassimo(kTerreniRpaMassimi, "TERRENI"),
+               [&](const PostoRiga& posto, TerrenoRpa& terreno, const auto&) {
                  return FrmRpaTerreno(stato, posto, terreno).Chiedi();
                });
-  // A new note of which nothing was confirmed is none.
-  if (inizio == Inizio::Nuova && !form.Confermato() && dati.Terreni.empty()) return;
   ConcludiInput(stato, dati);
 }
 

@@ -4,7 +4,8 @@
 
 namespace orm {
 
-FrmSicImporti::FrmSicImporti(RunState& stato, LottoSic& lotto, const std::vector<LottoSic>& fatti)
+FrmSicImporti::FrmSicImporti(RunState& stato, const PostoRiga& posto, LottoSic& lotto,
+                             const std::vector<LottoSic>& altri)
     : FormInput(stato, "frmSIC_Importi", "SICUREZZA CANTIERI : IMPORTI DEI LAVORI NEL LOTTO ") {
   SetContent(Column({Row({lblClasse, lblCategoria, lblTariffa, Image1}),
                      Group(Frame1, {AmountFields({importo[0]})}),
@@ -13,8 +14,9 @@ FrmSicImporti::FrmSicImporti(RunState& stato, LottoSic& lotto, const std::vector
   lblCategoria.SetText("CATEGORIA " + lotto.Categoria);
   lblCategoria.SetVisible(!lotto.Categoria.empty());
   lblTariffa.SetText("TARIFFA " + NomePeriodoTariffario(lotto.Tariffa == "6" ? 6 : 5));
-  importo[0].Chiedi(Chiesto(lotto, &LottoSic::ImportoProgetto, fatti));
-  importo[1].Chiedi(Chiesto(lotto, &LottoSic::ImportoEsecuzione, fatti));
+  const Addendi addendi{ConNumero(posto, "LOTTO")};
+  importo[0].Chiedi(Chiesto(lotto, &LottoSic::ImportoProgetto, altri, addendi));
+  importo[1].Chiedi(Chiesto(lotto, &LottoSic::ImportoEsecuzione, altri, addendi));
   Command1.onPress = [this] { Conferma(importo); };
 }
 

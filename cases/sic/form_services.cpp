@@ -86,6 +86,12 @@ FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione
   Command1.onPress = [this] { Conferma(); };
 }
 
+void FrmSicPrestazioni::SetHidden(const std::vector<std::string>& values) {
+  maggiorazioni_ = values[0];
+  incrementi_ = values[1];
+  for (std::size_t i = 0; i < righe.size(); ++i) MostraRiga(i);
+}
+
 // A duty that is not done has no conditions; increments that it never offers are marked so.
 void FrmSicPrestazioni::Spunta(std::size_t i) {
   if (!righe[i].Check.Value()) {
@@ -119,6 +125,7 @@ std::string FrmSicPrestazioni::Offerti(std::size_t i) const {
 }
 
 void FrmSicPrestazioni::ChiediMaggiorazioni(std::size_t i) {
+  const Drafts::Subject prestazione(player_.DraftsOfRun(), Numero(i + 1));
   const std::size_t n = versione_.maggiorazioni.size();
   FrmSicSpunte form("frmSIC_Maggiorazioni", versione_.riquadroMaggiorazioni,
                     versione_.maggiorazioni, kCaselleMaggiorazioni,
@@ -129,6 +136,7 @@ void FrmSicPrestazioni::ChiediMaggiorazioni(std::size_t i) {
 }
 
 void FrmSicPrestazioni::ChiediIncrementi(std::size_t i) {
+  const Drafts::Subject prestazione(player_.DraftsOfRun(), Numero(i + 1));
   FrmSicSpunte form("frmSIC_Incrementi", "INCREMENTI", versione_.incrementi, kIncrementi,
                     Offerti(i));
   player_.Show(form);

@@ -15,8 +15,9 @@ namespace orm {
 // frmSIC_Importi.
 class FrmSicImporti : public FormInput {
  public:
-  // `fatti`: the lots of the note entered before.
-  FrmSicImporti(RunState& stato, LottoSic& lotto, const std::vector<LottoSic>& fatti);
+  // `altri`: the other lots of the note.
+  FrmSicImporti(RunState& stato, const PostoRiga& posto, LottoSic& lotto,
+                const std::vector<LottoSic>& altri);
 
   Label lblClasse{*this, "lblClasse"};
   Label lblCategoria{*this, "lblCategoria"};
@@ -67,6 +68,9 @@ class FrmSicPrestazioni : public Form {
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
+  // The conditions of the duties belong to a draft as well.
+  std::vector<std::string> Hidden() const override { return {maggiorazioni_, incrementi_}; }
+  void SetHidden(const std::vector<std::string>& values) override;
   void Spunta(std::size_t i);
   void MostraRiga(std::size_t i);
   void ChiediMaggiorazioni(std::size_t i);

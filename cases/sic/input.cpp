@@ -9,13 +9,13 @@ namespace orm {
 namespace {
 
 bool ChiediLotto(RunState& stato, const VersioneSic& versione, const PostoRiga& posto,
-                 const std::vector<LottoSic>& fatti, LottoSic& lotto) {
+                 const std::vector<LottoSic>& altri, LottoSic& lotto) {
   if (!ChiediClasse(
           stato, posto, lotto.Classe, lotto.Categoria,
           {.titolo = "CLASSE E CATEGORIA per il LOTTO", .etichetta = true, .proposta = true}))
     return false;
   lotto.Tariffa = NumberText(versione.periodo);
-  FrmSicImporti importi(stato, lotto, fatti);
+  FrmSicImporti importi(stato, posto, lotto, altri);
   stato.player.Show(importi);
   if (lotto.StringaPrestazioni.empty()) lotto.StringaPrestazioni = "00000";
   if (lotto.StringaMaggiorazioni.empty())
@@ -34,9 +34,9 @@ void DatiSIC(RunState& stato) {
   DatiSicurezza dati;
   if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   if (!ChiediTipologia(stato.player, dati.TipoDiParcella, false)) return;
-  ChiediElenco(dati.Lotti, AlMassimo(kLottiSicMassimi, "LOTTI"),
-               [&](const PostoRiga& posto, LottoSic& lotto) {
-                 return ChiediLotto(stato, versione, posto, dati.Lotti, lotto);
+  ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiSicMassimi, "LOTTI"),
+               [&](const PostoRiga& posto, LottoSic& lotto, const std::vector<LottoSic>& altri) {
+                 return ChiediLotto(stato, versione, posto, altri, lotto);
                });
   // Each lot is a group of its own.
   dati.Gruppi.clear();

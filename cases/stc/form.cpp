@@ -5,10 +5,11 @@
 
 namespace orm {
 
-FrmStcDati::FrmStcDati(DatiStc& dati) : Form("frmSTC_Dati", "STATI DI CONSISTENZA"), dati_(dati) {
+FrmStcDati::FrmStcDati(DatiStc& dati, const IndiciFoi& indici)
+    : Form("frmSTC_Dati", "STATI DI CONSISTENZA"), dati_(dati), indici_(indici) {
   SetContent(Column({Fields({casellainteri1, casellainteri2, casellainteri3}), Check1,
                      Fields({casellainteri4, casellainteri5, Row({DTPicker1, lblGiorno})}),
-                     Buttons({Command1})}));
+                     lblIndici, Buttons({Command1})}));
   casellainteri1.SetValue(dati.Superficie);
   casellainteri2.SetValue(dati.NumeroPartite);
   casellainteri3.SetValue(dati.NumeroMappali);
@@ -17,7 +18,16 @@ FrmStcDati::FrmStcDati(DatiStc& dati) : Form("frmSTC_Dati", "STATI DI CONSISTENZ
   Check1.SetValue(dati.Maggiorazione != 0);
   const Date primo{dati.AnnoPrestazione, dati.MesePrestazione, 1};
   if (IsValid(primo)) DTPicker1.SetValue(primo);
+  DTPicker1.onChange = [this] { CercaIndici(); };
+  CercaIndici();
   Command1.onPress = [this] { Conferma(); };
+}
+
+void FrmStcDati::CercaIndici() {
+  const Date& giorno = DTPicker1.Value();
+  const std::string obiezione = indici_.Obiezione(giorno.month, giorno.year);
+  lblIndici.SetVisible(!obiezione.empty());
+  lblIndici.SetText(obiezione);
 }
 
 void FrmStcDati::Conferma() {

@@ -3,12 +3,14 @@
 
 #include "cases/stc/data.h"
 #include "dialogs/form.h"
+#include "tariff/config/price_index.h"
 
 namespace orm {
 
 class FrmStcDati : public Form {
  public:
-  explicit FrmStcDati(DatiStc& dati);
+  // A month that `indici` cannot answer is told below its date; the calculation would fail there.
+  FrmStcDati(DatiStc& dati, const IndiciFoi& indici);
 
   // As much of each as the report has room for, with everything else at its greatest.
   static inline const NumberLimits kNumero{.most = 99999, .decimals = 0};
@@ -23,11 +25,14 @@ class FrmStcDati : public Form {
   InterBox casellainteri5{*this, "casellainteri5", "COSTRUZIONI ADIBITE AD USO AGRICOLO", kArea};
   DatePicker DTPicker1{*this, "DTPicker1", "DATA DI ESPLETAMENTO DELLA PRESTAZIONE"};
   Label lblGiorno{*this, "lblGiorno", "( il giorno è ininfluente)", Label::Style::Note};
+  Label lblIndici{*this, "lblIndici", "", Label::Style::Warning};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:
+  void CercaIndici();
   void Conferma();
   DatiStc& dati_;
+  const IndiciFoi& indici_;
 };
 
 }  // namespace orm

@@ -8,7 +8,8 @@ namespace orm {
 void InputStc(RunState& stato) {
   DatiStc dati;
   if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
-  FrmStcDati form(dati);
+  const IndiciFoi indici(stato.folder);
+  FrmStcDati form(dati, indici);
   stato.player.Show(form);
   ConcludiInput(stato, dati);
 }

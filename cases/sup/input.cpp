@@ -8,18 +8,15 @@ namespace orm {
 
 void InputSup(RunState& stato) {
   DatiSup dati;
-  const Inizio inizio = IniziaInput(stato, dati);
-  if (inizio == Inizio::Rinuncia) return;
-  ChiediElenco(dati.Attivita, AlMassimo(kAttivitaSupMassime, "ATTIVITÀ"),
-               [&](const PostoRiga& posto, AttivitaSup& attivita) {
+  if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
+  ChiediElenco(stato, dati.Attivita, AlMassimo(kAttivitaSupMassime, "ATTIVITÀ"),
+               [&](const PostoRiga& posto, AttivitaSup& attivita, const auto&) {
                  return FrmSupAttivita(stato, posto, attivita).Chiedi();
                });
-  ChiediElenco(dati.Lotti, AlMassimo(kLottiSupMassimi, "LOTTI"),
-               [&](const PostoRiga& posto, LottoSup& lotto) {
-                 return ChiediClasseEImporto(stato, posto, dati.Lotti, lotto);
+  ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiSupMassimi, "LOTTI"),
+               [&](const PostoRiga& posto, LottoSup& lotto, const std::vector<LottoSup>& altri) {
+                 return ChiediClasseEImporto(stato, posto, altri, lotto);
                });
-  // A new note of which nothing was confirmed is none.
-  if (inizio == Inizio::Nuova && dati.Attivita.empty() && dati.Lotti.empty()) return;
   ConcludiInput(stato, dati);
 }
 

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <cmath>
 
 #include "desktop/player/chosen_programs.h"
@@ -19,9 +20,7 @@ namespace orm {
 
 DesktopPlayer::DesktopPlayer(std::string folder) : folder_(std::move(folder)) {}
 
-void DesktopPlayer::Show(Form& form) {
-  form.Open();
-  if (!form.IsOpen()) return;
+void DesktopPlayer::Present(Form& form) {
   FormDialog dialog(form, Front());
   open_.push_back(&dialog);
   struct Leaving {
@@ -85,7 +84,7 @@ void DesktopPlayer::StartProgram(const std::string& program, const std::string& 
 }
 
 bool DesktopPlayer::ProgramExists(const std::string& path) {
-  return !path.empty() && QFileInfo(ToQt(path)).isFile();
+  return QFileInfo(ToQt(path)).isFile() || !QStandardPaths::findExecutable(ToQt(path)).isEmpty();
 }
 
 OutsidePrograms DesktopPlayer::DefaultPrograms() { return FindOutsidePrograms(); }

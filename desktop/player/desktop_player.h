@@ -18,7 +18,6 @@ class DesktopPlayer : public Player {
   // `folder`: the working folder, where programs outside are started.
   explicit DesktopPlayer(std::string folder);
 
-  void Show(Form& form) override;
   Answer Ask(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileChoice& choice) override;
   void StartProgram(const std::string& program, const std::string& argument) override;
@@ -31,6 +30,7 @@ class DesktopPlayer : public Player {
   void SetMainWindow(QWidget* window) { mainWindow_ = window; }
 
  protected:
+  void Present(Form& form) override;
   // Keep the dialog on the screen until it has closed. With a script they hand it over instead.
   virtual void Run(FormDialog& dialog);
   virtual void Run(QMessageBox& shown, const MessageBox& box);

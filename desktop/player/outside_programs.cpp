@@ -1,7 +1,7 @@
 #include "desktop/player/outside_programs.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QStandardPaths>
 #include <initializer_list>
 
 #include "desktop/qt_text.h"
@@ -11,8 +11,8 @@ namespace {
 
 std::string FirstOf(std::initializer_list<const char*> names, const std::string& otherwise) {
   for (const char* name : names) {
-    const QString path = QStringLiteral("/usr/bin/") + name;
-    if (QFileInfo(path).isExecutable()) return FromQt(path);
+    const QString path = QStandardPaths::findExecutable(name);
+    if (!path.isEmpty()) return FromQt(path);
   }
   return otherwise;
 }

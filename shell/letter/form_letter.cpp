@@ -6,9 +6,11 @@
 namespace orm {
 
 FrmGenLettera::FrmGenLettera(RunState& stato)
-    : Form("frmGEN_Lettera", "LETTERA di TRASMISSIONE PARCELLA ALL'ORDINE"), stato_(stato) {
+    : Form("frmGEN_Lettera", "LETTERA di TRASMISSIONE PARCELLA ALL'ORDINE"),
+      stato_(stato),
+      file_(stato.player, stato.folder, kFileLettera) {
   Regole();
-  Mostra(stato.folder.Exists(kFileLettera) ? LeggiLettera(stato.folder) : DatiLettera());
+  Mostra(file_.Leggi(DatiLettera(), [&] { return LeggiLettera(stato.folder); }));
   cmdOK.onPress = [this] { Conferma(); };
   SetContent(Disposizione());
 }
@@ -75,6 +77,7 @@ void FrmGenLettera::Conferma() {
   dati.ValutaLettera = optValuta1.Value() ? "LIRE" : "EURO";
   dati.DocumentiAllegati = Text1.Text();
   TryAndStay(stato_.player, [&] {
+    file_.Conserva();
     ScriviLettera(stato_.folder, dati);
     Esci(Uscita::Conferma);
   });

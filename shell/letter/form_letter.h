@@ -7,6 +7,7 @@
 #include "dialogs/form.h"
 #include "shell/letter/letter.h"
 #include "shell/state/run_state.h"
+#include "tariff/files/damaged_file.h"
 
 namespace orm {
 
@@ -44,6 +45,7 @@ class FrmGenLettera : public Form {
   void Conferma();
 
   RunState& stato_;
+  FileDelForm file_;
 };
 
 }  // namespace orm

@@ -1,12 +1,35 @@
 // The memo.
 #include "shell/memo/form_memo.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "dialogs/message_boxes.h"
 #include "runtime/failure.h"
-#include "runtime/numbers.h"
 #include "shell/memo/rtf.h"
+#include "tariff/files/damaged_file.h"
 
 namespace orm {
+namespace {
+
+constexpr const char* kAvviso[] = {"NON ESISTE UN FILE MEMO :", "LO SI PUÓ CREARE ADESSO"};
+
+// What was written around the notice with which a memo begins, or into its lines.
+RichDocument SenzaAvviso(RichDocument document) {
+  for (const std::string_view avviso : kAvviso)
+    for (auto p = document.paragraphs.begin(); p != document.paragraphs.end(); ++p) {
+      const auto run = std::ranges::find_if(
+          p->runs, [&](const RichRun& r) { return r.text.find(avviso) != std::string::npos; });
+      if (run == p->runs.end()) continue;
+      run->text.erase(run->text.find(avviso), avviso.size());
+      if (run->text.empty()) p->runs.erase(run);
+      if (p->runs.empty()) document.paragraphs.erase(p);
+      break;
+    }
+  return document;
+}
+
+}  // namespace
 
 void MostraMemo(RunState& stato) {
   FrmGenVisualizzaRtf form(stato);
@@ -23,7 +46,8 @@ FrmGenVisualizzaRtf::FrmGenVisualizzaRtf(RunState& stato)
 
 void FrmGenVisualizzaRtf::OnOpen() {
   if (!stato_.folder.Exists(NomeFile)) {
-    RichTextBox1.SetDocument(PlainDocument("NON ESISTE UN FILE MEMO :\nLO SI PUÓ CREARE ADESSO"));
+    RichTextBox1.SetDocument(PlainDocument(std::string(kAvviso[0]) + "\n" + kAvviso[1]));
+    nuovo_ = true;
     return;
   }
   letto_ = stato_.folder.Read(NomeFile);
@@ -32,7 +56,8 @@ void FrmGenVisualizzaRtf::OnOpen() {
     perdite_ = std::move(lettura.losses);
     RichTextBox1.SetDocument(std::move(lettura.document));
   } catch (RuntimeFailure& failure) {
-    throw failure.AtFile(NomeFile);
+    stato_.player.Ask(FailureBox(failure.AtFile(NomeFile)));
+    perdite_.emplace_back("il testo di prima, che non si è potuto leggere");
   }
 }
 
@@ -41,14 +66,6 @@ std::vector<std::string> FrmGenVisualizzaRtf::Rischi() const {
   if (stato_.folder.Exists(NomeFile) && stato_.folder.Read(NomeFile) != letto_)
     rischi.emplace_back("modifiche fatte nel frattempo da un altro programma");
   return rischi;
-}
-
-// A name that no file has yet, so that nothing that was put aside before is lost.
-std::string FrmGenVisualizzaRtf::NomeDelPrecedente() const {
-  const std::string radice = NomeFile.substr(0, NomeFile.find_last_of('.')) + "_ORIGINALE";
-  std::string nome = radice + ".RTF";
-  for (int n = 2; stato_.folder.Exists(nome); ++n) nome = radice + NumberText(n) + ".RTF";
-  return nome;
 }
 
 void FrmGenVisualizzaRtf::OnWindowClose() {
@@ -68,7 +85,8 @@ Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& risc
   if (!rischi.empty()) {
     testo += "Il file " + NomeFile + " contiene elementi che questa finestra non conserva :\n";
     for (const std::string& rischio : rischi) testo += " - " + rischio + "\n";
-    testo += "\nSalvando, il file di prima resta con il nome " + NomeDelPrecedente() + ".\n";
+    testo += "\nSalvando, il file di prima resta con il nome " +
+             NomeDellOriginale(stato_.folder, NomeFile) + ".\n";
   }
   return stato_.player.Ask({kAttenzione, testo + "SALVARE LE MODIFICHE ?",
                             MessageBox::Icon::Exclamation, MessageBox::Buttons::YesNoCancel});
@@ -76,14 +94,15 @@ Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& risc
 
 void FrmGenVisualizzaRtf::Salva(bool conservaIlPrecedente) {
   fallito_ = true;
-  const std::string bytes = WriteRtf(RichTextBox1.Document());
+  const std::string bytes =
+      WriteRtf(nuovo_ ? SenzaAvviso(RichTextBox1.Document()) : RichTextBox1.Document());
   try {
     ReadRtf(bytes);  // what would not open again is not saved
   } catch (RuntimeFailure& failure) {
     throw failure.AtFile(NomeFile);
   }
   if (conservaIlPrecedente)
-    stato_.folder.Replace(NomeDelPrecedente(), stato_.folder.Read(NomeFile));
+    stato_.folder.Replace(NomeDellOriginale(stato_.folder, NomeFile), stato_.folder.Read(NomeFile));
   stato_.folder.Replace(NomeFile, bytes);
   fallito_ = false;
 }

@@ -24,7 +24,8 @@ class FrmGenVisualizzaRtf : public Form {
 
   RichTextBox RichTextBox1{*this, "RichTextBox1"};
 
-  // Reads the file. A damaged one is a RuntimeFailure, and stays as it is.
+  // Reads the file. Damage is told, and the window opens blank: a save then keeps the old file
+  // under another name.
   void OnOpen() override;
   // Saves what the person has written; the window stays when that fails. An untouched text is not
   // written again.
@@ -33,13 +34,13 @@ class FrmGenVisualizzaRtf : public Form {
  private:
   // What of the file on disk would go with a save, in Italian.
   std::vector<std::string> Rischi() const;
-  std::string NomeDelPrecedente() const;
   Answer ChiediSeSalvare(const std::vector<std::string>& rischi) const;
   void Salva(bool conservaIlPrecedente);
 
   RunState& stato_;
   std::string letto_;  // the file as it was read
   std::vector<std::string> perdite_;
+  bool nuovo_ = false;    // there was no file
   bool fallito_ = false;  // the last save; whoever wants to leave all the same is asked
 };
 

@@ -23,6 +23,7 @@ FrmPerEditor::FrmPerEditor(RunState& stato)
   cmdCerca2.onPress = [this] { Cerca(casellatesto2); };
   cmdCerca3.onPress = [this] { Cerca(CasellaTesto3); };
   cmdOK.onPress = [this] { Conferma(); };
+  casellatesto1.onChange = casellatesto2.onChange = [this] { DiciMancanti(); };
   DiciMancanti();
 }
 

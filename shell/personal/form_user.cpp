@@ -35,14 +35,14 @@ constexpr std::array<Entry, 13> kEntries = {{
 }  // namespace
 
 FrmPerUtente::FrmPerUtente(RunState& stato)
-    : Form("frmPER_Utente", "UTILIZZATORE DELLA PROCEDURA") {
+    : Form("frmPER_Utente", "UTILIZZATORE DELLA PROCEDURA"),
+      file_(stato.player, stato.folder, kFileUtente) {
   std::vector<Layout> righe;
   for (TestoBox& casella : casellatesto) righe.emplace_back(casella);
   SetContent(Column(
       {Fields(std::move(righe)), Group(Frame1, {Row({Option1, option2})}), Buttons({Command1})}));
-  const DatiProfessionista dati = stato.folder.Exists(kFileUtente)
-                                      ? LeggiDatiProfessionista(stato.folder)
-                                      : DatiProfessionista();
+  const DatiProfessionista dati =
+      file_.Leggi(DatiProfessionista(), [&] { return LeggiDatiProfessionista(stato.folder); });
   for (std::size_t i = 0; i < kEntries.size(); ++i)
     casellatesto[i].SetText(dati.*kEntries[i].value);
   // A profession of another first letter counts as Ingegnere.
@@ -63,6 +63,7 @@ void FrmPerUtente::Conferma(const WorkFolder& folder) {
   for (std::size_t i = 0; i < kEntries.size(); ++i)
     dati.*kEntries[i].value = casellatesto[i].Text();
   dati.Professione = option2.Value() ? "Architetto" : "Ingegnere";
+  file_.Conserva();
   ScriviDatiProfessionista(folder, dati);
   Esci(Uscita::Conferma);
 }

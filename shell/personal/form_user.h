@@ -5,6 +5,7 @@
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
+#include "tariff/files/damaged_file.h"
 
 namespace orm {
 
@@ -23,6 +24,8 @@ class FrmPerUtente : public Form {
  private:
   std::deque<TestoBox> Caselle();
   void Conferma(const WorkFolder& folder);
+
+  FileDelForm file_;
 };
 
 }  // namespace orm

@@ -2,6 +2,7 @@
 // argument, nobody keeps it in globals; a calculation gets what it needs of it in its note.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "dialogs/player.h"
@@ -28,6 +29,12 @@ struct RunState {
   bool ModoLire = false;       // Lire or Euro: the currency of every amount of the note
   std::string FileInt, FileInp, FileDatiAcconti;
   Chiusura chiusura;
+  // The input at work: whether its note is a new one, and how many forms the person had confirmed
+  // when the forms of the case began.
+  struct {
+    bool nuova = false;
+    std::size_t conferme = 0;
+  } input;
   Criteri criteri;
   Editors editors;
 

@@ -30,7 +30,7 @@ FrmVerBalcone::FrmVerBalcone(RunState& stato)
   SetContent(Column(
       {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(),
                                          ingressi.lblModuli, Label_NOTA, lblStatica, Lavagna})}),
-       Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
+       Buttons({ComCalcola, ComEsci})}));
   const auto cambiati = [this] { Azzera(); };
   ingressi.TieEvents(cambiati);
   tensioni.TieEvents(cambiati);

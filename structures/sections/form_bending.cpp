@@ -67,7 +67,7 @@ void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> a
                                   Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()})})}),
                           Column({Group(fraArmature, std::move(armature)),
                                   Group(fraNote, {Label_NOTA}), Lavagna})}),
-                     Buttons({cmdRIPRENDI, ComCalcola, ComEsci})}));
+                     Buttons({ComCalcola, ComEsci})}));
 }
 
 void FormFlessione::Avvisa(const std::string& testo) { stato_.player.Ask(AvvisoVerifica(testo)); }

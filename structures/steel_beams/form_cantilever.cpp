@@ -10,13 +10,12 @@ namespace orm {
 
 FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
     : FormRiprendibile("frmVER_SBALZI_P", "VERIFICA SBALZI A PUTRELLE E TAVELLONI", stato) {
-  SetContent(Column(
-      {Row({Column({ingressi.Schema(),
-                    Group(fraEstremita,
-                          {Fields({Row({cdCarico, cmdCarico}), Row({cdCoppia, cmdCOPPIA})})}),
-                    Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
-            Column({ingressi.Carichi()})}),
-       risultati.Contents(), Buttons({cmdRIPRENDI, comCalcola, cmdSTAMPA, ComEsci})}));
+  SetContent(Column({Row({Column({ingressi.Schema(),
+                                  Group(fraEstremita, {Fields({Row({cdCarico, cmdCarico}),
+                                                               Row({cdCoppia, cmdCOPPIA})})}),
+                                  Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
+                          Column({ingressi.Carichi()})}),
+                     risultati.Contents(), Buttons({comCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();

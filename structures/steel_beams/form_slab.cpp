@@ -16,7 +16,7 @@ FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
       Column({Row({Column({Group(fraPosizione, {Row({Option1, Option2})}), ingressi.Schema(),
                            Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
                    Column({ingressi.Carichi()})}),
-              risultati.Contents(), Buttons({cmdRIPRENDI, ComCalcola, cmdSTAMPA, ComEsci})}));
+              risultati.Contents(), Buttons({ComCalcola, cmdSTAMPA, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option1.SetValue(true);
   cdMezzeria.SetValue(kAppoggio);

@@ -55,8 +55,8 @@ std::string Rifiuto(EsitoSolaioT esito) {
 FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
     : FormRiprendibile("frmVER_SOLAIO_TRALIC",
                        "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO", stato) {
-  SetContent(Column({ingressi.Contents(), viste.Contents(),
-                     Buttons({cmdRIPRENDI, comCalcola, comSTAMPA, ComEsci})}));
+  SetContent(
+      Column({ingressi.Contents(), viste.Contents(), Buttons({comCalcola, comSTAMPA, ComEsci})}));
   ingressi.TieEvents([this] { Azzera(); });
   SetFirstFocus(ingressi.cdLuce);
   comCalcola.onPress = [this] { Calcola(); };
@@ -65,8 +65,8 @@ FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
   Azzera();
 }
 
-void FrmVerSolaioTralic::Riprendi(const FormValues& valori) {
-  ingressi.Riprendi([&] { FormRiprendibile::Riprendi(valori); });
+void FrmVerSolaioTralic::Resume(const FormValues& values) {
+  ingressi.Riprendi([&] { FormRiprendibile::Resume(values); });
 }
 
 void FrmVerSolaioTralic::Azzera() {

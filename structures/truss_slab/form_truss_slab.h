@@ -18,7 +18,7 @@ class FrmVerSolaioTralic : public FormRiprendibile {
   Button ComEsci{*this, "ComEsci", "&ESCI", Button::Role::Close};
 
  private:
-  void Riprendi(const FormValues& valori) override;
+  void Resume(const FormValues& values) override;
   void Calcola();
   void Stampa();
   void Azzera();

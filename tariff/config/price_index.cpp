@@ -72,4 +72,13 @@ double IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
   return (IndicePubblicato(indici, mese, anno) / base - 1) * 100;
 }
 
+std::string IndiciFoi::Obiezione(int mese, int anno) const {
+  try {
+    PercentualeRivalutazione(mese, anno);
+    return "";
+  } catch (const RuntimeFailure& failure) {
+    return failure.Text();
+  }
+}
+
 }  // namespace orm

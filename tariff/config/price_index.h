@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -29,6 +30,8 @@ class IndiciFoi {
   // Percent by which prices rose from January 1993 to a month; beyond the last one published its
   // index counts. A month or year that the file cannot answer is a RuntimeFailure.
   double PercentualeRivalutazione(int mese, int anno) const;
+  // Why the percentage cannot be had, in Italian; empty when it can.
+  std::string Obiezione(int mese, int anno) const;
 
  private:
   WorkFolder folder_;

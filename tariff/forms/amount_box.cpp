@@ -37,9 +37,18 @@ void ImportoBox::Chiedi(const ImportoChiesto& importo) {
 
 std::string ImportoBox::Eccesso(double altri) const {
   const double massimo = (lire_ ? ci.Limits() : cd.Limits()).most;
-  if (std::fabs(Value()) + altri <= massimo) return "";
-  return TrimRight(ci.Caption()) + (altri == 0 ? ":" : ": CON GLI ALTRI LOTTI LA SOMMA") +
-         " NON PUÒ SUPERARE " + FormattaCopia(massimo, 2) + ".";
+  const double somma = std::fabs(Value()) + altri;
+  if (somma <= massimo) return "";
+  std::string campo = chiesto_.addendi.riga;
+  const auto aggiungi = [&campo](const std::string& nome) {
+    if (!nome.empty()) campo += (campo.empty() ? "" : ", ") + TrimRight(nome);
+  };
+  if (const Frame* riquadro = ci.Parent()) aggiungi(riquadro->Caption());
+  aggiungi(ci.Caption());
+  const std::string conGliAltri = altri == 0 ? ""
+                                             : " CON " + std::string(chiesto_.addendi.altri) +
+                                                   " LA SOMMA È " + FormattaCopia(somma, 2) + " E";
+  return campo + ":" + conGliAltri + " NON PUÒ SUPERARE " + FormattaCopia(massimo, 2) + ".";
 }
 
 void ImportoBox::Prendi() const {

@@ -9,29 +9,35 @@
 
 namespace orm {
 
-// How long an amount may be that a person types: every text that the note prints of it, negative
-// sums included, fits the field of its column.
+// How long an amount may be that a person types: it ends where its own column ends. A fee that
+// comes out too long for its column is a failure of the calculation, which names it.
 struct LimitiImporto {
   NumberLimits lire, euro;
 };
 
-// Amounts of works: 16 characters in the column, thousands points included; a fee on the whole
-// amount, coefficients included, still fits its 14.
-inline const LimitiImporto kLavori = {{.most = 99999999999.0, .decimals = 0},
-                                      {.most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+// Amounts of works: 16 characters in the column, thousands points included.
+inline const LimitiImporto kLavori = {{.most = 999999999999.0, .decimals = 0},
+                                      {.most = 999999999.99, .decimals = 2, .trailingZeros = true}};
 // The same where a negative amount has a meaning of its own.
 inline const LimitiImporto kLavoriConSegno = {
-    {.least = -99999999999.0, .most = 99999999999.0, .decimals = 0},
-    {.least = -99999999.99, .most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+    {.least = -999999999999.0, .most = 999999999999.0, .decimals = 0},
+    {.least = -999999999.99, .most = 999999999.99, .decimals = 2, .trailingZeros = true}};
 // Advances: 14 characters in the column, and a net amount below zero takes one for its sign.
 inline const LimitiImporto kAcconti = {{.most = 9999999999.0, .decimals = 0},
                                        {.most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+
+// How a refused sum is told: the row of the amount, "LOTTO n° 2", and what it is summed with.
+struct Addendi {
+  std::string riga = {};
+  std::string_view altri = "GLI ALTRI LOTTI";
+};
 
 // What a field for an amount asks: the place of the amount in its row, and what the note's other
 // rows hold of it, all counted without their sign. Without a place it asks nothing.
 struct ImportoChiesto {
   double* posto = nullptr;
   double altri = 0;
+  Addendi addendi = {};
 };
 
 template <class Riga>
@@ -41,10 +47,11 @@ double SommaSenzaSegno(const std::vector<Riga>& righe, double Riga::*importo) {
   return somma;
 }
 
-// An amount of `riga`, which is none of the rows entered so far, `fatte`.
+// An amount of `riga`, which is none of the note's other rows, `altre`.
 template <class Riga>
-ImportoChiesto Chiesto(Riga& riga, double Riga::*importo, const std::vector<Riga>& fatte) {
-  return {&(riga.*importo), SommaSenzaSegno(fatte, importo)};
+ImportoChiesto Chiesto(Riga& riga, double Riga::*importo, const std::vector<Riga>& altre,
+                       const Addendi& addendi) {
+  return {&(riga.*importo), SommaSenzaSegno(altre, importo), addendi};
 }
 
 struct ImportoBox {

@@ -3,18 +3,15 @@
 namespace orm {
 
 FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro,
-                                   double& chiesto)
+                                   const ImportoChiesto& chiesto)
     : FormInput(stato, "frmGEN_UNOIMPORTI", std::move(titolo)) {
   SetContent(Column({Fields({Label1, Label2}),
                      Group(Frame1, {Row({AmountFields({importo}), Image1})}), Buttons({cmdOK})}));
   Frame1.SetCaption(std::move(riquadro));
   Label1.SetVisible(false);
   Label2.SetVisible(false);
-  importo.Chiedi({&chiesto});
-  cmdOK.onPress = [this] {
-    importo.Prendi();
-    Esci(Uscita::Conferma);
-  };
+  importo.Chiedi(chiesto);
+  cmdOK.onPress = [this] { Conferma({&importo, 1}); };
 }
 
 void FrmGenUnoImporti::SetTariffa(std::string etichetta, std::string valore) {

@@ -12,9 +12,10 @@ namespace orm {
 class FrmGenUnoImporti : public FormInput {
  public:
   // `titolo` of the window and `riquadro`, the caption of the frame around the amount, which is
-  // taken when it is confirmed. The two labels and their values are the caller's to fill, and
-  // hidden while their value is empty.
-  FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro, double& importo);
+  // taken when it is confirmed, unless its sum is refused. The two labels and their values are the
+  // caller's to fill, and hidden while their value is empty.
+  FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro,
+                   const ImportoChiesto& importo);
 
   void SetTariffa(std::string etichetta, std::string valore);
   void SetClasseCategoria(std::string etichetta, std::string valore);

@@ -44,12 +44,12 @@ bool ChiediClasse(RunState& stato, const PostoRiga& posto, std::string& Classe,
 
 // Class, category and amount of a lot which asks no more than that of the tariff.
 template <class Lotto>
-bool ChiediClasseEImporto(RunState& stato, const PostoRiga& posto, const std::vector<Lotto>& fatti,
+bool ChiediClasseEImporto(RunState& stato, const PostoRiga& posto, const std::vector<Lotto>& altri,
                           Lotto& lotto) {
   return FrmGenClasse(stato, posto, lotto.Classe, lotto.Categoria,
                       {.titolo = "IMPORTO DEI LAVORI RICADENTI NELLA CLASSE E CATEGORIA INDICATA",
                        .etichetta = true},
-                      Chiesto(lotto, &Lotto::Importo, fatti))
+                      Chiesto(lotto, &Lotto::Importo, altri, {ConNumero(posto, "LOTTO")}))
       .Chiedi();
 }
 

@@ -6,20 +6,21 @@ namespace orm {
 
 FrmGenIntestazione::FrmGenIntestazione(RunState& stato, std::string nomeFile)
     : Form("frmGEN_Intestazione",
-           "                                          INTESTAZIONE PARCELLA") {
+           "                                          INTESTAZIONE PARCELLA"),
+      file_(stato.player, stato.folder, std::move(nomeFile)) {
   SetContent(
       Column({Fields({txtCommittente, txtIncarico, txtDocumenti, txtNote}), Buttons({Command1})}));
-  if (stato.folder.Exists(nomeFile)) {
-    const Intestazione dati = LeggiIntestazione(stato.folder, nomeFile);
-    txtCommittente.SetText(dati.Committente);
-    txtIncarico.SetText(dati.Oggetto);
-    txtDocumenti.SetText(dati.Documenti);
-    txtNote.SetText(dati.Note);
-  }
-  Command1.onPress = [this, &stato, nomeFile = std::move(nomeFile)] {
+  const Intestazione dati =
+      file_.Leggi(Intestazione(), [&] { return LeggiIntestazione(stato.folder, file_.Nome()); });
+  txtCommittente.SetText(dati.Committente);
+  txtIncarico.SetText(dati.Oggetto);
+  txtDocumenti.SetText(dati.Documenti);
+  txtNote.SetText(dati.Note);
+  Command1.onPress = [this, &stato] {
     TryAndStay(stato.player, [&] {
+      file_.Conserva();
       ScriviIntestazione(
-          stato.folder, nomeFile,
+          stato.folder, file_.Nome(),
           {txtCommittente.Text(), txtIncarico.Text(), txtDocumenti.Text(), txtNote.Text()});
       Esci(Uscita::Conferma);
     });

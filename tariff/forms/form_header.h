@@ -3,6 +3,7 @@
 
 #include "dialogs/form.h"
 #include "shell/state/run_state.h"
+#include "tariff/files/damaged_file.h"
 
 namespace orm {
 
@@ -10,6 +11,7 @@ class FrmGenIntestazione : public Form {
  public:
   // Shows the file's texts if it exists. "O.K." writes the file; leaving the form otherwise does
   // not.
+  // A damaged file is told, and the form opens blank.
   FrmGenIntestazione(RunState& stato, std::string nomeFile);
 
   static inline const TextOptions kPiuRighe{.longest = 1000, .lines = 4, .width = 60};
@@ -18,6 +20,9 @@ class FrmGenIntestazione : public Form {
   TestoBox txtDocumenti{*this, "txtDocumenti", "DOCUMENTI DI INCARICO", kPiuRighe};
   TestoBox txtNote{*this, "txtNote", "NOTE", kPiuRighe};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
+
+ private:
+  FileDelForm file_;
 };
 
 }  // namespace orm

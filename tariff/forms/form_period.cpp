@@ -50,6 +50,7 @@ FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string d
 }
 
 std::optional<std::int16_t> FrmTariffe::ChiediPeriodo() {
+  if (periodo_ == 0 && posto_.Nuova()) return std::nullopt;
   if (!Chiedi() || periodo_ == 0) return std::nullopt;
   return periodo_;
 }

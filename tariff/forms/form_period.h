@@ -37,7 +37,8 @@ class FrmTariffe : public FormRiga {
   FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove, const PostoRiga& posto,
              int ultimo, const std::string& periodo);
 
-  // Shows the form: 1 to 5, or nothing at the end of the periods.
+  // Shows the form: 1 to 5, or nothing at the end of the periods, which comes by itself where a
+  // new row has none left to choose. A row that exists is not dropped unseen.
   std::optional<std::int16_t> ChiediPeriodo();
 
   Label lblLotto{*this, "lblLotto", "", Label::Style::Title};

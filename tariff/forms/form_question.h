@@ -14,8 +14,7 @@ class FrmGenNuovoCaso : public Form {
  public:
   FrmGenNuovoCaso();
 
-  // Left by its window, the form lets the note that is there stand.
-  Inizio Risposta = Inizio::Variazione;
+  Inizio Risposta = Inizio::Rinuncia;  // until a button says otherwise
 
   Button cmdVARIAZIONE{*this, "cmdVARIAZIONE", "VARIAZIONE DATI", Button::Role::Default};
   Button cmdNuova{*this, "cmdNuova", "NUOVA PARCELLA"};

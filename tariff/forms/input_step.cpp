@@ -8,10 +8,15 @@ namespace orm {
 Inizio ChiediInizio(RunState& stato) {
   FrmGenIntestazione intestazione(stato, stato.FileInt);
   stato.player.Show(intestazione);
+  if (!intestazione.Confermato()) return Inizio::Rinuncia;
   if (!stato.folder.Exists(stato.FileInp)) return Inizio::Nuova;
   FrmGenNuovoCaso nuovoCaso;
   stato.player.Show(nuovoCaso);
   return nuovoCaso.Risposta;
+}
+
+bool NienteDiConfermato(const RunState& stato) {
+  return stato.input.nuova && stato.player.Confirmations() == stato.input.conferme;
 }
 
 void ChiediAcconti(RunState& stato, const DataWriter& corpo) {

@@ -18,21 +18,24 @@ struct LimitiCatena {
 
 // The lots that the note had are gone through one by one; ending the periods of a lot drops its
 // further rows, ending the lots those from there on. A row added to a lot moves the rows behind it,
-// which keep their places: one that the note has no place for is refused where it is entered.
+// which keep their places: one that the note has no place for is refused where it is entered. The
+// rows still to come count in whatever a note holds in all.
 template <class Riga>
 class CatenaRighe {
  public:
-  CatenaRighe(std::vector<LottoARighe>& lottiDelCaso, std::vector<Riga>& righeDelCaso,
-              LimitiCatena limitiDelCaso)
-      : lotti(lottiDelCaso), righe(righeDelCaso), limiti(std::move(limitiDelCaso)) {}
+  CatenaRighe(RunState& run, std::vector<LottoARighe>& lottiDelCaso,
+              std::vector<Riga>& righeDelCaso, LimitiCatena limitiDelCaso)
+      : stato(run), lotti(lottiDelCaso), righe(righeDelCaso), limiti(std::move(limitiDelCaso)) {}
   virtual ~CatenaRighe() = default;
 
   void Chiedi() {
     std::vector<std::vector<Riga>> perLotto = Separa();
     ChiediElenco(
-        perLotto, [this](const PostoRiga& posto) { return RifiutoLotto(posto); },
-        [this](const PostoRiga& posto, std::vector<Riga>& sue) {
-          righeDopo -= sue.size();
+        stato, perLotto, [this](const PostoRiga& posto) { return RifiutoLotto(posto); },
+        [this](const PostoRiga& posto, std::vector<Riga>& sue, const auto& altriLotti) {
+          righeAltrui.clear();
+          for (const std::vector<Riga>& righeDelLotto : altriLotti)
+            righeAltrui.insert(righeAltrui.end(), righeDelLotto.begin(), righeDelLotto.end());
           Riga modello = sue.empty() ? Riga() : sue.front();
           if (!ChiediTestata(posto, modello)) return false;
           ChiediPeriodi(posto, modello, sue);
@@ -44,19 +47,21 @@ class CatenaRighe {
   // The heading of a lot, into `modello`. False at the end of the lots.
   virtual bool ChiediTestata(const PostoRiga& lotto, Riga& modello) = 0;
   // What the row at `posto` of a lot starts from: the lot's heading is that of `modello`, also
-  // where the row that existed had another one; `ultimo` is the last period before it, 0 for none.
+  // where the row that existed had another one; `ultimo` is the last period before it, 0 for none;
+  // `altreDelLotto` are its other rows.
   struct PostoPeriodo {
     const PostoRiga &lotto, &posto;
     const Riga& modello;
     int ultimo;
+    const std::vector<Riga>& altreDelLotto;
   };
   // The period of a row, nothing at the end of the periods.
   virtual std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const Riga& riga) = 0;
-  // The rest of a row.
-  virtual void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, Riga& riga) = 0;
+  // The rest of a row. `altreRighe`: the others of the note.
+  virtual void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, Riga& riga,
+                          const std::vector<Riga>& altreRighe) = 0;
 
-  // The rows of the note entered so far.
-  const std::vector<Riga>& Fatte() const { return righe; }
+  RunState& stato;
 
  private:
   // The rows lot by lot. A lot without rows has no heading to show and is left out.
@@ -68,7 +73,6 @@ class CatenaRighe {
       if (riga != fine) perLotto.emplace_back(riga, fine);
       riga = fine;
     }
-    righeDopo = righe.size();
     lotti.clear();
     righe.clear();
     return perLotto;
@@ -76,25 +80,31 @@ class CatenaRighe {
 
   std::string RifiutoLotto(const PostoRiga& posto) const {
     if (posto.numero > limiti.lotti) return OltreIlMassimo(limiti.lotti, limiti.nomeLotti);
-    return RifiutoRiga(posto);
+    return RifiutoRiga(posto, righe.size());
   }
-  // A new row must leave those of the lots behind it their place.
-  std::string RifiutoRiga(const PostoRiga& posto) const {
-    if (!posto.Nuova() || righe.size() + righeDopo < limiti.righe) return "";
+  // Why a new row has no place beside those that the note has.
+  std::string RifiutoRiga(const PostoRiga& posto, std::size_t quante) const {
+    if (!posto.Nuova() || quante < limiti.righe) return "";
     return OltreIlMassimo(limiti.righe, "RIGHE IN TUTTI I " + limiti.nomeLotti);
   }
 
   void ChiediPeriodi(const PostoRiga& lotto, const Riga& modello, std::vector<Riga>& sue) {
     LottoARighe fatto;
     ChiediElenco(
-        sue, [this](const PostoRiga& posto) { return RifiutoRiga(posto); },
-        [&](const PostoRiga& posto, Riga& riga) {
+        stato, sue,
+        [this](const PostoRiga& posto) {
+          return RifiutoRiga(posto, righeAltrui.size() + posto.numero - 1);
+        },
+        [&](const PostoRiga& posto, Riga& riga, const std::vector<Riga>& altreDelLotto) {
           const auto& periodi = fatto.PeriodoDelLotto;
           if (posto.numero > limiti.periodiPerLotto) return false;
-          const PostoPeriodo qui{lotto, posto, modello, periodi.empty() ? 0 : periodi.back()};
+          const PostoPeriodo qui{lotto, posto, modello, periodi.empty() ? 0 : periodi.back(),
+                                 altreDelLotto};
           const auto periodo = ChiediPeriodo(qui, riga);
           if (!periodo) return false;
-          ChiediRiga(qui, *periodo, riga);
+          std::vector<Riga> altreRighe = righeAltrui;
+          altreRighe.insert(altreRighe.end(), altreDelLotto.begin(), altreDelLotto.end());
+          ChiediRiga(qui, *periodo, riga, altreRighe);
           righe.push_back(riga);
           fatto.PeriodoDelLotto.push_back(*periodo);
           return true;
@@ -106,7 +116,7 @@ class CatenaRighe {
   std::vector<LottoARighe>& lotti;
   std::vector<Riga>& righe;
   const LimitiCatena limiti;
-  std::size_t righeDopo = 0;  // rows of the lots behind the one at work
+  std::vector<Riga> righeAltrui;  // rows of the other lots than the one at work
 };
 
 // The chain whose lots are classes of the tariff and whose rows are periods of it.
@@ -117,8 +127,7 @@ class CatenaClassi : public CatenaRighe<Riga> {
   CatenaClassi(RunState& run, std::vector<LottoARighe>& lottiDelCaso,
                std::vector<Riga>& righeDelCaso, LimitiCatena limitiDelCaso,
                std::string Riga::*periodoDellaRiga)
-      : CatenaRighe<Riga>(lottiDelCaso, righeDelCaso, std::move(limitiDelCaso)),
-        stato(run),
+      : CatenaRighe<Riga>(run, lottiDelCaso, righeDelCaso, std::move(limitiDelCaso)),
         Periodo(periodoDellaRiga) {}
 
  protected:
@@ -144,7 +153,7 @@ class CatenaClassi : public CatenaRighe<Riga> {
     riga.*Periodo = periodo == 0 ? "" : NumberText(periodo);
   }
 
-  RunState& stato;
+  using CatenaRighe<Riga>::stato;
 
  private:
   std::string Riga::*const Periodo;

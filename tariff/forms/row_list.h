@@ -4,7 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "runtime/numbers.h"
+#include "shell/state/run_state.h"
 
 namespace orm {
 
@@ -28,18 +32,26 @@ std::string DoveSiamo(const PostoRiga& posto, std::string_view cosa);
 std::string OltreIlMassimo(std::size_t massimo, std::string_view cose);
 
 // The rows that the list had are gone through in turn, then new ones are asked, until `chiedi` says
-// that the list ends there: the row on which it ends is dropped with those after it. `righe` holds
-// the rows entered so far, which the one being asked may look at.
-//   std::string rifiuto(const PostoRiga&)       why there is no place for the row; empty: there is
-//   bool chiedi(const PostoRiga&, Riga& riga)   shows its dialogs; false at the end of the list
+// that the list ends there: the row on which it ends is dropped with those after it. `altre` are
+// the other rows of the list: those entered so far, and those that it had and that are still to
+// come.
+//   std::string rifiuto(const PostoRiga&)   why there is no place for the row; empty: there is
+//   bool chiedi(const PostoRiga&, Riga& riga, const std::vector<Riga>& altre)
+//                                           shows its dialogs; false at the end of the list
 template <class Riga, class Rifiuto, class Chiedi>
-void ChiediElenco(std::vector<Riga>& righe, Rifiuto&& rifiuto, Chiedi&& chiedi) {
-  const std::vector<Riga> prima = std::move(righe);
+void ChiediElenco(RunState& stato, std::vector<Riga>& righe, Rifiuto&& rifiuto, Chiedi&& chiedi) {
+  std::vector<Riga> altre = righe;
+  const std::size_t esistenti = righe.size();
   for (righe.clear();;) {
-    PostoRiga posto{righe.size() + 1, prima.size()};
+    PostoRiga posto{righe.size() + 1, esistenti};
     posto.rifiuto = rifiuto(posto);
-    Riga riga = posto.Nuova() ? Riga() : prima[righe.size()];
-    if (!chiedi(posto, riga)) return;
+    const auto qui = altre.begin() + static_cast<std::ptrdiff_t>(righe.size());
+    Riga riga = posto.Nuova() ? Riga() : *qui;
+    if (!posto.Nuova()) altre.erase(qui);
+    const Drafts::Subject parla(stato.player.DraftsOfRun(),
+                                NumberText(static_cast<double>(posto.numero)));
+    if (!chiedi(posto, riga, std::as_const(altre))) return;
+    altre.insert(altre.begin() + static_cast<std::ptrdiff_t>(righe.size()), riga);
     righe.push_back(std::move(riga));
   }
 }

@@ -85,6 +85,50 @@ TEST(Show, FormsShowFormsAndMessages) {
   EXPECT_EQ(shown, 4);
 }
 
+// What Escape leaves behind is brought back by a key, and given up for good by a confirmation.
+TEST(Show, DraftsComeBack) {
+  struct Sheet : Form {
+    Sheet() : Form("frmFoglio", "Foglio") {
+      SetContent(Column({Fields({txtNome}), Buttons({cmdOK})}));
+      cmdOK.onPress = [this] { Esci(Uscita::Conferma); };
+    }
+    TestoBox txtNome{*this, "txtNome", "Nome"};
+    Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};
+  };
+  TestPlayer player;
+  const auto show = [&](const std::function<void(Sheet&, FormDialog&)>& hand) {
+    Sheet sheet;
+    player.onForm = [&](FormDialog& dialog) { hand(sheet, dialog); };
+    player.Show(sheet);
+  };
+  const auto offered = [](Sheet& sheet, FormDialog& dialog) {
+    return dialog.ViewOf(*sheet.ResumeButton()).Field()->isVisible();
+  };
+  show([&](Sheet& sheet, FormDialog& dialog) {
+    EXPECT_FALSE(offered(sheet, dialog));
+    QTest::keyClicks(dialog.focusWidget(), "Ada");
+    player.DraftsOfRun().KeepOpen();  // as a program does that is about to end
+    EXPECT_EQ(player.DraftsOfRun().Kept().size(), 1U);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+  });
+  show([&](Sheet& sheet, FormDialog& dialog) {
+    EXPECT_TRUE(offered(sheet, dialog));
+    EXPECT_EQ(sheet.txtNome.Text(), "");
+    QTest::keyClick(&dialog, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(sheet.txtNome.Text(), "Ada");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(sheet.Confermato());
+  });
+  show([&](Sheet& sheet, FormDialog& dialog) { EXPECT_FALSE(offered(sheet, dialog)); });
+}
+
+TEST(Player, FindsProgramsInThePath) {
+  TestPlayer player;
+  EXPECT_TRUE(player.ProgramExists("sh"));
+  EXPECT_TRUE(player.ProgramExists("/bin/sh"));
+  EXPECT_FALSE(player.ProgramExists("programma-che-non-esiste") || player.ProgramExists(""));
+}
+
 TEST(Show, AnyKeyOrClickWhereTheFormEndsOnOne) {
   for (const bool key : {true, false}) {
     PlainForm form(true);

@@ -29,8 +29,7 @@ class Hurried : public orm::Player {
  public:
   explicit Hurried(std::string leaves) : leaves_(std::move(leaves)) {}
 
-  void Show(orm::Form& form) override {
-    form.Open();
+  void Present(orm::Form& form) override {
     if (form.Name() != leaves_ && code_ != 2) Answer(form);
     if (form.IsOpen()) form.OnWindowClose();
   }

@@ -49,6 +49,14 @@ TEST(DataReader, EmptyUnquotedFieldsAreEmptyOrZero) {
             "Il file finisce prima di questo campo.\nFile : INP_PPE.DAP\nRiga : 3\nCampo : e");
 }
 
+// The comma at the end of a file that lacks its line end stands before an empty field.
+TEST(DataReader, AnEmptyLastFieldNeedsNoLineEnd) {
+  DataReader file = Over("\"01/01/2001\",\"\",5,");
+  for (const char* text : {"01/01/2001", "", "5", ""}) EXPECT_EQ(file.Text("a"), text);
+  EXPECT_NO_THROW(file.ExpectEnd());
+  EXPECT_THROW(file.Text("b"), RuntimeFailure);
+}
+
 TEST(DataReader, RefusesTheMarksOfOtherEncodings) {
   EXPECT_EQ(FailureOf([] { Over("\xEF\xBB\xBF\"Rossi\"").Text("Nome"); }),
             "Il testo non è in codifica Windows-1252 ma in UTF-8.\nFile : INP_PPE.DAP\nRiga : "

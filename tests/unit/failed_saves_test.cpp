@@ -26,9 +26,8 @@ class FailedSaves : public ::testing::Test {
 // it.
 TEST_F(FailedSaves, DataOfANote) {
   struct Person : FakePlayer {
-    void Show(Form& form) override {
+    void Present(Form& form) override {
       shown = form.Name();
-      form.Open();
       static_cast<FrmGenAcconti&>(form).OK.Press();
       open = form.IsOpen();
     }

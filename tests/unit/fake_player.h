@@ -15,7 +15,6 @@ class FakePlayer : public Player {
   std::vector<MessageBox> messages;
   Answer answer = Answer::Ok;
 
-  void Show(Form&) override { throw std::logic_error("a form came up"); }
   Answer Ask(const MessageBox& box) override {
     messages.push_back(box);
     return answer;
@@ -28,6 +27,9 @@ class FakePlayer : public Player {
   OutsidePrograms DefaultPrograms() override { return {}; }
   ScreenSize Screen() override { return {}; }
   Date Today() override { return {2002, 3, 15}; }
+
+ protected:
+  void Present(Form&) override { throw std::logic_error("a form came up"); }
 };
 
 }  // namespace orm

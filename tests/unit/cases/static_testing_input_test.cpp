@@ -18,8 +18,7 @@ class Mani : public FakePlayer {
     std::vector<std::pair<std::string, std::string>> scritti;  // control and what is entered
     std::string pulsante;
   };
-  void Show(Form& form) override {
-    form.Open();
+  void Present(Form& form) override {
     ASSERT_FALSE(passi.empty()) << form.Name();
     const Passo passo = passi.front();
     passi.pop_front();
