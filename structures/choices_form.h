@@ -7,6 +7,7 @@
 
 #include "dialogs/form.h"
 #include "dialogs/form_values.h"
+#include "dialogs/player.h"
 
 namespace orm {
 
@@ -16,9 +17,10 @@ class FormScelte : public Form {
     OKButton.onPress = [this] { Esci(Uscita::Conferma); };
   }
   void OnOpen() override { prima_ = FormValues(*this); }
-  void OnWindowClose() override {
-    prima_.PutInto(*this);
-    Close();
+  // What was given up is a draft like any other's; the choices are those from before.
+  void Mostra(Player& player) {
+    player.Show(*this);
+    if (!Confermato()) prima_.PutInto(*this);
   }
 
   Button OKButton{*this, "OKButton", "&O.K.", Button::Role::Default};

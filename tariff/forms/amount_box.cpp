@@ -45,9 +45,10 @@ std::string ImportoBox::Eccesso(double altri) const {
   };
   if (const Frame* riquadro = ci.Parent()) aggiungi(riquadro->Caption());
   aggiungi(ci.Caption());
-  const std::string conGliAltri = altri == 0 ? ""
-                                             : " CON " + std::string(chiesto_.addendi.altri) +
-                                                   " LA SOMMA È " + FormattaCopia(somma, 2) + " E";
+  std::string conGliAltri;
+  if (altri != 0)
+    conGliAltri = " CON " + std::string(chiesto_.addendi.altri) + " LA SOMMA È " +
+                  FormattaCopia(somma, 2) + " E";
   return campo + ":" + conGliAltri + " NON PUÒ SUPERARE " + FormattaCopia(massimo, 2) + ".";
 }
 

@@ -114,7 +114,8 @@ TEST(Show, DraftsComeBack) {
   show([&](Sheet& sheet, FormDialog& dialog) {
     EXPECT_TRUE(offered(sheet, dialog));
     EXPECT_EQ(sheet.txtNome.Text(), "");
-    QTest::keyClick(&dialog, Qt::Key_R, Qt::AltModifier);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
     EXPECT_EQ(sheet.txtNome.Text(), "Ada");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(sheet.Confermato());
