@@ -29,7 +29,15 @@ QColor NoteText(const QPalette& palette) {
           blend(text.blue(), window.blue())};
 }
 
-QIcon WarningMark(const QPalette& palette) {
+QColor AdviceText(const QPalette& palette) {
+  return IsDark(palette) ? QColor(255, 204, 112) : QColor(138, 82, 0);
+}
+
+QColor AdviceBase(const QPalette& palette) {
+  return IsDark(palette) ? QColor(72, 54, 16) : QColor(255, 240, 204);
+}
+
+QIcon WarningMark(const QPalette& palette, const QColor& colour) {
   QIcon icon;
   for (const int scale : {1, 2, 3}) {
     QPixmap picture(16 * scale, 16 * scale);
@@ -38,7 +46,7 @@ QIcon WarningMark(const QPalette& palette) {
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(WarningText(palette));
+    painter.setBrush(colour);
     painter.drawEllipse(QRectF(1, 1, 14, 14));
     painter.setBrush(palette.color(QPalette::Base));
     painter.drawRoundedRect(QRectF(7, 3.5, 2, 6), 1, 1);

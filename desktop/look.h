@@ -15,8 +15,11 @@ QColor WarningBase(const QPalette& palette);    // behind the text of a field
 QColor AutomaticText(const QPalette& palette);  // a value that the program has written: blue
 QColor NoteText(const QPalette& palette);       // less weight than the text, still easy to read
 
+QColor AdviceText(const QPalette& palette);  // a value above what its caption advises: amber
+QColor AdviceBase(const QPalette& palette);
+
 // A round mark with "!": a warning is told by more than its colour.
-QIcon WarningMark(const QPalette& palette);
+QIcon WarningMark(const QPalette& palette, const QColor& colour);
 
 // Room for `characters` letters or digits of usual width in the font of the widget.
 int CharactersWide(const QWidget& widget, int characters);

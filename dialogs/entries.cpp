@@ -46,7 +46,11 @@ std::string TestoBox::Type(std::string_view text) {
 }
 
 std::string TestoBox::Enter(std::string_view text) {
-  return options_.readOnly ? Control::Enter(text) : Type(text);
+  if (!options_.readOnly) return Type(text);
+  const auto line = text.starts_with('#') ? ParseNumber(text.substr(1)) : std::nullopt;
+  if (!onLine || !line) return Control::Enter(text);
+  onLine(static_cast<int>(*line));
+  return {};
 }
 
 NumberBox::NumberBox(Form& form, std::string name, std::string caption, NumberLimits limits)
@@ -73,6 +77,10 @@ void NumberBox::SetReadOnly(bool readOnly) {
 
 void NumberBox::SetWarning(bool warns) {
   if (std::exchange(warns_, warns) != warns) Refresh();
+}
+
+void NumberBox::SetAdvised(double most) {
+  if (std::exchange(limits_.advised, most) != most) Refresh();
 }
 
 std::string NumberBox::Type(std::string_view draft) {

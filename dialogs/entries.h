@@ -33,7 +33,9 @@ class TestoBox : public Control {
   std::string Objection(std::string_view text) const;
   bool TakesFocus() const override { return !options_.readOnly; }
   std::string ShownText() const override { return text_; }
+  // In a text that is only read, "#3" points at its fourth line.
   std::string Enter(std::string_view text) override;
+  std::function<void(int)> onLine;  // a person pointed at this line of a text that is only read
 
  private:
   TextOptions options_;
@@ -57,6 +59,9 @@ class NumberBox : public Control {
   // A value that the program writes by itself when another one changes; told by its colour.
   bool IsAutomatic() const { return automatic_; }
   void SetAutomatic() { automatic_ = true; }
+  // The limit that a caption tells without enforcing it; a value above it is marked.
+  void SetAdvised(double most);
+  bool IsBeyondAdvised() const { return value_ > limits_.advised; }
   // What a person has typed so far: taken when it is a number within the limits, and the draft
   // text is kept as it is until the focus goes. Empty when taken, else the Italian reason.
   std::string Type(std::string_view draft);

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "dialogs/control.h"
 
@@ -40,16 +41,20 @@ class Button : public Control {
   enum class Role {
     Plain,
     Default,  // pressed by Enter wherever the focus is; one a form
-    Close     // ends the form, stands with the default button
+    Close     // ends the form, or what is under way in it: no field has to hold a value
   };
   Button(Form& form, std::string name, std::string caption, Role role = Role::Plain);
   Role GetRole() const { return role_; }
+  // Characters whose keys press the button wherever the focus is; "\x1b" is Escape.
+  void SetKeys(std::string keys) { keys_ = std::move(keys); }
+  const std::string& Keys() const { return keys_; }
   void Press();                            // as a person: nothing happens while hidden or disabled
   std::string ShownText() const override;  // the caption without its mark
   std::function<void()> onPress;
 
  private:
   Role role_;
+  std::string keys_;
 };
 
 // A small picture known by its subject.

@@ -22,8 +22,9 @@ void DatePicker::SetValue(const orm::Date& value) {
 }
 
 std::string DatePicker::Enter(std::string_view text) {
-  const auto date = ParseDate(text);
+  const auto date = WrittenDate(text);
   if (!date) return Writing();
+  if (!IsValid(*date)) return "Il giorno " + std::string(text) + " non c'è nel calendario.";
   if (*date < first_ || *date > last_)
     return "La data deve essere fra " + ShortDate(first_) + " e " + ShortDate(last_) + ".";
   SetValue(*date);

@@ -30,7 +30,7 @@ std::string ShortDate(const Date& d) {
   return Padded(d.day, 2) + "/" + Padded(d.month, 2) + "/" + Padded(d.year, 4);
 }
 
-std::optional<Date> ParseDate(std::string_view text) {
+std::optional<Date> WrittenDate(std::string_view text) {
   int parts[3] = {};
   const char* at = text.data();
   const char* const end = text.data() + text.size();
@@ -47,7 +47,12 @@ std::optional<Date> ParseDate(std::string_view text) {
   if (at != end || (yearDigits != 2 && yearDigits != 4)) return std::nullopt;
   Date date{parts[2], parts[1], parts[0]};
   if (yearDigits == 2) date.year += date.year < 30 ? 2000 : 1900;
-  return IsValid(date) ? std::optional(date) : std::nullopt;
+  return date;
+}
+
+std::optional<Date> ParseDate(std::string_view text) {
+  const auto date = WrittenDate(text);
+  return date && IsValid(*date) ? date : std::nullopt;
 }
 
 long DayNumber(const Date& d) {

@@ -45,8 +45,8 @@ double Calcolatrice::Premi(double numero, char operazione) {
   // Rounded on its 15 digits, so that 0,1 + 0,2 is 0,3.
   const double esito = RoundOnText(Esegui(totale_, attesa_, numero), 10);
   if (!(std::fabs(esito) < kTroppoGrande)) throw RuntimeFailure("Il risultato ha più di 15 cifre.");
-  nastro_.push_back(Riga(numero, std::string(1, operazione)));
-  if (operazione == '=') nastro_.push_back(Riga(esito, "*"));
+  nastro_.push_back({Riga(numero, std::string(1, operazione)), numero});
+  if (operazione == '=') nastro_.push_back({Riga(esito, "*"), esito});
   totale_ = esito;
   attesa_ = operazione;
   return esito;
@@ -59,20 +59,24 @@ void Calcolatrice::Azzera() {
 
 double Calcolatrice::LireInEuroSulNastro(double lire) {
   const double euro = LireInEuro(lire);
-  nastro_.push_back("L. " + Testo(lire) + " = € " + FormatPattern(euro, "#,##0.00"));
+  nastro_.push_back({"L. " + Testo(lire) + " = € " + FormatPattern(euro, "#,##0.00"), euro});
   return euro;
 }
 
 double Calcolatrice::EuroInLireSulNastro(double euro) {
   const double lire = EuroInLire(euro);
-  nastro_.push_back("€ " + FormatPattern(euro, "#,##0.00") + " = L. " + Testo(lire));
+  nastro_.push_back({"€ " + FormatPattern(euro, "#,##0.00") + " = L. " + Testo(lire), lire});
   return lire;
 }
 
 std::string Calcolatrice::Nastro() const {
   std::string testo;
-  for (const std::string& riga : nastro_) testo += (testo.empty() ? "" : "\n") + riga;
+  for (const RigaNastro& riga : nastro_) testo += (testo.empty() ? "" : "\n") + riga.testo;
   return testo;
+}
+
+std::optional<double> Calcolatrice::SulNastro(std::size_t riga) const {
+  return riga < nastro_.size() ? std::optional(nastro_[riga].numero) : std::nullopt;
 }
 
 }  // namespace orm

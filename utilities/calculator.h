@@ -1,6 +1,7 @@
 // A calculator of the four operations with a tape, and the two conversions of currency.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,17 +15,24 @@ class Calcolatrice {
   // on as before the key.
   double Premi(double numero, char operazione);
   void Azzera();  // forgets the reckoning; the tape stays
+  bool Azzerata() const { return totale_ == 0 && attesa_ == '='; }
 
   double LireInEuroSulNastro(double lire);
   double EuroInLireSulNastro(double euro);
 
   std::string Nastro() const;  // lines separated by "\n"
+  // The number of a line of the tape, of a conversion its result; nothing beyond the last line.
+  std::optional<double> SulNastro(std::size_t riga) const;
   void StrappaNastro() { nastro_.clear(); }
 
  private:
   double totale_ = 0;
   char attesa_ = '=';  // the operation that waits for its second number
-  std::vector<std::string> nastro_;
+  struct RigaNastro {
+    std::string testo;
+    double numero;
+  };
+  std::vector<RigaNastro> nastro_;
 };
 
 }  // namespace orm

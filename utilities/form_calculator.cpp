@@ -15,9 +15,19 @@ FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& stato)
   cmdUguale.onPress = [this] { Premi('='); };
   cmdAzzera.onPress = [this] {
     calcolatrice_.Azzera();
+    cdNumero.SetShown(" ");  // a draft that is no number goes as well
     cdNumero.SetValue(0);
+    Aggiorna();
     MoveFocus(cdNumero);
   };
+  cmdPiu.SetKeys("+");
+  cmdMeno.SetKeys("-");
+  cmdPer.SetKeys("*xX");
+  cmdDiviso.SetKeys("/:");
+  cmdUguale.SetKeys("=");
+  cmdAzzera.SetKeys("\x1b");
+  cdNumero.onChange = [this] { Aggiorna(); };
+  Text1.onLine = [this](int riga) { Riprendi(riga); };
   cmdInEuro.onPress = [this] {
     cdEuro.SetValue(calcolatrice_.LireInEuroSulNastro(ciLire.Value()));
     MostraNastro();
@@ -37,16 +47,30 @@ FrmUtiCalcolatrice::FrmUtiCalcolatrice(RunState& stato)
        Group(fraConvertitore,
              {Row({Fields({ciLire}), cmdInEuro}), Row({Fields({cdEuro}), cmdInLire})}),
        Fields({Text1}), Buttons({cmdNastro, cmdESCI})}));
+  Aggiorna();
 }
 
 void FrmUtiCalcolatrice::Premi(char operazione) {
   try {
     cdNumero.SetValue(calcolatrice_.Premi(cdNumero.Value(), operazione));
     MostraNastro();
+    Aggiorna();
   } catch (const RuntimeFailure& rifiuto) {
     stato_.player.Ask(Avviso(rifiuto.Reason()));
   }
   MoveFocus(cdNumero);
+}
+
+void FrmUtiCalcolatrice::Riprendi(int riga) {
+  const auto numero = calcolatrice_.SulNastro(static_cast<std::size_t>(riga));
+  if (!numero) return;
+  cdNumero.SetValue(*numero);
+  MoveFocus(cdNumero);
+}
+
+// With nothing to forget the key of Escape leaves the form, as it does elsewhere.
+void FrmUtiCalcolatrice::Aggiorna() {
+  cmdAzzera.SetEnabled(cdNumero.Value() != 0 || !calcolatrice_.Azzerata());
 }
 
 void FrmUtiCalcolatrice::MostraNastro() { Text1.SetText(calcolatrice_.Nastro()); }

@@ -13,7 +13,8 @@ void FrmInaInPensione::Righe() {
   for (int i = 0; i < kAnniReddito; ++i) {
     const std::string anno = NumberText(kPrimoAnno + i), indice = "(" + NumberText(i) + ")";
     Label1.push_back(std::make_unique<Label>(*this, "Label1" + indice, anno));
-    ciRedditi.push_back(std::make_unique<InterBox>(*this, "ciRedditi" + indice, ""));
+    ciRedditi.push_back(std::make_unique<InterBox>(*this, "ciRedditi" + indice, "",
+                                                   NumberLimits{.currency = "L."}));
     ciRedditi.back()->SetHint("Reddito professionale del " + anno);
   }
 }

@@ -26,7 +26,7 @@ class FrmCoaDati : public FormInput {
   FloatBox cdMaggiorazione{*this,
                            "cdMaggiorazione",
                            "MAGGIORAZIONE PER COLLAUDO IN CORSO D'OPERA",
-                           {.most = 999.99, .decimals = 2, .unit = "%   max 30%"}};
+                           {.most = 999.99, .decimals = 2, .unit = "%   max 30%", .advised = 30}};
   InterBox ciNUMEROPAGINE{*this,
                           "ciNUMEROPAGINE",
                           "NUMERO FACCIATE DEI DOCUMENTI CONTABILI REVISIONATI",

@@ -1,9 +1,13 @@
 #include "desktop/controls/balloon.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QEvent>
 #include <QLabel>
+#include <QScrollArea>
 #include <QTimer>
 #include <QToolTip>
+#include <array>
 
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
@@ -12,62 +16,155 @@ namespace orm {
 namespace {
 
 constexpr int kMilliseconds = 6000;
+constexpr int kGap = 3;
 const char* const kName = "avviso";
 
-QLabel* Existing(const QWidget& field) {
-  return field.window()->findChild<QLabel*>(kName, Qt::FindDirectChildrenOnly);
+// What the field stands on, so that the notice goes along when a form is scrolled.
+QWidget* GroundOf(const QWidget& field) {
+  QWidget* ground = field.parentWidget();
+  while (!ground->isWindow() &&
+         (ground->parentWidget() == nullptr ||
+          qobject_cast<QScrollArea*>(ground->parentWidget()->parentWidget()) == nullptr))
+    ground = ground->parentWidget();
+  return ground;
 }
 
-QLabel* Make(QWidget* window) {
-  auto* balloon = new QLabel(window);
-  balloon->setObjectName(kName);
-  balloon->setTextFormat(Qt::PlainText);
-  balloon->setWordWrap(true);
-  balloon->setPalette(QToolTip::palette());
-  balloon->setForegroundRole(QPalette::ToolTipText);
-  balloon->setBackgroundRole(QPalette::ToolTipBase);
-  balloon->setAutoFillBackground(true);
-  balloon->setFrameStyle(QFrame::Box | QFrame::Plain);
-  balloon->setMargin(5);
-  balloon->setAttribute(Qt::WA_TransparentForMouseEvents);
-  auto* timer = new QTimer(balloon);
-  timer->setSingleShot(true);
-  QObject::connect(timer, &QTimer::timeout, balloon, &QWidget::hide);
-  return balloon;
+class Balloon : public QLabel {
+ public:
+  explicit Balloon(QWidget& field) : QLabel(GroundOf(field)), field_(field) {
+    setObjectName(kName);
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setPalette(QToolTip::palette());
+    setForegroundRole(QPalette::ToolTipText);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setAutoFillBackground(true);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setMargin(5);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, [this] { Say(note_); });
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+      if (isVisible()) Place();
+    });
+    field.installEventFilter(this);
+    parentWidget()->installEventFilter(this);
+  }
+
+  bool Is(const QWidget& field) const { return &field_ == &field; }
+  void Tell(const QString& text) {
+    Say(text);
+    timer_.start(kMilliseconds);
+  }
+  void SetNote(const QString& note) {
+    if (note == note_) return;
+    note_ = note;
+    if (note.isEmpty() && timer_.isActive()) return;
+    timer_.stop();
+    Say(note);
+  }
+  void Silence() {
+    timer_.stop();
+    Say(note_);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto type = event->type();
+    if (watched == &field_ && type == QEvent::Hide) hide();
+    if (watched == &field_ && type == QEvent::Show) Say(note_);
+    if (watched == parentWidget() && (type == QEvent::Resize || type == QEvent::LayoutRequest))
+      QTimer::singleShot(0, this, [this] {
+        if (isVisible()) Place();
+      });
+    return QLabel::eventFilter(watched, event);
+  }
+
+ private:
+  void Say(const QString& text) {
+    if (text.isEmpty() || !field_.isVisible()) return hide();
+    const bool news = text != this->text() || !isVisible();
+    setText(text);
+    Place();
+    show();
+    raise();
+    if (!news) return;
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+  }
+
+  // Beside the field, below or above it: where it hides least, and never the field that is typed
+  // into.
+  void Place() {
+    const QWidget& ground = *parentWidget();
+    const int wanted = fontMetrics().horizontalAdvance(text()) + 20;
+    const int width = std::min({wanted, ground.width() - 8, CharactersWide(*this, 52)});
+    resize(width, heightForWidth(width));
+    const QRect around(field_.mapTo(&ground, QPoint(0, 0)), field_.size());
+    const int x = std::clamp(around.left(), 4, std::max(4, ground.width() - width - 4));
+    const std::array<QPoint, 3> places = {QPoint(x, around.bottom() + kGap),
+                                          QPoint(RightOfRow(ground), around.top()),
+                                          QPoint(x, around.top() - height() - kGap)};
+    QPoint best = places[0];
+    int least = std::numeric_limits<int>::max();
+    for (const QPoint& place : places) {
+      const int harm = Harm(QRect(place, size()), ground);
+      if (harm >= least) continue;
+      least = harm;
+      best = place;
+    }
+    move(std::clamp(best.x(), 0, std::max(0, ground.width() - width)),
+         std::clamp(best.y(), 0, std::max(0, ground.height() - height())));
+  }
+
+  // Behind the unit that stands beside the field.
+  int RightOfRow(const QWidget& ground) const {
+    const QWidget& row = *field_.parentWidget();
+    const int end = row.childrenRect().right();
+    return row.mapTo(&ground, QPoint(end, 0)).x() + 2 * kGap;
+  }
+
+  int Harm(const QRect& place, const QWidget& ground) const {
+    int harm = ground.rect().contains(place) ? 0 : 100;
+    for (const QWidget* other : ground.findChildren<QWidget*>()) {
+      const bool typed = other->isVisible() && (other->focusPolicy() & Qt::TabFocus) != 0;
+      if (!typed || !place.intersects({other->mapTo(&ground, QPoint(0, 0)), other->size()}))
+        continue;
+      harm += other->hasFocus() || other == &field_ ? 1000 : 1;
+    }
+    return harm;
+  }
+
+  QWidget& field_;
+  QTimer timer_;
+  QString note_;
+};
+
+Balloon* Existing(const QWidget& field) {
+  for (QLabel* label : GroundOf(field)->findChildren<QLabel*>(kName, Qt::FindDirectChildrenOnly))
+    if (auto* balloon = dynamic_cast<Balloon*>(label); balloon->Is(field)) return balloon;
+  return nullptr;
 }
 
-// Below the field, or above where there is no room, whole inside the window.
-void Place(QLabel& balloon, const QWidget& field) {
-  const QWidget& window = *field.window();
-  const int room = window.width() - 8;
-  const int wanted = balloon.fontMetrics().horizontalAdvance(balloon.text()) + 20;
-  const int width = std::min({wanted, room, CharactersWide(balloon, 52)});
-  balloon.resize(width, balloon.heightForWidth(width));
-  const QPoint below = field.mapTo(&window, QPoint(0, field.height() + 3));
-  const QPoint above = field.mapTo(&window, QPoint(0, -balloon.height() - 3));
-  const bool fits = below.y() + balloon.height() <= window.height();
-  const int x = std::clamp(below.x(), 4, std::max(4, window.width() - width - 4));
-  balloon.move(x, fits ? below.y() : std::max(0, above.y()));
+Balloon& BalloonOf(QWidget& field) {
+  Balloon* balloon = Existing(field);
+  return balloon != nullptr ? *balloon : *new Balloon(field);
 }
 
 }  // namespace
 
 void ShowBalloon(QWidget& field, const std::string& text) {
-  if (!field.isVisible()) return;
   if (text.empty()) return HideBalloon(field);
-  QLabel* balloon = Existing(field);
-  if (balloon == nullptr) balloon = Make(field.window());
-  balloon->setText(ToQt(text));
-  Place(*balloon, field);
-  balloon->show();
-  balloon->raise();
-  balloon->findChild<QTimer*>()->start(kMilliseconds);
-  QAccessibleEvent event(balloon, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  if (field.isVisible()) BalloonOf(field).Tell(ToQt(text));
 }
 
 void HideBalloon(const QWidget& field) {
-  if (QLabel* balloon = Existing(field)) balloon->hide();
+  if (Balloon* balloon = Existing(field)) balloon->Silence();
+}
+
+void SetNote(QWidget& field, const std::string& text) {
+  if (!text.empty()) return BalloonOf(field).SetNote(ToQt(text));
+  if (Balloon* balloon = Existing(field)) balloon->SetNote({});
 }
 
 }  // namespace orm

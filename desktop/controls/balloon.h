@@ -1,4 +1,4 @@
-// A short notice beside a field: why a key or a value was not taken. It goes by itself.
+// A short notice beside a field: why a key or a value was not taken.
 #pragma once
 
 #include <string>
@@ -7,7 +7,10 @@ class QWidget;
 
 namespace orm {
 
-void ShowBalloon(QWidget& field, const std::string& text);
+void ShowBalloon(QWidget& field, const std::string& text);  // goes by itself after some seconds
 void HideBalloon(const QWidget& field);
+// What stands beside the field until it is mended; an empty text takes it away. A balloon comes
+// before it and gives way to it again.
+void SetNote(QWidget& field, const std::string& text);
 
 }  // namespace orm

@@ -24,8 +24,8 @@ class BarsView : public EntryView {
   }
 
  protected:
-  std::string Admit(QString& text, bool inserted) const override {
-    if (inserted) text = text.simplified();
+  std::string Admit(QString& text, int&, const QString& inserted) override {
+    if (inserted.size() > 1) text = text.simplified();
     return box_.Objection(FromQt(text));
   }
   // A draft has no area yet; whether it is complete is asked when the person goes on.

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
@@ -88,6 +89,11 @@ void ControlView::Refresh() {
 }
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == field_ && event->type() == QEvent::KeyPress)
+    if (Button* button = host_.ButtonOfKey(FromQt(static_cast<QKeyEvent*>(event)->text()))) {
+      host_.Press(*button);
+      return true;
+    }
   if (watched == field_ &&
       (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
     // A menu over the field or another program in front is not a leaving.

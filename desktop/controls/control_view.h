@@ -24,6 +24,8 @@ class FormHost {
   virtual void Act(const std::function<void()>& event) = 0;
   // A button was pressed: the fields settle first.
   virtual void Press(Button& button) = 0;
+  // The button that has this key, if one is there to be pressed.
+  virtual Button* ButtonOfKey(const std::string& key) const = 0;
   virtual QWidget* Window() = 0;
 };
 

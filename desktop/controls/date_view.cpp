@@ -34,15 +34,20 @@ class DateView : public EntryView {
   }
 
  protected:
-  std::string Admit(QString& text, bool inserted) const override {
-    if (inserted) text = text.trimmed();
+  std::string Admit(QString& text, int&, const QString& inserted) override {
+    if (inserted.size() > 1) text = text.trimmed();
     const bool written = std::all_of(text.cbegin(), text.cend(), [](QChar c) {
       return c.isDigit() || QStringLiteral("/-.").contains(c);
     });
-    return written && text.size() <= 10 ? "" : DatePicker::Writing();
+    return written && text.size() <= 12 ? "" : DatePicker::Writing();
   }
   Verdict Take(const std::string& text) override {
-    return {picker_.Enter(text), text.size() == 10};
+    const bool whole = WrittenDate(text) && text.size() - text.find_last_of("/-.") == 5;
+    return {picker_.Enter(text), whole || text.size() >= 10};
+  }
+  QString Substitute(const QKeyEvent& key) const override {
+    const bool point = key.key() == Qt::Key_Period || key.key() == Qt::Key_Comma;
+    return point && (key.modifiers() & Qt::KeypadModifier) ? QStringLiteral("/") : QString();
   }
   void TakeBack() override { picker_.SetValue(before_); }
   void Keep() override { before_ = picker_.Value(); }

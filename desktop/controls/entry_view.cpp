@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyleOptionFrame>
 #include <QValidator>
 #include <algorithm>
@@ -11,35 +12,20 @@
 #include "desktop/qt_text.h"
 
 namespace orm {
-namespace {
-
-// How many characters the change from one text to the other has put in.
-qsizetype InsertedLength(const QString& before, const QString& after) {
-  const qsizetype shorter = std::min(before.size(), after.size());
-  qsizetype head = 0;
-  while (head < shorter && before[head] == after[head]) ++head;
-  qsizetype tail = 0;
-  while (tail < shorter - head &&
-         before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
-    ++tail;
-  return after.size() - head - tail;
-}
-
-}  // namespace
-
 class EntryValidator : public QValidator {
  public:
   explicit EntryValidator(EntryView& view, QObject* parent) : QValidator(parent), view_(view) {}
   State validate(QString& text, int& position) const override {
-    if (view_.writing_) return Acceptable;
-    const bool inserted = InsertedLength(view_.lastText_, text) > 1;
-    const qsizetype length = text.size();
-    std::string why = view_.Admit(text, inserted);
+    // A text that was tidied comes by once more.
+    if (view_.writing_ || text == view_.tidied_) return Acceptable;
+    const int length = std::max(0, position - view_.from_);
+    std::string why = view_.Admit(text, position, text.mid(view_.from_, length));
     if (!why.empty()) {
       view_.Refuse(std::move(why));
       return Invalid;
     }
-    if (text.size() != length) position = static_cast<int>(text.size());
+    position = std::min(position, static_cast<int>(text.size()));
+    view_.tidied_ = text;
     return Acceptable;
   }
 
@@ -49,7 +35,26 @@ class EntryValidator : public QValidator {
 
 EntryLine::EntryLine(EntryView& view, QWidget* parent) : QLineEdit(parent), view_(view) {}
 
+void EntryLine::SetPrefix(const QString& prefix) {
+  prefix_ = prefix;
+  setTextMargins(fontMetrics().horizontalAdvance(prefix + ' '), 0, 0, 0);
+}
+
+void EntryLine::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (prefix_.isEmpty()) return;
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  const int mark = view_.MarkWidth();
+  QPainter painter(this);
+  painter.setPen(isEnabled() ? NoteText(palette())
+                             : palette().color(QPalette::Disabled, QPalette::Text));
+  painter.drawText(inside.adjusted(2 + mark, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, prefix_);
+}
+
 void EntryLine::keyPressEvent(QKeyEvent* event) {
+  if (view_.ActsOn(*event)) return event->accept();
   const QString other = view_.Substitute(*event);
   if (other.isNull()) return QLineEdit::keyPressEvent(event);
   if (other.isEmpty()) return event->accept();
@@ -70,6 +75,11 @@ void EntryLine::changeEvent(QEvent* event) {
 EntryView::EntryView(Control& control, FormHost& host)
     : ControlView(control, host), line_(new EntryLine(*this, host.Window())) {
   line_->setValidator(new EntryValidator(*this, line_));
+  const auto keepPlace = [this] {
+    from_ = line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();
+  };
+  connect(line_, &QLineEdit::selectionChanged, this, keepPlace);
+  connect(line_, &QLineEdit::cursorPositionChanged, this, keepPlace);
   connect(line_, &QLineEdit::textEdited, this, [this] { Edited(); });
   connect(line_, &QLineEdit::inputRejected, this, [this] { ShowBalloon(*line_, refusal_); });
 }
@@ -80,8 +90,9 @@ void EntryView::SetCharacters(int characters, bool stretches) {
   option.lineWidth = line_->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, line_);
   // Room for the cursor and for the mark of a warning beside the text.
   const QSize text(CharactersWide(*line_, characters) + 12, line_->fontMetrics().height());
+  const int prefix = line_->textMargins().left();
   const int width =
-      line_->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, line_).width();
+      prefix + line_->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, line_).width();
   if (stretches) {
     line_->setMinimumWidth(width);
   } else {
@@ -102,16 +113,16 @@ void EntryView::BeginEditing() {
 }
 
 void EntryView::WriteText() {
+  const QString text = ToQt(editing_ ? DraftText() : RestingText());
   writing_ = true;
-  line_->setText(ToQt(editing_ ? DraftText() : RestingText()));
+  if (line_->text() != text) line_->setText(text);
   writing_ = false;
-  lastText_ = line_->text();
+  tidied_ = line_->text();
+  Written();
 }
 
 void EntryView::Edited() {
-  lastText_ = line_->text();
-  HideBalloon(*line_);
-  const std::string text = FromQt(lastText_);
+  const std::string text = FromQt(line_->text());
   taking_ = true;
   host_.Act([&] {
     verdict_ = Take(text);
@@ -121,7 +132,6 @@ void EntryView::Edited() {
   lastResting_ = RestingText();
   if (verdict_.objection.empty() && !Means(text)) WriteText();  // the form made it another value
   ShowMark();
-  if (verdict_.beyondRepair) ShowBalloon(*line_, verdict_.objection);
 }
 
 bool EntryView::Settle() {
@@ -130,7 +140,6 @@ bool EntryView::Settle() {
   if (!verdict_.objection.empty()) {
     verdict_.beyondRepair = true;
     ShowMark();
-    ShowBalloon(*line_, verdict_.objection);
     return false;
   }
   Keep();
@@ -140,27 +149,33 @@ bool EntryView::Settle() {
 
 void EntryView::ShowMark() {
   const bool wrong = verdict_.beyondRepair && !verdict_.objection.empty();
-  const bool marked = wrong || Warns();
+  const std::string advice = wrong ? std::string() : Advice();
+  const bool marked = wrong || Warns() || !advice.empty();
   QPalette palette = QPalette();
   if (line_->isReadOnly()) palette.setBrush(QPalette::Base, palette.brush(QPalette::Window));
   if (wrong) palette.setColor(QPalette::Base, WarningBase(palette));
   if (IsAutomatic()) palette.setColor(QPalette::Text, AutomaticText(palette));
-  if (marked) palette.setColor(QPalette::Text, WarningText(palette));
+  if (!advice.empty()) palette.setColor(QPalette::Base, AdviceBase(palette));
+  const QColor colour = advice.empty() ? WarningText(palette) : AdviceText(palette);
+  if (marked) palette.setColor(QPalette::Text, colour);
   line_->setPalette(palette);
-  if (marked && mark_ == nullptr)
-    mark_ = line_->addAction(WarningMark(palette), QLineEdit::LeadingPosition);
+  if (marked && mark_ == nullptr) mark_ = line_->addAction(QIcon(), QLineEdit::LeadingPosition);
+  if (marked) mark_->setIcon(WarningMark(palette, colour));
   if (mark_ != nullptr) mark_->setVisible(marked);
-  line_->setToolTip(ToQt(wrong ? verdict_.objection : Model().Hint()));
-  line_->setAccessibleDescription(wrong     ? ToQt(verdict_.objection)
+  SetNote(*line_, wrong ? verdict_.objection : std::string());
+  line_->setToolTip(ToQt(wrong ? verdict_.objection : advice.empty() ? Model().Hint() : advice));
+  line_->setAccessibleDescription(wrong || !advice.empty() ? line_->toolTip()
                                   : Warns() ? QStringLiteral("Valore oltre il limite")
                                             : QString());
 }
+
+int EntryView::MarkWidth() const { return mark_ != nullptr && mark_->isVisible() ? 22 : 0; }
 
 void EntryView::Refresh() {
   ControlView::Refresh();
   line_->setReadOnly(IsReadOnly());
   line_->setFocusPolicy(IsReadOnly() ? Qt::ClickFocus : Qt::StrongFocus);
-  if (!taking_ && (lastResting_ != RestingText() || lastText_.isNull())) {
+  if (!taking_ && (lastResting_ != RestingText() || tidied_.isNull())) {
     lastResting_ = RestingText();
     verdict_ = {};
     Keep();

@@ -16,14 +16,18 @@ class EntryView;
 class EntryLine : public QLineEdit {
  public:
   EntryLine(EntryView& view, QWidget* parent);
+  // A short text at the left end of the field that is no part of what is typed.
+  void SetPrefix(const QString& prefix);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
   EntryView& view_;
+  QString prefix_;
 };
 
 class EntryView : public ControlView {
@@ -42,17 +46,21 @@ class EntryView : public ControlView {
   };
 
  protected:
-  // Why the text cannot stand in the field, not even as a draft. It may be tidied; `inserted` tells
-  // that more than one character came at once.
-  virtual std::string Admit(QString& text, bool inserted) const = 0;
+  // Why the text cannot stand in the field, not even as a draft. It may be tidied, and `caret` goes
+  // along; what has been put in before the caret is `inserted`, several characters when pasted.
+  virtual std::string Admit(QString& text, int& caret, const QString& inserted) = 0;
   virtual Verdict Take(const std::string& text) = 0;  // gives the text to the control
   virtual void TakeBack() {}                          // the control's value from before the draft
-  virtual void Keep() {}  // the control's value is the one to go back to
+  virtual void Written() {}  // the control's value stands in the field, in the program's writing
+  virtual void Keep() {}     // the control's value is the one to go back to
   virtual bool Means(const std::string& text) const = 0;  // the control's value, in other writing
   virtual std::string RestingText() const = 0;            // shown while the focus is elsewhere
   virtual std::string DraftText() const { return RestingText(); }
   virtual bool IsReadOnly() const { return false; }
   virtual bool Warns() const { return false; }
+  virtual std::string Advice() const { return {}; }  // what a value is marked for, though taken
+  // What the field does of its own at a key; true when nothing is left of the key.
+  virtual bool ActsOn(const QKeyEvent&) { return false; }
   virtual bool IsAutomatic() const { return false; }
   // A key that the field wants to see as another one.
   virtual QString Substitute(const QKeyEvent&) const { return {}; }
@@ -67,6 +75,7 @@ class EntryView : public ControlView {
   void Edited();
   void WriteText();
   void ShowMark();
+  int MarkWidth() const;
   void Refuse(std::string why);
 
   EntryLine* line_;
@@ -77,7 +86,8 @@ class EntryView : public ControlView {
   Verdict verdict_;
   std::string refusal_;
   std::string lastResting_;
-  QString lastText_;
+  QString tidied_;  // the text as it was admitted last
+  int from_ = 0;    // where the next insertion begins
 };
 
 }  // namespace orm

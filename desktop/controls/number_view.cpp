@@ -1,5 +1,5 @@
-// FloatBox and InterBox: a draft without thousands points while the focus is in the field, the
-// Italian form with points while it is elsewhere.
+// FloatBox and InterBox. The thousands points come by themselves while one types, and go when the
+// person puts points of his own.
 #include <QKeyEvent>
 #include <algorithm>
 #include <cmath>
@@ -30,21 +30,25 @@ class NumberView : public EntryView {
       : EntryView(box, host), box_(box), before_(box.Value()) {
     Line().setAlignment(Qt::AlignRight);
     Line().setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+    if (!box.Limits().currency.empty()) Line().SetPrefix(ToQt(box.Limits().currency));
     SetCharacters(SteppedWidth(LongestText(box.Limits())));
     UseField(&Line());
   }
 
  protected:
-  std::string Admit(QString& text, bool inserted) const override {
-    if (inserted && HoldsOnlyPasted(text)) return AdmitPasted(text);
-    return DraftObjection(FromQt(text), box_.Limits());
+  std::string Admit(QString& text, int& caret, const QString& inserted) override {
+    if (inserted.size() > 1 && !OnlyDigits(inserted)) return AdmitPasted(text, caret, inserted);
+    std::string why = DraftObjection(FromQt(text), box_.Limits());
+    if (why.empty()) Group(text, caret, inserted == ".");
+    return why;
   }
   Verdict Take(const std::string& text) override {
     const std::string objection = box_.Type(text);
-    return {objection, !objection.empty() && IsBeyond(text)};
+    return {objection, !objection.empty() && !IsOnItsWay(text, box_.Limits())};
   }
   void TakeBack() override { box_.SetValue(before_); }
   void Keep() override { before_ = box_.Value(); }
+  void Written() override { ownPoints_ = false; }
   bool Means(const std::string& text) const override {
     return ReadNumber(text, box_.Limits()).value == box_.Value();
   }
@@ -53,38 +57,78 @@ class NumberView : public EntryView {
   bool IsReadOnly() const override { return box_.ReadOnly(); }
   bool Warns() const override { return box_.Warns(); }
   bool IsAutomatic() const override { return box_.IsAutomatic(); }
+  std::string Advice() const override {
+    if (!box_.IsBeyondAdvised()) return {};
+    return "Oltre il massimo indicato, " + ShownNumber(box_.Limits().advised, box_.Limits()) +
+           ": il valore è preso così com'è.";
+  }
   QString Substitute(const QKeyEvent& key) const override {
     const bool point = key.key() == Qt::Key_Period || key.key() == Qt::Key_Comma;
-    if (!point || !(key.modifiers() & Qt::KeypadModifier)) return {};
-    return box_.Limits().decimals > 0 ? QStringLiteral(",") : QStringLiteral("");
+    const bool comma = box_.Limits().pointIsComma || (key.modifiers() & Qt::KeypadModifier);
+    return point && comma ? QStringLiteral(",") : QString();
+  }
+  // A thousands point is gone over: what is deleted is the digit beyond it. Undoing brings back the
+  // value from before.
+  bool ActsOn(const QKeyEvent& key) override {
+    QLineEdit& line = Line();
+    if (line.isReadOnly()) return false;
+    if (key.matches(QKeySequence::Undo)) {
+      line.selectAll();
+      line.insert(ToQt(DraftNumber(before_, box_.Limits())));
+      return true;
+    }
+    const int caret = line.cursorPosition();
+    if (line.hasSelectedText() || ownPoints_) return false;
+    if (key.key() == Qt::Key_Backspace && caret > 1 && line.text()[caret - 1] == '.')
+      line.cursorBackward(false);
+    if (key.key() == Qt::Key_Delete && caret < line.text().size() && line.text()[caret] == '.')
+      line.cursorForward(false);
+    return false;
   }
 
  private:
-  // A text with marks that no one types is a pasted number, read as a whole.
-  static bool HoldsOnlyPasted(const QString& text) {
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return !c.isDigit(); });
+  void Group(QString& text, int& caret, bool point) {
+    if (point && !ownPoints_) {
+      // The first point of the person's own: those that came by themselves go.
+      const QString before = text.left(caret - 1).remove('.');
+      text = before + '.' + text.mid(caret).remove('.');
+      caret = static_cast<int>(before.size()) + 1;
+    }
+    ownPoints_ = text.contains('.') && (ownPoints_ || point);
+    if (ownPoints_) return;
+    std::string draft = FromQt(text);
+    auto place = static_cast<std::size_t>(caret);
+    GroupThousands(draft, place);
+    text = ToQt(draft);
+    caret = static_cast<int>(place);
   }
-  std::string AdmitPasted(QString& text) const {
-    const bool hasDigit =
-        std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
-    if (!hasDigit) return "Non è un numero.";
-    const NumberReading reading = ReadNumber(FromQt(text), box_.Limits());
-    if (!reading.value) return reading.objection;
-    text = *reading.value == 0 ? QStringLiteral("0")
-                               : ToQt(DraftNumber(*reading.value, box_.Limits()));
+  static bool OnlyDigits(const QString& text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+  }
+  // A number with its marks is read as a whole, with the digits around it if there are any.
+  std::string AdmitPasted(QString& text, int& caret, const QString& inserted) {
+    QString before = text.left(caret - inserted.size()), after = text.mid(caret);
+    if (!ownPoints_) before.remove('.'), after.remove('.');
+    const std::string whole = FromQt(before + inserted + after);
+    const NumberReading reading = ReadNumber(whole, box_.Limits());
+    if (reading.value) {
+      text = *reading.value == 0 ? QStringLiteral("0")
+                                 : ToQt(DraftNumber(*reading.value, box_.Limits()));
+    } else {
+      // Figures that are no value stay to be mended; any other text is not for this field.
+      const std::string draft = PastedDraft(whole);
+      const bool digits = draft.find_first_of("0123456789") != std::string::npos;
+      if (!digits || !AdmitsDraft(draft, box_.Limits())) return reading.objection;
+      text = ToQt(draft);
+    }
+    ownPoints_ = !reading.value;
+    caret = static_cast<int>(text.size());
     return {};
-  }
-  // Further digits only lead farther from the limits.
-  bool IsBeyond(const std::string& text) const {
-    NumberLimits wide = box_.Limits();
-    wide.most = 1e15, wide.least = -1e15;
-    const NumberReading reading = ReadNumber(text, wide);
-    return !reading.value || *reading.value > box_.Limits().most ||
-           *reading.value < std::min(box_.Limits().least, 0.0);
   }
 
   NumberBox& box_;
   double before_;
+  bool ownPoints_ = false;  // the points in the field are the person's
 };
 
 }  // namespace

@@ -37,8 +37,8 @@ class TextView : public EntryView {
   }
 
  protected:
-  std::string Admit(QString& text, bool inserted) const override {
-    if (inserted) text = Tidied(text, false);
+  std::string Admit(QString& text, int&, const QString& inserted) override {
+    if (inserted.size() > 1) text = Tidied(text, false);
     return box_.Objection(FromQt(text));
   }
   Verdict Take(const std::string& text) override { return {box_.Type(text)}; }
@@ -60,8 +60,14 @@ class TextArea : public QPlainTextEdit {
   }
   QSize sizeHint() const override { return minimumSize(); }
   std::string refusal;
+  std::function<void(int)> onLine;  // a click on a line, without choosing a part of the text
 
  protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QPlainTextEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && onLine && !textCursor().hasSelection())
+      onLine(cursorForPosition(event->pos()).blockNumber());
+  }
   void keyPressEvent(QKeyEvent* event) override {
     const QString typed = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
                               ? QStringLiteral("\n")
@@ -112,6 +118,7 @@ class TextAreaView : public ControlView {
     area_->setMinimumWidth(CharactersWide(*area_, std::min(box.Options().width, 70)) + frame);
     area_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     UseField(area_);
+    if (box.onLine) area_->onLine = [this](int line) { host_.Act([&] { box_.onLine(line); }); };
     connect(area_, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
   }
   bool Grows() const override { return true; }

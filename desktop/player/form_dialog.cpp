@@ -153,8 +153,11 @@ void FormDialog::ControlChanged(Control& control) {
     Refit();
 }
 
+// The form leads to the field: what stands there is chosen whole, so that typing replaces it.
 void FormDialog::FocusMoved(Control& control) {
-  ViewOf(control).Field()->setFocus(Qt::TabFocusReason);
+  QWidget* field = ViewOf(control).Field();
+  field->setFocus(Qt::TabFocusReason);
+  if (auto* line = qobject_cast<QLineEdit*>(field)) line->selectAll();
 }
 
 void FormDialog::TitleChanged() {
@@ -187,7 +190,7 @@ bool FormDialog::SettleFields() {
   for (Control* control : form_.Controls()) {
     ControlView& view = ViewOf(*control);
     if (!control->IsShown() || !control->IsActive() || view.Settle()) continue;
-    FocusMoved(*control);
+    view.Field()->setFocus(Qt::TabFocusReason);
     view.Settle();
     return false;
   }
@@ -197,6 +200,17 @@ bool FormDialog::SettleFields() {
 void FormDialog::Press(Button& button) {
   if (button.GetRole() != Button::Role::Close && !SettleFields()) return;
   Act([&] { button.Press(); });
+}
+
+Button* FormDialog::ButtonOfKey(const std::string& key) const {
+  if (key.empty()) return nullptr;
+  for (Control* control : form_.Controls()) {
+    auto* button = dynamic_cast<Button*>(control);
+    if (button != nullptr && button->Keys().find(key) != std::string::npos && button->IsShown() &&
+        button->IsActive())
+      return button;
+  }
+  return nullptr;
 }
 
 void FormDialog::reject() {

@@ -35,6 +35,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   void TitleChanged() override;
   void Act(const std::function<void()>& event) override;
   void Press(Button& button) override;
+  Button* ButtonOfKey(const std::string& key) const override;
   QWidget* Window() override { return this; }
   void reject() override;  // Escape and the window button
 

@@ -25,8 +25,10 @@ class FrmPerCriteri : public Form {
                        tipoPercentuale};
   OptionButton Option13{*this, "Option13", "CALCOLATA secondo D.M. 4-4-01", tipoPercentuale};
   Frame fraPercentuale{*this, "fraPercentuale", "PERCENTUALE PER COMPENSI ACCESSORI"};
-  FloatBox Percentualecompensi{
-      *this, "Percentualecompensi", "", {.most = 100, .decimals = 4, .unit = "max 60"}};
+  FloatBox Percentualecompensi{*this,
+                               "Percentualecompensi",
+                               "",
+                               {.most = 100, .decimals = 4, .unit = "max 60", .advised = 60}};
   Frame fraResidenza{*this, "fraResidenza", "RESIDENZA COLLAUDATORE"};
   OptionGroup residenza;
   OptionButton Option6{*this, "Option6", "Fuori Regione", residenza};
@@ -44,8 +46,10 @@ class FrmPerCriteri : public Form {
                                  {*this, "chkCA(1)", "MAGGIORAZIONE INCARICO PARZIALE"}}};
   Frame fraParere{*this, "fraParere", "PARERE CONGRUITÀ ORDINE PROFESSIONALE"};
   CheckBox chkStampaParere{*this, "chkStampaParere", "Stampa "};
-  FloatBox cdQuotaFissa{
-      *this, "cdQuotaFissa", "Quota fissa ( € )", {.most = 999999.99, .trailingZeros = true}};
+  FloatBox cdQuotaFissa{*this,
+                        "cdQuotaFissa",
+                        "Quota fissa ( € )",
+                        {.most = 999999.99, .trailingZeros = true, .currency = "€"}};
   FloatBox cdQuotaPercentuale{*this, "cdQuotaPercentuale", "Quota Percent.", Percento()};
   TestoBox tboxPresidente{
       *this, "tboxPresidente", "Presidente dell'Ordine", {.longest = 50, .width = 28}};

@@ -16,15 +16,21 @@ struct LimitiImporto {
 };
 
 // Amounts of works: 16 characters in the column, thousands points included.
-inline const LimitiImporto kLavori = {{.most = 999999999999.0, .decimals = 0},
-                                      {.most = 999999999.99, .decimals = 2, .trailingZeros = true}};
+inline const LimitiImporto kLavori = {
+    {.most = 999999999999.0, .decimals = 0, .currency = "L."},
+    {.most = 999999999.99, .decimals = 2, .trailingZeros = true, .currency = "€"}};
 // The same where a negative amount has a meaning of its own.
 inline const LimitiImporto kLavoriConSegno = {
-    {.least = -999999999999.0, .most = 999999999999.0, .decimals = 0},
-    {.least = -999999999.99, .most = 999999999.99, .decimals = 2, .trailingZeros = true}};
+    {.least = -999999999999.0, .most = 999999999999.0, .decimals = 0, .currency = "L."},
+    {.least = -999999999.99,
+     .most = 999999999.99,
+     .decimals = 2,
+     .trailingZeros = true,
+     .currency = "€"}};
 // Advances: 14 characters in the column, and a net amount below zero takes one for its sign.
-inline const LimitiImporto kAcconti = {{.most = 9999999999.0, .decimals = 0},
-                                       {.most = 99999999.99, .decimals = 2, .trailingZeros = true}};
+inline const LimitiImporto kAcconti = {
+    {.most = 9999999999.0, .decimals = 0, .currency = "L."},
+    {.most = 99999999.99, .decimals = 2, .trailingZeros = true, .currency = "€"}};
 
 // How a refused sum is told: the row of the amount, "LOTTO n° 2", and what it is summed with.
 struct Addendi {

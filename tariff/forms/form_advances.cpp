@@ -18,7 +18,14 @@ FrmGenAcconti::FrmGenAcconti(RunState& stato, DataWriter corpo)
   cdPercentualeRiduzione.SetValue(data.PercDiRiduzione);
   tipo.Choose(data.TipoRiduzione == "CONCORDATA" ? 1 : 0);
   applicazione.Choose(data.ApplicazioneRiduzione - 1);
+  // The law's 20 % count for its own option alone.
+  optRiduzione2.onChange = [this] { SegnaMassimo(); };
+  SegnaMassimo();
   OK.onPress = [this] { Conferma(); };
+}
+
+void FrmGenAcconti::SegnaMassimo() {
+  cdPercentualeRiduzione.SetAdvised(optRiduzione2.Value() ? 20 : kSenzaMassimo);
 }
 
 void FrmGenAcconti::Conferma() {

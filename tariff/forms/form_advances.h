@@ -38,6 +38,9 @@ class FrmGenAcconti : public FormInput {
   Button OK{*this, "OK", "&O.K.", Button::Role::Default};
 
  private:
+  static constexpr double kSenzaMassimo = NumberLimits{}.advised;
+
+  void SegnaMassimo();
   void Conferma();
   const DataWriter corpo_;
 };

@@ -10,6 +10,8 @@ namespace {
 
 struct Options {
   bool desktop = false;
+  bool keys = false;
+  bool hasty = false;
   bool update = false;
   std::string pictures;
   std::vector<std::string> scripts;
@@ -17,8 +19,11 @@ struct Options {
 
 int PlayAll(const Options& options) {
   std::set<std::string> faults;
+  const orm::Hand hand = options.hasty  ? orm::Hand::Hasty
+                         : options.keys ? orm::Hand::Keys
+                                        : orm::Hand::Mouse;
   const orm::StageBuilder build =
-      options.desktop ? orm::DesktopStage({options.pictures, &faults}) : orm::BuildPlainStage;
+      options.desktop ? orm::DesktopStage({options.pictures, &faults, hand}) : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;
@@ -31,6 +36,10 @@ int main(int argc, char** argv) {
   Options options;
   CLI::App app("Esegue i copioni di prova di ORM2002", "orm2002-copione");
   app.add_flag("--desktop", options.desktop, "sulle finestre vere, senza schermo");
+  auto* desktop = app.get_option("--desktop");
+  app.add_flag("--tasti", options.keys, "con la sola tastiera")->needs(desktop);
+  app.add_flag("--sviste", options.hasty, "con la sola tastiera e con sviste, subito corrette")
+      ->needs(desktop);
   app.add_flag("--aggiorna", options.update, "riscrive i file attesi, da rileggere");
   app.add_option("--immagini", options.pictures, "cartella delle immagini chieste dai copioni");
   app.add_option("copioni", options.scripts, "file dei copioni")

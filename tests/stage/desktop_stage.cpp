@@ -10,10 +10,22 @@
 #include "desktop/player/menu_window.h"
 #include "desktop/player/message_window.h"
 #include "desktop/qt_text.h"
-#include "tests/stage/widget_hand.h"
+#include "tests/stage/key_hand.h"
 
 namespace orm {
 namespace {
+
+std::unique_ptr<WidgetHand> HandOn(FormDialog& dialog, const DesktopStageOptions& options) {
+  switch (options.hand) {
+    case Hand::Keys:
+      return std::make_unique<KeyHand>(dialog, options);
+    case Hand::Hasty:
+      return std::make_unique<HastyHand>(dialog, options);
+    case Hand::Mouse:
+      break;
+  }
+  return std::make_unique<WidgetHand>(dialog, options);
+}
 
 // The player of the desktop with a script in the person's place.
 class ScriptedPlayer : public DesktopPlayer {
@@ -41,15 +53,19 @@ class ScriptedPlayer : public DesktopPlayer {
   void Run(FormDialog& dialog) override {
     dialog.open();
     QCoreApplication::processEvents();
-    WidgetHand hand(dialog, options_);
-    hand.Look();
-    actor_.MeetForm(dialog.Model(), hand);
+    const std::unique_ptr<WidgetHand> hand = HandOn(dialog, options_);
+    hand->Look();
+    actor_.MeetForm(dialog.Model(), *hand);
     dialog.hide();
   }
   void Run(QMessageBox& shown, const MessageBox& box) override {
     shown.open();
     QCoreApplication::processEvents();
-    QTest::mouseClick(ButtonOf(shown, actor_.MeetMessage(box)), Qt::LeftButton);
+    QAbstractButton* button = ButtonOf(shown, actor_.MeetMessage(box));
+    if (options_.hand == Hand::Mouse)
+      QTest::mouseClick(button, Qt::LeftButton);
+    else
+      PressWithKeys(shown, *button);
   }
 
  private:
@@ -65,7 +81,7 @@ void ClickIn(QMenu& menu, QAction* action) {
 class WidgetStage : public Stage {
  public:
   WidgetStage(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
-      : player_(actor, folder, std::move(options)) {}
+      : keys_(options.hand != Hand::Mouse), player_(actor, folder, std::move(options)) {}
 
   Player& People() override { return player_; }
 
@@ -81,6 +97,10 @@ class WidgetStage : public Stage {
     const std::vector<QMenu*> path = shown_->PathTo(std::string(command));
     if (path.empty()) return "il menù non ha questo comando";
     QMenuBar* bar = shown_->menuBar();
+    if (keys_)
+      return ChooseWithKeys(*bar, path, *shown_->CommandAction(std::string(command)))
+                 ? ""
+                 : "il menù non si apre con i tasti";
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(path[0]->menuAction()).center());
     for (std::size_t i = 1; i < path.size(); ++i) {
       path[i - 1]->setActiveAction(path[i]->menuAction());
@@ -98,6 +118,7 @@ class WidgetStage : public Stage {
   }
 
  private:
+  bool keys_;
   ScriptedPlayer player_;
   std::unique_ptr<MenuWindow> shown_;
 };

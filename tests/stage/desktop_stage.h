@@ -9,9 +9,12 @@
 
 namespace orm {
 
+enum class Hand { Mouse, Keys, Hasty };  // how the person of a script acts
+
 struct DesktopStageOptions {
   std::string pictures;           // folder for the pictures that scripts ask for; empty: none
   std::set<std::string>* faults;  // of forms against the rules of form_lint.h; nullptr: not sought
+  Hand hand = Hand::Mouse;
 };
 StageBuilder DesktopStage(DesktopStageOptions options);
 

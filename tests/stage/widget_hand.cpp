@@ -3,9 +3,12 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QStyle>
 #include <QTest>
+#include <QTextBlock>
 #include <algorithm>
 
 #include "desktop/qt_text.h"
@@ -15,6 +18,8 @@ namespace orm {
 namespace {
 
 const char* const kNotTaken = "non prende questo valore";
+
+}  // namespace
 
 void TypeKeys(QWidget* widget, const QString& text) {
   for (const QChar c : text) {
@@ -34,6 +39,8 @@ void Retype(QWidget* widget, const QString& text) {
   else
     TypeKeys(widget, text);
 }
+
+namespace {
 
 // The place of an item by its text or "#index"; -1 where the list has none.
 int PlaceOf(const ListControl& list, std::string_view text) {
@@ -116,13 +123,13 @@ void WidgetHand::GoOn() {
 }
 
 std::string WidgetHand::Type(Control& control, std::string_view text) {
-  if (!control.TakesFocus()) return kNotTaken;
+  if (!control.TakesFocus()) return PointAt(control, text);
   QWidget* field = WidgetOf(control);
   ControlView& view = dialog_.ViewOf(control);
   const std::string before = view.Shown();
-  field->setFocus(Qt::TabFocusReason);
+  Reach(*field);
   view.TakeRefusal();
-  Retype(field, ToQt(text));
+  Write(control, *field, ToQt(text));
   std::string objection = view.TakeRefusal();
   if (objection.empty()) objection = view.Objection();
   // Who sees that it is not taken writes again what was there.
@@ -130,12 +137,34 @@ std::string WidgetHand::Type(Control& control, std::string_view text) {
   return objection;
 }
 
+// A line of a text that is only read, told by its number.
+std::string WidgetHand::PointAt(Control& control, std::string_view line) {
+  auto* area = dynamic_cast<QPlainTextEdit*>(WidgetOf(control));
+  if (area == nullptr || !line.starts_with('#')) return kNotTaken;
+  const QTextBlock block = area->document()->findBlockByNumber(ToQt(line.substr(1)).toInt());
+  area->setTextCursor(QTextCursor(block));
+  QTest::mouseClick(area->viewport(), Qt::LeftButton, {}, area->cursorRect().center());
+  return {};
+}
+
+void WidgetHand::Reach(QWidget& widget) { widget.setFocus(Qt::TabFocusReason); }
+void WidgetHand::Turn(QAbstractButton& mark) {
+  QTest::mouseClick(&mark, Qt::LeftButton, {}, QPoint(8, mark.height() / 2));
+}
+void WidgetHand::Open(QComboBox& combo) { combo.showPopup(); }
+void WidgetHand::ChooseRow(QAbstractItemView& items, int row) {
+  const QModelIndex place = items.model()->index(row, 0);
+  items.scrollTo(place);
+  QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, items.visualRect(place).center());
+}
+void WidgetHand::Push(QPushButton& button) { QTest::mouseClick(&button, Qt::LeftButton); }
+void WidgetHand::Write(Control&, QWidget& field, const QString& text) { Retype(&field, text); }
+
 std::string WidgetHand::Switch(Control& control, std::string_view text) {
   auto* button = dynamic_cast<QAbstractButton*>(WidgetOf(control));
   const bool on = text == "on";
   if (!on && (text != "off" || control.GetKind() == Control::Kind::Option)) return kNotTaken;
-  if (button->isChecked() != on)
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+  if (button->isChecked() != on) Turn(*button);
   return {};
 }
 
@@ -145,17 +174,15 @@ std::string WidgetHand::Pick(ListControl& control, std::string_view text) {
   QAbstractItemView* items = nullptr;
   auto* combo = dynamic_cast<QComboBox*>(WidgetOf(control));
   if (combo != nullptr) {
-    combo->setFocus(Qt::TabFocusReason);
-    combo->showPopup();
+    Reach(*combo);
+    Open(*combo);
     items = combo->view();
     QTest::keyClick(items, Qt::Key_Home);
     for (int i = 0; i < index; ++i) QTest::keyClick(items, Qt::Key_Down);
     QTest::keyClick(items, Qt::Key_Return);
   } else {
     items = dynamic_cast<QAbstractItemView*>(WidgetOf(control));
-    const QModelIndex place = items->model()->index(index, 0);
-    items->scrollTo(place);
-    QTest::mouseClick(items->viewport(), Qt::LeftButton, {}, items->visualRect(place).center());
+    ChooseRow(*items, index);
   }
   return {};
 }
@@ -166,7 +193,7 @@ std::string WidgetHand::Slide(Slider& slider, std::string_view text) {
   if (!reading.value) return reading.objection;
   const double step = (slider.Most() - slider.Least()) / slider.Steps();
   QWidget* bar = WidgetOf(slider);
-  bar->setFocus(Qt::TabFocusReason);
+  Reach(*bar);
   QTest::keyClick(bar, Qt::Key_Home);
   for (int i = qRound((*reading.value - slider.Least()) / step); i > 0; --i)
     QTest::keyClick(bar, Qt::Key_Right);
@@ -175,7 +202,7 @@ std::string WidgetHand::Slide(Slider& slider, std::string_view text) {
 
 std::string WidgetHand::Press(Button& button) {
   GoOn();
-  QTest::mouseClick(WidgetOf(button), Qt::LeftButton);
+  Push(*dynamic_cast<QPushButton*>(WidgetOf(button)));
   Settle();
   return {};
 }
