@@ -13,6 +13,7 @@ namespace orm {
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr double kHalo = 4;  // pixels, both sides of a stroke together
 
 QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
 
@@ -26,12 +27,47 @@ QPen PenOf(const DrawOperation& op) {
   return pen;
 }
 
-void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& corner) {
+// From the anchor to the left end of the base line.
+QPointF TextStart(DrawOperation::Anchor anchor, const QFontMetricsF& metrics, double width) {
+  using Anchor = DrawOperation::Anchor;
+  const double middle = (metrics.ascent() - metrics.descent()) / 2;
+  switch (anchor) {
+    case Anchor::TopLeft:
+      return {0, metrics.ascent()};
+    case Anchor::Left:
+      return {0, middle};
+    case Anchor::Centre:
+      return {-width / 2, middle};
+    case Anchor::Right:
+      return {-width, middle};
+    case Anchor::Above:
+      return {-width / 2, -metrics.descent()};
+    case Anchor::Below:
+      return {-width / 2, metrics.ascent()};
+  }
+  return {};
+}
+
+void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& anchor,
+               const Colour& background) {
   QFont font = painter.font();
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(op.fontSize * kPixelsPerPoint))));
   font.setBold(op.bold);
+  const QFontMetricsF metrics(font);
+  const QString text = ToQt(op.text);
+  const QPointF start = TextStart(op.anchor, metrics, metrics.horizontalAdvance(text));
+  painter.save();
   painter.setFont(font);
-  painter.drawText(corner + QPointF(0, QFontMetricsF(font).ascent()), ToQt(op.text));
+  painter.translate(anchor);
+  if (op.upright) painter.rotate(-90);
+  if (op.halo) {
+    QPainterPath rim;
+    rim.addText(start, font, text);
+    painter.strokePath(rim,
+                       QPen(InQt(background), kHalo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  }
+  painter.drawText(start, text);
+  painter.restore();
 }
 
 void PaintArc(QPainter& painter, const QPointF& centre, double radius, const DrawOperation& op) {
@@ -52,13 +88,15 @@ QSizeF DrawingSize(const Lavagna& lavagna) {
 }
 
 void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room) {
-  const QSizeF size = DrawingSize(lavagna);
-  const double zoom = std::min(room.width() / size.width(), room.height() / size.height());
+  const QSizeF least = DrawingSize(lavagna);
+  const double zoom = std::min(room.width() / least.width(), room.height() / least.height());
+  const double smaller = std::min(1.0, zoom);  // lines and letters
+  const QSizeF size = least * (zoom / smaller);
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  painter.translate(room.center() - QPointF(size.width(), size.height()) * zoom / 2);
-  painter.scale(zoom, zoom);
-  painter.fillRect(QRectF(QPointF(0, 0), size), InQt(lavagna.Background()));
+  painter.fillRect(room, InQt(lavagna.Background()));
+  painter.translate(room.center() - QPointF(size.width(), size.height()) * smaller / 2);
+  painter.scale(smaller, smaller);
   painter.setClipRect(QRectF(QPointF(0, 0), size));
   const double scale = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
   const auto at = [&](const Point& p) {
@@ -75,7 +113,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
         PaintArc(painter, at(op.points[0]), op.radius * scale, op);
         break;
       case DrawOperation::Kind::Text:
-        PaintText(painter, op, at(op.points[0]));
+        PaintText(painter, op, at(op.points[0]), lavagna.Background());
         break;
       case DrawOperation::Kind::Polygon: {
         QPolygonF polygon;

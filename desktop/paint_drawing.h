@@ -10,11 +10,12 @@ class QPainter;
 
 namespace orm {
 
-// The size at which lines and letters have the pixels and points that the operations name. Other
-// sizes keep the proportions.
+// Its size at 100 %, in pixels of 1/96 inch.
 QSizeF DrawingSize(const Lavagna& lavagna);
 
-// Fills as much of `room` as the proportions allow, in its middle.
+// As large as `room` and its proportions allow, in the middle, on the background of the drawing. A
+// unit of `room` is a pixel of 1/96 inch: lines and letters keep their pixels and points where
+// there is more room than at 100 %, and grow smaller with the drawing where there is less.
 void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room);
 
 }  // namespace orm

@@ -8,7 +8,7 @@ namespace orm {
 namespace {
 
 struct Reading {
-  double area = 0;
+  std::vector<BarGroup> groups;
   bool whole = false;  // of the form
 };
 
@@ -25,14 +25,14 @@ Reading Read(std::string_view raw) {
   std::string text;
   for (const char c : raw)
     if (c != ' ') text += c == 'd' ? 'D' : c;
-  if (text.empty() || text == "0") return {0, true};
+  if (text.empty() || text == "0") return {{}, true};
   Reading reading;
   for (std::size_t at = 0;;) {
     const int count = Number(text, at);
     if (count < 0 || at == text.size() || text[at++] != 'D') return {};
     const int diameter = Number(text, at);
     if (diameter < 0) return {};
-    reading.area += count * std::numbers::pi * (diameter / 20.0) * (diameter / 20.0);
+    reading.groups.push_back({count, diameter});
     if (at == text.size()) break;
     if (text[at++] != '+') return {};
   }
@@ -42,7 +42,13 @@ Reading Read(std::string_view raw) {
 
 }  // namespace
 
-double BarsArea(std::string_view text) { return Read(text).area; }
+std::vector<BarGroup> BarGroups(std::string_view text) { return Read(text).groups; }
+double BarsArea(std::string_view text) {
+  double area = 0;
+  for (const auto& [count, diameter] : Read(text).groups)
+    area += count * std::numbers::pi * (diameter / 20.0) * (diameter / 20.0);
+  return area;
+}
 bool IsBarsText(std::string_view text) { return Read(text).whole; }
 bool AdmitsBarsDraft(std::string_view text) {
   return text.find_first_not_of("0123456789Dd+ ") == std::string_view::npos;

@@ -3,8 +3,16 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 namespace orm {
+
+struct BarGroup {
+  int count = 0, diameter = 0;  // mm
+};
+
+// The groups as they are written; none for a text that is not of the form.
+std::vector<BarGroup> BarGroups(std::string_view text);
 
 // Sum of n x pi x (diameter / 20)^2 in cmq, not rounded; 0 for an empty text, "0", or a text that
 // is not of the form.

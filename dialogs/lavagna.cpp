@@ -1,10 +1,10 @@
 #include "dialogs/lavagna.h"
 
 #include <cmath>
-#include <numbers>
 #include <utility>
 
 #include "runtime/numbers.h"
+#include "runtime/text.h"
 
 namespace orm {
 namespace {
@@ -18,29 +18,6 @@ std::string Shown(double value) {
 
 std::string Shown(const Colour& c) {
   return NumberText(c.red) + "," + NumberText(c.green) + "," + NumberText(c.blue);
-}
-
-std::string Escaped(const std::string& text) {
-  std::string out;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        out += "&amp;";
-        break;
-      case '<':
-        out += "&lt;";
-        break;
-      case '>':
-        out += "&gt;";
-        break;
-      case '"':
-        out += "&quot;";
-        break;
-      default:
-        out += c;
-    }
-  }
-  return out;
 }
 
 const char* NameOf(DrawOperation::Kind kind) {
@@ -69,6 +46,26 @@ const char* NameOf(DrawOperation::Stroke stroke) {
   return "";
 }
 
+const char* NameOf(DrawOperation::Anchor anchor) {
+  switch (anchor) {
+    case DrawOperation::Anchor::TopLeft:
+      return "";
+    case DrawOperation::Anchor::Left:
+      return " left";
+    case DrawOperation::Anchor::Centre:
+      return " centre";
+    case DrawOperation::Anchor::Right:
+      return " right";
+    case DrawOperation::Anchor::Above:
+      return " above";
+    case DrawOperation::Anchor::Below:
+      return " below";
+  }
+  return "";
+}
+
+constexpr double kPixelsPerPoint = 96.0 / 72;
+
 }  // namespace
 
 Lavagna::Lavagna(Form& form, std::string name, double width, double height, int pixelsWide)
@@ -81,6 +78,7 @@ Lavagna::Lavagna(Form& form, std::string name, double width, double height, int 
 
 void Lavagna::Clear() {
   operations_.clear();
+  views_.clear();
   pen_ = {};
   background_ = {255, 255, 255};
   left_ = bottom_ = 0;
@@ -103,6 +101,15 @@ void Lavagna::SetColour(const Colour& colour) { pen_.colour = colour; }
 void Lavagna::SetStroke(DrawOperation::Stroke stroke) { pen_.stroke = stroke; }
 void Lavagna::SetWidth(int pixels) { pen_.width = pixels; }
 void Lavagna::SetFont(int size, bool bold) { pen_.fontSize = size, pen_.bold = bold; }
+
+void Lavagna::SetHalo(bool halo) { pen_.halo = halo; }
+void Lavagna::SetHatching(bool hatching) { pen_.hatching = hatching; }
+
+void Lavagna::BeginView(const DrawView& view) {
+  pen_.view = static_cast<int>(views_.size());
+  views_.push_back(view);
+}
+void Lavagna::EndView() { pen_.view = -1; }
 
 DrawOperation Lavagna::Pen(DrawOperation::Kind kind) const {
   DrawOperation operation = pen_;
@@ -138,11 +145,30 @@ void Lavagna::DrawPolygon(std::vector<Point> points, bool filled) {
   Add(std::move(operation));
 }
 
-void Lavagna::DrawText(double x, double y, std::string text) {
+void Lavagna::DrawDisc(double x, double y, double radius) {
+  DrawOperation operation = Pen(DrawOperation::Kind::Arc);
+  operation.points = {{x, y}};
+  operation.radius = radius, operation.filled = true;
+  Add(std::move(operation));
+}
+
+void Lavagna::DrawText(double x, double y, std::string text, DrawOperation::Anchor anchor,
+                       bool upright) {
   DrawOperation operation = Pen(DrawOperation::Kind::Text);
   operation.points = {{x, y}};
+  operation.anchor = anchor, operation.upright = upright;
   operation.text = std::move(text);
   Add(std::move(operation));
+}
+
+double Lavagna::TextWidth(const std::string& text) const {
+  const double em = pen_.bold ? 0.67 : 0.6;  // of a usual letter
+  return static_cast<double>(Characters(text)) * em * pen_.fontSize * kPixelsPerPoint *
+         (right_ - left_) / pixelsWide_;
+}
+
+double Lavagna::LineHeight() const {
+  return 1.2 * pen_.fontSize * kPixelsPerPoint * (right_ - left_) / pixelsWide_;
 }
 
 std::string Lavagna::AsText() const {
@@ -154,71 +180,14 @@ std::string Lavagna::AsText() const {
     if (op.kind == DrawOperation::Kind::Arc)
       out += " r " + Shown(op.radius) + " " + Shown(op.from) + " " + Shown(op.to);
     if (op.kind == DrawOperation::Kind::Text) {
-      out += " \"" + op.text + "\" font " + NumberText(op.fontSize) + (op.bold ? " bold" : "");
+      out += " \"" + op.text + "\"" + NameOf(op.anchor) + (op.upright ? " upright" : "") +
+             " font " + NumberText(op.fontSize) + (op.bold ? " bold" : "");
     } else {
       out += " width " + NumberText(op.width) + NameOf(op.stroke) + (op.filled ? " filled" : "");
     }
     out += " colour " + Shown(op.colour) + "\n";
   }
   return out;
-}
-
-std::string Lavagna::AsSvg(int pixelsWide) const {
-  if (pixelsWide == 0) pixelsWide = pixelsWide_;
-  const double scale = pixelsWide / (right_ - left_);
-  const double height = (top_ - bottom_) * scale;
-  const auto px = [&](const Point& p) { return Shown((p.x - left_) * scale); };
-  const auto py = [&](const Point& p) { return Shown((top_ - p.y) * scale); };
-  const auto rgb = [](const Colour& c) { return "rgb(" + Shown(c) + ")"; };
-  const std::string size =
-      "width=\"" + NumberText(pixelsWide) + "\" height=\"" + Shown(height) + "\"";
-  std::string out = "<svg xmlns=\"http://www.w3.org/2000/svg\" " + size + " viewBox=\"0 0 " +
-                    NumberText(pixelsWide) + " " + Shown(height) + "\">\n<rect " + size +
-                    " fill=\"" + rgb(background_) + "\"/>\n";
-  for (const DrawOperation& op : operations_) {
-    std::string pen =
-        " stroke=\"" + rgb(op.colour) + "\" stroke-width=\"" + NumberText(op.width) + "\"";
-    if (op.stroke == DrawOperation::Stroke::Dashed) pen += " stroke-dasharray=\"8 5\"";
-    if (op.stroke == DrawOperation::Stroke::Dotted) pen += " stroke-dasharray=\"2 4\"";
-    pen += " fill=\"" + (op.filled ? rgb(op.colour) : std::string("none")) + "\"";
-    switch (op.kind) {
-      case DrawOperation::Kind::Line:
-        out += "<line x1=\"" + px(op.points[0]) + "\" y1=\"" + py(op.points[0]) + "\" x2=\"" +
-               px(op.points[1]) + "\" y2=\"" + py(op.points[1]) + "\"" + pen + "/>\n";
-        break;
-      case DrawOperation::Kind::Arc: {
-        const double sweep = op.to - op.from;
-        const std::string r = Shown(op.radius * scale);
-        if (sweep >= 360) {
-          out += "<circle cx=\"" + px(op.points[0]) + "\" cy=\"" + py(op.points[0]) + "\" r=\"" +
-                 r + "\"" + pen + "/>\n";
-          break;
-        }
-        const auto at = [&](double degrees) {
-          const double angle = degrees * std::numbers::pi / 180;
-          return Point{op.points[0].x + op.radius * std::cos(angle),
-                       op.points[0].y + op.radius * std::sin(angle)};
-        };
-        out += "<path d=\"M " + px(at(op.from)) + " " + py(at(op.from)) + " A " + r + " " + r +
-               " 0 " + (sweep > 180 ? "1" : "0") + " 0 " + px(at(op.to)) + " " + py(at(op.to)) +
-               "\"" + pen + "/>\n";
-        break;
-      }
-      case DrawOperation::Kind::Polygon:
-        out += "<polygon points=\"";
-        for (const Point& p : op.points) out += px(p) + "," + py(p) + " ";
-        out += "\"" + pen + "/>\n";
-        break;
-      case DrawOperation::Kind::Text:
-        // The position is the upper left corner, SVG wants the base line.
-        out += "<text x=\"" + px(op.points[0]) + "\" y=\"" + py(op.points[0]) + "\" dy=\"" +
-               NumberText(op.fontSize) + "pt\" font-family=\"sans-serif\" font-size=\"" +
-               NumberText(op.fontSize) + "pt\"" + (op.bold ? " font-weight=\"bold\"" : "") +
-               " fill=\"" + rgb(op.colour) + "\">" + Escaped(op.text) + "</text>\n";
-        break;
-    }
-  }
-  return out + "</svg>\n";
 }
 
 }  // namespace orm

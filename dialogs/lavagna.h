@@ -1,5 +1,6 @@
 // Lavagna: a drawing panel. Operations in world units are kept as a list; a player paints them on
-// the screen or on paper, and they can be written as SVG or as text, one operation a line.
+// the screen or on paper, `dialogs/drawing/` writes them to files, and they can be told as text,
+// one operation a line.
 #pragma once
 
 #include <string>
@@ -21,24 +22,37 @@ struct Point {
 struct DrawOperation {
   enum class Kind { Line, Arc, Polygon, Text };
   enum class Stroke { Solid, Dashed, Dotted };
+  // What of a text stands at its point: a corner, the middle of an edge, or its own middle.
+  enum class Anchor { TopLeft, Left, Centre, Right, Above, Below };
   Kind kind = Kind::Line;
-  std::vector<Point> points;  // ends, centre, vertices, or the upper left corner of a text
+  std::vector<Point> points;  // ends, centre, vertices, or the point at which a text is anchored
   double radius = 0;          // of an arc
   double from = 0, to = 360;  // degrees, counter-clockwise from the x axis
   std::string text;
+  Anchor anchor = Anchor::TopLeft;
+  bool upright = false;  // a text that is read from the right
+  bool halo = false;     // a text with a rim of the background, to be read on hatching
   Colour colour;
   Stroke stroke = Stroke::Solid;
   int width = 1;      // of lines, pixels at 100 %
   int fontSize = 10;  // points
   bool bold = false;
-  bool filled = false;  // a polygon painted inside
+  bool filled = false;    // a polygon or a whole circle painted inside
+  bool hatching = false;  // a line that fills something, on a layer of its own in a CAD file
+  int view = -1;          // the view to scale that it belongs to, -1 for none
+};
+
+// A part of the drawing in which things are drawn to scale.
+struct DrawView {
+  double unit = 1;  // cm of a unit of the panel
+  Point anchor;     // keeps its place where views of different scales stand on one sheet
 };
 
 class Lavagna : public Control {
  public:
-  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward. Widths
-  // of lines and sizes of fonts are told for a panel that is `pixelsWide` wide (100 %); a larger or
-  // smaller picture takes them along.
+  // The panel is a plane of `width` by `height` units, origin at the lower left, y upward. At 100 %
+  // it is `pixelsWide` wide, which is the least size at which its texts have room. Lines and
+  // letters keep their pixels and points in a larger picture; a smaller one takes them along.
   Lavagna(Form& form, std::string name, double width, double height, int pixelsWide = 900);
 
   // Empties the panel and sets pen, font and background to their beginnings.
@@ -49,11 +63,18 @@ class Lavagna : public Control {
   void SetStroke(DrawOperation::Stroke stroke);
   void SetWidth(int pixels);
   void SetFont(int size, bool bold = false);
+  void SetHalo(bool halo);
+  void SetHatching(bool hatching);
+  // What follows is drawn to scale in a view of its own.
+  void BeginView(const DrawView& view);
+  void EndView();
   void DrawLine(double x1, double y1, double x2, double y2);
   void DrawArc(double x, double y, double radius, double from = 0, double to = 360);
+  void DrawDisc(double x, double y, double radius);
   void DrawPolygon(std::vector<Point> points, bool filled = false);
-  // The position is the upper left corner of the text.
-  void DrawText(double x, double y, std::string text);
+  void DrawText(double x, double y, std::string text,
+                DrawOperation::Anchor anchor = DrawOperation::Anchor::TopLeft,
+                bool upright = false);
 
   const std::vector<DrawOperation>& Operations() const { return operations_; }
   const Colour& Background() const { return background_; }
@@ -62,9 +83,13 @@ class Lavagna : public Control {
   double RightEdge() const { return right_; }
   double TopEdge() const { return top_; }
   int PixelsWide() const { return pixelsWide_; }
+  const std::vector<DrawView>& Views() const { return views_; }
+
+  // Units that a text of the font that is set takes at 100 %, rather more than less.
+  double TextWidth(const std::string& text) const;
+  double LineHeight() const;
 
   std::string AsText() const;
-  std::string AsSvg(int pixelsWide = 0) const;  // 0: at 100 %
 
   bool TakesFocus() const override { return false; }
   std::string ShownText() const override { return AsText(); }
@@ -78,6 +103,7 @@ class Lavagna : public Control {
   Colour background_{255, 255, 255};
   DrawOperation pen_;
   std::vector<DrawOperation> operations_;
+  std::vector<DrawView> views_;
 };
 
 }  // namespace orm

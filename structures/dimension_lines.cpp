@@ -1,39 +1,71 @@
 #include "structures/dimension_lines.h"
 
-#include "runtime/text.h"
+#include <cmath>
 
 namespace orm {
 namespace {
-constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110};
-constexpr double kTick = 0.5;  // half its length, in letters
+
+using Anchor = DrawOperation::Anchor;
+
+constexpr Colour kBlack{0, 0, 0}, kThin{70, 90, 130};
+constexpr double kGap = 0.5, kBeyond = 0.8;  // of witness lines, in ticks
+
 }  // namespace
 
-void Quote::Segna() const {
-  lavagna_.SetColour(kGrey);
+void Quote::Penna() const {
+  lavagna_.SetColour(kThin);
   lavagna_.SetStroke(DrawOperation::Stroke::Solid);
   lavagna_.SetWidth(1);
 }
 
+void Quote::Riga(Point da, Point a) const {
+  Penna();
+  lavagna_.DrawLine(da.x, da.y, a.x, a.y);
+  for (const Point& p : {da, a})
+    lavagna_.DrawLine(p.x - tacca_, p.y - tacca_, p.x + tacca_, p.y + tacca_);
+}
+
+void Quote::Richiamo(Point oggetto, Point quota) const {
+  const double length = std::hypot(quota.x - oggetto.x, quota.y - oggetto.y);
+  if (length <= kGap * tacca_) return;
+  const double dx = (quota.x - oggetto.x) / length * tacca_;
+  const double dy = (quota.y - oggetto.y) / length * tacca_;
+  Penna();
+  lavagna_.DrawLine(oggetto.x + kGap * dx, oggetto.y + kGap * dy, quota.x + kBeyond * dx,
+                    quota.y + kBeyond * dy);
+}
+
+void Quote::Freccia(double x1, double y1, double x2, double y2) const {
+  Penna();
+  lavagna_.DrawLine(x1, y1, x2, y2);
+  lavagna_.DrawDisc(x2, y2, tacca_ / 3);
+}
+
 void Quote::Centrato(double x, double y, const std::string& testo) const {
   lavagna_.SetColour(kBlack);
-  lavagna_.DrawText(x - static_cast<double>(Characters(testo)) * lettera_ / 2, y, testo);
+  lavagna_.DrawText(x, y, testo, Anchor::Centre);
 }
 
-void Quote::Orizzontale(double x1, double x2, double y, const std::string& nome) const {
-  Segna();
-  lavagna_.DrawLine(x1, y, x2, y);
-  const double tick = kTick * lettera_;
-  for (const double x : {x1, x2}) lavagna_.DrawLine(x - tick, y - tick, x + tick, y + tick);
-  Centrato((x1 + x2) / 2, y + Riga(), nome);
-}
-
-void Quote::Verticale(double x, double y1, double y2, const std::string& nome) const {
-  Segna();
-  lavagna_.DrawLine(x, y1, x, y2);
-  const double tick = kTick * lettera_;
-  for (const double y : {y1, y2}) lavagna_.DrawLine(x - tick, y - tick, x + tick, y + tick);
+void Quote::Orizzontale(double x1, double x2, double y, const std::string& nome,
+                        std::optional<double> daY) const {
+  Riga({x1, y}, {x2, y});
+  if (daY)
+    for (const double x : {x1, x2}) Richiamo({x, *daY}, {x, y});
+  const bool below = daY && *daY > y;
   lavagna_.SetColour(kBlack);
-  lavagna_.DrawText(x + lettera_ / 2, (y1 + y2) / 2 + Riga() / 2, nome);
+  lavagna_.DrawText((x1 + x2) / 2, below ? y - tacca_ / 2 : y + tacca_ / 2, nome,
+                    below ? Anchor::Below : Anchor::Above);
+}
+
+void Quote::Verticale(double x, double y1, double y2, const std::string& nome,
+                      std::optional<double> daX) const {
+  Riga({x, y1}, {x, y2});
+  if (daX)
+    for (const double y : {y1, y2}) Richiamo({*daX, y}, {x, y});
+  const bool left = daX && *daX > x;
+  lavagna_.SetColour(kBlack);
+  lavagna_.DrawText(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, (y1 + y2) / 2, nome,
+                    left ? Anchor::Right : Anchor::Left);
 }
 
 }  // namespace orm

@@ -1,6 +1,8 @@
-// Dimension lines of drawings: a thin line with a tick at each end and a letter beside it.
+// Dimension lines of drawings: a thin line with a tick at each end, its name beside it, and witness
+// lines from what is measured.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "dialogs/lavagna.h"
@@ -9,21 +11,30 @@ namespace orm {
 
 class Quote {
  public:
-  // `lettera` is the width of a usual letter in units of the panel, at the font that is set.
-  Quote(Lavagna& lavagna, double lettera) : lavagna_(lavagna), lettera_(lettera) {}
+  // `tacca` is half the width of a tick in units of the panel. The font of the names is the one
+  // that is set.
+  Quote(Lavagna& lavagna, double tacca) : lavagna_(lavagna), tacca_(tacca) {}
 
-  // The name stands above the line, or right of it.
-  void Orizzontale(double x1, double x2, double y, const std::string& nome) const;
-  void Verticale(double x, double y1, double y2, const std::string& nome) const;
-  // A text with its middle at x and its upper edge at y.
+  // The name stands above the line; with `daY`, witness lines come from that height, and the name
+  // stands on the far side.
+  void Orizzontale(double x1, double x2, double y, const std::string& nome,
+                   std::optional<double> daY = {}) const;
+  // The name stands right of the line, or on the side away from `daX`.
+  void Verticale(double x, double y1, double y2, const std::string& nome,
+                 std::optional<double> daX = {}) const;
+  // The line alone, with its ticks and witness lines.
+  void Riga(Point da, Point a) const;
+  void Richiamo(Point oggetto, Point quota) const;
+  // A thin line from a name to its thing.
+  void Freccia(double x1, double y1, double x2, double y2) const;
+  // A text with its middle at the point.
   void Centrato(double x, double y, const std::string& testo) const;
 
  private:
-  void Segna() const;
-  double Riga() const { return lettera_ * 2.2; }  // height of a line of text
+  void Penna() const;
 
   Lavagna& lavagna_;
-  double lettera_;
+  double tacca_;
 };
 
 }  // namespace orm

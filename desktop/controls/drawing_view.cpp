@@ -15,13 +15,14 @@
 #include "desktop/paint_drawing.h"
 #include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
+#include "dialogs/drawing/svg.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
 
 namespace orm {
 namespace {
 
-constexpr QSizeF kUsualRoom(560, 440), kLeastRoom(320, 240);
+constexpr double kUsualZoom = 1.4;   // where the screen has room for it
 constexpr int kPictureWidth = 1800;  // pixels of a saved PNG
 
 class DrawingWidget : public QWidget {
@@ -29,11 +30,11 @@ class DrawingWidget : public QWidget {
   DrawingWidget(Lavagna& lavagna, QWidget* parent) : QWidget(parent), lavagna_(lavagna) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setMinimumSize(Fitted(kLeastRoom));
+    setMinimumSize(DrawingSize(lavagna_).toSize());
     setAccessibleName("Disegno");
     setToolTip("Il menù del tasto destro salva o stampa il disegno");
   }
-  QSize sizeHint() const override { return Fitted(kUsualRoom); }
+  QSize sizeHint() const override { return (DrawingSize(lavagna_) * kUsualZoom).toSize(); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -52,12 +53,6 @@ class DrawingWidget : public QWidget {
   }
 
  private:
-  // At most its size at 100 %.
-  QSize Fitted(const QSizeF& room) const {
-    const QSizeF size = DrawingSize(lavagna_);
-    const bool fits = size.width() <= room.width() && size.height() <= room.height();
-    return (fits ? size : size.scaled(room, Qt::KeepAspectRatio)).toSize();
-  }
   // The chosen path with its ending; empty when the person gave up.
   QString AskPath(const QString& ending) {
     QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
@@ -86,7 +81,7 @@ class DrawingWidget : public QWidget {
   }
   void SaveSvg() {
     const QString path = AskPath("svg");
-    if (!path.isEmpty()) Write(path, lavagna_.AsSvg());
+    if (!path.isEmpty()) Write(path, SvgOf(lavagna_));
   }
   void SavePng() {
     const QString path = AskPath("png");

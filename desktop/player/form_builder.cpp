@@ -27,6 +27,11 @@ bool HasTitle(const Layout& part) {
   return holds && !part.children.empty() && HasTitle(part.children[0]);
 }
 
+bool HoldsDrawing(const Layout& part) {
+  return (part.control != nullptr && part.control->GetKind() == Kind::Drawing) ||
+         std::any_of(part.children.begin(), part.children.end(), HoldsDrawing);
+}
+
 bool IsFieldItem(const Layout& part) {
   return part.kind == Layout::Kind::Item &&
          (IsField(part.control->GetKind()) ||
@@ -144,8 +149,11 @@ void FormBuilder::AddRow(const std::vector<Layout>& parts, QBoxLayout* into) {
   // Blocks beside each other begin on one line; a block beside a button stands in its middle.
   const bool onTop = count(Layout::Kind::Group) > 0 || count(Layout::Kind::Column) > 0 ||
                      count(Layout::Kind::Fields) > 1;
+  // Room beyond what all need goes to a drawing; without one, blocks share it.
+  const bool drawing = std::any_of(parts.begin(), parts.end(), HoldsDrawing);
   bool grows = false;
   for (const Layout& part : parts) {
+    const bool takes = drawing ? HoldsDrawing(part) : Grows(part) || onTop;
     // The first part stands on the left edge of what is above and below the row.
     const int outer = std::exchange(stack_, &part == &parts.front() ? stack_ : ++stacks_);
     if (part.kind == Layout::Kind::Item || part.kind == Layout::Kind::Group) {
@@ -153,7 +161,7 @@ void FormBuilder::AddRow(const std::vector<Layout>& parts, QBoxLayout* into) {
       if (part.kind == Layout::Kind::Group && !Grows(part)) row->setStretch(row->count() - 1, 1);
     } else {
       auto* column = new QVBoxLayout;
-      row->addLayout(column, Grows(part) || onTop ? 1 : 0);
+      row->addLayout(column, takes ? 1 : 0);
       if (!Grows(part) && !onTop) column->addStretch();
       AddPart(part, column);
       if (!Grows(part)) column->addStretch();

@@ -62,4 +62,8 @@ std::string DifettoBalcone(const DatiBalcone& dati) {
   return trovata == prove.end() ? "" : std::string(trovata->parte) + "\n" + trovata->motivo;
 }
 
+bool RastremazioneInversa(const DatiBalcone& dati) {
+  return DifettoBalcone(dati).ends_with(kRastremazione);
+}
+
 }  // namespace orm

@@ -11,4 +11,7 @@ namespace orm {
 // several faults the first in the order of the fields.
 std::string DifettoBalcone(const DatiBalcone& dati);
 
+// That first fault is an end thicker than the root.
+bool RastremazioneInversa(const DatiBalcone& dati);
+
 }  // namespace orm

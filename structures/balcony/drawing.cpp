@@ -14,7 +14,7 @@ namespace {
 
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kWall{222, 214, 203}, kStone{190, 200, 210},
     kBracket{160, 175, 190}, kSteel{160, 30, 30};
-constexpr double kLetter = 1.35;
+constexpr double kTick = 0.65;
 // Where the views stand, in units of the panel.
 constexpr double kSectionLeft = 8, kSectionWide = 38, kSectionHigh = 16, kSlabTop = 34;
 constexpr double kWallTop = 39.5, kWallBottom = 13, kBelow = 9.5;
@@ -27,6 +27,7 @@ struct Figura {
   double Ls = 0, Lm = 0;  // along the wall; the slab alone has its length in Lm
   double Bm = 0, Hi = 0, He = 0, Ba = 0;  // beam or bracket
   bool SuMensole() const { return tipo != TipoBalcone::LastraSemplice; }
+  bool operator==(const Figura&) const = default;
   double Fronte() const { return 2 * Ls + Lm; }
 };
 
@@ -78,11 +79,11 @@ Figura Leggibile(Figura f) {
 
 class Disegno {
  public:
-  Disegno(Lavagna& lavagna, const Figura& figura)
-      : lavagna_(lavagna), f_(figura), quote_(lavagna, kLetter) {}
+  Disegno(Lavagna& lavagna, const Figura& figura, bool alterata)
+      : lavagna_(lavagna), f_(figura), quote_(lavagna, kTick), alterata_(alterata) {}
   void Sezione();
   void Pianta();
-  void Titolo(double x, const char* testo);
+  void Titolo(double x, const std::string& testo);
 
  private:
   using Punti = std::vector<Point>;
@@ -91,6 +92,7 @@ class Disegno {
   Punti Rettangolo(double x1, double y1, double x2, double y2) const;
   void Putrella(double x1, double x2, double sopra, double sotto);
   void QuoteSezione(double sopra, double sotto);
+  void Nome(double x, double y, double altezza, double fuori, const char* nome);
 
   double Muro() const { return 1.35 * f_.Pm; }  // as thick as it is drawn
   // Metres outward from the face of the wall to units of the section.
@@ -102,6 +104,7 @@ class Disegno {
   Lavagna& lavagna_;
   const Figura& f_;
   Quote quote_;
+  bool alterata_;     // some measure is not drawn as it is
   double scala_ = 1;  // units a metre of the view at work
 };
 
@@ -127,10 +130,10 @@ Disegno::Punti Disegno::Rettangolo(double x1, double y1, double x2, double y2) c
   return {{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}};
 }
 
-void Disegno::Titolo(double x, const char* testo) {
+void Disegno::Titolo(double x, const std::string& testo) {
   lavagna_.SetFont(9, true);
   lavagna_.SetColour(kBlack);
-  lavagna_.DrawText(x, kAltezzaBalcone - 0.4, testo);
+  lavagna_.DrawText(x, kAltezzaBalcone - 0.4, testo + (alterata_ ? "  (non in scala)" : ""));
   lavagna_.SetFont(9);
 }
 
@@ -145,8 +148,9 @@ void Disegno::Sezione() {
       std::min(kSectionWide / (Muro() + std::max(f_.La, f_.Bm)), kSectionHigh / (f_.si + f_.Hi));
   Titolo(3, "Sezione");
   const double face = X(0), sopra = kSlabTop - f_.si * scala_, sotto = sopra - f_.Hi * scala_;
+  lavagna_.BeginView({100 / scala_, {face, kSlabTop}});
   Pieno(Rettangolo(X(-Muro()), kWallBottom, face, kWallTop), kWall);
-  quote_.Centrato(X(-Muro() / 2), kWallBottom + 3, "Muro");
+  quote_.Centrato(X(-Muro() / 2), kWallBottom + 2, "Muro");
   if (!f_.SuMensole()) {
     Nascosto(Rettangolo(X(-f_.Pm), sopra, face, kSlabTop));
     const double fine = kSlabTop - f_.se * scala_;
@@ -159,26 +163,38 @@ void Disegno::Sezione() {
     else
       Pieno({{face, sotto}, {X(f_.Bm), sopra - f_.He * scala_}, {X(f_.Bm), sopra}, {face, sopra}},
             kBracket);
-    quote_.Centrato(X(f_.Bm / 2), sotto - 0.6, NomeMensola());
+    const double x = X(f_.Bm / 2), y = std::min(sotto, kWallBottom + 8) - 2.6;
+    quote_.Freccia(x, y + 1.2, x, sopra - f_.He * scala_ / 2);
+    quote_.Centrato(x, y, NomeMensola());
   }
-  quote_.Centrato(X(f_.La / 2), kSlabTop + 3, "Lastra");
+  const double spessore = (0.6 * f_.si + 0.4 * f_.se) * scala_;  // where its name stands
+  Nome(X(0.3 * f_.La), kSlabTop - spessore / 2, spessore, kSlabTop + 1.7, "Lastra");
   QuoteSezione(sopra, sotto);
+  lavagna_.EndView();
+}
+
+// A name on its thing, or beside it with a line to it where there is no room.
+void Disegno::Nome(double x, double y, double altezza, double fuori, const char* nome) {
+  if (altezza > 1.2 * lavagna_.LineHeight()) return quote_.Centrato(x, y, nome);
+  quote_.Freccia(x, fuori - (fuori > y ? 1 : -1), x, y);
+  quote_.Centrato(x, fuori, nome);
 }
 
 void Disegno::QuoteSezione(double sopra, double sotto) {
-  quote_.Orizzontale(X(0), X(f_.La), kSlabTop + 4.6, "La");
-  quote_.Orizzontale(X(-f_.Pm), X(0), kBelow, "Pm");
-  const double left = kSectionLeft - 4.2;
+  const double fuori = X(std::max(f_.La, f_.Bm));
+  quote_.Orizzontale(X(0), X(f_.La), kSlabTop + 5, "La", kSlabTop);
+  quote_.Orizzontale(X(-f_.Pm), X(0), kBelow, "Pm", kWallBottom);
+  const double left = kSectionLeft - 2.2;
   if (f_.SuMensole()) {
+    const double end = sopra - f_.He * scala_;
     quote_.Orizzontale(X(0), X(f_.Bm), kBelow, "Bm");
-    const double right = X(f_.La) + 6.4;  // beyond the name of He
-    for (const double y : {sopra, kSlabTop}) lavagna_.DrawLine(right - 1.2, y, right, y);
-    quote_.Verticale(right, sopra, kSlabTop, "s");
-    quote_.Verticale(left, sotto, sopra, "Hi");
-    quote_.Verticale(X(f_.Bm) + 1.6, sopra - f_.He * scala_, sopra, "He");
+    quote_.Richiamo({X(f_.Bm), end}, {X(f_.Bm), kBelow});
+    quote_.Verticale(fuori + 6.6, sopra, kSlabTop, "s", X(f_.La));
+    quote_.Verticale(left, sotto, sopra, "Hi", X(-f_.Pm));
+    quote_.Verticale(X(f_.Bm) + 1.8, end, sopra, "He", X(f_.Bm));
   } else {
-    quote_.Verticale(left, sopra, kSlabTop, "Hi");
-    quote_.Verticale(X(f_.La) + 1.6, kSlabTop - f_.se * scala_, kSlabTop, "He");
+    quote_.Verticale(left, sopra, kSlabTop, "Hi", X(-f_.Pm));
+    quote_.Verticale(fuori + 1.8, kSlabTop - f_.se * scala_, kSlabTop, "He", fuori);
   }
 }
 
@@ -190,30 +206,40 @@ void Disegno::Pianta() {
   };
   const double spessore = std::clamp(Muro() * scala_, 4.5, 8.0), fine = kFace - f_.La * scala_;
   Titolo(kPlanLeft - 3, "Pianta");
+  lavagna_.BeginView({100 / scala_, {x(fronte / 2), kFace}});
   Pieno(Rettangolo(kPlanLeft - 2, kFace, kPlanLeft + kPlanWide + 2, kFace + spessore), kWall);
   Pieno(Rettangolo(x(0), fine, x(fronte), kFace), kStone);
   const double dentro = kFace + std::min(f_.Pm * scala_, spessore / 1.35);
-  const double mezzo = x(fronte / 2);
+  double lastra = (kFace + fine) / 2;  // where its name stands
+  const double mezzo = x(fronte / 2), alto = (2 * kFace + fine) / 3, basso = (kFace + 2 * fine) / 3;
   if (f_.SuMensole()) {
     for (const double m : {f_.Ls, f_.Ls + f_.Lm})
       Nascosto(Rettangolo(x(m - f_.Ba / 2), kFace - f_.Bm * scala_, x(m + f_.Ba / 2), dentro));
-    const double destra = f_.Ls + f_.Lm;
-    if (f_.tipo == TipoBalcone::Mensole)
-      quote_.Orizzontale(x(destra - f_.Ba / 2), x(destra + f_.Ba / 2), kFace + spessore + 1, "Ba");
     const bool putrelle = f_.tipo == TipoBalcone::Putrelle;
-    quote_.Centrato(mezzo, (kFace + fine) / 2 - 0.4, putrelle ? "Putrella" : "Mensole");
+    const double sinistra = f_.Ls, destra = f_.Ls + f_.Lm;
+    if (!putrelle)
+      quote_.Orizzontale(x(destra - f_.Ba / 2), x(destra + f_.Ba / 2), kFace + spessore + 1.2, "Ba",
+                         kFace + spessore);
+    const char* nome = putrelle ? "Putrella" : "Mensole";
+    const double meta = lavagna_.TextWidth(nome) / 2;
+    const double y = std::max(basso, kFace - f_.Bm * scala_ / 2);
+    lastra = y > (alto + basso) / 2 ? basso : alto;
+    quote_.Freccia(mezzo - meta, y, x(sinistra), y);
+    quote_.Freccia(mezzo + meta, y, x(destra), y);
+    quote_.Centrato(mezzo, y, nome);
   } else {
     Nascosto(Rettangolo(x(0), kFace, x(fronte), dentro));
   }
-  quote_.Centrato(mezzo, (kFace + fine) / 2 + 3.2, "Lastra");
-  quote_.Centrato(mezzo, kFace + spessore / 2 + 1.2, "Muro");
+  quote_.Centrato(mezzo, lastra, "Lastra");
+  quote_.Centrato(mezzo, kFace + spessore / 2, "Muro");
   const double sotto = std::min(fine, kFace - f_.Bm * scala_) - 3.6;
   if (f_.Ls > 0) {
-    quote_.Orizzontale(x(0), x(f_.Ls), sotto, "Ls");
-    quote_.Orizzontale(x(f_.Ls + f_.Lm), x(fronte), sotto, "Ls");
+    quote_.Orizzontale(x(0), x(f_.Ls), sotto, "Ls", fine);
+    quote_.Orizzontale(x(f_.Ls + f_.Lm), x(fronte), sotto, "Ls", fine);
   }
-  quote_.Orizzontale(x(f_.Ls), x(f_.Ls + f_.Lm), sotto, f_.SuMensole() ? "Lm" : "L");
-  quote_.Verticale(x(fronte) + 1.8, fine, kFace, "La");
+  quote_.Orizzontale(x(f_.Ls), x(f_.Ls + f_.Lm), sotto, f_.SuMensole() ? "Lm" : "L", fine);
+  quote_.Verticale(x(fronte) + 1.8, fine, kFace, "La", x(fronte));
+  lavagna_.EndView();
 }
 
 std::string Valori(const Figura& f) {
@@ -247,12 +273,14 @@ void DisegnaBalcone(Lavagna& lavagna, const DatiBalcone& dati) {
   const Figura figura = completo ? Misure(dati) : Schema(dati.tipo);
   const Figura disegnata = Leggibile(figura);
   lavagna.Clear();
-  Disegno disegno(lavagna, disegnata);
+  Disegno disegno(lavagna, disegnata, completo && !(disegnata == figura));
   disegno.Sezione();
   disegno.Pianta();
   lavagna.SetFont(8);
   lavagna.SetColour(kBlack);
-  lavagna.DrawText(3, 4.2, completo ? Valori(figura) : "Schema: mancano delle misure");
+  std::string sotto = "Schema: mancano delle misure";
+  if (RastremazioneInversa(dati)) sotto = "Schema: l'estremità è più spessa dell'incastro";
+  lavagna.DrawText(3, 4.8, completo ? Valori(figura) : sotto);
 }
 
 }  // namespace orm

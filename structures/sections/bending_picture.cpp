@@ -6,35 +6,22 @@
 #include <cstddef>
 
 #include "runtime/numbers.h"
-#include "runtime/text.h"
+#include "structures/sections/picture_pens.h"
 #include "structures/solvers/arrays.h"
 
 namespace orm {
 namespace {
 
-using Stroke = DrawOperation::Stroke;
-
-constexpr Colour kBlack{0, 0, 0}, kBlue{0, 0, 255}, kGreen{0, 255, 0}, kRed{255, 0, 0},
-    kWhite{255, 255, 255}, kYellow{255, 255, 0}, kGrey{110, 110, 110};
-
-// What is shown of the plane: somewhat more than 30 by 10, as a stretched bar at its limit draws a
-// line of 8 units from the base line.
-constexpr double kLeft = 0, kBottom = -0.2, kRight = 32.4, kTop = 10.6;
-constexpr double kBase = 23.5;
-constexpr double kConcreteUnits = 4, kSteelUnits = 8;  // of the allowed stress
-constexpr int kSmall = 8;                              // font size of values
-constexpr double kPatch = 0.21;                        // half the height of the patch under a text
+// What is shown of the plane: more than 30 by 10, for the dimension lines around the section and as
+// a stretched bar at its limit draws a line of 8 units from the base line.
+constexpr double kLeft = -4.6, kLeftOfFlanges = -7.4, kBottom = -1.6, kRight = 32.4, kTop = 11.4;
+constexpr double kTitle = 10.9, kSecondLine = 9.9;  // middle of what stands above the drawing
+constexpr double kSample = 18.6;                    // of the legend
 constexpr double kHatchStep = 0.2;
-constexpr double kLine = 0.58;  // units that a line of small text takes
-
-double TextWidth(const std::string& text, bool bold, const Lavagna& lavagna) {
-  const double em = bold ? 0.64 : 0.57;  // of a usual letter
-  const double pixels = static_cast<double>(Characters(text)) * kSmall * (96.0 / 72) * em;
-  return pixels * (kRight - kLeft) / lavagna.PixelsWide();
-}
 
 // Green tells compressed concrete; dots in it tell it on paper and to eyes that miss the green.
 void HatchLine(Lavagna& lavagna, double x1, double x2, double y) {
+  lavagna.SetHatching(true);
   lavagna.SetColour(kGreen);
   lavagna.SetStroke(Stroke::Solid);
   lavagna.SetWidth(2);
@@ -43,38 +30,7 @@ void HatchLine(Lavagna& lavagna, double x1, double x2, double y) {
   lavagna.SetStroke(Stroke::Dotted);
   lavagna.SetWidth(1);
   lavagna.DrawLine(x1, y, x2, y);
-}
-
-void OverLimit(Lavagna& lavagna) {
-  lavagna.SetColour(kRed);
-  lavagna.SetStroke(Stroke::Dashed);
-  lavagna.SetWidth(3);
-}
-
-void WithinLimit(Lavagna& lavagna) {
-  lavagna.SetColour(kBlack);
-  lavagna.SetStroke(Stroke::Solid);
-  lavagna.SetWidth(2);
-}
-
-// From what a label tells to the label.
-void Leader(Lavagna& lavagna, double x1, double y1, double x2, double y2) {
-  lavagna.SetColour(kGrey);
-  lavagna.SetStroke(Stroke::Solid);
-  lavagna.SetWidth(1);
-  lavagna.DrawLine(x1, y1, x2, y2);
-}
-
-struct Reach {
-  double units;  // length of the line
-  bool over;     // the stress is not below the allowed one
-};
-
-Reach ReachOf(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse) {
-  const double allowed = t.cls ? ammesse.cls : ammesse.acciaio;
-  const double most = t.cls ? kConcreteUnits : kSteelUnits;
-  const bool over = std::fabs(t.valore) >= allowed;
-  return {over ? most : std::fabs(t.valore) / (allowed / most), over};
+  lavagna.SetHatching(false);
 }
 
 }  // namespace
@@ -87,33 +43,30 @@ double ScalaDisegno(double H, double W) {
   return W / widened < 15.0 ? widened : widened + 1.0;
 }
 
-std::vector<double> QuoteEtichette(std::vector<double> quote, double passo, bool versoAlto,
-                                   double minimo, double massimo) {
-  const std::size_t n = quote.size();
-  const auto down = [&] {
-    for (std::size_t i = 1; i < n; ++i) quote[i] = std::min(quote[i], quote[i - 1] - passo);
-  };
-  const auto up = [&] {
-    for (std::size_t i = n; i-- > 1;) quote[i - 1] = std::max(quote[i - 1], quote[i] + passo);
-  };
-  if (n == 0) return quote;
-  if (versoAlto) {
-    up();
-    quote.front() = std::min(quote.front(), massimo);
-    down();
-  } else {
-    down();
-    quote.back() = std::max(quote.back(), minimo);
-    up();
-  }
-  return quote;
-}
-
-DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool verificata)
-    : lavagna_(lavagna), H_(H), W_(W), Sc_(ScalaDisegno(H, W)) {
+DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool spessori,
+                                   bool verificata, Tratti tratti)
+    : lavagna_(lavagna),
+      H_(H),
+      W_(W),
+      Sc_(ScalaDisegno(H, W)),
+      sinistra_(spessori ? kLeftOfFlanges : kLeft),
+      tratti_(std::move(tratti)),
+      posti_(0.5, 9,
+             [this](double y) {
+               std::vector<double> edges;
+               const double depth = H_ - (y - 1) * Sc_;
+               if (depth < 0 || depth > H_) return edges;
+               for (const Tratto& tratto : tratti_(depth)) {
+                 edges.push_back(X(tratto.da));
+                 edges.push_back(X(tratto.a));
+               }
+               return edges;
+             }),
+      quote_(lavagna, 0.22) {
   lavagna_.Clear();
-  lavagna_.SetScale(kLeft, kBottom, kRight, kTop);
+  lavagna_.SetScale(sinistra_, kBottom, kRight, kTop);
   lavagna_.SetBackground(verificata ? kWhite : kYellow);
+  lavagna_.BeginView({Sc_, {1, 1}});
   Legenda(verificata);
 }
 
@@ -121,41 +74,73 @@ DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool ve
 void DisegnoFlessione::Legenda(bool verificata) {
   lavagna_.SetColour(kBlack);
   lavagna_.SetFont(10, true);
-  lavagna_.DrawText(0.5, 10.35, verificata ? "SEZIONE VERIFICATA" : "SEZIONE NON VERIFICATA");
+  lavagna_.DrawText(sinistra_ + 0.4, kTitle,
+                    verificata ? "SEZIONE VERIFICATA" : "SEZIONE NON VERIFICATA", Anchor::Left);
   lavagna_.SetFont(kSmall);
-  lavagna_.DrawText(13.0, 10.3, "calcestruzzo compresso");
-  lavagna_.DrawText(21.5, 10.3, "tensione non ammissibile");
-  for (const double y : {9.85, 10.05, 10.25}) HatchLine(lavagna_, 11.4, 12.8, y);
+  lavagna_.DrawText(kSample + 1.6, kTitle, "calcestruzzo compresso", Anchor::Left);
+  lavagna_.DrawText(kSample + 1.6, kSecondLine, "tensione non ammissibile", Anchor::Left);
+  lavagna_.DrawText(sinistra_ + 0.4, kBottom + 0.55, "quote in cm", Anchor::Left);
+  for (const double y : {kTitle - 0.2, kTitle, kTitle + 0.2})
+    HatchLine(lavagna_, kSample, kSample + 1.4, y);
   OverLimit(lavagna_);
-  lavagna_.DrawLine(19.6, 10.05, 21.2, 10.05);
+  lavagna_.DrawLine(kSample, kSecondLine, kSample + 1.4, kSecondLine);
 }
 
-void DisegnoFlessione::Tratteggia(double bordo, double asse,
-                                  const std::function<std::vector<Tratto>(double)>& tratti) {
+// The arrow turns as the moment does on the right face of a beam: compression, left of the base
+// line, lies where it points to the left.
+void DisegnoFlessione::Momento(double kgxcm) {
+  constexpr double kRadius = 0.42;
+  const bool positive = kgxcm > 0;
+  const double x = sinistra_ + 0.8, y = kSecondLine, tip = positive ? y + kRadius : y - kRadius;
+  lavagna_.SetColour(kBlack);
+  lavagna_.SetStroke(Stroke::Solid);
+  lavagna_.SetWidth(1);
+  lavagna_.DrawArc(x, y, kRadius, -90, 90);
+  lavagna_.DrawPolygon({{x - 0.35, tip}, {x, tip + 0.16}, {x, tip - 0.16}}, true);
+  lavagna_.SetFont(kSmall);
+  lavagna_.DrawText(x + 0.8, y,
+                    "M = " + FormatPattern(kgxcm / 100, "#,##0.##") +
+                        " Kg x m  (fibre tese: " + (positive ? "inferiori)" : "superiori)"),
+                    Anchor::Left);
+}
+
+void DisegnoFlessione::Tratteggia(double bordo, double asse) {
   const double depth = std::fabs(asse - bordo), toward = asse < bordo ? -1 : 1;
   const int lines = static_cast<int>(depth / Sc_ / kHatchStep);
   for (int i = 0; i <= lines; ++i) {
     const double at = bordo + toward * i * kHatchStep * Sc_;
-    for (const Tratto& tratto : tratti(at))
+    for (const Tratto& tratto : tratti_(at))
       if (tratto.a > tratto.da) HatchLine(lavagna_, X(tratto.da), X(tratto.a), Y(at));
   }
 }
 
 void DisegnoFlessione::AsseNeutro(double profondita) {
-  const double y = Y(profondita);
+  const double y = Y(profondita), height = lavagna_.LineHeight();
   lavagna_.SetColour(kBlue);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
   lavagna_.DrawLine(0.4, y, 15.6, y);
-  Etichetta(13, y + 0.8, "asse neutro", kBlue, false);
+  posti_.Riga(0.4, 15.6, y);
+  const std::string name = "asse neutro";
+  double x = 13;
+  // Its height is fixed; it steps out of a wide section.
+  for (const Tratto& tratto : tratti_(std::max(0.0, profondita - 0.4 * Sc_)))
+    if (X(tratto.a) > x && X(tratto.a) < x + lavagna_.TextWidth(name)) x = X(tratto.a) + 0.3;
+  lavagna_.SetHalo(true);
+  lavagna_.DrawText(x, y + 0.8, name);
+  lavagna_.SetHalo(false);
+  posti_.Occupa({x, x + lavagna_.TextWidth(name), y + 0.8 - height, y + 0.8});
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,
                                 const std::function<double(double)>& larghezza) {
   OrdinaArray(profondita, aree, 0, static_cast<int>(aree.size()) - 1);
   const double centre = X(W_ / 2);
-  std::array<std::vector<double>, 2> heights, areas, marks;
-  for (std::size_t i = 0, used = 0; i < aree.size(); ++i) {
+  struct Strato {
+    double y, half, area, x;
+  };
+  std::vector<Strato> strati;
+  for (std::size_t i = 0; i < aree.size(); ++i) {
     if (aree[i] == 0) continue;
     const double y = Y(profondita[i]);
     const double half = std::min(0.8, 0.4 * larghezza(profondita[i]) / Sc_);
@@ -163,88 +148,27 @@ void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<doub
     lavagna_.SetStroke(Stroke::Solid);
     lavagna_.SetWidth(3);
     if (half > 0) lavagna_.DrawLine(centre - half, y, centre + half, y);
-    const std::size_t column = used++ % 2;
-    heights[column].push_back(y);
-    areas[column].push_back(aree[i]);
-    marks[column].push_back(half);
+    strati.push_back({y, half, aree[i], centre + (strati.size() % 2 == 0 ? 1.0 : 4.0)});
   }
-  // The far column first: its leaders pass under the labels of the near one.
-  for (const std::size_t column : {1u, 0u}) {
-    const double x = centre + (column == 0 ? 1.0 : 4.0);
-    const auto labels = QuoteEtichette(heights[column], kLine, false, 0.3, 9);
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-      Leader(lavagna_, centre + marks[column][i], heights[column][i], x - 0.05, labels[i]);
-      Etichetta(x, labels[i] + kLine / 2, FormatPattern(areas[column][i], "####.00") + " cmq.",
-                kBlack, false);
-    }
-  }
-}
-
-void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni, double asse,
-                                         const TensioniAmmissibili& ammesse) {
-  if (!(ammesse.acciaio > 0 && ammesse.cls > 0)) return;
-  std::stable_sort(tensioni.begin(), tensioni.end(),
-                   [](const auto& a, const auto& b) { return a.profondita < b.profondita; });
-  lavagna_.SetColour(kBlack);
-  lavagna_.SetStroke(Stroke::Solid);
-  lavagna_.SetWidth(1);
-  lavagna_.DrawLine(kBase, Y(H_) - 0.3, kBase, Y(0) + 0.3);
   lavagna_.SetFont(kSmall);
-  lavagna_.DrawText(kBase - 3.9, 0.55, "compressione");
-  lavagna_.DrawText(kBase + 0.3, 0.55, "trazione");
-  for (const TensioneDisegnata& t : tensioni) {
-    const Reach reach = ReachOf(t, ammesse);
-    const double y = Y(t.profondita), end = kBase + (t.valore < 0 ? -reach.units : reach.units);
-    reach.over ? OverLimit(lavagna_) : WithinLimit(lavagna_);
-    lavagna_.DrawLine(kBase, y, end, y);
-    if (t.cls) {
-      lavagna_.SetColour(kBlack);
-      lavagna_.DrawText(end - 1.0, y + kLine / 2, "cls");
-    }
+  struct Scritta {
+    Riquadro posto;
+    std::string testo;
+  };
+  std::vector<Scritta> scritte;
+  for (const Strato& strato : strati) {
+    const std::string text = FormatPattern(strato.area, "####.00") + " cmq.";
+    const Riquadro posto =
+        posti_.Posto(strato.x, strato.y, lavagna_.TextWidth(text), 0.9 * lavagna_.LineHeight());
+    Leader(lavagna_, centre + strato.half, strato.y, posto.x1 - 0.05, (posto.y1 + posto.y2) / 2);
+    scritte.push_back({posto, text});
   }
-  // Labels give way from the axis outward, so that none reaches a line of the other sign.
-  const bool upperCompressed = std::any_of(tensioni.begin(), tensioni.end(), [&](const auto& t) {
-    return t.cls && t.profondita < asse;
-  });
-  ScriviTensioni(tensioni, ammesse, true, upperCompressed);
-  ScriviTensioni(tensioni, ammesse, false, !upperCompressed);
-}
-
-void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
-                                      const TensioniAmmissibili& ammesse, bool compresse,
-                                      bool versoAlto) {
-  std::vector<double> heights;
-  std::vector<TensioneDisegnata> shown;
-  for (const TensioneDisegnata& t : tensioni) {
-    if ((t.valore < 0) != compresse) continue;
-    shown.push_back(t);
-    heights.push_back(Y(t.profondita));
-  }
-  const auto labels = QuoteEtichette(heights, kLine, versoAlto, 0.9, 9);
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    const std::string text = FormatPattern(shown[i].valore, "####.0") + " kg/cmq.";
-    const bool over = ReachOf(shown[i], ammesse).over;
-    const double x = compresse ? kBase + 0.6 : kBase - 0.6 - TextWidth(text, over, lavagna_);
-    Leader(lavagna_, kBase, heights[i], compresse ? kBase + 0.5 : kBase - 0.5, labels[i]);
-    Etichetta(x, labels[i] + kLine / 2, text, kBlack, over);
-  }
-}
-
-// Text on a patch of the background, so that it can be read on hatching and outlines.
-void DisegnoFlessione::Etichetta(double x, double y, const std::string& testo, Colour colore,
-                                 bool grassetto) {
-  const double right = x + TextWidth(testo, grassetto, lavagna_), middle = y - kLine / 2;
-  lavagna_.SetColour(lavagna_.Background());
-  lavagna_.SetStroke(Stroke::Solid);
-  lavagna_.SetWidth(1);
-  lavagna_.DrawPolygon({{x, middle + kPatch},
-                        {right, middle + kPatch},
-                        {right, middle - kPatch},
-                        {x, middle - kPatch}},
-                       true);
-  lavagna_.SetColour(colore);
-  lavagna_.SetFont(kSmall, grassetto);
-  lavagna_.DrawText(x, y, testo);
+  // After the leaders, as some pass under a label.
+  lavagna_.SetColour(kBlack);
+  lavagna_.SetHalo(true);
+  for (const auto& [posto, testo] : scritte)
+    lavagna_.DrawText(posto.x1, (posto.y1 + posto.y2) / 2, testo, Anchor::Left);
+  lavagna_.SetHalo(false);
 }
 
 }  // namespace orm

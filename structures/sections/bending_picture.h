@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "dialogs/lavagna.h"
+#include "structures/dimension_lines.h"
+#include "structures/label_places.h"
 
 namespace orm {
 
@@ -27,20 +29,38 @@ struct TensioneDisegnata {
   bool cls = false;
 };
 
+// A measure of the section and its name: depths, or distances from the left edge of its box, cm.
+struct QuotaSezione {
+  double da = 0, a = 0;
+  std::string nome;
+};
+
 class DisegnoFlessione {
  public:
+  using Tratti = std::function<std::vector<Tratto>(double)>;  // of the outline at a depth
+
   // Empties the panel and takes the scale that suits a section of that height and width. The
   // background is white for a section that holds and yellow for one that does not; a line of text
-  // says the same.
-  DisegnoFlessione(Lavagna& lavagna, double H, double W, bool verificata);
+  // says the same. A section with flanges or a hole has a chain of thicknesses (`spessori`).
+  DisegnoFlessione(Lavagna& lavagna, double H, double W, bool spessori, bool verificata,
+                   Tratti tratti);
 
   double X(double cm) const { return 1 + cm / Sc_; }
   double Y(double profondita) const { return 1 + (H_ - profondita) / Sc_; }
   double Scala() const { return Sc_; }  // cm a unit
 
-  void Tratteggia(double bordo, double asse,
-                  const std::function<std::vector<Tratto>(double)>& tratti);
+  // The steps of the drawing, in this order; the outline comes after the hatching.
+  void Tratteggia(double bordo, double asse);
   void AsseNeutro(double profondita);
+  // A horizontal edge of the outline, which labels do not stand on.
+  void Spigolo(double da, double a, double profondita) { posti_.Riga(X(da), X(a), Y(profondita)); }
+  // The height, covers and thicknesses left of the section; a width below or above it.
+  void QuoteVerticali(const QuotaSezione& altezza, const std::vector<QuotaSezione>& copriferri,
+                      const std::vector<QuotaSezione>& spessori);
+  void QuotaLarghezza(const QuotaSezione& larghezza, double profondita);
+  // A thickness told within the section.
+  void QuotaAnima(const QuotaSezione& larghezza, double profondita);
+  void Momento(double kgxcm);
   // Bars on the axis of symmetry: a mark at each depth (not wider than `larghezza` there) and the
   // area beside it. An area of 0 is no layer.
   void Armature(std::vector<double> profondita, std::vector<double> aree,
@@ -51,12 +71,15 @@ class DisegnoFlessione {
 
  private:
   void Legenda(bool verificata);
-  void Etichetta(double x, double y, const std::string& testo, Colour colore, bool grassetto);
+  void Catena(double x, const std::vector<QuotaSezione>& quote);
   void ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
                       const TensioniAmmissibili& ammesse, bool compresse, bool versoAlto);
 
   Lavagna& lavagna_;
-  double H_, W_, Sc_;
+  double H_, W_, Sc_, sinistra_;
+  Tratti tratti_;
+  PostiEtichette posti_;
+  Quote quote_;
 };
 
 // Scale of a section, cm a unit: six units high, unless it would then be 15 units wide or more.

@@ -1,15 +1,15 @@
 #include "structures/sections/drawing_circular.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <numbers>
 #include <vector>
+
+#include "structures/sections/picture_pens.h"
 
 namespace orm {
 namespace {
-
-using Stroke = DrawOperation::Stroke;
-
-constexpr Colour kBlack{0, 0, 0}, kBlue{0, 0, 255}, kRed{255, 0, 0};
 
 double HalfChord(double diameter, double fromCentre) {
   return std::sqrt(std::fmax(0.0, diameter * diameter / 4 - fromCentre * fromCentre));
@@ -23,10 +23,48 @@ void OpenCircle(Lavagna& lavagna, double radius, double degrees, const char* nam
 
 struct Anello {
   double area, diametro, sopra, sotto;
+  const std::vector<BarGroup>& ferri;
 };
 struct Gruppo {
   double area, d, tensione;
 };
+
+// The bars of a ring, evenly from its top on; groups of different diameters mix evenly too.
+void DrawBars(Lavagna& lavagna, const Point& centre, double radius, double Sc,
+              const std::vector<BarGroup>& groups) {
+  constexpr double kLeast = 0.07;  // units: a bar that is seen
+  struct Bar {
+    double order;
+    int diameter;
+  };
+  std::vector<Bar> bars;
+  for (const auto& [count, diameter] : groups)
+    for (int i = 0; i < count; ++i) bars.push_back({(i + 0.5) / count, diameter});
+  std::stable_sort(bars.begin(), bars.end(),
+                   [](const Bar& a, const Bar& b) { return a.order < b.order; });
+  lavagna.SetColour(kBlack);
+  lavagna.SetStroke(Stroke::Solid);
+  lavagna.SetWidth(1);
+  for (std::size_t i = 0; i < bars.size(); ++i) {
+    const double angle =
+        2 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(bars.size());
+    lavagna.DrawDisc(centre.x + radius * std::sin(angle), centre.y + radius * std::cos(angle),
+                     std::max(kLeast, bars[i].diameter / 20.0 / Sc));
+  }
+}
+
+// The diameters, the wall, and the covers of the outmost bars.
+void Dimensions(DisegnoFlessione& disegno, const DatiCircolare& z,
+                const std::vector<double>& profondita) {
+  const double D = z.D;
+  const auto [first, last] = std::minmax_element(profondita.begin(), profondita.end());
+  std::vector<QuotaSezione> covers, wall;
+  if (*first > 0 && *first <= D / 2) covers.push_back({0, *first, "c"});
+  if (*last<D&& * last> D / 2) covers.push_back({*last, D, "c"});
+  if (z.Di > 0) wall.push_back({0, (D - z.Di) / 2, "s"});
+  disegno.QuoteVerticali({0, D, "D"}, covers, wall);
+  if (z.Di > 0) disegno.QuotaLarghezza({(D - z.Di) / 2, (D + z.Di) / 2, "Di"}, D);
+}
 
 }  // namespace
 
@@ -52,19 +90,21 @@ void DisegnaSchemaC(Lavagna& lavagna, bool anulare) {
   lavagna.DrawText(11, 6, "R1   raggio armatura su circonferenza 1");
   lavagna.DrawText(11, 5, "R2   raggio armatura su circonferenza 2");
   lavagna.SetColour(kBlack);
-  lavagna.DrawText(11, 4, "Armatura concentrata: sull'asse verticale della sezione");
+  lavagna.DrawText(11, 4, "Armatura concentrata:");
+  lavagna.DrawText(11, 3, "sull'asse verticale della sezione");
 }
 
 void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCircolare& risultati,
-                     const TensioniAmmissibili& ammesse, bool verificata) {
+                     const FerriAnelli& ferri, const TensioniAmmissibili& ammesse,
+                     bool verificata) {
   const double D = z.D, Di = z.Di, asse = risultati.asse;
   const bool upper = z.M > 0;  // the compressed edge
-  DisegnoFlessione disegno(lavagna, D, D, verificata);
-  disegno.Tratteggia(upper ? 0 : D, asse, [&](double depth) {
+  DisegnoFlessione disegno(lavagna, D, D, Di > 0, verificata, [&](double depth) {
     const double edge = HalfChord(D, depth - D / 2), hole = HalfChord(Di, depth - D / 2);
     if (hole == 0) return std::vector<Tratto>{{D / 2 - edge, D / 2 + edge}};
     return std::vector<Tratto>{{D / 2 - edge, D / 2 - hole}, {D / 2 + hole, D / 2 + edge}};
   });
+  disegno.Tratteggia(upper ? 0 : D, asse);
 
   const double cx = disegno.X(D / 2), cy = disegno.Y(D / 2), Sc = disegno.Scala();
   lavagna.SetColour(kBlack);
@@ -72,25 +112,26 @@ void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCi
   lavagna.SetWidth(2);
   lavagna.DrawArc(cx, cy, D / 2 / Sc);
   if (Di > 0) lavagna.DrawArc(cx, cy, Di / 2 / Sc);
-  lavagna.SetStroke(Stroke::Dotted);
-  lavagna.SetWidth(3);
   const auto& acciaio = risultati.acciaio;
-  const Anello anelli[] = {{z.Ad1, z.Dd1, acciaio[Sopra1], acciaio[Sotto1]},
-                           {z.Ad2, z.Dd2, acciaio[Sopra2], acciaio[Sotto2]}};
+  const Anello anelli[] = {{z.Ad1, z.Dd1, acciaio[Sopra1], acciaio[Sotto1], ferri[0]},
+                           {z.Ad2, z.Dd2, acciaio[Sopra2], acciaio[Sotto2], ferri[1]}};
   for (const Anello& anello : anelli)
-    if (anello.area != 0) lavagna.DrawArc(cx, cy, anello.diametro / 2 / Sc);
+    if (anello.area != 0) DrawBars(lavagna, {cx, cy}, anello.diametro / 2 / Sc, Sc, anello.ferri);
   disegno.AsseNeutro(asse);
 
   std::vector<TensioneDisegnata> tensioni{
       {upper ? 0 : D, upper ? risultati.clsSup : risultati.clsInf, true}};
-  std::vector<double> profondita, aree;
-  for (const auto& [area, diametro, sopra, sotto] : anelli) {
+  std::vector<double> profondita, aree, usate;
+  for (const Anello& anello : anelli) {
     // A ring is told at its upper point.
-    profondita.push_back(D / 2 - diametro / 2);
-    aree.push_back(area);
-    if (area == 0) continue;
-    tensioni.push_back({D / 2 - diametro / 2, sopra, false});
-    tensioni.push_back({D / 2 + diametro / 2, sotto, false});
+    profondita.push_back(D / 2 - anello.diametro / 2);
+    aree.push_back(anello.area);
+    if (anello.area == 0) continue;
+    for (const auto& [d, tensione] : {std::pair{D / 2 - anello.diametro / 2, anello.sopra},
+                                      std::pair{D / 2 + anello.diametro / 2, anello.sotto}}) {
+      tensioni.push_back({d, tensione, false});
+      usate.push_back(d);
+    }
   }
   // Under a negative moment the results of the two groups have changed places.
   const Gruppo gruppi[] = {{z.Ac1, z.d1, acciaio[upper ? Gruppo1 : Gruppo2]},
@@ -98,8 +139,12 @@ void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCi
   for (const auto& [area, d, tensione] : gruppi) {
     profondita.push_back(d);
     aree.push_back(area);
-    if (area != 0) tensioni.push_back({d, tensione, false});
+    if (area == 0) continue;
+    tensioni.push_back({d, tensione, false});
+    usate.push_back(d);
   }
+  Dimensions(disegno, z, usate);
+  disegno.Momento(z.M);
   const double ring1 = profondita[0], ring2 = profondita[1];
   disegno.Armature(profondita, aree, [=](double depth) {
     return depth == ring1 || depth == ring2 ? 0 : 2 * HalfChord(D, depth - D / 2);

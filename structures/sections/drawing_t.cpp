@@ -5,13 +5,10 @@
 #include <string>
 
 #include "runtime/numbers.h"
+#include "structures/sections/picture_pens.h"
 
 namespace orm {
 namespace {
-
-using Stroke = DrawOperation::Stroke;
-
-constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110};
 
 double WidestOf(const DatiSezione& z) { return std::max({z.B, z.b, z.Bi}); }
 
@@ -56,6 +53,30 @@ void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {
     HorizontalMeasure(lavagna, 4, 5, 4.5, "");
     lavagna.DrawText(0.3, 4.8, "Spessore anima");
   }
+}
+
+// Height, covers of the outmost layers, flanges; the widths where they are.
+void Dimensions(DisegnoFlessione& disegno, const DatiSezione& z) {
+  const double W = WidestOf(z);
+  std::vector<QuotaSezione> covers, flanges;
+  double first = z.H, last = 0;
+  for (const auto& [A, d] : z.strati)
+    if (A != 0) first = std::min(first, d), last = std::max(last, d);
+  if (first > 0 && first <= z.H / 2) covers.push_back({0, first, "c"});
+  if (last < z.H && last > z.H / 2) covers.push_back({last, z.H, "c"});
+  if (z.s > 0) flanges.push_back({0, z.s, "s"});
+  if (z.si > 0) flanges.push_back({z.H - z.si, z.H, "si"});
+  disegno.QuoteVerticali({0, z.H, "H"}, covers, flanges);
+  const auto width = [&](double b, const char* name) {
+    return QuotaSezione{(W - b) / 2, (W + b) / 2, name};
+  };
+  const bool rectangle = z.s == 0 && z.si == 0;
+  if (z.s > 0) disegno.QuotaLarghezza(width(z.B, "B"), 0);
+  if (z.si > 0) disegno.QuotaLarghezza(width(z.Bi, "Bi"), z.H);
+  if (z.s > 0 && z.si > 0)
+    disegno.QuotaAnima(width(z.b, "b"), (z.s + z.H - z.si) / 2);
+  else
+    disegno.QuotaLarghezza(width(z.b, rectangle ? "B" : "b"), z.si > 0 ? 0 : z.H);
 }
 
 }  // namespace
@@ -112,18 +133,24 @@ void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& z, const RisultatiSezi
                      const TensioniAmmissibili& ammesse, bool verificata) {
   const double W = WidestOf(z), asse = risultati.asse;
   const bool upper = z.M > 0;  // the compressed edge
-  DisegnoFlessione disegno(lavagna, z.H, W, verificata);
-  disegno.Tratteggia(upper ? 0 : z.H, asse, [&](double depth) {
+  DisegnoFlessione disegno(lavagna, z.H, W, z.s > 0 || z.si > 0, verificata, [&](double depth) {
     return std::vector<Tratto>{{(W - WidthAt(z, depth)) / 2, (W + WidthAt(z, depth)) / 2}};
   });
+  disegno.Tratteggia(upper ? 0 : z.H, asse);
 
   std::vector<Point> outline = ContornoT(z);
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    const Point &a = outline[i], &b = outline[(i + 1) % outline.size()];
+    if (a.y == b.y) disegno.Spigolo(std::min(a.x, b.x), std::max(a.x, b.x), a.y);
+  }
   for (Point& p : outline) p = {disegno.X(p.x), disegno.Y(p.y)};
   lavagna.SetColour(kBlack);
   lavagna.SetStroke(Stroke::Solid);
   lavagna.SetWidth(2);
   lavagna.DrawPolygon(outline);
   disegno.AsseNeutro(asse);
+  Dimensions(disegno, z);
+  disegno.Momento(z.M);
 
   std::vector<double> profondita, aree;
   std::vector<TensioneDisegnata> tensioni{

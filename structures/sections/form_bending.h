@@ -70,7 +70,7 @@ class FormFlessione : public FormRiprendibile {
       kRisultato};
   Frame fraNote{*this, "fraNote", "NOTE"};
   Label Label_NOTA{*this, "Label_NOTA", "", Label::Style::Note};
-  orm::Lavagna Lavagna{*this, "Lavagna", 30, 10, 720};
+  orm::Lavagna Lavagna{*this, "Lavagna", 30, 10, 504};
   Button ComCalcola{*this, "ComCalcola", "CALCOLA", Button::Role::Default};
   Button ComEsci{*this, "ComEsci", "ESCI", Button::Role::Close};
 

@@ -113,7 +113,8 @@ void FrmVerFlessC1::Calcola() {
                           std::fabs(tensioni_.massimo) < ammesse.acciaio &&
                           std::fabs(tensioni_.minimo) < ammesse.acciaio;
   Mostra(tensioni_, verificata);
-  DisegnaSezioneC(Lavagna, dati, tensioni_, ammesse, verificata);
+  const auto ferri = [this](std::size_t i) { return BarGroups(anelli.CasellaFerri[i].Text()); };
+  DisegnaSezioneC(Lavagna, dati, tensioni_, {ferri(0), ferri(1)}, ammesse, verificata);
 }
 
 void MostraVerFlessC1(RunState& stato) { FrmVerFlessC1(stato).Presenta(); }

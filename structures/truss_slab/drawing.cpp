@@ -5,19 +5,22 @@
 #include <vector>
 
 #include "runtime/numbers.h"
-#include "runtime/text.h"
+#include "structures/dimension_lines.h"
+#include "structures/truss_slab/tables.h"
 
 namespace orm {
 namespace {
 
+using Anchor = DrawOperation::Anchor;
+
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kConcrete{200, 200, 200},
     kSteel{160, 30, 30};
 constexpr double kMargin = 3;      // units left and right of the longest bar
-constexpr double kLetter = 1.0;    // width of a letter, units
-constexpr double kAboveBar = 2.4;  // from a bar up to the top of its label
-constexpr double kSlabTop = 27, kSlabBottom = 23.4;
-constexpr double kLongStubs = 32.8, kShortStubs = 28.8;
-constexpr double kSpanBars = 19.9, kBarStep = 3.7, kSpanLine = 4;
+constexpr double kAboveBar = 0.2;  // from a bar up to its label
+constexpr double kSlabTop = 21, kSlabBottom = 17.8;
+constexpr double kLongStubs = 25, kShortStubs = 22.2;
+constexpr double kSpanBars = 14.2, kBarStep = 2.5, kSpanLine = 3.4;
+constexpr double kTick = 0.5;
 
 // What is drawn: lengths in m, the labels as they stand. A bar of length 0 is not there.
 struct BarraDisegnata {
@@ -42,23 +45,13 @@ class Scala {
     for (const BarraDisegnata& b : figura.campata)
       oltre_ = std::max(oltre_, (b.campata - luce_) / 2);
   }
-  double X(double m) const {
-    return kMargin + (m + oltre_) * (kLarghezzaDisegno - 2 * kMargin) / (luce_ + 2 * oltre_);
-  }
+  double X(double m) const { return kMargin + (m + oltre_) / Unita(); }
+  double Unita() const { return (luce_ + 2 * oltre_) / (kLarghezzaDisegno - 2 * kMargin); }  // m
 
  private:
   double luce_;
   double oltre_ = 0.2;  // beyond the clear span on each side
 };
-
-double Larghezza(const std::string& testo) {
-  return static_cast<double>(Characters(testo)) * kLetter;
-}
-
-void Centrato(Lavagna& lavagna, double x, double y, const std::string& testo) {
-  lavagna.SetColour(kBlack);
-  lavagna.DrawText(x - Larghezza(testo) / 2, y, testo);
-}
 
 void Rettangolo(Lavagna& lavagna, double x1, double x2, double y1, double y2, bool pieno) {
   lavagna.DrawPolygon({{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}}, pieno);
@@ -68,8 +61,8 @@ void Rettangolo(Lavagna& lavagna, double x1, double x2, double y1, double y2, bo
 void DisegnaSolaio(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
   lavagna.SetColour(kConcrete);
-  Rettangolo(lavagna, kMargin, x1, kSlabBottom - 1.2, kSlabTop, true);
-  Rettangolo(lavagna, x2, kLarghezzaDisegno - kMargin, kSlabBottom - 1.2, kSlabTop, true);
+  Rettangolo(lavagna, kMargin, x1, kSlabBottom - 0.9, kSlabTop, true);
+  Rettangolo(lavagna, x2, kLarghezzaDisegno - kMargin, kSlabBottom - 0.9, kSlabTop, true);
   Rettangolo(lavagna, x1, scala.X(figura.zonaPiena), kSlabBottom, kSlabTop, true);
   Rettangolo(lavagna, scala.X(figura.luce - figura.zonaPiena), x2, kSlabBottom, kSlabTop, true);
   lavagna.SetColour(kGrey);
@@ -80,23 +73,20 @@ void DisegnaSolaio(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
     lavagna.DrawLine(scala.X(zona), kSlabBottom, scala.X(zona), kSlabTop);
 }
 
-void DisegnaMonconi(Lavagna& lavagna, const BarraDisegnata& sin, const BarraDisegnata& dex,
-                    double luce, double y, const Scala& scala) {
+// From the bend in the support to the end in the span, `verso` outward; `nome` stands at the
+// margin.
+void DisegnaMoncone(Lavagna& lavagna, const BarraDisegnata& moncone, double faccia, int verso,
+                    double y, const Scala& scala) {
+  if (moncone.campata == 0) return;
+  const double piega = scala.X(faccia + verso * moncone.incastro);
   lavagna.SetWidth(3);
   lavagna.SetColour(kSteel);
-  if (sin.campata > 0) {
-    lavagna.DrawLine(scala.X(-sin.incastro), y, scala.X(sin.campata), y);
-    lavagna.DrawLine(scala.X(-sin.incastro), y, scala.X(-sin.incastro), y - 0.8);
-  }
-  if (dex.campata > 0) {
-    lavagna.DrawLine(scala.X(luce - dex.campata), y, scala.X(luce + dex.incastro), y);
-    lavagna.DrawLine(scala.X(luce + dex.incastro), y, scala.X(luce + dex.incastro), y - 0.8);
-  }
+  lavagna.DrawLine(piega, y, scala.X(faccia - verso * moncone.campata), y);
+  lavagna.DrawLine(piega, y, piega, y - 0.8);
   lavagna.SetColour(kBlack);
-  if (sin.campata > 0) lavagna.DrawText(kMargin, y + kAboveBar, sin.etichetta);
-  if (dex.campata > 0)
-    lavagna.DrawText(kLarghezzaDisegno - kMargin - Larghezza(dex.etichetta), y + kAboveBar,
-                     dex.etichetta);
+  const double above = y + kAboveBar + lavagna.LineHeight() / 2;
+  lavagna.DrawText(verso < 0 ? kMargin : kLarghezzaDisegno - kMargin, above, moncone.etichetta,
+                   verso < 0 ? Anchor::Left : Anchor::Right);
 }
 
 void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
@@ -107,43 +97,54 @@ void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) 
     lavagna.SetColour(kSteel);
     lavagna.DrawLine(scala.X((figura.luce - barra.campata) / 2), y,
                      scala.X((figura.luce + barra.campata) / 2), y);
-    Centrato(lavagna, kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta);
+    lavagna.SetColour(kBlack);
+    lavagna.DrawText(kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta, Anchor::Above);
     y -= kBarStep;
   }
 }
 
-void DisegnaQuota(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
+// The faces of the supports go through all bars, so that one sees what lies in the supports.
+void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
+  const Quote quote(lavagna, kTick);
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
-  lavagna.SetColour(kGrey);
-  lavagna.SetWidth(1);
-  lavagna.DrawLine(x1, kSpanLine, x2, kSpanLine);
-  for (const double x : {x1, x2}) lavagna.DrawLine(x, kSpanLine - 0.6, x, kSpanLine + 0.6);
-  Centrato(lavagna, kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota);
-  lavagna.DrawText(x1, kSpanLine - 0.7, figura.quotaZona);
-  lavagna.DrawText(x2 - Larghezza(figura.quotaZona), kSpanLine - 0.7, figura.quotaZona);
+  for (const double x : {x1, x2}) quote.Richiamo({x, kSlabTop}, {x, kLongStubs});
+  quote.Orizzontale(x1, x2, kSpanLine, "", kSlabBottom - 0.9);
+  lavagna.SetColour(kBlack);
+  lavagna.DrawText(kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota, Anchor::Above);
+  if (figura.zonaPiena == 0 || figura.quotaZona.empty()) return;
+  const double zona = scala.X(figura.zonaPiena) - x1;
+  for (const auto& [da, a] : {std::pair{x1, x1 + zona}, std::pair{x2 - zona, x2}})
+    quote.Riga({da, kSpanLine}, {a, kSpanLine});
+  lavagna.SetColour(kBlack);
+  const double below = kSpanLine - 0.3 - lavagna.LineHeight() / 2;
+  lavagna.DrawText(x1, below, figura.quotaZona, Anchor::Left);
+  lavagna.DrawText(x2, below, figura.quotaZona, Anchor::Right);
 }
 
-void Disegna(Lavagna& lavagna, const Figura& figura) {
-  const Scala scala(figura);
-  lavagna.Clear();
+void Disegna(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   lavagna.SetFont(9, true);
   lavagna.DrawText(kMargin, kAltezzaDisegno - 0.3, figura.titolo);
-  lavagna.SetFont(9);
+  lavagna.SetFont(8);
+  lavagna.SetHalo(true);
   DisegnaSolaio(lavagna, figura, scala);
-  DisegnaMonconi(lavagna, figura.lungoSin, figura.lungoDex, figura.luce, kLongStubs, scala);
-  DisegnaMonconi(lavagna, figura.cortoSin, figura.cortoDex, figura.luce, kShortStubs, scala);
+  DisegnaMoncone(lavagna, figura.lungoSin, 0, -1, kLongStubs, scala);
+  DisegnaMoncone(lavagna, figura.lungoDex, figura.luce, 1, kLongStubs, scala);
+  DisegnaMoncone(lavagna, figura.cortoSin, 0, -1, kShortStubs, scala);
+  DisegnaMoncone(lavagna, figura.cortoDex, figura.luce, 1, kShortStubs, scala);
   DisegnaCampata(lavagna, figura, scala);
-  DisegnaQuota(lavagna, figura, scala);
+  DisegnaQuote(lavagna, figura, scala);
 }
 
 std::string Etichetta(const char* nome, double diametro, double lunghezza) {
   return std::string(nome) + "  Ø " + FormatPattern(diametro, "###0") +
-         "  L = " + FormatPattern(lunghezza, "###0.00");
+         "  L = " + FormatPattern(lunghezza, "###0.00") + " ml";
 }
 
 BarraDisegnata DiMoncone(const char* nome, const Moncone& moncone) {
   return {moncone.incastro, moncone.campata,
-          Etichetta(nome, moncone.diametro, moncone.Lunghezza())};
+          Etichetta(nome, moncone.diametro, moncone.Lunghezza()) + " (inc. " +
+              FormatPattern(moncone.incastro * 100, "##0") + " + camp. " +
+              FormatPattern(moncone.campata * 100, "##0") + " cm)"};
 }
 
 BarraDisegnata DiCampata(const char* nome, const Barra& barra) {
@@ -165,29 +166,47 @@ void DisegnaSchemaSolaio(Lavagna& lavagna) {
                 {{0, 3.3, "Integrativo n° 1"},
                  {0, 2.4, "Integrativo n° 2"},
                  {0, 4.4, "Aggiuntivo"},
-                 {0, 4.2, kTraliccio}},
+                 {0, kRapportoLuci * 4, kTraliccio}},
                 "Luce netta",
                 ""};
-  Disegna(lavagna, figura);
-  Centrato(lavagna, kLarghezzaDisegno / 2, kLongStubs + kAboveBar - 1.6, "di cantiere");
+  const Scala scala(figura);
+  lavagna.Clear();
+  Disegna(lavagna, figura, scala);
+  // The stubs are laid on the site, the other bars come with the joist.
+  const double x = kLarghezzaDisegno / 2, y = (kLongStubs + kShortStubs) / 2;
+  const double half = lavagna.TextWidth("di cantiere") / 2;
+  const Quote quote(lavagna, kTick);
+  for (const int side : {-1, 1}) {
+    const double faccia = side < 0 ? 0 : figura.luce;
+    for (const auto& [m, row] : {std::pair{figura.lungoSin.campata, kLongStubs},
+                                 std::pair{figura.cortoSin.campata, kShortStubs}})
+      quote.Freccia(x + side * half, y, scala.X(faccia - side * m) + side * 0.6, row);
+  }
+  quote.Centrato(x, y, "di cantiere");
 }
 
 void DisegnaArmatureSolaio(Lavagna& lavagna, const DatiSolaioT& dati,
                            const RisultatiSolaioT& risultati) {
-  const Figura figura{
-      "DISEGNO ARMATURE",
-      dati.luce,
-      risultati.zonaPiena,
-      DiMoncone("Moncone lungo SIN", risultati.sinistra.lungo),
-      DiMoncone("Moncone lungo DEX", risultati.destra.lungo),
-      DiMoncone("Moncone corto SIN", risultati.sinistra.corto),
-      DiMoncone("Moncone corto DEX", risultati.destra.corto),
-      {DiCampata("Integrativo n° 1", risultati.campata[1]),
-       DiCampata("Integrativo n° 2", risultati.campata[2]),
-       DiCampata("Aggiuntivo", risultati.campata[0]), BarraDisegnata{0, dati.luce, kTraliccio}},
-      "(Luce netta = " + FormatPattern(dati.luce, "###0.00") + " ml)",
-      "Zona piena " + FormatPattern(risultati.zonaPiena * 100, "##0.0") + " cm"};
-  Disegna(lavagna, figura);
+  const Figura figura{"DISEGNO ARMATURE",
+                      dati.luce,
+                      risultati.zonaPiena,
+                      DiMoncone("Moncone lungo SIN", risultati.sinistra.lungo),
+                      DiMoncone("Moncone lungo DEX", risultati.destra.lungo),
+                      DiMoncone("Moncone corto SIN", risultati.sinistra.corto),
+                      DiMoncone("Moncone corto DEX", risultati.destra.corto),
+                      {DiCampata("Integrativo n° 1", risultati.campata[1]),
+                       DiCampata("Integrativo n° 2", risultati.campata[2]),
+                       DiCampata("Aggiuntivo", risultati.campata[0]),
+                       BarraDisegnata{0, kRapportoLuci * dati.luce, kTraliccio}},
+                      "(Luce netta = " + FormatPattern(dati.luce, "###0.00") + " ml)",
+                      "Zona piena " + FormatPattern(risultati.zonaPiena * 100, "##0.0") + " cm"};
+  const Scala scala(figura);
+  lavagna.Clear();
+  lavagna.BeginView({scala.Unita() * 100, {0, 0}});
+  lavagna.SetFont(8);
+  lavagna.DrawText(kLarghezzaDisegno - kMargin, kAltezzaDisegno - 1.2,
+                   "lunghezze in scala, altezze no", Anchor::Right);
+  Disegna(lavagna, figura, scala);
 }
 
 }  // namespace orm

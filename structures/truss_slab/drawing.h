@@ -6,8 +6,8 @@
 
 namespace orm {
 
-inline constexpr double kLarghezzaDisegno = 90, kAltezzaDisegno = 38;
-inline constexpr int kPuntiDisegno = 620;  // pixels wide at 100 %
+inline constexpr double kLarghezzaDisegno = 138, kAltezzaDisegno = 30;
+inline constexpr int kPuntiDisegno = 926;  // pixels wide at 100 %
 
 void DisegnaSchemaSolaio(Lavagna& lavagna);
 

@@ -230,6 +230,7 @@ TEST(RichTextDocument, KeepsEveryLookThatTheLogicKnows) {
   EXPECT_EQ(ReadDocument(editor, document), document);
 }
 
+// No bands beside it: the room has the background of the drawing.
 TEST(PaintDrawing, KeepsItsProportionsAtAnySize) {
   PlainForm form;
   Lavagna panel(form, "disegno", 100, 50, 200);
@@ -242,7 +243,7 @@ TEST(PaintDrawing, KeepsItsProportionsAtAnySize) {
     QPainter painter(&picture);
     PaintDrawing(painter, panel, picture.rect());
     painter.end();
-    EXPECT_EQ(picture.pixelColor(side / 2, side / 8), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(side / 2, side / 8), QColor(255, 255, 0));
     EXPECT_EQ(picture.pixelColor(side / 4, side * 5 / 8), QColor(255, 0, 0));
     EXPECT_EQ(picture.pixelColor(side * 3 / 4, side * 3 / 8), QColor(255, 255, 0));
   }

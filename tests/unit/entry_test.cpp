@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/bars.h"
+#include "dialogs/drawing/svg.h"
 #include "dialogs/form.h"
 #include "dialogs/lavagna.h"
 #include "dialogs/number_entry.h"
@@ -165,9 +166,9 @@ TEST(Lavagna, KeepsItsOperationsAsTextAndSvg) {
   EXPECT_EQ(panel.AsText(),
             "scale 0 0 30 10\nbackground 255,255,255\nline 1 1 2.5 1 width 1 colour 0,0,255\n"
             "text 1 2 \"a < b\" font 10 colour 0,0,255\n");
-  EXPECT_NE(panel.AsSvg(300).find("<line x1=\"10\" y1=\"90\" x2=\"25\" y2=\"90\""),
+  EXPECT_NE(SvgOf(panel, 300).find("<line x1=\"10\" y1=\"90\" x2=\"25\" y2=\"90\""),
             std::string::npos);
-  EXPECT_NE(panel.AsSvg(300).find("a &lt; b"), std::string::npos);
+  EXPECT_NE(SvgOf(panel, 300).find("a &lt; b"), std::string::npos);
 }
 
 }  // namespace

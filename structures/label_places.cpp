@@ -1,0 +1,53 @@
+#include "structures/label_places.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orm {
+namespace {
+constexpr double kAside = 0.2;      // between a label and what it steps aside for
+constexpr double kStep = 0.1;       // of the heights that are tried
+constexpr int kSteps = 60;          // up and down
+constexpr double kRightward = 0.6;  // cost of a step to the right, against one up or down
+}  // namespace
+
+bool PostiEtichette::SuUnaRiga(const Riquadro& r) const {
+  return std::any_of(righe_.begin(), righe_.end(),
+                     [&](const Riquadro& riga) { return r.Tocca(riga); });
+}
+
+void PostiEtichette::Scansa(Riquadro& r) const {
+  for (bool moved = true; moved;) {
+    double to = r.x1;
+    for (const double y : {r.y1, (r.y1 + r.y2) / 2, r.y2})
+      for (const double x : bordi_(y))
+        if (x > r.x1 - kAside / 2 && x < r.x2 + kAside / 2) to = std::max(to, x + kAside);
+    for (const Riquadro& altro : occupati_)
+      if (r.Tocca(altro)) to = std::max(to, altro.x2 + kAside);
+    moved = to > r.x1;
+    r.x2 += to - r.x1;
+    r.x1 = to;
+  }
+}
+
+Riquadro PostiEtichette::Posto(double x, double y, double larghezza, double altezza) {
+  Riquadro best{x, x + larghezza, y - altezza / 2, y + altezza / 2};
+  double least = std::numeric_limits<double>::infinity();
+  for (int step = 0; step <= 2 * kSteps; ++step) {
+    const double up = (step % 2 == 0 ? -1 : 1) * ((step + 1) / 2) * kStep;
+    const double middle = y + up;
+    if (step > 0 && (middle < minimo_ || middle > massimo_)) continue;
+    Riquadro r{x, x + larghezza, middle - altezza / 2, middle + altezza / 2};
+    Scansa(r);
+    if (SuUnaRiga(r)) continue;
+    const double cost = std::fabs(up) + kRightward * (r.x1 - x);
+    if (cost >= least) continue;
+    least = cost;
+    best = r;
+  }
+  Occupa(best);
+  return best;
+}
+
+}  // namespace orm

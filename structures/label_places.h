@@ -1,0 +1,42 @@
+// Places for the labels of a drawing: each as near to where it belongs as it stands free of lines,
+// outlines and the other labels.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+namespace orm {
+
+// Units of a panel.
+struct Riquadro {
+  double x1 = 0, x2 = 0, y1 = 0, y2 = 0;
+  bool Tocca(const Riquadro& altro) const {
+    return x1 < altro.x2 && altro.x1 < x2 && y1 < altro.y2 && altro.y1 < y2;
+  }
+};
+
+class PostiEtichette {
+ public:
+  // `bordi` gives the x at which outlines cross a height.
+  PostiEtichette(double minimo, double massimo, std::function<std::vector<double>(double)> bordi)
+      : minimo_(minimo), massimo_(massimo), bordi_(std::move(bordi)) {}
+
+  // A line along x, which labels pass above or below.
+  void Riga(double x1, double x2, double y) { righe_.push_back({x1, x2, y, y}); }
+  void Occupa(const Riquadro& riquadro) { occupati_.push_back(riquadro); }
+
+  // A label of that size whose left edge and middle belong at (x, y): its place, which is taken
+  // from then on. It steps to the right of an outline, up or down beside a line.
+  Riquadro Posto(double x, double y, double larghezza, double altezza);
+
+ private:
+  bool SuUnaRiga(const Riquadro& r) const;
+  // Moves `r` to the right until nothing stands in it.
+  void Scansa(Riquadro& r) const;
+
+  double minimo_, massimo_;  // of the middle of a label
+  std::function<std::vector<double>(double)> bordi_;
+  std::vector<Riquadro> righe_, occupati_;
+};
+
+}  // namespace orm

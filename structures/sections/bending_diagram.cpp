@@ -1,0 +1,107 @@
+// The diagram of stresses beside a section.
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "runtime/numbers.h"
+#include "structures/sections/bending_picture.h"
+#include "structures/sections/picture_pens.h"
+
+namespace orm {
+namespace {
+
+constexpr double kBase = 23.5;
+constexpr double kConcreteUnits = 4, kSteelUnits = 8;  // of the allowed stress
+constexpr double kNarrow = 0.95;                       // labels below each other, in lines
+
+struct Reach {
+  double units;  // length of the line
+  bool over;     // the stress is not below the allowed one
+};
+
+Reach ReachOf(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse) {
+  const double allowed = t.cls ? ammesse.cls : ammesse.acciaio;
+  const double most = t.cls ? kConcreteUnits : kSteelUnits;
+  const bool over = std::fabs(t.valore) >= allowed;
+  return {over ? most : std::fabs(t.valore) / (allowed / most), over};
+}
+
+}  // namespace
+
+std::vector<double> QuoteEtichette(std::vector<double> quote, double passo, bool versoAlto,
+                                   double minimo, double massimo) {
+  const std::size_t n = quote.size();
+  const auto down = [&] {
+    for (std::size_t i = 1; i < n; ++i) quote[i] = std::min(quote[i], quote[i - 1] - passo);
+  };
+  const auto up = [&] {
+    for (std::size_t i = n; i-- > 1;) quote[i - 1] = std::max(quote[i - 1], quote[i] + passo);
+  };
+  if (n == 0) return quote;
+  if (versoAlto) {
+    up();
+    quote.front() = std::min(quote.front(), massimo);
+    down();
+  } else {
+    down();
+    quote.back() = std::max(quote.back(), minimo);
+    up();
+  }
+  return quote;
+}
+
+void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni, double asse,
+                                         const TensioniAmmissibili& ammesse) {
+  if (!(ammesse.acciaio > 0 && ammesse.cls > 0)) return;
+  std::stable_sort(tensioni.begin(), tensioni.end(),
+                   [](const auto& a, const auto& b) { return a.profondita < b.profondita; });
+  lavagna_.SetColour(kBlack);
+  lavagna_.SetStroke(Stroke::Solid);
+  lavagna_.SetWidth(1);
+  lavagna_.DrawLine(kBase, Y(H_) - 0.3, kBase, Y(0) + 0.3);
+  lavagna_.SetFont(kSmall);
+  lavagna_.DrawText(kBase - 0.4, -0.2, "compressione", Anchor::Right);
+  lavagna_.DrawText(kBase + 0.4, -0.2, "trazione", Anchor::Left);
+  for (const TensioneDisegnata& t : tensioni) {
+    const Reach reach = ReachOf(t, ammesse);
+    const double y = Y(t.profondita), end = kBase + (t.valore < 0 ? -reach.units : reach.units);
+    reach.over ? OverLimit(lavagna_) : WithinLimit(lavagna_);
+    lavagna_.DrawLine(kBase, y, end, y);
+    if (t.cls) {
+      lavagna_.SetColour(kBlack);
+      lavagna_.DrawText(end - 0.3, y, "cls", Anchor::Right);
+    }
+  }
+  // Labels give way from the axis outward, so that none reaches a line of the other sign.
+  const bool upperCompressed = std::any_of(tensioni.begin(), tensioni.end(), [&](const auto& t) {
+    return t.cls && t.profondita < asse;
+  });
+  ScriviTensioni(tensioni, ammesse, true, upperCompressed);
+  ScriviTensioni(tensioni, ammesse, false, !upperCompressed);
+}
+
+void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
+                                      const TensioniAmmissibili& ammesse, bool compresse,
+                                      bool versoAlto) {
+  std::vector<double> heights;
+  std::vector<TensioneDisegnata> shown;
+  for (const TensioneDisegnata& t : tensioni) {
+    if ((t.valore < 0) != compresse) continue;
+    shown.push_back(t);
+    heights.push_back(Y(t.profondita));
+  }
+  const auto labels = QuoteEtichette(heights, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.9);
+  lavagna_.SetHalo(true);
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    const double side = compresse ? 1 : -1;
+    Leader(lavagna_, kBase, heights[i], kBase + side * 0.5, labels[i]);
+    lavagna_.SetColour(kBlack);
+    lavagna_.SetFont(kSmall, ReachOf(shown[i], ammesse).over);
+    lavagna_.DrawText(kBase + side * 0.6, labels[i],
+                      FormatPattern(shown[i].valore, "####.0") + " kg/cmq.",
+                      compresse ? Anchor::Left : Anchor::Right);
+  }
+  lavagna_.SetHalo(false);
+}
+
+}  // namespace orm

@@ -1,0 +1,80 @@
+// The dimension lines of a section.
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "runtime/numbers.h"
+#include "structures/sections/bending_picture.h"
+#include "structures/sections/picture_pens.h"
+
+namespace orm {
+namespace {
+
+constexpr double kCovers = 0.3,
+                 kThicknesses = -2.8;  // lines left of the section, which begins at 1
+constexpr double kFromSection = 0.6;   // lines above and below it
+constexpr double kBeforeHeight = 1.4;  // room left of the line of the height
+
+std::string Scritta(const QuotaSezione& quota) {
+  return quota.nome + " " + FormatPattern(std::fabs(quota.a - quota.da), "0.##");
+}
+
+}  // namespace
+
+// Measures one below the other on a line; small ones have their names stepping aside.
+void DisegnoFlessione::Catena(double x, const std::vector<QuotaSezione>& quote) {
+  std::vector<double> middles;
+  for (const QuotaSezione& quota : quote) middles.push_back(Y((quota.da + quota.a) / 2));
+  const auto names = QuoteEtichette(middles, lavagna_.LineHeight(), false, 0, 9);
+  for (std::size_t i = 0; i < quote.size(); ++i) {
+    for (const double depth : {quote[i].da, quote[i].a}) {
+      const auto edges = tratti_(std::clamp(depth, 0.0, H_));
+      quote_.Richiamo({edges.empty() ? X(W_ / 2) : X(edges.front().da), Y(depth)}, {x, Y(depth)});
+    }
+    quote_.Riga({x, Y(quote[i].da)}, {x, Y(quote[i].a)});
+  }
+  lavagna_.SetColour(kBlack);
+  for (std::size_t i = 0; i < quote.size(); ++i)
+    lavagna_.DrawText(x - 0.4, names[i], Scritta(quote[i]), Anchor::Right);
+}
+
+void DisegnoFlessione::QuoteVerticali(const QuotaSezione& altezza,
+                                      const std::vector<QuotaSezione>& copriferri,
+                                      const std::vector<QuotaSezione>& spessori) {
+  lavagna_.SetFont(kSmall);
+  const double x = sinistra_ + kBeforeHeight, from = spessori.empty() ? kCovers : kThicknesses;
+  for (const double depth : {altezza.da, altezza.a})
+    quote_.Richiamo({from, Y(depth)}, {x, Y(depth)});
+  quote_.Riga({x, Y(altezza.da)}, {x, Y(altezza.a)});
+  lavagna_.SetHalo(true);
+  Catena(kThicknesses, spessori);
+  Catena(kCovers, copriferri);
+  lavagna_.SetHalo(false);
+  lavagna_.SetColour(kBlack);
+  const double middle = Y((altezza.da + altezza.a) / 2);
+  lavagna_.DrawText(x - 0.1, std::max(middle, 1 + lavagna_.TextWidth(Scritta(altezza)) / 2 - 1),
+                    Scritta(altezza), Anchor::Above, true);
+}
+
+void DisegnoFlessione::QuotaLarghezza(const QuotaSezione& larghezza, double profondita) {
+  lavagna_.SetFont(kSmall);
+  const double edge = Y(profondita), side = profondita > 0 ? -1 : 1;
+  const double line = edge + side * kFromSection;
+  quote_.Orizzontale(X(larghezza.da), X(larghezza.a), line, Scritta(larghezza), edge);
+  const double half = lavagna_.TextWidth(Scritta(larghezza)) / 2;
+  const double middle = X((larghezza.da + larghezza.a) / 2), over = lavagna_.LineHeight();
+  posti_.Riga(X(larghezza.da) - 0.3, X(larghezza.a) + 0.3, line);
+  posti_.Occupa({middle - half, middle + half, std::min(line, line + side * over),
+                 std::max(line, line + side * over)});
+}
+
+void DisegnoFlessione::QuotaAnima(const QuotaSezione& larghezza, double profondita) {
+  lavagna_.SetFont(kSmall);
+  const double y = Y(profondita), x = X(larghezza.a) + 0.3, height = lavagna_.LineHeight() / 2;
+  quote_.Riga({X(larghezza.da), y}, {X(larghezza.a), y});
+  lavagna_.SetColour(kBlack);
+  lavagna_.DrawText(x, y, Scritta(larghezza), Anchor::Left);
+  posti_.Occupa({x, x + lavagna_.TextWidth(Scritta(larghezza)), y - height, y + height});
+}
+
+}  // namespace orm

@@ -1,0 +1,73 @@
+// Places of labels: free of lines, outlines and each other, whatever the section.
+#include "structures/label_places.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "dialogs/form.h"
+#include "structures/sections/drawing_t.h"
+
+namespace orm {
+namespace {
+
+// A web from 2 to 4 with an edge at height 5 between 0 and 8.
+TEST(LabelPlaces, StepAsideForOutlinesLinesAndEachOther) {
+  PostiEtichette posti(0.5, 9, [](double) { return std::vector<double>{2, 4}; });
+  posti.Riga(0, 8, 5);
+  std::vector<Riquadro> all;
+  for (const double y : {8.0, 7.9, 5.1, 5.0, 4.9, 0.7, 0.6, 0.5}) {
+    const Riquadro r = posti.Posto(3, y, 2.5, 0.8);
+    EXPECT_TRUE(r.x1 > 4 && (r.y1 >= 5 || r.y2 <= 5)) << y;
+    EXPECT_LT(std::fabs((r.y1 + r.y2) / 2 - y), 1.5) << y;
+    for (const Riquadro& before : all) EXPECT_FALSE(r.Tocca(before)) << y;
+    all.push_back(r);
+  }
+  EXPECT_DOUBLE_EQ(posti.Posto(12, 3, 1, 1).x1, 12);  // nothing there: where it belongs
+}
+
+// Areas and stresses of every shape, of sections in use and of odd ones: no letter on the outline,
+// none on another text.
+TEST(LabelPlaces, TextsOfASectionStandFree) {
+  Form form("frm", "");
+  Lavagna lavagna(form, "Lavagna", 30, 10, 504);
+  int seen = 0;
+  for (const double H : {12.0, 30.0, 80.0, 300.0})
+    for (const double b : {10.0, 30.0, 90.0})
+      for (const double B : {b, 100.0, 400.0})
+        for (const double M : {5e5, -5e5}) {
+          const double s = B > b ? H / 5 : 0;
+          const DatiSezione dati{
+              std::max(B, b), b, b, H, s, 0, {{{6, 3}, {4, H / 2}, {9, H - 3}}}, M};
+          RisultatiSezione risultati;
+          VerificaSezioneT(dati, risultati);
+          ASSERT_EQ(risultati.esito, EsitoT::Fatto);
+          DisegnaSezioneT(lavagna, dati, risultati, {2600, 97.5}, true);
+          lavagna.SetFont(8);
+          std::vector<Riquadro> areas;
+          const DrawOperation* outline = nullptr;
+          for (const DrawOperation& op : lavagna.Operations()) {
+            if (op.kind == DrawOperation::Kind::Polygon && op.width == 2) outline = &op;
+            if (op.text.ends_with(" cmq.")) {
+              const auto [x, y] = op.points[0];
+              areas.push_back({x, x + 0.9 * lavagna.TextWidth(op.text), y - 0.3, y + 0.3});
+            }
+          }
+          ASSERT_TRUE(outline != nullptr && areas.size() == 3);
+          for (std::size_t i = 0; i < areas.size(); ++i, ++seen) {
+            for (std::size_t j = 0; j < i; ++j)
+              EXPECT_FALSE(areas[i].Tocca(areas[j])) << H << b << B;
+            for (std::size_t k = 0; k < outline->points.size(); ++k) {
+              const Point &p = outline->points[k],
+                          &q = outline->points[(k + 1) % outline->points.size()];
+              const Riquadro edge{std::min(p.x, q.x), std::max(p.x, q.x), std::min(p.y, q.y),
+                                  std::max(p.y, q.y)};
+              EXPECT_FALSE(areas[i].Tocca(edge)) << H << " " << b << " " << B << " " << M;
+            }
+          }
+        }
+  EXPECT_EQ(seen, 4 * 3 * 3 * 2 * 3);
+}
+
+}  // namespace
+}  // namespace orm
