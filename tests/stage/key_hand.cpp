@@ -32,18 +32,27 @@ QWidget* FocusIn(QWidget& window) {
 }
 
 void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-  QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) focus = QApplication::activeModalWidget();
+  QTest::keyClick(focus, static_cast<Qt::Key>(key), modifiers);
 }
 
 // Steps with `key` until the focus stands where it shall.
 template <class There>
-bool StepUntil(int key, There there, qsizetype most = kMostSteps) {
-  for (qsizetype step = 0; step < most && !there(); ++step) Key(key);
+bool StepUntil(int key, There there) {
+  for (int step = 0; step < kMostSteps && !there(); ++step) Key(key);
   return there();
 }
 
 [[noreturn]] void Unreachable(const QWidget& widget) {
   throw RuntimeFailure("Con i soli tasti non si arriva a " + FromQt(widget.objectName()) + ".");
+}
+
+Qt::Key ArrowTowards(const QWidget& goal, const QWidget& from) {
+  const QPoint way =
+      goal.mapToGlobal(goal.rect().center()) - from.mapToGlobal(from.rect().center());
+  if (std::abs(way.y()) > from.height() / 2) return way.y() > 0 ? Qt::Key_Down : Qt::Key_Up;
+  return way.x() > 0 ? Qt::Key_Right : Qt::Key_Left;
 }
 
 // The letter that stands behind '&'; 0 where there is none.
@@ -59,28 +68,30 @@ void KeyHand::Reach(QWidget& widget) {
   if (!StepUntil(Qt::Key_Tab, [&] { return widget.hasFocus(); })) Unreachable(widget);
 }
 
-// A group of options is one stop of Tab; the arrows go on within it, and choose.
+// A group of options is one stop of Tab; the arrows go on within it and choose, or where none is
+// chosen yet only go on.
 void KeyHand::Turn(QAbstractButton& mark) {
   const QButtonGroup* group = mark.group();
-  if (group != nullptr && group->checkedButton() != nullptr) {
-    Reach(*group->checkedButton());
-    const auto chosen = [&] { return mark.isChecked(); };
-    for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Left, Qt::Key_Down})
-      if (StepUntil(key, chosen, group->buttons().size())) return;
-    Unreachable(mark);
-  }
   if (group == nullptr) {
     Reach(mark);
-  } else {
-    FocusIn(dialog_)->setFocus();
-    const auto inGroup = [&] {
-      auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
-      return button != nullptr && button->group() == group;
-    };
-    if (!StepUntil(Qt::Key_Tab, inGroup)) Unreachable(mark);
-    if (!StepUntil(Qt::Key_Down, [&] { return mark.hasFocus(); })) Unreachable(mark);
+    return Key(Qt::Key_Space);
   }
-  Key(Qt::Key_Space);
+  const auto inGroup = [&] {
+    auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    return button != nullptr && button->group() == group;
+  };
+  FocusIn(dialog_)->setFocus();
+  if (!StepUntil(Qt::Key_Tab, inGroup)) Unreachable(mark);
+  // Once it is chosen the form may close, or choose another one by itself.
+  bool chosen = false;
+  const auto look = QObject::connect(&mark, &QAbstractButton::toggled, &dialog_,
+                                     [&chosen](bool on) { chosen |= on; });
+  for (int step = 0; step < kMostSteps && !chosen && dialog_.Model().IsOpen(); ++step) {
+    QWidget* focus = FocusIn(dialog_);
+    Key(focus == &mark ? Qt::Key_Space : ArrowTowards(mark, *focus));
+  }
+  QObject::disconnect(look);
+  if (!chosen) Unreachable(mark);
 }
 
 void KeyHand::Open(QComboBox& combo) { QTest::keyClick(&combo, Qt::Key_F4); }
@@ -109,7 +120,6 @@ void KeyHand::Push(QPushButton& button) {
 void KeyHand::CloseByWindow() {
   QTest::keyClick(FocusIn(dialog_), Qt::Key_Escape);
   QCoreApplication::processEvents();
-  if (dialog_.Model().IsOpen()) WidgetHand::CloseByWindow();
 }
 
 void KeyHand::Write(Control&, QWidget& field, const QString& text) { Retype(&field, text); }
@@ -125,15 +135,14 @@ void HastyHand::MustStay(const Control& control, const QString& slip) {
 }
 
 void HastyHand::SlipInNumber(NumberBox& box, QWidget& field, const QString& text) {
-  const double before = box.Value();
-  Retype(&field, text + "k");  // a letter leaves the digits
+  Retype(&field, text + "k");  // a letter leaves the digits, and is told
+  if (dialog_.ViewOf(box).TakeRefusal().empty()) throw RuntimeFailure(box.Name() + " : tace.");
   const double right = box.Value();
   // More decimals than the field has, and then taken back again.
   const QString decimals =
       QString(text.contains(',') ? "" : ",") + QString(box.Limits().decimals + 1, '7');
   TypeKeys(&field, decimals);
   MustStay(box, text + decimals);
-  if (box.Value() != before) throw RuntimeFailure(box.Name() + " : vale ciò che non ha preso.");
   for (qsizetype i = 0; i < decimals.size(); ++i) Key(Qt::Key_Backspace);
   if (box.Value() != right) throw RuntimeFailure(box.Name() + " : non vale più quello scritto.");
   // At last it comes from the page of a document.
