@@ -21,7 +21,7 @@ expects() {
 expects 3 'Uso:' "$calcolo"
 expects 0 '' "$calcolo" PPE --help
 expects 3 'Codice sconosciuto' "$calcolo" XXX
-expects 3 'La cartella /qui/no non c' "$calcolo" PPE --cartella /qui/no
+expects 1 '/qui/no' "$calcolo" PPE --cartella /qui/no
 expects 3 'GG/MM/AAAA' "$calcolo" PPE --data 31/02/2002
 expects 3 'Uso:' "$calcolo" --tutti --euro
 expects 1 'NON ESISTE IL FILE DEI DATI DEL PROFESSIONISTA' "$calcolo" PPE --cartella "$work"
