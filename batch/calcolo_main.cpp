@@ -125,7 +125,8 @@ int main(int count, char** words) {
   orm::BatchPlayer player(arguments.data);
   orm::RunState stato(player, orm::WorkFolder(arguments.cartella));
   std::error_code error;
-  if (!std::filesystem::is_directory(arguments.cartella, error)) {
+  if (!std::filesystem::is_directory(arguments.cartella, error) ||
+      ::access(arguments.cartella.c_str(), R_OK | X_OK) != 0) {
     Tell("LA CARTELLA DI LAVORO NON ESISTE O NON SI PUÒ APRIRE : " + arguments.cartella + "\n",
          STDERR_FILENO);
     return kEndedByMessage;

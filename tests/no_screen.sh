@@ -12,3 +12,10 @@ for program in "$@"; do
     echo "$program: esito $code, $said"; exit 1
   fi
 done
+# No letters on the system: a word, and no document of empty pages.
+echo '<fontconfig></fontconfig>' >none.conf
+said=$(env -u DISPLAY -u WAYLAND_DISPLAY FONTCONFIG_FILE="$PWD/none.conf" "${@: -1}" --pdf F.pdf F.DOC 2>&1 >/dev/null)
+code=$?
+if [ $code != 1 ] || [ -e F.pdf ] || ! grep -q 'alcun carattere' <<<"$said"; then
+  echo "senza caratteri: esito $code, $said"; exit 1
+fi

@@ -2,8 +2,8 @@
 #include "desktop/export/export.h"
 
 #include <QBuffer>
-#include <QFontDatabase>
 #include <QPdfWriter>
+#include <QRawFont>
 
 #include "desktop/export/odt.h"
 #include "desktop/export/pages.h"
@@ -17,7 +17,7 @@ std::string CopyOf(CopyKind kind, const QString& text, const QString& title) {
 }
 
 std::string PdfOf(const QString& text, const QString& title) {
-  if (QFontDatabase::families().isEmpty())
+  if (!QRawFont::fromFont(ReportFont(11)).supportsCharacter('0'))
     throw RuntimeFailure("Sul sistema non c'è alcun carattere con cui comporre il documento PDF.");
   QByteArray bytes;
   QBuffer buffer(&bytes);

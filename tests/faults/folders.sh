@@ -36,6 +36,11 @@ if "${as[@]}" "$calcolo" --help >/dev/null 2>&1; then
   refused 'permesso' "parcella protetta" "${as[@]}" "$calcolo" PPE --cartella "$at"
   chmod 000 "$at/UTENTE.DAG"
   refused 'permesso' "file illeggibile" "${as[@]}" "$calcolo" PPE --cartella "$at"
+  chmod 000 "$at"
+  told=$("${as[@]}" "$calcolo" --tutti --cartella "$at" 2>&1)
+  code=$? tried=$((tried + 1))
+  [ "$code $(wc -l <<<"$told")" = '1 1' ] || breaks "cartella illeggibile: esce con $code: $told"
+  chmod 755 "$at"
 else
   echo "SALTATO (in parte): i programmi non si possono eseguire come un altro utente"
 fi
