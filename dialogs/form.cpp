@@ -25,8 +25,7 @@ void CollectControls(const Layout& layout, std::vector<Control*>& controls) {
 bool IsEntry(const Control* control) {
   using Kind = Control::Kind;
   const Kind kind = control->GetKind();
-  return control->TakesFocus() && kind != Kind::Button && kind != Kind::Drawing &&
-         kind != Kind::RichText;
+  return control->TakesFocus() && kind != Kind::Button && kind != Kind::Drawing;
 }
 
 // The buttons that end the form, below everything else.

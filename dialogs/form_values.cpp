@@ -3,6 +3,23 @@
 #include <utility>
 
 namespace orm {
+namespace {
+
+// A value of another kind is that of another version of the form.
+template <class T, class Setter>
+void Put(const FormValues::Value& value, const Setter& set) {
+  if (const T* right = std::get_if<T>(&value)) set(*right);
+}
+
+void PutNumber(NumberBox& box, double value) {
+  const NumberLimits& limits = box.Limits();
+  if (value == 0 || (value >= limits.least && value <= limits.most)) box.SetValue(value);
+}
+
+}  // namespace
+
+FormValues::FormValues(Values values, std::vector<std::string> hidden)
+    : values_(std::move(values)), hidden_(std::move(hidden)) {}
 
 FormValues::FormValues(const Form& form) : hidden_(form.Hidden()) {
   for (Control* control : form.Controls()) {
@@ -33,24 +50,24 @@ void FormValues::PutInto(Form& form) const {
     for (const auto& [name, value] : values_) {
       Control* control = form.Find(name);
       if (auto* number = dynamic_cast<NumberBox*>(control))
-        number->SetValue(std::get<double>(value));
+        Put<double>(value, [&](double v) { PutNumber(*number, v); });
       else if (auto* text = dynamic_cast<TestoBox*>(control))
-        text->SetText(std::get<std::string>(value));
+        Put<std::string>(value, [&](const std::string& v) { text->SetText(v); });
       else if (auto* bars = dynamic_cast<FerriBox*>(control))
-        bars->SetText(std::get<std::string>(value));
+        Put<std::string>(value, [&](const std::string& v) { bars->SetText(v); });
       else if (auto* option = dynamic_cast<OptionButton*>(control))
-        option->SetValue(std::get<bool>(value));
+        Put<bool>(value, [&](bool v) { option->SetValue(v); });
       else if (auto* check = dynamic_cast<CheckBox*>(control))
-        check->SetValue(std::get<bool>(value));
+        Put<bool>(value, [&](bool v) { check->SetValue(v); });
       else if (auto* slider = dynamic_cast<Slider*>(control))
-        slider->SetPosition(std::get<int>(value));
+        Put<int>(value, [&](int v) { slider->SetPosition(v); });
       else if (auto* list = dynamic_cast<ListControl*>(control))
-        list->SetIndex(std::get<int>(value));
+        Put<int>(value, [&](int v) { list->SetIndex(v); });
       else if (auto* day = dynamic_cast<DatePicker*>(control))
-        day->SetValue(std::get<Date>(value));
+        Put<Date>(value, [&](const Date& v) { day->SetValue(v); });
     }
   }
-  form.SetHidden(hidden_);
+  if (hidden_.size() == form.Hidden().size()) form.SetHidden(hidden_);
 }
 
 Drafts::Subject::Subject(Drafts& drafts, const std::string& what)
@@ -87,8 +104,11 @@ void Drafts::Showing::Keep() const {
   if (FormValues left(form_); left != given_) drafts_.kept_[key_] = std::move(left);
 }
 
-void Drafts::KeepOpen() {
-  for (const Showing* showing : open_) showing->Keep();
+Drafts::All Drafts::WithOpenForms() const {
+  All all = kept_;
+  for (const Showing* showing : open_)
+    if (FormValues now(showing->form_); now != showing->given_) all[showing->key_] = std::move(now);
+  return all;
 }
 
 }  // namespace orm

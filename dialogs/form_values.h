@@ -16,16 +16,20 @@ class FormValues {
  public:
   FormValues() = default;
   explicit FormValues(const Form& form);
+  using Value = std::variant<bool, int, double, Date, std::string>;
+  using Values = std::vector<std::pair<std::string, Value>>;  // by the names of the controls
+  // Of an earlier run of the program.
+  FormValues(Values values, std::vector<std::string> hidden);
   bool operator==(const FormValues&) const = default;
-  // Events follow as for any other change.
+  // Events follow as for any other change. What no control of the form can hold stays out.
   void PutInto(Form& form) const;
 
-  using Value = std::variant<bool, int, double, Date, std::string>;
-  const std::vector<std::pair<std::string, Value>>& Values() const { return values_; }
+  const Values& All() const { return values_; }
+  const std::vector<std::string>& Hidden() const { return hidden_; }
 
  private:
-  std::vector<std::pair<std::string, Value>> values_;  // by the names of the controls
-  std::vector<std::string> hidden_;                    // what no control holds
+  Values values_;
+  std::vector<std::string> hidden_;  // what no control holds
 };
 
 // What a person typed into forms and left without confirming, kept while the program runs: a slip
@@ -65,14 +69,15 @@ class Drafts {
     const FormValues given_;
   };
 
-  // All drafts, each under its form and what it is about; forms on the screen come in with
-  // KeepOpen.
-  std::map<std::string, FormValues>& Kept() { return kept_; }
-  void KeepOpen();
+  // All drafts, each under its form and what it is about.
+  using All = std::map<std::string, FormValues>;
+  All& Kept() { return kept_; }
+  // The same with what stands in the forms on the screen, which is the newer.
+  All WithOpenForms() const;
 
  private:
   std::string about_;
-  std::map<std::string, FormValues> kept_;
+  All kept_;
   std::vector<const Showing*> open_;
 };
 

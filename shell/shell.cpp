@@ -20,7 +20,8 @@ namespace orm {
 Shell::Shell(Player& player, WorkFolder folder)
     : title_("   ORM2002      Onorari Rilievi Misure      La Brentoli - Catanzaro"),
       menu_(BuildMenu()),
-      stato_(player, std::move(folder)) {}
+      stato_(player, folder),
+      bozze_(player.DraftsOfRun(), std::move(folder), "finestre") {}
 
 void Shell::Guard(const std::function<void()>& step) {
   try {
@@ -50,6 +51,7 @@ bool Shell::Load() {
   Guard([this] {
     if (!stato_.folder.Exists(kFileUtente)) ScriviUtentePredefinito(stato_.folder);
   });
+  if (bozze_.Load()) stato_.player.Ask(AvvisoBozze());
   return true;
 }
 

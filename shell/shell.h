@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "dialogs/main_window.h"
+#include "shell/saved_drafts.h"
 #include "shell/state/run_state.h"
 
 namespace orm {
@@ -28,6 +29,8 @@ class Shell : public MainWindow {
   void ReadSettings();
 
   RunState& State() { return stato_; }
+  // What was typed and not confirmed, by a run that did not end well; this one's as it goes on.
+  SavedDrafts& Bozze() { return bozze_; }
 
  private:
   // Runs one step; a failure in it becomes its message, and the program goes on.
@@ -36,6 +39,7 @@ class Shell : public MainWindow {
   std::string title_;
   std::vector<MenuItem> menu_;
   RunState stato_;
+  SavedDrafts bozze_;
   bool ended_ = false;
   std::string running_;  // the command at work; empty between commands
 };

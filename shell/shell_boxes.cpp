@@ -41,6 +41,14 @@ MessageBox AvvisoFileInstallatiAssenti(const std::string& nomi) {
       "INSTALLARE DI NUOVO ORM2002");
 }
 
+MessageBox AvvisoBozze() {
+  return {kAttenzione,
+          "L'ULTIMA VOLTA IL PROGRAMMA È STATO INTERROTTO MENTRE SI SCRIVEVA\n"
+          "QUELLO CHE NON ERA CONFERMATO SI RIPRENDE, APRENDO LA STESSA FINESTRA,\n"
+          "CON IL BOTTONE \"RIPRENDI I DATI\"",
+          MessageBox::Icon::Information, MessageBox::Buttons::Ok};
+}
+
 MessageBox AvvisoVersioneNonConservata(const std::string& perche) {
   return {kAttenzione,
           "I DATI SONO SALVATI, MA QUELLI DI PRIMA NON SI SONO POTUTI CONSERVARE\n"

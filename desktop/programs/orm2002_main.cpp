@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "desktop/desktop_app.h"
+#include "desktop/last_words.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/qt_text.h"
@@ -57,5 +58,8 @@ int main(int argc, char** argv) {
   player.SetMainWindow(&window);
   window.ActivateOnceShown();
   window.show();
-  return QApplication::exec();
+  const orm::LastWords lastWords([&shell] { shell.Bozze().Keep(); });
+  const int result = QApplication::exec();
+  shell.Bozze().Forget();
+  return result;
 }

@@ -23,6 +23,8 @@
 #include "runtime/folder.h"
 #include "shell/help/program_texts.h"
 #include "shell/memo/form_memo.h"
+#include "shell/saved_drafts.h"
+#include "shell/shell_boxes.h"
 
 namespace orm {
 namespace {
@@ -83,7 +85,11 @@ int ShowRichText(const std::string& file) {
   FrmGenVisualizzaRtf form(stato);
   form.NomeFile = place.name;
   form.SetTitle(place.name);
+  SavedDrafts drafts(player.DraftsOfRun(), place.folder, place.name);
+  if (drafts.Load()) player.Ask(AvvisoBozze());
+  const LastWords lastWords([&drafts] { drafts.Keep(); });
   player.Show(form);
+  drafts.Forget();
   return kDone;
 }
 

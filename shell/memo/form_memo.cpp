@@ -75,8 +75,16 @@ void FrmGenVisualizzaRtf::OnWindowClose() {
     const Answer risposta = rischi.empty() && !fallito_ ? Answer::Yes : ChiediSeSalvare(rischi);
     if (risposta == Answer::Cancel) return;
     if (risposta == Answer::Yes) Salva(!rischi.empty());
-    Close();
+    Esci(risposta == Answer::Yes ? Uscita::Conferma : Uscita::Finestra);
   });
+}
+
+std::vector<std::string> FrmGenVisualizzaRtf::Hidden() const {
+  return {WriteRtf(RichTextBox1.Document())};
+}
+
+void FrmGenVisualizzaRtf::SetHidden(const std::vector<std::string>& testo) {
+  TryAndStay(stato_.player, [&] { RichTextBox1.Edit(ReadRtf(testo.front()).document); });
 }
 
 Answer FrmGenVisualizzaRtf::ChiediSeSalvare(const std::vector<std::string>& rischi) const {

@@ -30,6 +30,9 @@ class FrmGenVisualizzaRtf : public Form {
   // Saves what the person has written; the window stays when that fails. An untouched text is not
   // written again.
   void OnWindowClose() override;
+  // The text, for a draft.
+  std::vector<std::string> Hidden() const override;
+  void SetHidden(const std::vector<std::string>& testo) override;
 
  private:
   // What of the file on disk would go with a save, in Italian.

@@ -107,8 +107,7 @@ TEST(Show, DraftsComeBack) {
   show([&](Sheet& sheet, FormDialog& dialog) {
     EXPECT_FALSE(offered(sheet, dialog));
     QTest::keyClicks(dialog.focusWidget(), "Ada");
-    player.DraftsOfRun().KeepOpen();  // as a program does that is about to end
-    EXPECT_EQ(player.DraftsOfRun().Kept().size(), 1U);
+    EXPECT_EQ(player.DraftsOfRun().WithOpenForms().size(), 1U);
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
   });
   show([&](Sheet& sheet, FormDialog& dialog) {

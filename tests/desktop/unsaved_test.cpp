@@ -8,6 +8,7 @@
 #include "desktop/last_words.h"
 #include "desktop/viewer/page.h"
 #include "desktop/viewer/window.h"
+#include "shell/shell.h"
 #include "tests/desktop/test_player.h"
 
 namespace orm {
@@ -78,6 +79,43 @@ TEST_F(Unsaved, LiesWithTheUserWhereTheFolderIsGone) {
     fs::rename(PathOf("").substr(0, PathOf("").size() - 1) + "-via", folder_.path().toStdString());
   }
   ComesBack();
+}
+
+// The forms of the program and the memo: offered at the next start in the same folder.
+TEST_F(Unsaved, FormsAndMemoAreOfferedAtTheNextStart) {
+  const WorkFolder folder(folder_.path().toStdString());
+  for (const char* command : {"PERS_UTENTE", "INFORMA_Note"}) {
+    const auto typeAndEnd = [&] {
+      TestPlayer player;
+      Shell shell(player, folder);
+      shell.Load();
+      const LastWords lastWords([&shell] { shell.Bozze().Keep(); });
+      player.onForm = [](FormDialog& dialog) {
+        QTest::keyClicks(dialog.focusWidget(), "Ada");
+        std::raise(SIGTERM);
+        QTest::qWait(60'000);
+      };
+      shell.Choose(command);
+    };
+    EXPECT_EXIT(typeAndEnd(), testing::KilledBySignal(SIGTERM), "") << command;
+    TestPlayer player;
+    QString told;
+    player.onMessage = [&](QMessageBox& box) { told = box.text(); };
+    Shell shell(player, folder);
+    shell.Load();
+    EXPECT_TRUE(told.contains("RIPRENDI I DATI")) << command;
+    player.onForm = [&](FormDialog& dialog) {
+      QWidget* resume = dialog.ViewOf(*dialog.Model().ResumeButton()).Field();
+      EXPECT_TRUE(resume->isVisible()) << command;
+      QTest::mouseClick(resume, Qt::LeftButton);
+      std::string shown;
+      for (Control* control : dialog.Model().Controls()) shown += control->ShownText();
+      EXPECT_NE(shown.find("Ada"), std::string::npos) << command << shown;
+    };
+    shell.Choose(command);
+    shell.Bozze().Forget();
+    EXPECT_EQ(Drafts(folder_), 0);
+  }
 }
 
 TEST_F(Unsaved, AnOpenWindowKeepsItsOwnAndWhatIsNotWantedGoes) {
