@@ -4,7 +4,10 @@
 
 #include "desktop/viewer/file.h"
 #include "runtime/generations.h"
+#include "shell/saved_drafts.h"
+#include "structures/structural_report.h"
 #include "tests/fuzz/fuzzer.h"
+#include "tests/unit/fake_player.h"
 
 namespace orm::fuzz {
 namespace {
@@ -52,8 +55,55 @@ void NomiDelloStorico(std::string_view input) {
           "i file di altri restano");
 }
 
+// A form with a control of each kind takes whatever a file of drafts holds.
+struct Foglio : Form {
+  Foglio() : Form("f", "F") { SetContent(Column({a, b, c, d, e, f, g})); }
+  TestoBox a{*this, "a", ""};
+  InterBox b{*this, "b", ""};
+  FerriBox c{*this, "c", ""};
+  CheckBox d{*this, "d", "D"};
+  ComboBox e{*this, "e", "", {"uno", "due"}};
+  DatePicker f{*this, "f", ""};
+  Slider g{*this, "g", "", 0, 9};
+};
+
+void Bozze(std::string_view bytes) {
+  Drafts::All read;
+  try {
+    read = ReadDrafts(bytes);
+  } catch (const RuntimeFailure& failure) {
+    return Require(!failure.Reason().empty(), "il messaggio ha una ragione");
+  }
+  Require(ReadDrafts(DraftsText(read)) == read, "le bozze salvate si rileggono uguali");
+  for (const auto& [key, draft] : read) {
+    Foglio foglio;
+    draft.PutInto(foglio);
+  }
+}
+
+// Whatever stands in a report that grows, the next element goes behind it and nothing before it
+// changes.
+void Relazione(std::string_view bytes) {
+  struct Starts : FakePlayer {
+    void StartProgram(const std::string&, const std::string&) override {}
+  } player;
+  RunState run(player, Place());
+  RelazioneStrutturale report(run, "OUT_F.DOC");
+  const auto print = [](ReportPrinter& text, bool, int) { text.Line("elemento"); };
+  report.Stampa(print);
+  Put("OUT_F.DOC", bytes);
+  report.Stampa(print);
+  const std::string now = Place().Read("OUT_F.DOC");
+  Require(now.starts_with(bytes) && now.size() > bytes.size(), "la relazione cresce");
+}
+
 }  // namespace
 
-Formats SavedFormats() { return {{"generazioni", NomiDelloStorico}, {"visore", Visore}}; }
+Formats SavedFormats() {
+  return {{"bozze", Bozze},
+          {"generazioni", NomiDelloStorico},
+          {"relazione", Relazione},
+          {"visore", Visore}};
+}
 
 }  // namespace orm::fuzz
