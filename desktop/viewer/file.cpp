@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t kLongestLine = 100'000;  // bytes
-constexpr int kMostLines = 200'000;
+constexpr int kMostLines = 100'000;
 
 // An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
 // like follows in Windows-1252, look like one character of two bytes: «CAFFÈ» ends in one.
