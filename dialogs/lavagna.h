@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "dialogs/control.h"
@@ -85,6 +86,10 @@ class Lavagna : public Control {
   int PixelsWide() const { return pixelsWide_; }
   const std::vector<DrawView>& Views() const { return views_; }
 
+  // Frames that take the place of the drawing's on the screen and stand beside it on paper.
+  void SetOtherViews(std::vector<const Frame*> frames) { otherViews_ = std::move(frames); }
+  const std::vector<const Frame*>& OtherViews() const { return otherViews_; }
+
   // Units that a text of the font that is set takes at 100 %, rather more than less.
   double TextWidth(const std::string& text) const;
   double LineHeight() const;
@@ -104,6 +109,7 @@ class Lavagna : public Control {
   DrawOperation pen_;
   std::vector<DrawOperation> operations_;
   std::vector<DrawView> views_;
+  std::vector<const Frame*> otherViews_;
 };
 
 }  // namespace orm

@@ -1,29 +1,39 @@
 // Lavagna on the screen, with its menu: to a file or to paper.
-#include <QBuffer>
+#include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QImage>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QStyleOptionFocusRect>
+#include <array>
 
 #include "desktop/controls/views.h"
+#include "desktop/drawing_files.h"
 #include "desktop/paint_drawing.h"
 #include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
-#include "dialogs/drawing/svg.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"
 
 namespace orm {
 namespace {
 
-constexpr double kUsualZoom = 1.4;   // where the screen has room for it
-constexpr int kPictureWidth = 1800;  // pixels of a saved PNG
+constexpr double kUsualZoom = 1.4;  // where the screen has room for it
+
+struct Saved {
+  const char* ending;
+  DrawingKind kind;
+};
+constexpr std::array<Saved, 4> kSaved = {{{"svg", DrawingKind::Svg},
+                                          {"png", DrawingKind::Png},
+                                          {"pdf", DrawingKind::Pdf},
+                                          {"dxf", DrawingKind::Dxf}}};
 
 class DrawingWidget : public QWidget {
  public:
@@ -32,7 +42,7 @@ class DrawingWidget : public QWidget {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(DrawingSize(lavagna_).toSize());
     setAccessibleName("Disegno");
-    setToolTip("Il menù del tasto destro salva o stampa il disegno");
+    setToolTip("Il menù del tasto destro copia, salva o stampa il disegno");
   }
   QSize sizeHint() const override { return (DrawingSize(lavagna_) * kUsualZoom).toSize(); }
 
@@ -45,68 +55,74 @@ class DrawingWidget : public QWidget {
   }
   void contextMenuEvent(QContextMenuEvent* event) override {
     QMenu menu(this);
-    menu.addAction("Salva come SVG...", this, [this] { SaveSvg(); });
-    menu.addAction("Salva come PNG...", this, [this] { SavePng(); });
+    menu.addAction("&Copia", this, [this] { Copy(); });
     menu.addSeparator();
-    menu.addAction("Stampa...", this, [this] { Print(); });
+    for (const Saved& saved : kSaved)
+      menu.addAction(QString("Salva come &%1...").arg(QString(saved.ending).toUpper()), this,
+                     [this, &saved] { Save(saved); });
+    menu.addSeparator();
+    menu.addAction("S&tampa con dati e risultati...", this, [this] { Print(); });
     menu.exec(event->globalPos());
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Copy)) return Copy();
+    QWidget::keyPressEvent(event);
   }
 
  private:
-  // The chosen path with its ending; empty when the person gave up.
-  QString AskPath(const QString& ending) {
-    QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", "disegno." + ending,
-                                                ending.toUpper() + " (*." + ending + ")");
-    if (path.isEmpty() || path.endsWith("." + ending, Qt::CaseInsensitive)) return path;
-    path += "." + ending;
-    return !QFileInfo::exists(path) || MayReplace(path) ? path : QString();
+  // As a picture, and as SVG for programs that can take it.
+  void Copy() {
+    auto* copied = new QMimeData;
+    copied->setImageData(PictureOf(lavagna_));
+    copied->setData("image/svg+xml", QByteArray::fromStdString(FileOf(lavagna_, DrawingKind::Svg)));
+    QApplication::clipboard()->setMimeData(copied);
   }
-  // The name was asked for before it had its ending.
+  // The chosen path with its ending; empty when the person gave up. The ending comes first, then
+  // the question whether a file of that name may go.
+  QString AskPath(const QString& ending) {
+    for (QString name = "disegno." + ending;;) {
+      QString path = QFileDialog::getSaveFileName(this, "Salva il disegno", name,
+                                                  ending.toUpper() + " (*." + ending + ")", nullptr,
+                                                  QFileDialog::DontConfirmOverwrite);
+      if (path.isEmpty()) return path;
+      if (!path.endsWith("." + ending, Qt::CaseInsensitive)) path += "." + ending;
+      if (!QFileInfo::exists(path) || MayReplace(path)) return path;
+      name = path;
+    }
+  }
   bool MayReplace(const QString& path) {
-    QMessageBox box(QMessageBox::Question, "ATTENZIONE", "Il file c'è già. Sostituirlo?\n" + path,
+    QMessageBox box(QMessageBox::Question, "ATTENZIONE", "Il file\n" + path + "\nc'è già. Sostituirlo?",
                     QMessageBox::Yes | QMessageBox::No, this);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
   }
   // An older picture of that name stays until the new one is whole.
-  void Write(const QString& path, const std::string& bytes) {
+  void Save(const Saved& saved) {
+    const QString path = AskPath(saved.ending);
+    if (path.isEmpty()) return;
     const QFileInfo file(path);
     try {
-      WorkFolder(FromQt(file.absolutePath())).Replace(FromQt(file.fileName()), bytes);
+      WorkFolder(FromQt(file.absolutePath()))
+          .Replace(FromQt(file.fileName()), FileOf(lavagna_, saved.kind));
     } catch (const RuntimeFailure& failure) {
       WarnPlainly(
           this, "Non è stato possibile scrivere il file\n" + path + "\n" + ToQt(failure.Reason()));
     }
   }
-  void SaveSvg() {
-    const QString path = AskPath("svg");
-    if (!path.isEmpty()) Write(path, SvgOf(lavagna_));
-  }
-  void SavePng() {
-    const QString path = AskPath("png");
-    if (path.isEmpty()) return;
-    const QSizeF size = DrawingSize(lavagna_) * (kPictureWidth / DrawingSize(lavagna_).width());
-    QImage picture(size.toSize(), QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    PaintDrawing(painter, lavagna_, picture.rect());
-    painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!picture.save(&buffer, "PNG"))  // no memory for it, say
-      return WarnPlainly(this, "Non è stato possibile comporre l'immagine\n" + path);
-    Write(path, bytes.toStdString());
-  }
   void Print() {
     QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(ToQt(lavagna_.Owner().Title()).trimmed());
+    printer.setPageOrientation(SheetOf(lavagna_));
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    const QRect paper = printer.pageLayout().paintRectPixels(printer.resolution());
     PrintWhole(printer, this, [&] {
       QPainter painter;
       if (!painter.begin(&printer)) return false;
-      PaintDrawing(painter, lavagna_, paper.translated(-paper.topLeft()));
+      const double zoom = printer.resolution() / 96.0;
+      painter.scale(zoom, zoom);
+      const QSizeF page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
+      PaintFormPage(painter, page / zoom, lavagna_);
       return painter.end();
     });
   }

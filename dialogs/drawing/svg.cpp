@@ -126,6 +126,7 @@ class Picture {
                       Attribute("font-family", "sans-serif") +
                       Attribute("font-size", Number(op.fontSize) + "pt") +
                       Attribute("text-anchor", Sideways(op.anchor));
+    if (op.text.find("  ") != std::string::npos) out += Attribute("xml:space", "preserve");
     if (op.bold) out += Attribute("font-weight", "bold");
     if (op.upright) out += Attribute("transform", "rotate(-90 " + At(p) + ")");
     if (op.halo)

@@ -108,7 +108,8 @@ void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const Quote quote(lavagna, kTick);
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
   for (const double x : {x1, x2}) quote.Richiamo({x, kSlabTop}, {x, kLongStubs});
-  quote.Orizzontale(x1, x2, kSpanLine, "", kSlabBottom - 0.9);
+  for (const double x : {x1, x2}) quote.Richiamo({x, kSlabBottom - 0.9}, {x, kSpanLine});
+  quote.Riga({x1, kSpanLine}, {x2, kSpanLine});
   lavagna.SetColour(kBlack);
   lavagna.DrawText(kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota, Anchor::Above);
   if (figura.zonaPiena == 0 || figura.quotaZona.empty()) return;

@@ -16,6 +16,7 @@ PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
       if (opt.Value()) ScegliVista();
     };
   optVisualizza[Schema].SetValue(true);
+  Lavagna.SetOtherViews({&fraFerri, &fraSollecitazioni, &fraTensioni});
 }
 
 // A table under its headings; these stand in `lblColonne` from `primaColonna` on.

@@ -1,8 +1,16 @@
 // The menu of a drawing: saved as a picture, with keys alone; a failed save keeps the older one.
+#include <QBuffer>
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QImage>
+#include <QMimeData>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QProcess>
 #include <QTemporaryDir>
 
+#include "desktop/drawing_files.h"
 #include "dialogs/lavagna.h"
 #include "runtime/folder.h"
 #include "tests/desktop/test_player.h"
@@ -16,13 +24,14 @@ class DrawingMenu : public testing::Test {
     form_.SetContent(Column({disegno_}));
     disegno_.DrawText(128, 128, "σc = 85,0 kg/cmq");
   }
-  // Chooses an entry of the drawing's menu and gives that path; nothing gives up.
-  QString Choose(int entry, const QString& path) {
+  // Chooses an entry of the drawing's menu and gives that path; nothing gives up. A message box
+  // gets that button, or the one that it proposes.
+  QString Choose(int entry, const QString& path, const QString& button = {}) {
     TestPlayer player;
     QString said;
     player.onForm = [&](FormDialog& dialog) {
       QWidget* drawing = dialog.ViewOf(disegno_).Field();
-      Person person(entry, path);
+      Person person(entry, path, button);
       QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, drawing->mapToGlobal(QPoint()));
       QApplication::sendEvent(drawing, &event);
       said = person.Said();
@@ -30,24 +39,98 @@ class DrawingMenu : public testing::Test {
     player.Show(form_);
     return said;
   }
+  std::string Read(const char* name) { return WorkFolder(folder_.path().toStdString()).Read(name); }
+
   Form form_{"frmDisegno", ""};
   Lavagna disegno_{form_, "disegno", 200, 150, 520};
   QTemporaryDir folder_;
 };
 
+enum Entry { kCopy = 1, kSvg, kPng, kPdf, kDxf };
+
 TEST_F(DrawingMenu, SavesPictures) {
-  EXPECT_EQ(Choose(1, folder_.filePath("uno")), "");
-  const WorkFolder folder(folder_.path().toStdString());
-  EXPECT_NE(folder.Read("uno.svg").find("σc = 85,0 kg/cmq"), std::string::npos);
-  EXPECT_EQ(Choose(2, folder_.filePath("due.png")), "");
+  EXPECT_EQ(Choose(kSvg, folder_.filePath("uno")), "");
+  EXPECT_NE(Read("uno.svg").find("σc = 85,0 kg/cmq"), std::string::npos);
+  EXPECT_EQ(Choose(kPng, folder_.filePath("due.png")), "");
   EXPECT_EQ(QImage(folder_.filePath("due.png")).width(), 1800);
-  Choose(1, "");
-  EXPECT_EQ(folder.Names().size(), 2U);
+  EXPECT_EQ(Choose(kPdf, folder_.filePath("tre")), "");
+  EXPECT_TRUE(Read("tre.pdf").starts_with("%PDF"));
+  EXPECT_EQ(Choose(kDxf, folder_.filePath("quattro")), "");
+  EXPECT_NE(Read("quattro.dxf").find("AC1009"), std::string::npos);
+  Choose(kSvg, "");
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 4);
+}
+
+// The question comes after the ending, with "no" in front; then the dialog asks for another name.
+TEST_F(DrawingMenu, AsksBeforeItReplaces) {
+  const WorkFolder folder(folder_.path().toStdString());
+  folder.Replace("uno.svg", "vecchio");
+  const QString asked = Choose(kSvg, folder_.filePath("uno"));
+  EXPECT_TRUE(asked.contains("uno.svg\nc'è già. Sostituirlo?")) << asked.toStdString();
+  EXPECT_EQ(Read("uno.svg"), "vecchio");
+  Choose(kSvg, folder_.filePath("uno"), "Sì");
+  EXPECT_TRUE(Read("uno.svg").starts_with("<svg"));
+}
+
+TEST_F(DrawingMenu, CopiesAPictureByKeyAndByMenu) {
+  Choose(kCopy, "");
+  EXPECT_EQ(QApplication::clipboard()->image().width(), 1800);
+  QApplication::clipboard()->clear();
+  TestPlayer player;
+  player.onForm = [&](FormDialog& dialog) {
+    QTest::keyClick(dialog.ViewOf(disegno_).Field(), Qt::Key_C, Qt::ControlModifier);
+  };
+  player.Show(form_);
+  EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasFormat("image/svg+xml"));
+}
+
+// Data and results beside the drawing, buttons, hidden fields and empty lines not; all on the
+// sheet.
+TEST_F(DrawingMenu, PrintsOneSheetWithDataAndResults) {
+  Form form("frm", "VERIFICA");
+  Frame dati(form, "dati", "GEOMETRIA");
+  FloatBox altezza(form, "altezza", "Altezza [cm]"), nascosta(form, "nascosta", "Non vista");
+  FerriBox ferri(form, "ferri", "1"), vuoti(form, "vuoti", "strato vuoto");
+  FloatBox d(form, "d", "Distanza"), vuota(form, "vuota", "Distanza");
+  Label titolo(form, "titolo", "Ferri"), distanza(form, "distanza", "Distanza");
+  Button calcola(form, "calcola", "CALCOLA", Button::Role::Default);
+  Lavagna disegno(form, "disegno", 200, 150, 520);
+  disegno.DrawText(10, 100, "asse neutro");
+  form.SetContent(
+      Column({Row({Group(dati, {Fields({altezza, nascosta})}),
+                   Column({Fields({Row({titolo, distanza}), Row({ferri, d}), Row({vuoti, vuota})}),
+                           disegno})}),
+              Buttons({calcola})}));
+  altezza.SetValue(80);
+  nascosta.SetVisible(false);
+  ferri.SetText("3D16");
+  d.SetValue(3);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setResolution(96);
+  QPainter painter(&writer);
+  PaintFormPage(painter, {680, 1000}, disegno);
+  painter.end();
+  QFile file(folder_.filePath("pagina.pdf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(buffer.data());
+  file.close();
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", file.fileName(), "-"});
+  if (!reader.waitForStarted()) GTEST_SKIP() << "pdftotext";
+  reader.waitForFinished();
+  const QString text = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+  for (const char* there : {"VERIFICA", "asse neutro", "GEOMETRIA", "Altezza [cm] 80", "1 3D16 3"})
+    EXPECT_TRUE(text.contains(there)) << there << " in " << text.toStdString();
+  for (const char* away : {"Non vista", "strato vuoto", "CALCOLA"})
+    EXPECT_FALSE(text.contains(away)) << away;
+  EXPECT_EQ(text.count("\f"), 0);
 }
 
 TEST_F(DrawingMenu, AFailedSaveIsTold) {
   const QString path = folder_.filePath("manca/uno.svg");
-  const QString said = Choose(1, path);
+  const QString said = Choose(kSvg, path);
   EXPECT_TRUE(said.startsWith("Non è stato possibile scrivere il file\n" + path))
       << said.toStdString();
 }

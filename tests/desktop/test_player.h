@@ -46,8 +46,12 @@ class Person {
  public:
   // Presses the button with this caption.
   explicit Person(QString button) : button_(std::move(button)) { Wait(); }
-  // Chooses the entry of a menu that many keys down, gives the path, and says yes to boxes.
-  Person(int downs, QString path) : downs_(downs), path_(std::move(path)) { Wait(); }
+  // Chooses the entry of a menu that many keys down, gives the path, and presses that button of a
+  // box or the one that it proposes.
+  Person(int downs, QString path, QString button = {})
+      : button_(std::move(button)), downs_(downs), path_(std::move(path)) {
+    Wait();
+  }
   QString Said() const { return said_; }  // by the last message box
 
  private:

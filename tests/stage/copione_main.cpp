@@ -13,9 +13,16 @@ struct Options {
   bool keys = false;
   bool hasty = false;
   bool update = false;
+  bool drawings = false, whole = false, dark = false;
   std::string pictures;
+  std::string screen = "1280x1024";
   std::vector<std::string> scripts;
 };
+
+QSize QSizeOf(const std::string& text) {
+  const QStringList sides = QString::fromStdString(text).split('x');
+  return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
 
 int PlayAll(const Options& options) {
   std::set<std::string> faults;
@@ -23,7 +30,9 @@ int PlayAll(const Options& options) {
                          : options.keys ? orm::Hand::Keys
                                         : orm::Hand::Mouse;
   const orm::StageBuilder build =
-      options.desktop ? orm::DesktopStage({options.pictures, &faults, hand}) : orm::BuildPlainStage;
+      options.desktop
+          ? orm::DesktopStage({options.pictures, &faults, hand, options.drawings, options.whole})
+          : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;
@@ -42,13 +51,22 @@ int main(int argc, char** argv) {
       ->needs(desktop);
   app.add_flag("--aggiorna", options.update, "riscrive i file attesi, da rileggere");
   app.add_option("--immagini", options.pictures, "cartella delle immagini chieste dai copioni");
+  app.add_flag("--disegni", options.drawings, "con le immagini, ogni disegno come file e stampato");
+  app.add_option("--schermo", options.screen, "misure dello schermo, 1280x1024")
+      ->check([](const std::string& text) {
+        return QSizeOf(text).isEmpty() ? std::string("non è LARGHEZZAxALTEZZA") : std::string();
+      });
+  app.add_flag("--pieno", options.whole, "le finestre che crescono occupano lo schermo");
+  app.add_flag("--scuro", options.dark, "con colori scuri");
   app.add_option("copioni", options.scripts, "file dei copioni")
       ->required()
       ->check(CLI::ExistingFile);
   CLI11_PARSE(app, argc, argv);
   if (!options.desktop) return PlayAll(options);
-  orm::UseNoScreen();
+  const QSize screen = QSizeOf(options.screen);
+  orm::UseNoScreen(screen.width(), screen.height());
   QApplication application(argc, argv);
   orm::DressApplication(application);
+  if (options.dark) orm::UseDarkColours();
   return PlayAll(options);
 }

@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPalette>
+#include <QScreen>
 #include <QTemporaryFile>
 #include <QTest>
 
@@ -52,6 +54,10 @@ class ScriptedPlayer : public DesktopPlayer {
  protected:
   void Run(FormDialog& dialog) override {
     dialog.open();
+    if (options_.wholeScreen && dialog.maximumWidth() == QWIDGETSIZE_MAX) {
+      dialog.resize(dialog.screen()->availableSize() - FormDialog::kFrame);
+      dialog.move(0, 0);
+    }
     QCoreApplication::processEvents();
     const std::unique_ptr<WidgetHand> hand = HandOn(dialog, options_);
     hand->Look();
@@ -125,7 +131,7 @@ class WidgetStage : public Stage {
 
 }  // namespace
 
-void UseNoScreen() {
+void UseNoScreen(int width, int height) {
   if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
   // The scale that the user asks for makes the screen finer, not smaller.
   const double scale = std::max(1.0, qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
@@ -133,8 +139,8 @@ void UseNoScreen() {
   if (screen.open()) {
     screen.write(QString(R"({"screens": [{"name": "", "x": 0, "y": 0, "width": %1, "height": %2,
       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                     .arg(qRound(1280 * scale))
-                     .arg(qRound(1024 * scale))
+                     .arg(qRound(width * scale))
+                     .arg(qRound(height * scale))
                      .toUtf8());
     screen.flush();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
@@ -145,6 +151,13 @@ void UseNoScreen() {
       [](QtMsgType type, const QMessageLogContext& place, const QString& text) {
         if (!text.startsWith("This plugin does not support")) before(type, place, text);
       });
+}
+
+void UseDarkColours() {
+  QPalette dark(QColor(53, 53, 56), QColor(43, 43, 46));
+  dark.setColor(QPalette::Base, QColor(30, 30, 33));
+  dark.setColor(QPalette::Highlight, QColor(58, 120, 200));
+  QApplication::setPalette(dark);
 }
 
 StageBuilder DesktopStage(DesktopStageOptions options) {

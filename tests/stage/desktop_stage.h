@@ -15,11 +15,15 @@ struct DesktopStageOptions {
   std::string pictures;           // folder for the pictures that scripts ask for; empty: none
   std::set<std::string>* faults;  // of forms against the rules of form_lint.h; nullptr: not sought
   Hand hand = Hand::Mouse;
+  bool drawings = false;          // the files and the sheet of a drawing beside its form's picture
+  bool wholeScreen = false;       // forms that grow fill the screen
 };
 StageBuilder DesktopStage(DesktopStageOptions options);
 
-// To be called before the application: windows are drawn in memory, on a screen of the usual size,
+// To be called before the application: windows are drawn in memory, on a screen of that size,
 // unless the user has chosen a platform.
-void UseNoScreen();
+void UseNoScreen(int width = 1280, int height = 1024);
+// To be called after it: a palette as dark desktops have.
+void UseDarkColours();
 
 }  // namespace orm

@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSlider>
@@ -11,7 +13,9 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "desktop/drawing_files.h"
 #include "desktop/qt_text.h"
+#include "runtime/folder.h"
 #include "tests/stage/form_lint.h"
 
 namespace orm {
@@ -52,6 +56,23 @@ int PlaceOf(const ListControl& list, std::string_view text) {
   }
   const auto found = std::find(list.Items().begin(), list.Items().end(), text);
   return found == list.Items().end() ? -1 : static_cast<int>(found - list.Items().begin());
+}
+
+void Save(const std::string& path, const std::string& bytes) {
+  const auto slash = path.rfind('/');
+  WorkFolder(path.substr(0, slash)).Replace(path.substr(slash + 1), bytes);
+}
+
+void SaveDrawing(const Lavagna& drawing, const std::string& path) {
+  Save(path + ".svg", FileOf(drawing, DrawingKind::Svg));
+  Save(path + ".disegno.png", FileOf(drawing, DrawingKind::Png));
+  Save(path + ".pdf", FileOf(drawing, DrawingKind::Pdf));
+  Save(path + ".dxf", FileOf(drawing, DrawingKind::Dxf));
+  QPdfWriter sheet(ToQt(path + ".foglio.pdf"));
+  sheet.setResolution(96);
+  sheet.setPageOrientation(SheetOf(drawing));
+  QPainter painter(&sheet);
+  PaintFormPage(painter, sheet.pageLayout().paintRectPixels(96).size(), drawing);
 }
 
 }  // namespace
@@ -226,7 +247,12 @@ std::string WidgetHand::Title() { return dialog_.Model().Title(); }
 void WidgetHand::Picture(const std::string& name) {
   if (options_.pictures.empty()) return;
   QCoreApplication::processEvents();
-  dialog_.grab().save(ToQt(options_.pictures + "/" + name + ".png"));
+  const std::string path = options_.pictures + "/" + name;
+  dialog_.grab().save(ToQt(path + ".png"));
+  if (!options_.drawings) return;
+  for (const Control* control : dialog_.Model().Controls())
+    if (const auto* drawing = dynamic_cast<const Lavagna*>(control); drawing && drawing->IsShown())
+      SaveDrawing(*drawing, path);
 }
 
 }  // namespace orm
