@@ -111,12 +111,14 @@ void FormDialog::Refit() {
   scroll_->widget()->layout()->activate();
   scroll_->updateGeometry();
   QSize wanted = layout()->totalSizeHint();
-  if (wanted.height() > Room().height())
+  // What grows can be smaller than it wants; a bar comes when even that is too high.
+  const QLayout& content = *scroll_->widget()->layout();
+  const QSize spare = content.totalSizeHint() - content.totalMinimumSize();
+  if (wanted.height() - spare.height() > Room().height())
     wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
   const int title = fontMetrics().horizontalAdvance(windowTitle()) + kTitleButtons;
   wanted.setWidth(std::max(wanted.width(), title));
-  const QLayout& content = *scroll_->widget()->layout();
-  least_ = wanted - content.totalSizeHint() + content.totalMinimumSize();
+  least_ = wanted - spare;
   if (wanted == fitted_) return;
   const bool first = !fitted_.isValid();
   const QSize size = grows_ && !first ? this->size() + wanted - fitted_ : wanted;

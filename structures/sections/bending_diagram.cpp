@@ -97,9 +97,11 @@ void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tens
     Leader(lavagna_, kBase, heights[i], kBase + side * 0.5, labels[i]);
     lavagna_.SetColour(kBlack);
     lavagna_.SetFont(kSmall, ReachOf(shown[i], ammesse).over);
-    lavagna_.DrawText(kBase + side * 0.6, labels[i],
-                      FormatPattern(shown[i].valore, "####.0") + " kg/cmq.",
-                      compresse ? Anchor::Left : Anchor::Right);
+    const std::string text = FormatPattern(shown[i].valore, "####.0") + " kg/cmq.";
+    const double x = kBase + side * 0.6, far = x + side * lavagna_.TextWidth(text);
+    const double half = lavagna_.LineHeight() / 2;
+    lavagna_.DrawText(x, labels[i], text, compresse ? Anchor::Left : Anchor::Right);
+    posti_.Occupa({std::min(x, far), std::max(x, far), labels[i] - half, labels[i] + half});
   }
   lavagna_.SetHalo(false);
 }

@@ -115,21 +115,23 @@ void DisegnoFlessione::Tratteggia(double bordo, double asse) {
 }
 
 void DisegnoFlessione::AsseNeutro(double profondita) {
-  const double y = Y(profondita), height = lavagna_.LineHeight();
+  const double y = Y(profondita);
+  const std::string name = "asse neutro";
+  lavagna_.SetFont(kSmall);
+  const double width = lavagna_.TextWidth(name);
+  double x = 13;
+  // Its height is fixed; it steps out of a wide section.
+  for (const Tratto& tratto : tratti_(std::max(0.0, profondita - 0.4 * Sc_)))
+    if (X(tratto.a) > x && X(tratto.a) < x + width) x = X(tratto.a) + 0.3;
   lavagna_.SetColour(kBlue);
+  lavagna_.SetHalo(true);
+  lavagna_.DrawText(x, y + 0.8, name);
+  lavagna_.SetHalo(false);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
   lavagna_.DrawLine(0.4, y, 15.6, y);
   posti_.Riga(0.4, 15.6, y);
-  const std::string name = "asse neutro";
-  double x = 13;
-  // Its height is fixed; it steps out of a wide section.
-  for (const Tratto& tratto : tratti_(std::max(0.0, profondita - 0.4 * Sc_)))
-    if (X(tratto.a) > x && X(tratto.a) < x + lavagna_.TextWidth(name)) x = X(tratto.a) + 0.3;
-  lavagna_.SetHalo(true);
-  lavagna_.DrawText(x, y + 0.8, name);
-  lavagna_.SetHalo(false);
-  posti_.Occupa({x, x + lavagna_.TextWidth(name), y + 0.8 - height, y + 0.8});
+  posti_.Occupa({x, x + width, y + 0.8 - lavagna_.LineHeight(), y + 0.8});
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,

@@ -61,13 +61,14 @@ class DisegnoFlessione {
   // A thickness told within the section.
   void QuotaAnima(const QuotaSezione& larghezza, double profondita);
   void Momento(double kgxcm);
+  // Compression left of the base line, tension right of it; the value stands on the free side.
+  void DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni, double asse,
+                         const TensioniAmmissibili& ammesse);
+  // Last, as these labels give way to all others.
   // Bars on the axis of symmetry: a mark at each depth (not wider than `larghezza` there) and the
   // area beside it. An area of 0 is no layer.
   void Armature(std::vector<double> profondita, std::vector<double> aree,
                 const std::function<double(double)>& larghezza);
-  // Compression left of the base line, tension right of it; the value stands on the free side.
-  void DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni, double asse,
-                         const TensioniAmmissibili& ammesse);
 
  private:
   void Legenda(bool verificata);

@@ -146,10 +146,10 @@ void DisegnaSezioneC(Lavagna& lavagna, const DatiCircolare& z, const RisultatiCi
   Dimensions(disegno, z, usate);
   disegno.Momento(z.M);
   const double ring1 = profondita[0], ring2 = profondita[1];
+  disegno.DiagrammaTensioni(tensioni, asse, ammesse);
   disegno.Armature(profondita, aree, [=](double depth) {
     return depth == ring1 || depth == ring2 ? 0 : 2 * HalfChord(D, depth - D / 2);
   });
-  disegno.DiagrammaTensioni(tensioni, asse, ammesse);
 }
 
 }  // namespace orm

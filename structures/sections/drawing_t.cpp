@@ -161,8 +161,8 @@ void DisegnaSezioneT(Lavagna& lavagna, const DatiSezione& z, const RisultatiSezi
     aree.push_back(A);
     if (A != 0) tensioni.push_back({d, risultati.acciaio[i], false});
   }
-  disegno.Armature(profondita, aree, [&](double depth) { return WidthAt(z, depth); });
   disegno.DiagrammaTensioni(tensioni, asse, ammesse);
+  disegno.Armature(profondita, aree, [&](double depth) { return WidthAt(z, depth); });
 }
 
 }  // namespace orm
