@@ -18,7 +18,7 @@ class FormScelte : public Form {
   }
   void OnOpen() override { prima_ = FormValues(*this); }
   // What was given up is a draft like any other's; the choices are those from before.
-  void Mostra(Player& player) {
+  void Presenta(Player& player) {
     player.Show(*this);
     if (!Confermato()) prima_.PutInto(*this);
   }

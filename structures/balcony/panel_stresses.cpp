@@ -90,7 +90,7 @@ bool PannelloTensioniBalcone::Supera(const RisultatiBalcone& risultati) const {
 
 void PannelloTensioniBalcone::ChiediPietra(std::size_t pietra) {
   FrmVerPietre& form = stato_.memoria.The<PietreDelBalcone>().form[pietra];
-  form.Mostra(stato_.player);
+  form.Presenta(stato_.player);
   if (form.Confermato()) {
     cdMaterialiS[pietra].SetValue(form.Sigma());
     cdMaterialiT[pietra].SetValue(form.Tau());

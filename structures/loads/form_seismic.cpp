@@ -22,7 +22,7 @@ FrmStruttureCarichiSismici& CarichiSismici(RunState& stato) {
 void ChiediCarichiSismici(RunState& stato, Control& chiamante,
                           const std::function<void()>& cambiati) {
   FrmStruttureCarichiSismici& form = CarichiSismici(stato);
-  form.Mostra(stato.player);
+  form.Presenta(stato.player);
   chiamante.Owner().MoveFocus(chiamante);
   if (form.Confermato()) cambiati();
 }

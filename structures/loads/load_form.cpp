@@ -8,7 +8,7 @@
 namespace orm {
 
 void ChiediCarico(RunState& stato, FormCarichi& form, FloatBox& campo) {
-  form.Mostra(stato.player);
+  form.Presenta(stato.player);
   if (form.Confermato()) campo.SetValue(form.Totale());
   campo.Owner().MoveFocus(campo);
 }
