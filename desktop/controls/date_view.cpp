@@ -14,7 +14,7 @@
 namespace orm {
 namespace {
 
-QDate ToQt(const Date& d) { return {d.year, d.month, d.day}; }
+QDate DateToQt(const Date& d) { return {d.year, d.month, d.day}; }
 
 class DateView : public EntryView {
  public:
@@ -71,8 +71,8 @@ class DateView : public EntryView {
     calendar->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
     calendar->setFirstDayOfWeek(Qt::Monday);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setDateRange(ToQt(picker_.First()), ToQt(picker_.Last()));
-    calendar->setSelectedDate(ToQt(picker_.Value()));
+    calendar->setDateRange(DateToQt(picker_.First()), DateToQt(picker_.Last()));
+    calendar->setSelectedDate(DateToQt(picker_.Value()));
     QWidgetAction action(&menu);
     action.setDefaultWidget(calendar);
     menu.addAction(&action);

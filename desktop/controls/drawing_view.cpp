@@ -14,8 +14,8 @@
 #include <array>
 
 #include "desktop/controls/views.h"
-#include "desktop/drawing_files.h"
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/drawing_files.h"
+#include "desktop/drawing/paint_drawing.h"
 #include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
@@ -91,7 +91,8 @@ class DrawingWidget : public QWidget {
     }
   }
   bool MayReplace(const QString& path) {
-    QMessageBox box(QMessageBox::Question, "ATTENZIONE", "Il file\n" + path + "\nc'è già. Sostituirlo?",
+    QMessageBox box(QMessageBox::Question, "ATTENZIONE",
+                    "Il file\n" + path + "\nc'è già. Sostituirlo?",
                     QMessageBox::Yes | QMessageBox::No, this);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);

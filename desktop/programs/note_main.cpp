@@ -6,7 +6,7 @@
 
 #include "desktop/desktop_app.h"
 #include "desktop/notes/note_pages.h"
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/paint_drawing.h"
 #include "desktop/screen.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"

@@ -16,14 +16,14 @@ FrmVerPietre::FrmVerPietre() : FormScelte("frmVER_PIETRE", "TENSIONI AMMISSIBILI
                          gruppo);
   SetContent(Disposizione());
   optPietra[0].SetValue(true);
-  for (OptionButton& opt : optPietra) opt.onChange = [this] { MostraValori(); };
-  for (Slider& slider : sldPietraS) slider.onChange = [this] { MostraValori(); };
+  for (OptionButton& opt : optPietra) opt.onChange = [this] { Mostra(); };
+  for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
   cdSigma.onChange = cdTau.onChange = [this] {
     if (Scelta() != nullptr) return;
     altraSigma_ = cdSigma.Value();
     altraTau_ = cdTau.Value();
   };
-  MostraValori();
+  Mostra();
 }
 
 void FrmVerPietre::AggiungiPietra(const Pietra& pietra) {
@@ -59,7 +59,7 @@ double FrmVerPietre::Tau() const {
   return pietra == nullptr ? cdTau.Value() : TauDiPietra(*pietra, Sigma());
 }
 
-void FrmVerPietre::MostraValori() {
+void FrmVerPietre::Mostra() {
   const bool altra = Scelta() == nullptr;
   for (std::size_t i = 0; i < sldPietraS.size(); ++i)
     sldPietraS[i].SetEnabled(optPietra[i].Value());

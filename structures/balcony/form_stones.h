@@ -30,7 +30,7 @@ class FrmVerPietre : public FormScelte {
   void AggiungiPietra(const Pietra& pietra);
   Layout Disposizione();
   const Pietra* Scelta() const;  // null for another stone
-  void MostraValori();
+  void Mostra();
 
   double altraSigma_ = 0, altraTau_ = 0;  // as typed for another stone, while one of the list shows
 };

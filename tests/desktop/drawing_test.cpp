@@ -10,7 +10,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "desktop/drawing_files.h"
+#include "desktop/drawing/drawing_files.h"
 #include "dialogs/lavagna.h"
 #include "runtime/folder.h"
 #include "tests/desktop/test_player.h"

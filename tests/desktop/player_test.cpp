@@ -6,7 +6,7 @@
 #include <QTextDocument>
 
 #include "desktop/controls/rich_text_document.h"
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/paint_drawing.h"
 #include "desktop/player/menu_keys.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/player/message_window.h"

@@ -13,7 +13,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "desktop/drawing_files.h"
+#include "desktop/drawing/drawing_files.h"
 #include "desktop/qt_text.h"
 #include "runtime/folder.h"
 #include "tests/stage/form_lint.h"

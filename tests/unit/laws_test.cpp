@@ -133,6 +133,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"shell"},
     {"script"},
     {"batch", "desktop"},
+    {"desktop/drawing"},
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},
     {"desktop/player", "desktop/viewer"},
     {"desktop/programs"},

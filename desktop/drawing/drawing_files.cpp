@@ -1,4 +1,4 @@
-#include "desktop/drawing_files.h"
+#include "desktop/drawing/drawing_files.h"
 
 #include <QBuffer>
 #include <QPageSize>
@@ -6,11 +6,12 @@
 #include <QPdfWriter>
 #include <cmath>
 
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/paint_drawing.h"
 #include "desktop/qt_text.h"
 #include "dialogs/drawing/dxf.h"
 #include "dialogs/drawing/svg.h"
 #include "dialogs/form.h"
+#include "runtime/failure.h"
 
 namespace orm {
 namespace {
@@ -27,7 +28,8 @@ QSizeF SizeOf(const Lavagna& drawing) {
 std::string PngOf(const Lavagna& drawing) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  PictureOf(drawing).save(&buffer, "PNG");
+  if (!PictureOf(drawing).save(&buffer, "PNG"))  // no memory for it, say
+    throw RuntimeFailure("Non è stato possibile comporre l'immagine.");
   return bytes.toStdString();
 }
 

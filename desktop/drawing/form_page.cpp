@@ -4,8 +4,8 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "desktop/drawing_files.h"
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/drawing_files.h"
+#include "desktop/drawing/paint_drawing.h"
 #include "desktop/qt_text.h"
 #include "dialogs/fittings.h"
 #include "dialogs/form.h"

@@ -1,4 +1,4 @@
-#include "desktop/paint_drawing.h"
+#include "desktop/drawing/paint_drawing.h"
 
 #include <QFont>
 #include <QFontMetricsF>
