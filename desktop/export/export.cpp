@@ -17,7 +17,8 @@ std::string CopyOf(CopyKind kind, const QString& text, const QString& title) {
 }
 
 std::string PdfOf(const QString& text, const QString& title) {
-  if (!QRawFont::fromFont(ReportFont(11)).supportsCharacter('0'))
+  // What stands in for a missing font says of every character that it has it, but has no table.
+  if (QRawFont::fromFont(ReportFont(11)).fontTable("cmap").isEmpty())
     throw RuntimeFailure("Sul sistema non c'è alcun carattere con cui comporre il documento PDF.");
   QByteArray bytes;
   QBuffer buffer(&bytes);
