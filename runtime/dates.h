@@ -16,7 +16,7 @@ struct Date {
 };
 
 bool IsValid(const Date& date);
-std::string ShortDate(const Date& date);  // "15/03/2002"
+std::string ShortDate(const Date& date);           // "15/03/2002"
 std::string Padded(int value, std::size_t width);  // with zeros in front
 // "gg/mm/aaaa", also with "-" or "."; two-digit years 00 to 29 are 20xx, the others 19xx. Nothing
 // for any other text and for days that the calendar lacks.

@@ -5,8 +5,8 @@
 #include <iostream>
 
 #include "desktop/desktop_app.h"
-#include "desktop/notes/note_pages.h"
 #include "desktop/drawing/paint_drawing.h"
+#include "desktop/notes/note_pages.h"
 #include "desktop/screen.h"
 #include "runtime/failure.h"
 #include "runtime/folder.h"

@@ -152,7 +152,7 @@ TEST_F(EntryWidgets, EveryWayOfTypingANumber) {
       {form_.ciLire, "1@234@567", "1.234.567"}, {form_.ciLire, "450,000", "rosso"},
       {form_.ciLire, "450.000", "450.000"},     {form_.ciLire, "450.00", "rosso"},
       {form_.ciLire, "12@5", "rosso"},          {form_.ciLire, "-5", "rosso"},
-      {form_.ciLire, "1234567890123", "rosso"},  {form_.ciLire, "12500,75<<<", "12.500"},
+      {form_.ciLire, "1234567890123", "rosso"}, {form_.ciLire, "12500,75<<<", "12.500"},
       {form_.ciLire, "1234.5", "rosso"},        {form_.ciLire, "0001234", "1.234"},
       {form_.ciLire, "1.234<<<<567", "1.567"},  {form_.cdEuro, "1936.27", "1.936,27"},
       {form_.cdEuro, "1234,5", "1.234,50"},     {form_.cdEuro, "1.234,50", "1.234,50"},

@@ -15,8 +15,8 @@ struct DesktopStageOptions {
   std::string pictures;           // folder for the pictures that scripts ask for; empty: none
   std::set<std::string>* faults;  // of forms against the rules of form_lint.h; nullptr: not sought
   Hand hand = Hand::Mouse;
-  bool drawings = false;          // the files and the sheet of a drawing beside its form's picture
-  bool wholeScreen = false;       // forms that grow fill the screen
+  bool drawings = false;     // the files and the sheet of a drawing beside its form's picture
+  bool wholeScreen = false;  // forms that grow fill the screen
 };
 StageBuilder DesktopStage(DesktopStageOptions options);
 

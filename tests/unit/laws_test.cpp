@@ -236,8 +236,7 @@ const std::string kLiterals = "((?:" + kLiteral + "\\s*)+)";
 
 void AddTexts(const std::string& code, const std::string& pattern, Names& texts) {
   for (const std::string& found : Found(code, pattern.c_str())) {
-    const std::string joined =
-        std::regex_replace(found, std::regex("([^\\\\])\"\\s*\""), "$1");
+    const std::string joined = std::regex_replace(found, std::regex("([^\\\\])\"\\s*\""), "$1");
     if (joined.size() > 2) texts.insert(ParseScript("failure " + joined)[0].words[1].text);
   }
 }
