@@ -148,8 +148,9 @@ TEST_F(SenzaMenu, SiteSafetyOf2001InEuro) {
   Confronta("SC2", "interrotta_euro");
 }
 
-// The greatest amounts of the dialogs still fit the columns, with the dearest of everything.
-TEST_F(TutteLeNote, GreatestAmountsOfTheDialogsFit) {
+// A hundred thousand million Lire or a hundred million Euro fit the columns with the dearest of
+// everything. The dialogs take ten times as much, for which a fee may be too long.
+TEST_F(TutteLeNote, GreatAmountsFit) {
   stato.criteri.TipoPercentualeCompensi = "ASSEGNATA";
   stato.criteri.PercCompensiAssegnata = 60;
   for (const bool lire : {true, false}) {

@@ -20,9 +20,9 @@ class NoteConLotti : public NoteTest {
   }
 };
 
-// The greatest sums of works that the dialogs take, in one lot or in twenty, still fit the columns
-// of the report, with the most expensive class, services, staff and compensations.
-TEST_F(NoteConLotti, GreatestAmountsOfTheDialogsFit) {
+// A tenth of the greatest sums that the dialogs take, in one lot or in twenty, fits the columns of
+// the report, with the most expensive class, services, staff and compensations.
+TEST_F(NoteConLotti, GreatAmountsFit) {
   nota.criteri.TipoPercentualeCompensi = "ASSEGNATA";
   nota.criteri.PercCompensiAssegnata = 60;
   for (const bool lire : {true, false})
