@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QTimer>
 #include <QToolTip>
+#include <algorithm>
 #include <array>
 
 #include "desktop/look.h"
@@ -99,22 +100,18 @@ class Balloon : public QLabel {
     const QWidget& ground = *parentWidget();
     const int wanted = fontMetrics().horizontalAdvance(text()) + 20;
     const int width = std::min({wanted, ground.width() - 8, CharactersWide(*this, 52)});
-    resize(width, heightForWidth(width));
+    const int height = heightForWidth(width);
     const QRect around(field_.mapTo(&ground, QPoint(0, 0)), field_.size());
     const int x = std::clamp(around.left(), 4, std::max(4, ground.width() - width - 4));
-    const std::array<QPoint, 3> places = {QPoint(x, around.bottom() + kGap),
-                                          QPoint(RightOfRow(ground), around.top()),
-                                          QPoint(x, around.top() - height() - kGap)};
-    QPoint best = places[0];
-    int least = std::numeric_limits<int>::max();
-    for (const QPoint& place : places) {
-      const int harm = Harm(QRect(place, size()), ground);
-      if (harm >= least) continue;
-      least = harm;
-      best = place;
-    }
-    move(std::clamp(best.x(), 0, std::max(0, ground.width() - width)),
-         std::clamp(best.y(), 0, std::max(0, ground.height() - height())));
+    const int right = RightOfRow(ground);
+    const int room = std::clamp(ground.width() - right - 4, CharactersWide(*this, 14), width);
+    const QSize beside(room, heightForWidth(room));
+    const int middle = around.center().y() - beside.height() / 2;
+    const std::array<QRect, 3> places = {QRect(QPoint(right, std::max(0, middle)), beside),
+                                         QRect(x, around.bottom() + kGap, width, height),
+                                         QRect(x, around.top() - height - kGap, width, height)};
+    setGeometry(*std::ranges::min_element(places, {},
+                                          [&](const QRect& place) { return Harm(place, ground); }));
   }
 
   // Behind the unit that stands beside the field.
@@ -127,8 +124,9 @@ class Balloon : public QLabel {
   int Harm(const QRect& place, const QWidget& ground) const {
     int harm = ground.rect().contains(place) ? 0 : 100;
     for (const QWidget* other : ground.findChildren<QWidget*>()) {
-      const bool typed = other->isVisible() && (other->focusPolicy() & Qt::TabFocus) != 0;
-      if (!typed || !place.intersects({other->mapTo(&ground, QPoint(0, 0)), other->size()}))
+      const bool typed = (other->focusPolicy() & Qt::TabFocus) != 0 || other->objectName() == kName;
+      if (!typed || other == this || !other->isVisible() ||
+          !place.intersects({other->mapTo(&ground, QPoint(0, 0)), other->size()}))
         continue;
       harm += other->hasFocus() || other == &field_ ? 1000 : 1;
     }

@@ -12,6 +12,7 @@
 #include "desktop/qt_text.h"
 
 namespace orm {
+
 class EntryValidator : public QValidator {
  public:
   explicit EntryValidator(EntryView& view, QObject* parent) : QValidator(parent), view_(view) {}

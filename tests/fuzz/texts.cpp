@@ -89,6 +89,13 @@ void CheckEntry(std::string_view text, const NumberLimits& limits) {
   AdmitsDraft(text, limits);
   const NumberReading reading = ReadNumber(text, limits);
   Require(reading.value.has_value() == reading.objection.empty(), "un valore oppure una ragione");
+  if (AdmitsDraft(text, limits) && text.find('.') == std::string_view::npos) {
+    std::string grouped(text);
+    std::size_t caret = grouped.size();
+    GroupThousands(grouped, caret);
+    Require(caret == grouped.size(), "il cursore resta in fondo");
+    Require(ReadNumber(grouped, limits).value == reading.value, "i punti non cambiano il numero");
+  }
   if (!reading.value) return;
   const double value = *reading.value;
   Require(value == 0 || (value >= limits.least && value <= limits.most), "il valore è nei limiti");

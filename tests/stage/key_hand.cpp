@@ -122,8 +122,6 @@ void KeyHand::CloseByWindow() {
   QCoreApplication::processEvents();
 }
 
-void KeyHand::Write(Control&, QWidget& field, const QString& text) { Retype(&field, text); }
-
 // ---------------------------------------------------------------- slips
 
 // Enter in a field that holds no value leaves the form as it is, with the reason beside the field.
@@ -160,7 +158,7 @@ void HastyHand::Write(Control& control, QWidget& field, const QString& text) {
     Retype(&field, "31/02/2024");
     MustStay(control, "31/02/2024");
   }
-  KeyHand::Write(control, field, text);
+  Retype(&field, text);
   if (control.GetKind() != Control::Kind::TextBox || text.isEmpty()) return;
   Key(Qt::Key_Backspace);
   TypeKeys(&field, text.right(1));

@@ -21,7 +21,6 @@ class KeyHand : public WidgetHand {
   void Open(QComboBox& combo) override;
   void ChooseRow(QAbstractItemView& items, int row) override;
   void Push(QPushButton& button) override;
-  void Write(Control& control, QWidget& field, const QString& text) override;
 };
 
 // The same hand, hasty: before each right entry come wrong ones of the kind that happen, each taken
