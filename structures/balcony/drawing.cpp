@@ -212,6 +212,7 @@ void Disegno::Pianta() {
   const double dentro = kFace + std::min(f_.Pm * scala_, spessore / 1.35);
   double lastra = (kFace + fine) / 2;  // where its name stands
   const double mezzo = x(fronte / 2), alto = (2 * kFace + fine) / 3, basso = (kFace + 2 * fine) / 3;
+  double lastraX = mezzo;
   if (f_.SuMensole()) {
     for (const double m : {f_.Ls, f_.Ls + f_.Lm})
       Nascosto(Rettangolo(x(m - f_.Ba / 2), kFace - f_.Bm * scala_, x(m + f_.Ba / 2), dentro));
@@ -222,15 +223,20 @@ void Disegno::Pianta() {
                          kFace + spessore);
     const char* nome = putrelle ? "Putrella" : "Mensole";
     const double meta = lavagna_.TextWidth(nome) / 2;
-    const double y = std::max(basso, kFace - f_.Bm * scala_ / 2);
-    lastra = y > (alto + basso) / 2 ? basso : alto;
-    quote_.Freccia(mezzo - meta, y, x(sinistra), y);
+    // In a narrow slab the two names stand beside each other.
+    const bool stretta = kFace - fine < 4 * lavagna_.LineHeight();
+    const double y = stretta ? lastra : std::max(basso, kFace - f_.Bm * scala_ / 2);
+    if (stretta)
+      lastraX = x(fronte / 4);
+    else
+      lastra = y > (alto + basso) / 2 ? basso : alto;
+    if (!stretta) quote_.Freccia(mezzo - meta, y, x(sinistra), y);
     quote_.Freccia(mezzo + meta, y, x(destra), y);
     quote_.Centrato(mezzo, y, nome);
   } else {
     Nascosto(Rettangolo(x(0), kFace, x(fronte), dentro));
   }
-  quote_.Centrato(mezzo, lastra, "Lastra");
+  quote_.Centrato(lastraX, lastra, "Lastra");
   quote_.Centrato(mezzo, kFace + spessore / 2, "Muro");
   const double sotto = std::min(fine, kFace - f_.Bm * scala_) - 3.6;
   if (f_.Ls > 0) {

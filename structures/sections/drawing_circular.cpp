@@ -71,7 +71,7 @@ void Dimensions(DisegnoFlessione& disegno, const DatiCircolare& z,
 void DisegnaSchemaC(Lavagna& lavagna, bool anulare) {
   lavagna.Clear();
   lavagna.SetWidth(2);
-  lavagna.SetFont(10);
+  lavagna.SetFont(8);
   lavagna.SetColour(kBlue);
   lavagna.DrawArc(5, 5, 4, -176, 176);
   lavagna.DrawText(1.9, 5.85, "Re");

@@ -35,7 +35,7 @@ void HorizontalMeasure(Lavagna& lavagna, double x1, double x2, double y, const s
 
 void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {
   lavagna.SetColour(kGrey);
-  VerticalMeasure(lavagna, 16, 1, 8, "Altezza totale");
+  VerticalMeasure(lavagna, 20, 1, 8, "Altezza totale");
   if (forma.alaSuperiore) {
     HorizontalMeasure(lavagna, 1, 8, 8.7, "Larghezza ala superiore");
     VerticalMeasure(lavagna, 9, 7, 8, "Spessore ala superiore");
@@ -51,7 +51,7 @@ void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {
     HorizontalMeasure(lavagna, 4, 5, 8.7, "Spessore anima");
   } else {
     HorizontalMeasure(lavagna, 4, 5, 4.5, "");
-    lavagna.DrawText(0.3, 4.8, "Spessore anima");
+    lavagna.DrawText(3.7, 4.5, "Spessore anima", Anchor::Right);
   }
 }
 
@@ -107,6 +107,7 @@ std::vector<Point> ContornoT(const DatiSezione& z) {
 
 void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
   lavagna.Clear();
+  lavagna.SetScale(-2, 0, 28, 10);  // room for a name left of the web
   const DatiSezione schema{.B = forma.alaSuperiore ? 7.0 : 1.0,
                            .b = 1,
                            .Bi = forma.alaInferiore ? 7.0 : 1.0,
@@ -123,7 +124,13 @@ void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
   for (int strato = 1; strato <= 8; ++strato) {
     const double y = 7.6 - (strato - 1) * 6.2 / 7;
     lavagna.DrawLine(4.3, y, 4.7, y);
-    lavagna.DrawText(5.3, y + 0.25, "strato " + NumberText(strato));
+  }
+  for (int strato = 1; strato <= 8; ++strato) {
+    const double y = 7.6 - (strato - 1) * 6.2 / 7;
+    // Between the flanges no name stands on their edges.
+    const bool flange = strato == 1 || strato == 8;
+    lavagna.DrawText(5.3, flange ? y : std::clamp(y, 2.46, 6.54), "strato " + NumberText(strato),
+                     Anchor::Left);
   }
   lavagna.SetWidth(1);
   SchemaMeasures(lavagna, forma);
