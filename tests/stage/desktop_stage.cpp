@@ -51,6 +51,11 @@ class ScriptedPlayer : public DesktopPlayer {
   ScreenSize Screen() override { return actor_.Screen(); }
   Date Today() override { return actor_.Today(); }
 
+  // What a hasty person does with the header of a note before the script goes on: it is left in its
+  // middle, which ends the command and must change no file, and found again by the same command.
+  enum class Header { AsScripted, Leave, Left, TakeUp };
+  Header header = Header::AsScripted;
+
  protected:
   void Run(FormDialog& dialog) override {
     dialog.open();
@@ -59,6 +64,16 @@ class ScriptedPlayer : public DesktopPlayer {
       dialog.move(0, 0);
     }
     QCoreApplication::processEvents();
+    if (dialog.Model().Name() == "frmGEN_Intestazione" && header != Header::AsScripted) {
+      HastyHand hand(dialog, options_);
+      if (header == Header::TakeUp) hand.TakeUpAgain();
+      if (header == Header::Leave) {
+        hand.TypeAndLeave();
+        header = Header::Left;
+        return dialog.hide();
+      }
+      header = Header::AsScripted;
+    }
     const std::unique_ptr<WidgetHand> hand = HandOn(dialog, options_);
     hand->Look();
     actor_.MeetForm(dialog.Model(), *hand);
@@ -87,7 +102,10 @@ void ClickIn(QMenu& menu, QAction* action) {
 class WidgetStage : public Stage {
  public:
   WidgetStage(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
-      : keys_(options.hand != Hand::Mouse), player_(actor, folder, std::move(options)) {}
+      : keys_(options.hand != Hand::Mouse),
+        hasty_(options.hand == Hand::Hasty),
+        folder_(folder),
+        player_(actor, folder, std::move(options)) {}
 
   Player& People() override { return player_; }
 
@@ -100,6 +118,17 @@ class WidgetStage : public Stage {
   }
 
   std::string Choose(MainWindow&, std::string_view command) override {
+    using Header = ScriptedPlayer::Header;
+    if (!hasty_ || !command.ends_with("_ID")) return ChooseOnce(command);
+    const auto before = Contents();
+    player_.header = Header::Leave;
+    const std::string objection = ChooseOnce(command);
+    const bool left = player_.header == Header::Left;
+    player_.header = left ? Header::TakeUp : Header::AsScripted;
+    if (!left || !objection.empty()) return objection;
+    return Contents() == before ? ChooseOnce(command) : "la testata lasciata ha cambiato un file";
+  }
+  std::string ChooseOnce(std::string_view command) {
     const std::vector<QMenu*> path = shown_->PathTo(std::string(command));
     if (path.empty()) return "il menù non ha questo comando";
     QMenuBar* bar = shown_->menuBar();
@@ -124,7 +153,14 @@ class WidgetStage : public Stage {
   }
 
  private:
-  bool keys_;
+  std::map<std::string, std::string> Contents() const {
+    std::map<std::string, std::string> contents;
+    for (const std::string& name : folder_.Names()) contents[name] = folder_.Read(name);
+    return contents;
+  }
+
+  bool keys_, hasty_;
+  const WorkFolder& folder_;
   ScriptedPlayer player_;
   std::unique_ptr<MenuWindow> shown_;
 };
