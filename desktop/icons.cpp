@@ -32,9 +32,39 @@ void Lens(QPainterPath& path, qreal x, qreal y, qreal radius) {
   Lines(path, {{x + radius * 0.72, y + radius * 0.72}, {21, 21}});
 }
 
+// Lines of text, each from one place to another.
+void TextLines(QPainterPath& path, std::initializer_list<std::pair<qreal, qreal>> lines) {
+  qreal y = 5;
+  for (const auto& [from, to] : lines) {
+    Lines(path, {{from, y}, {to, y}});
+    y += 14.0 / static_cast<qreal>(lines.size() - 1);
+  }
+}
+
 QPainterPath PathOf(LineIcon shape) {
   QPainterPath path;
   switch (shape) {
+    case LineIcon::Left:
+      TextLines(path, {{4, 20}, {4, 14}, {4, 20}, {4, 12}});
+      break;
+    case LineIcon::Centre:
+      TextLines(path, {{4, 20}, {7, 17}, {4, 20}, {8, 16}});
+      break;
+    case LineIcon::Right:
+      TextLines(path, {{4, 20}, {10, 20}, {4, 20}, {12, 20}});
+      break;
+    case LineIcon::Justified:
+      TextLines(path, {{4, 20}, {4, 20}, {4, 20}, {4, 20}});
+      break;
+    case LineIcon::Bullets:
+      TextLines(path, {{9, 20}, {9, 20}, {9, 20}});
+      for (const qreal y : {5, 12, 19}) path.addEllipse(QPointF(4.5, y), 1, 1);
+      break;
+    case LineIcon::Colour:
+      Lines(path, {{6, 16}, {12, 3}, {18, 16}});
+      Lines(path, {{8.3, 11}, {15.7, 11}});
+      path.addRect(QRectF(4, 19.5, 16, 1.5));
+      break;
     case LineIcon::Save:
       Lines(path, {{4, 4}, {16, 4}, {20, 8}, {20, 20}, {4, 20}, {4, 4}});
       Lines(path, {{7.5, 20}, {7.5, 13.5}, {16.5, 13.5}, {16.5, 20}});

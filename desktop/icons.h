@@ -1,5 +1,5 @@
-// Small line drawings for the commands of the viewer, painted in the colour of the text: they are
-// sharp at every scale and follow the theme.
+// Small line drawings for the commands of the viewer and the memo, painted in the colour of the
+// text: they are sharp at every scale and follow the theme.
 #pragma once
 
 #include <QIcon>
@@ -20,7 +20,13 @@ enum class LineIcon {
   Down,
   Close,
   Back,
-  Forward
+  Forward,
+  Left,
+  Centre,
+  Right,
+  Justified,
+  Bullets,
+  Colour
 };
 
 QIcon IconOf(LineIcon shape);

@@ -14,8 +14,10 @@ struct TextOptions {
   int longest = 250;  // characters
   int lines = 1;      // above 1 the text may hold line ends
   bool readOnly = false;
-  int width = 30;        // usual width in characters
-  bool columns = false;  // in letters of one width, so that columns stand below each other
+  int width = 30;  // usual width in characters
+  // In letters of one width, so that columns stand below each other; what is typed so folds by
+  // words at `width`, the columns that print.
+  bool columns = false;
   std::string unit = {};
   std::string hint = {};
   bool figure = false;  // a result in figures, which stands at the right as numbers do

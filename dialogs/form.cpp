@@ -61,8 +61,18 @@ std::vector<Control*> ControlsOf(const Layout& layout) {
   return controls;
 }
 
-Form::Form(std::string name, std::string title)
-    : name_(std::move(name)), title_(std::move(title)), content_(Column({})) {}
+std::string Heading::Text() const {
+  std::string text;
+  for (const std::string* part : {&note, &subject, &way})
+    if (!part->empty()) text += (text.empty() ? "" : kHeadingMark) + *part;
+  return text;
+}
+
+Form::Form(std::string name, std::string title, std::string step)
+    : name_(std::move(name)),
+      title_(std::move(title)),
+      step_(std::move(step)),
+      content_(Column({})) {}
 
 void Form::SetTitle(std::string title) {
   title_ = std::move(title);
@@ -107,8 +117,9 @@ void Form::MoveFocus(Control& control) {
   if (view_ != nullptr) view_->FocusMoved(control);
 }
 
-void Form::Open() {
+void Form::Open(Heading heading) {
   open_ = true;
+  heading_ = std::move(heading);
   TipodiUscita = Uscita::Finestra;
   OnOpen();
 }

@@ -38,12 +38,21 @@ Layout Column(std::vector<Layout> parts);
 Layout Row(std::vector<Layout> parts);
 Layout Group(Frame& frame, std::vector<Layout> parts);
 // A part is a field with its label, or a Row: of the first field's label, that field, and what
-// stands behind it; of an option or check box as label, and what belongs to it.
+// stands behind it; of an option, a check box or a button as label, and what belongs to it. A note
+// below a field stands in the column of the fields.
 Layout Fields(std::vector<Layout> lines);
 Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons);
 
 // The controls of a layout, frames too, in the order in which a person reads them.
 std::vector<Control*> ControlsOf(const Layout& layout);
+
+// The line above a form of a chain: the note at work, its subject, which gives way where there is
+// no room, and the way to the form. Empty for a form that stands alone.
+struct Heading {
+  std::string note, subject, way;
+  std::string Text() const;  // "ESL · Lire · Scuola via Pini · lotto 1 di 2 · 1/c · importi"
+};
+inline constexpr const char* kHeadingMark = " · ";
 
 // What a form tells the player that shows it.
 class FormView {
@@ -58,8 +67,9 @@ class FormValues;
 
 class Form {
  public:
-  // `name` as scripts and messages know the form, `title` in its title bar.
-  Form(std::string name, std::string title);
+  // `name` as scripts and messages know the form, `title` in its title bar, `step`: what is asked
+  // here, as the heading of a chain of forms tells it.
+  Form(std::string name, std::string title, std::string step = {});
   virtual ~Form() = default;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -67,6 +77,8 @@ class Form {
   const std::string& Name() const { return name_; }
   const std::string& Title() const { return title_; }
   void SetTitle(std::string title);
+  const std::string& Step() const { return step_; }
+  const Heading& GetHeading() const { return heading_; }
 
   // All controls in reading order, which is the tab order: as the layout names them.
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -89,14 +101,14 @@ class Form {
   Control* FirstFocus() const;
   void MoveFocus(Control& control);
 
-  // The life of a form. Open: called by the player when it shows the form. Close: the form leaves
-  // the screen when the running event ends; its values stay.
+  // The life of a form. Open: called by the player when it shows the form, with the heading that
+  // it then has. Close: the form leaves the screen when the running event ends; its values stay.
   virtual void OnOpen() {}
   // The window button or Escape. What the case says for leaving; otherwise nothing more than Close.
   virtual void OnWindowClose() { Close(); }
   // Any key, for a form that ends on one.
   virtual bool ClosesOnAnyKey() const { return false; }
-  void Open();
+  void Open(Heading heading = {});
   void Close() { open_ = false; }
   bool IsOpen() const { return open_; }
 
@@ -115,7 +127,8 @@ class Form {
 
  private:
   friend class Control;
-  std::string name_, title_;
+  std::string name_, title_, step_;
+  Heading heading_;
   std::vector<Control*> controls_;
   Layout content_;
   Control* firstFocus_ = nullptr;

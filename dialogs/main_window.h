@@ -21,6 +21,12 @@ const MenuItem* TopOf(const std::vector<MenuItem>& menu, std::string_view comman
 // The commands of a menu with all its submenus, in their order.
 std::vector<std::string> CommandsOf(const std::vector<MenuItem>& menu);
 
+// What a command has saved, and the command that goes on from there.
+struct SavedNote {
+  std::string text;  // empty: nothing was saved
+  std::string next;
+};
+
 class MainWindow {
  public:
   virtual ~MainWindow() = default;
@@ -36,6 +42,8 @@ class MainWindow {
   virtual void MenuOpened(std::string_view topName) = 0;
   // A command is chosen. A run-time failure within it has become a message when this comes back.
   virtual void Choose(std::string_view commandName) = 0;
+  // What the last command saved, told once; the window shows it for a while.
+  virtual SavedNote TakeSaved() { return {}; }
   // Help is asked for: about a command, or without one about what is on the screen.
   virtual void Help(std::string_view commandName) = 0;
   // True when a command has ended the program.

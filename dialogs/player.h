@@ -12,6 +12,31 @@
 
 namespace orm {
 
+struct Heading;
+
+// A text of several lines on one, a blank between its words.
+std::string OnOneLine(const std::string& text);
+
+// Where a person stands in a chain of forms.
+struct Place {
+  std::string note;              // case and currency; empty outside any chain
+  std::string subject;           // of the note, as it was typed
+  std::vector<std::string> way;  // lot, class, period, whatever the forms shown belong to
+};
+
+// A part of the way, gone for as long as this lives: then the person is back where he was.
+class PartOfWay {
+ public:
+  PartOfWay(Place& place, std::vector<std::string> parts);
+  ~PartOfWay() { place_ = std::move(before_); }
+  PartOfWay(const PartOfWay&) = delete;
+  PartOfWay& operator=(const PartOfWay&) = delete;
+
+ private:
+  Place& place_;
+  Place before_;
+};
+
 struct MessageBox {
   enum class Icon { None, Information, Exclamation, Critical, Question };
   enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
@@ -49,6 +74,10 @@ struct OutsidePrograms {
 class Player {
  public:
   virtual ~Player() = default;
+
+  Place place;
+  // The heading of a form that is shown now.
+  Heading HeadingOf(const Form& form) const;
 
   // Shows the form and comes back when it has closed. The form keeps its values; what it was left
   // with unconfirmed is kept as a draft.

@@ -12,7 +12,10 @@ std::string FormStatements::Play(const Statement& s) {
     hand_.Picture(s.words[1].text);
     return {};
   }
-  if (verb == "expect" && s.words[1].Is("title")) return ExpectTitle(s.words[2].text);
+  if (verb == "expect" && s.words[1].Is("title"))
+    return ExpectLine("il titolo", hand_.Title(), s.words[2].text);
+  if (verb == "expect" && s.words[1].Is("heading"))
+    return ExpectLine("l'intestazione", hand_.Heading(), s.words[2].text);
   if (verb == "show" && s.words[1].Is("*")) {
     for (Control* control : form_.Controls())
       if (hand_.IsVisible(*control)) Show(*control);
@@ -67,8 +70,9 @@ std::string FormStatements::Expect(Control& control, const Word& value) {
   return Matches(value.text, shown) ? "" : control.Name() + " mostra " + Quoted(shown);
 }
 
-std::string FormStatements::ExpectTitle(const std::string& title) {
-  return hand_.Title() == title ? "" : "il titolo è " + Quoted(hand_.Title());
+std::string FormStatements::ExpectLine(const char* what, const std::string& shown,
+                                       const std::string& wanted) {
+  return Matches(wanted, shown) ? "" : what + (" è " + Quoted(shown));
 }
 
 void FormStatements::Show(Control& control) {

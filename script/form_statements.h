@@ -24,7 +24,8 @@ class FormStatements {
   std::string Set(Control& control, const std::string& value);
   std::string Press(Control& control);
   std::string Expect(Control& control, const Word& value);
-  std::string ExpectTitle(const std::string& title);
+  static std::string ExpectLine(const char* what, const std::string& shown,
+                                const std::string& wanted);
   void Show(Control& control);
 
   Form& form_;

@@ -22,6 +22,7 @@ class FormHand {
   virtual bool IsVisible(Control& control) = 0;
   virtual bool IsEnabled(Control& control) = 0;
   virtual std::string Title() = 0;
+  virtual std::string Heading() = 0;  // the line that tells where one is; empty where there is none
   // Keeps a picture of the form as NAME.png where the player can make one.
   virtual void Picture(const std::string& name) = 0;
 };

@@ -25,6 +25,7 @@ class PlainHand : public FormHand {
   bool IsVisible(Control& control) override { return control.IsShown(); }
   bool IsEnabled(Control& control) override { return control.IsActive(); }
   std::string Title() override { return form_.Title(); }
+  std::string Heading() override { return form_.GetHeading().Text(); }
   void Picture(const std::string& name) override {
     if (take_) take_(form_, name);
   }

@@ -136,6 +136,11 @@ void RunCommand(RunState& stato, std::string_view name) {
     CalcoloParcella(stato);
 }
 
+std::string CalculationOf(std::string_view inputName) {
+  const std::string_view stem = inputName.substr(0, inputName.rfind('_'));
+  return std::string(stem) + "_VS";
+}
+
 bool IsCommand(std::string_view name) {
   return name == "File_Esci" || FindCommand(name) != nullptr ||
          FindCaseCommand(name).fee != nullptr;

@@ -1,6 +1,7 @@
 // What each menu command does.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "shell/state/run_state.h"
@@ -9,6 +10,9 @@ namespace orm {
 
 // Runs a command. An unknown name does nothing.
 void RunCommand(RunState& stato, std::string_view name);
+
+// The command that calculates the note of an input command.
+std::string CalculationOf(std::string_view inputName);
 
 // Whether there is a command of that name.
 bool IsCommand(std::string_view name);

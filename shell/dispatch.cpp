@@ -13,6 +13,11 @@
 namespace orm {
 namespace {
 
+// The chain of forms of a note, whose headings tell it.
+Place PlaceOf(const RunState& stato) {
+  return {stato.CasoDiParcella + kHeadingMark + (stato.ModoLire ? "Lire" : "Euro"), "", {}};
+}
+
 std::string SetFileNames(RunState& stato) {
   const NomiFile nomi = NomiDiCaso(stato.CasoDiParcella, stato.ModoLire);
   stato.FileInt = nomi.FileInt;
@@ -34,7 +39,10 @@ void InputDatiParcella(RunState& stato) {
   SetFileNames(stato);
   const Drafts::Subject nota(stato.player.DraftsOfRun(), stato.FileInp);
   const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
-  if (fee != nullptr && fee->input != nullptr) fee->input(stato);
+  if (fee == nullptr || fee->input == nullptr) return;
+  const PartOfWay chain(stato.player.place, {});
+  stato.player.place = PlaceOf(stato);
+  fee->input(stato);
 }
 
 bool CalcoloParcella(RunState& stato) {
@@ -45,8 +53,12 @@ bool CalcoloParcella(RunState& stato) {
     stato.player.Ask(*missing);
     return false;
   }
-  FrmPerCriteri criteri(stato);
-  stato.player.Show(criteri);
+  {
+    const PartOfWay chain(stato.player.place, {});
+    stato.player.place = PlaceOf(stato);
+    FrmPerCriteri criteri(stato);
+    stato.player.Show(criteri);
+  }
   fee->calcolo(stato).uscita.Save(stato.folder, report);
   stato.player.StartProgram(stato.editors.EditorTesti, report);
   return true;

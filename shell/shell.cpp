@@ -13,6 +13,7 @@
 #include "shell/personal/settings.h"
 #include "shell/shell_boxes.h"
 #include "tariff/files/user_files.h"
+#include "tariff/forms/input_step.h"
 #include "utilities/pension_file.h"
 
 namespace orm {
@@ -91,8 +92,11 @@ void Shell::Choose(std::string_view commandName) {
     return;
   }
   running_ = commandName;
+  auto& nota = stato_.memoria.The<NotaSalvata>();
+  nota = {};
   Guard([&] { RunCommand(stato_, commandName); });
   running_.clear();
+  if (!nota.testo.empty()) saved_ = {nota.testo, CalculationOf(commandName)};
 }
 
 void Shell::Help(std::string_view commandName) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "dialogs/main_window.h"
 #include "shell/saved_drafts.h"
@@ -19,6 +20,7 @@ class Shell : public MainWindow {
   void FirstActivation() override;
   void MenuOpened(std::string_view topName) override;
   void Choose(std::string_view commandName) override;
+  SavedNote TakeSaved() override { return std::exchange(saved_, {}); }
   void Help(std::string_view commandName) override;
   bool Ended() const override { return ended_; }
 
@@ -41,6 +43,7 @@ class Shell : public MainWindow {
   RunState stato_;
   SavedDrafts bozze_;
   bool ended_ = false;
+  SavedNote saved_;
   std::string running_;  // the command at work; empty between commands
 };
 

@@ -42,7 +42,7 @@ FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
   SetContent(
       Column({Group(lavori.fraValuta, {Row({lavori.optValuta1, lavori.optValuta2})}),
               Fields({lavori.ciImporto, lavori.cdImporto, lavori.comPeriodo, comCoefficiente}),
-              Fields({Text1, Text2}), Buttons({cmdESCI, cmdCALCOLA})}));
+              Fields({Text1, Text2}), Buttons({cmdCALCOLA, cmdESCI})}));
 }
 
 void FrmUtiContabilita::ScegliValuta() {

@@ -39,15 +39,16 @@ FrmInaInPensione::FrmInaInPensione(RunState& stato)
 }
 
 Layout FrmInaInPensione::Disposizione() {
-  std::vector<Layout> righe{Row({Label2, Label3})};
+  // The years in two columns, so that the window is no tower with an empty half.
+  const std::size_t meta = (ciRedditi.size() + 1) / 2;
+  std::vector<Layout> prime{Row({Label2, Label3})}, ultime{Row({lblAnno, lblReddito})};
   for (std::size_t i = 0; i < ciRedditi.size(); ++i)
-    righe.push_back(Row({*Label1[i], *ciRedditi[i]}));
-  return Column(
-      {Group(fraCaso, {Row({Option1, Option2})}),
-       Row({Column({Fields(std::move(righe))}),
-            Column({Group(fraAnzianita, {Fields({Row({Label6, ciAnni}), Row({Label7, ciGiorni})})}),
-                    Fields({Row({Label4, ciPensioneAnnuale})}), lblPensioneMinima})}),
-       Buttons({cmdARCHIVIA, cmdCALCOLOPENSIONE})});
+    (i < meta ? prime : ultime).push_back(Row({*Label1[i], *ciRedditi[i]}));
+  return Column({Group(fraCaso, {Row({Option1, Option2})}),
+                 Row({Column({Fields(std::move(prime))}), Column({Fields(std::move(ultime))})}),
+                 Group(fraAnzianita, {Row({Label6, ciAnni, Label7, ciGiorni})}),
+                 Row({Label4, ciPensioneAnnuale, lblPensioneMinima}),
+                 Buttons({cmdCALCOLOPENSIONE, cmdARCHIVIA})});
 }
 
 RedditiAnnui FrmInaInPensione::Redditi() const {

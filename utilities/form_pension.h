@@ -20,6 +20,8 @@ class FrmInaInPensione : public Form {
   OptionButton Option2{*this, "Option2", "Archiviato", caso};
   Label Label2{*this, "Label2", "  ANNO  "};
   Label Label3{*this, "Label3", "  REDDITO PROFESSIONALE  "};
+  Label lblAnno{*this, "lblAnno", "  ANNO  "};  // of the second column
+  Label lblReddito{*this, "lblReddito", "  REDDITO PROFESSIONALE  "};
   std::vector<std::unique_ptr<Label>> Label1;        // the years, 1984 to 2000
   std::vector<std::unique_ptr<InterBox>> ciRedditi;  // Lire
   Frame fraAnzianita{*this, "Label5", "  Anzianità di Contribuzione  "};

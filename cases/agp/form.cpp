@@ -13,7 +13,7 @@ constexpr const char* kAvvertenze =
 }  // namespace
 
 FrmAgpDatig::FrmAgpDatig(Player& player, DatiAgp& dati)
-    : Form("frmAGP_Datig", "AGGIORNAMENTO  PREZZI : DATI GENERALI"), dati_(dati) {
+    : Form("frmAGP_Datig", "AGGIORNAMENTO  PREZZI : DATI GENERALI", "dati generali"), dati_(dati) {
   SetContent(Column({Group(Frame1, {Option1, Option2}), Group(Frame2, {Row({OptionSI, OptionNO})}),
                      Group(Frame3, {Decreti}), Buttons({cmdAvvertenze, Command1})}));
   metodo.Choose(dati.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO" ? 0 : 1);

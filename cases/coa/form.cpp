@@ -15,7 +15,8 @@ void Prendi(const ComboBox& lista, int primo, std::int16_t& valore) {
 }  // namespace
 
 FrmCoaDati::FrmCoaDati(RunState& stato, DatiCoa& dati)
-    : FormInput(stato, "frmCOA_Dati", "INPUT DATI PARCELLA PER COLLAUDO AMMINISTRATIVO"),
+    : FormInput(stato, "frmCOA_Dati", "INPUT DATI PARCELLA PER COLLAUDO AMMINISTRATIVO",
+                "dati del collaudo"),
       dati_(dati) {
   SetContent(Column({Fields({cboDecreti, cboTipo}), Row({AmountFields({importo}), Image1}),
                      Fields({cdMaggiorazione, ciNUMEROPAGINE}), Buttons({cmdProsegui})}));

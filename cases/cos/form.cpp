@@ -12,7 +12,7 @@ constexpr const char* kAvvertenza =
 }  // namespace
 
 FrmCosDati::FrmCosDati(RunState& stato, const TestataCos& testata, DatiCos& dati)
-    : FormInput(stato, "frmCOS_Dati", "COLLAUDO STATICO"), dati_(dati) {
+    : FormInput(stato, "frmCOS_Dati", "COLLAUDO STATICO", "importi e maggiorazioni"), dati_(dati) {
   auto& [i1, i2, i3, i4, i5] = importi;
   auto& [m1, m2, m3, m4, m5] = cdMaggiorazione;
   SetContent(

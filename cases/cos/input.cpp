@@ -51,8 +51,8 @@ void InputCos(RunState& stato) {
   stato.player.Show(form);
   if (!form.Confermato()) return;
   dati.RevisioneCalcoli =
-      ChiediSiNo(stato.player, "COLLAUDO STATICO", "REVISIONE DEI CALCOLI DI STABILITÁ ?", "",
-                 dati.RevisioneCalcoli);
+      ChiediSiNo(stato.player, "COLLAUDO STATICO", "revisione dei calcoli",
+                 "REVISIONE DEI CALCOLI DI STABILITÁ ?", "", dati.RevisioneCalcoli);
   if (dati.RevisioneCalcoli == "SI") CatenaCos(stato, dati, stato.CasoDiParcella == "CS1").Chiedi();
   ConcludiInput(stato, dati);
 }

@@ -1,6 +1,9 @@
 #include "cases/esl/form_services.h"
 
+#include <algorithm>
+
 #include "runtime/numbers.h"
+#include "tariff/law/tariff_tables.h"
 
 namespace orm {
 namespace {
@@ -48,12 +51,14 @@ bool Nominata(const std::string& stringa, std::string_view codice) {
 
 }  // namespace
 
-FrmEslPrestazioni::FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove,
+FrmEslPrestazioni::FrmEslPrestazioni(std::string nome, std::string titolo, std::string passo,
                                      const LottoEsl& lotto, std::string& stringa,
                                      std::span<const ServizioEsl> tabella,
                                      std::span<const char* const> didascalie)
-    : Form(std::move(nome), std::move(titolo)), stringa_(stringa), tabella_(tabella) {
-  lblLotto.SetText(std::move(dove));
+    : Form(std::move(nome), std::move(titolo), std::move(passo)),
+      colonna_(ColonnaTabelle2001(lotto.Classe, lotto.Categoria)),
+      stringa_(stringa),
+      tabella_(tabella) {
   // All services are the default.
   for (std::size_t i = 0; i < tabella.size(); ++i) {
     CheckBox& check = servizi.emplace_back(*this, std::string(tabella[i].codice), didascalie[i]);
@@ -67,9 +72,20 @@ FrmEslPrestazioni::FrmEslPrestazioni(std::string nome, std::string titolo, std::
 
 std::vector<Layout> FrmEslPrestazioni::ChecksOf(FaseEsl fase) {
   std::vector<Layout> checks;
-  for (std::size_t i = 0; i < tabella_.size(); ++i)
-    if (tabella_[i].fase == fase) checks.emplace_back(servizi[i]);
+  for (std::size_t i = 0; i < tabella_.size(); ++i) {
+    const ServizioEsl& servizio = tabella_[i];
+    if (servizio.fase != fase) continue;
+    std::optional<double> aliquota;
+    if (colonna_) aliquota = servizio.aliquote[*colonna_];
+    checks.push_back(
+        aliquote.Riga(servizi[i], aliquota,
+                      {&Casella(servizio.scelta), servizio.codice == "l4" ? addetti_ : nullptr}));
+  }
   return checks;
+}
+
+CheckBox& FrmEslPrestazioni::Casella(std::string_view codice) {
+  return *std::ranges::find(servizi, codice, &CheckBox::Name);
 }
 
 std::vector<Layout> FrmEslPrestazioni::GruppiProgetto() {
@@ -93,20 +109,23 @@ void FrmEslPrestazioni::Conferma() {
   Esci(Uscita::Conferma);
 }
 
-FrmEslPrestazioniBase::FrmEslPrestazioniBase(std::string dove, LottoEsl& lotto)
+FrmEslPrestazioniBase::FrmEslPrestazioniBase(LottoEsl& lotto)
     : FrmEslPrestazioni("frmESL_PrestazioniBase", "PRESTAZIONI DI TABELLA B EFFETTUATE",
-                        std::move(dove), lotto, lotto.PrestazioniBase, kTabellaBEsl,
+                        "prestazioni di tabella B", lotto, lotto.PrestazioniBase, kTabellaBEsl,
                         kDidascalieBase) {
-  SetContent(Column({lblLotto, Column(GruppiProgetto()), GruppiFinali({}), Buttons({Command1})}));
+  SetContent(
+      Column({Column(GruppiProgetto()), GruppiFinali({}), aliquote.Piede(), Buttons({Command1})}));
+  aliquote.Segui();
 }
 
-FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, LottoEsl& lotto)
+FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(LottoEsl& lotto)
     : FrmEslPrestazioni("frmESL_PrestazioniIntegrative", "PRESTAZIONI DI TABELLA B1 EFFETTUATE",
-                        std::move(dove), lotto, lotto.PrestazioniIntegrative, kTabellaB1Esl,
-                        kDidascalieIntegrative) {
+                        "prestazioni di tabella B1", lotto, lotto.PrestazioniIntegrative,
+                        kTabellaB1Esl, kDidascalieIntegrative) {
+  addetti_ = &numeroaddetti;
   // One column of seventeen services would be higher than the least screen.
-  SetContent(Column({lblLotto, Row(GruppiProgetto()), GruppiFinali({Fields({numeroaddetti})}),
-                     Buttons({Command1})}));
+  SetContent(Column({Row(GruppiProgetto()), GruppiFinali({Fields({numeroaddetti})}),
+                     aliquote.Piede(), Buttons({Command1})}));
   CheckBox& l4 = servizi.back();
   numeroaddetti.SetValue(lotto.NumeroAddetti);
   numeroaddetti.SetVisible(l4.Value());
@@ -114,6 +133,7 @@ FrmEslPrestazioniIntegrative::FrmEslPrestazioniIntegrative(std::string dove, Lot
     numeroaddetti.SetVisible(l4.Value());
     if (!l4.Value()) numeroaddetti.SetValue(0);
   };
+  aliquote.Segui();
   Command1.onPress = [this, &lotto] {
     lotto.NumeroAddetti = CheckedInt16(numeroaddetti.Value());
     Conferma();

@@ -6,6 +6,7 @@
 
 #include "cases/esl/data.h"
 #include "dialogs/form.h"
+#include "tariff/forms/service_boxes.h"
 #include "tariff/law/table_services_2001.h"
 
 namespace orm {
@@ -13,17 +14,17 @@ namespace orm {
 // One dialog for a table. Each service has a check with its code as name.
 class FrmEslPrestazioni : public Form {
  public:
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   std::deque<CheckBox> servizi;  // in the order of the table
   Frame fraPreliminare{*this, "fraPreliminare", "PROGETTO PRELIMINARE"};
   Frame fraDefinitivo{*this, "fraDefinitivo", "PROGETTO DEFINITIVO"};
   Frame fraEsecutivo{*this, "fraEsecutivo", "PROGETTO ESECUTIVO"};
   Frame fraDirezione{*this, "fraDirezione", "DIREZIONE DEI LAVORI"};
+  AliquoteServizi aliquote{*this};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  protected:
   // `stringa`: the services of the lot by their codes, "a+b+f"; taken when they are confirmed.
-  FrmEslPrestazioni(std::string nome, std::string titolo, std::string dove, const LottoEsl& lotto,
+  FrmEslPrestazioni(std::string nome, std::string titolo, std::string passo, const LottoEsl& lotto,
                     std::string& stringa, std::span<const ServizioEsl> tabella,
                     std::span<const char* const> didascalie);
   // The groups of services: preliminary and definitive design; executive design and supervision,
@@ -32,20 +33,24 @@ class FrmEslPrestazioni : public Form {
   Layout GruppiFinali(std::vector<Layout> ancoraDirezione);
   void Conferma();
 
+  NumberBox* addetti_ = nullptr;  // how often l4 counts
+
  private:
   std::vector<Layout> ChecksOf(FaseEsl fase);
+  CheckBox& Casella(std::string_view codice);
+  const std::optional<std::size_t> colonna_;
   std::string& stringa_;
   std::span<const ServizioEsl> tabella_;
 };
 
 class FrmEslPrestazioniBase : public FrmEslPrestazioni {
  public:
-  FrmEslPrestazioniBase(std::string dove, LottoEsl& lotto);
+  explicit FrmEslPrestazioniBase(LottoEsl& lotto);
 };
 
 class FrmEslPrestazioniIntegrative : public FrmEslPrestazioni {
  public:
-  FrmEslPrestazioniIntegrative(std::string dove, LottoEsl& lotto);
+  explicit FrmEslPrestazioniIntegrative(LottoEsl& lotto);
 
   // A fee with more staff than this would not fit its column where a small design gives the
   // greatest works their percentage.

@@ -19,11 +19,7 @@ class CatenaLotto {
  public:
   CatenaLotto(RunState& run, const PostoRiga& posto, const std::vector<LottoEsl>& altriLotti,
               LottoEsl& lottoDelCaso)
-      : stato(run),
-        numero(ConNumero(posto, "LOTTO")),
-        dove(DoveSiamo(posto, lottoDelCaso.Classe, lottoDelCaso.Categoria)),
-        altri(altriLotti),
-        lotto(lottoDelCaso) {}
+      : stato(run), numero(ConNumero(posto, "LOTTO")), altri(altriLotti), lotto(lottoDelCaso) {}
 
   void Chiedi();
 
@@ -34,7 +30,7 @@ class CatenaLotto {
   std::string RifiutoDiContabilita() const;
 
   RunState& stato;
-  const std::string numero, dove;
+  const std::string numero;
   const std::vector<LottoEsl>& altri;
   LottoEsl& lotto;
 };
@@ -55,7 +51,6 @@ void CatenaLotto::Chiedi() {
 
 void CatenaLotto::ChiediImporti() {
   FrmPdlImporti form(stato, "PARCELLA PROGETTAZIONE e D.L. D.M. 4-4-01 : IMPORTI LAVORI nel LOTTO",
-                     dove,
                      {Chiesto(lotto, &LottoEsl::ImportoProgettazione, altri, {numero}),
                       {},
                       {},
@@ -65,9 +60,9 @@ void CatenaLotto::ChiediImporti() {
 }
 
 void CatenaLotto::ChiediPrestazioni() {
-  FrmEslPrestazioniBase base(dove, lotto);
+  FrmEslPrestazioniBase base(lotto);
   stato.player.Show(base);
-  FrmEslPrestazioniIntegrative integrative(dove, lotto);
+  FrmEslPrestazioniIntegrative integrative(lotto);
   stato.player.Show(integrative);
 }
 
@@ -80,15 +75,15 @@ void CatenaLotto::ChiediContabilita() {
   PrestazioniAggiuntive chieste;
   if (lotto.ImportoDirezioneLavori != 0) {
     chieste.Contabilita = lotto.MisureContabilita == "SI";
-    FrmPdlAltri form(stato, "LAVORI PUBBLICI D.M. 4-4-2001", dove, RifiutoDiContabilita(), chieste);
+    FrmPdlAltri form(stato, "LAVORI PUBBLICI D.M. 4-4-2001", RifiutoDiContabilita(), chieste);
     form.SoloContabilita();
     stato.player.Show(form);
   }
   lotto.MisureContabilita = chieste.Contabilita ? "SI" : "NO";
   lotto.CoefficienteContabilita =
-      chieste.Contabilita ? ChiediCoefficienteContabilita(stato.player, dove, lotto.Classe,
-                                                          lotto.CoefficienteContabilita)
-                          : 0;
+      chieste.Contabilita
+          ? ChiediCoefficienteContabilita(stato.player, lotto.Classe, lotto.CoefficienteContabilita)
+          : 0;
 }
 
 }  // namespace
@@ -100,6 +95,8 @@ void InputEsl(RunState& stato) {
   ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiMassimi, "LOTTI"),
                [&](const PostoRiga& posto, LottoEsl& lotto, const std::vector<LottoEsl>& altri) {
                  if (!ChiediClasse(stato, posto, lotto.Classe, lotto.Categoria)) return false;
+                 const PartOfWay qui(stato.player.place,
+                                     DoveSiamo(posto, lotto.Classe, lotto.Categoria));
                  CatenaLotto(stato, posto, altri, lotto).Chiedi();
                  return true;
                });

@@ -3,10 +3,11 @@
 namespace orm {
 
 FrmGeoClassi::FrmGeoClassi(RunState& stato, const PostoRiga& posto, std::string& sottoclasse)
-    : FormRiga(stato, "frmGEO_Classi", "SOTTOCLASSI GEOTECNICHE", posto, Command2) {
-  SetContent(Column({Label1, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}),
-                     Buttons({Command1, Command2})}));
-  Label1.SetText(posto.Nuova() ? "NUOVO GRUPPO" : DoveSiamo(posto, "GRUPPO"));
+    : FormRiga(stato, "frmGEO_Classi", "SOTTOCLASSI GEOTECNICHE", "sottoclasse", posto, kGruppo,
+               Command2) {
+  SetContent(Column(
+      {Label1, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}), Fondo(Command1)}));
+  Label1.SetText(Etichetta(posto, "GRUPPO"));
   const bool nota = sottoclasse.size() == 1 && sottoclasse >= "1" && sottoclasse <= "4";
   tipo.Choose(nota ? sottoclasse[0] - '1' : 0);
   Command1.onPress = [this, &sottoclasse] {
@@ -23,7 +24,7 @@ TestiTariffe TestiGeoTariffe(const TabelleGeo& tabelle) {
 
 FrmGeoImporti::FrmGeoImporti(RunState& stato, const std::string& tipo, std::string periodo,
                              const ImportoChiesto& progetto, const ImportoChiesto& direzione)
-    : FormInput(stato, "frmGEO_Importi", "PRESTAZIONI GEOTECNICHE") {
+    : FormInput(stato, "frmGEO_Importi", "PRESTAZIONI GEOTECNICHE", "importi") {
   SetContent(Column(
       {Group(Frame1,
              {Row({Label6, Image1}), Group(Frame2, {AmountFields({importo[0]}), lblProgettazione}),
@@ -36,12 +37,14 @@ FrmGeoImporti::FrmGeoImporti(RunState& stato, const std::string& tipo, std::stri
   Command1.onPress = [this] { Conferma(importo); };
 }
 
-FrmGeoPrestazio::FrmGeoPrestazio(std::string dove, RigaGeo& riga)
-    : Form("frmGEO_Prestazio", "PRESTAZIONI GEOTECNICHE"), riga_(riga) {
-  SetContent(Column({lblLotto, Group(Frame1, {Row({Option1, Option2})}),
-                     Group(Frame2, {Check[0], Check[1], Check[2], Check[3], Check[4], Check[5]}),
+FrmGeoPrestazio::FrmGeoPrestazio(RigaGeo& riga)
+    : Form("frmGEO_Prestazio", "PRESTAZIONI GEOTECNICHE", "prestazioni"), riga_(riga) {
+  const auto& quote = kQuoteGeo[static_cast<std::size_t>(riga.Sottoclasse[0] - '1')];
+  std::vector<Layout> linee;
+  for (std::size_t i = 0; i < Check.size(); ++i) linee.push_back(aliquote.Riga(Check[i], quote[i]));
+  linee.push_back(aliquote.Piede());
+  SetContent(Column({Group(Frame1, {Row({Option1, Option2})}), Group(Frame2, std::move(linee)),
                      Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
   const bool parziali = riga.TipoDiPrestazione == "P";
   tipo.Choose(parziali ? 1 : 0);
   for (std::size_t i = 0; i < Check.size(); ++i)
@@ -50,6 +53,7 @@ FrmGeoPrestazio::FrmGeoPrestazio(std::string dove, RigaGeo& riga)
   Frame2.SetEnabled(parziali);
   Option1.onChange = [this] { Frame2.SetEnabled(Option2.Value()); };
   Option2.onChange = Option1.onChange;
+  aliquote.Segui();
   Command1.onPress = [this] { Conferma(); };
 }
 

@@ -8,9 +8,12 @@
 #include "cases/geo/data.h"
 #include "tariff/forms/form_period.h"
 #include "tariff/forms/input_form.h"
+#include "tariff/forms/service_boxes.h"
 #include "tariff/law/table_geotechnics.h"
 
 namespace orm {
+
+inline constexpr NomeRiga kGruppo = {"gruppo", "il gruppo", "i gruppi"};
 
 class FrmGeoClassi : public FormRiga {
  public:
@@ -56,9 +59,8 @@ class FrmGeoImporti : public FormInput {
 
 class FrmGeoPrestazio : public Form {
  public:
-  FrmGeoPrestazio(std::string dove, RigaGeo& riga);
+  explicit FrmGeoPrestazio(RigaGeo& riga);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "PRESTAZIONI"};
   OptionGroup tipo;
   OptionButton Option1{*this, "Option1", "COMPLETE", tipo};
@@ -70,6 +72,7 @@ class FrmGeoPrestazio : public Form {
                                  {*this, "Check4", kPrestazioniGeo[3]},
                                  {*this, "Check5", kPrestazioniGeo[4]},
                                  {*this, "Check6", kPrestazioniGeo[5]}}};
+  AliquoteServizi aliquote{*this};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:

@@ -19,8 +19,12 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
         dati(datiDelCaso) {}
 
  private:
-  static std::string Dove(const PostoPeriodo& qui) {
-    return DoveSiamo(qui.lotto, "GRUPPO") + "   SOTTOCLASSE " + qui.modello.Sottoclasse;
+  std::vector<std::string> Dove(const PostoRiga& gruppo, const RigaGeo& modello) const override {
+    return {DoveSiamo(gruppo, kGruppo), "sottoclasse " + modello.Sottoclasse};
+  }
+
+  std::string NomeDelPeriodo(std::int16_t periodo) const override {
+    return tabelle.NomePeriodo[static_cast<std::size_t>(periodo - 1)];
   }
 
   bool ChiediTestata(const PostoRiga& lotto, RigaGeo& modello) override {
@@ -28,8 +32,7 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
   }
 
   std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const RigaGeo& riga) override {
-    return FrmTariffe(stato, TestiGeoTariffe(tabelle), Dove(qui), qui.posto, qui.ultimo,
-                      riga.Tariffa)
+    return FrmTariffe(stato, TestiGeoTariffe(tabelle), qui.posto, qui.ultimo, riga.Tariffa)
         .ChiediPeriodo();
   }
 
@@ -37,13 +40,12 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
                   const std::vector<RigaGeo>& altre) override {
     riga.Sottoclasse = qui.modello.Sottoclasse;
     riga.Tariffa = NumberText(periodo);
-    const std::string nome = tabelle.NomePeriodo[static_cast<std::size_t>(periodo - 1)];
     const Addendi addendi{ConNumero(qui.lotto, "GRUPPO"), "GLI ALTRI GRUPPI E PERIODI"};
-    FrmGeoImporti importi(stato, dati.TipoDiParcella, nome,
+    FrmGeoImporti importi(stato, dati.TipoDiParcella, NomeDelPeriodo(periodo),
                           Chiesto(riga, &RigaGeo::ImportoProgetto, altre, addendi),
                           Chiesto(riga, &RigaGeo::ImportoDirezione, altre, addendi));
     stato.player.Show(importi);
-    FrmGeoPrestazio prestazioni(Dove(qui) + "   " + nome, riga);
+    FrmGeoPrestazio prestazioni(riga);
     stato.player.Show(prestazioni);
   }
 
@@ -52,8 +54,8 @@ class CatenaGeo : public CatenaRighe<RigaGeo> {
 };
 
 void ChiediMaggiorazione(Player& player, std::string& risposta) {
-  risposta = ChiediSiNo(player, "PARCELLA PER PRESTAZIONI GEOTECNICHE", kMaggiorazioneParziale, "",
-                        risposta);
+  risposta = ChiediSiNo(player, "PARCELLA PER PRESTAZIONI GEOTECNICHE", kPassoParziale,
+                        kMaggiorazioneParziale, "", risposta);
   if (risposta == "SI")
     player.Ask({"ATTENZIONE !", kAvvertenzaParziale, MessageBox::Icon::Exclamation,
                 MessageBox::Buttons::Ok});

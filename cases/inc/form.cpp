@@ -10,7 +10,7 @@ constexpr std::string_view kLettere = "gil";
 }
 
 FrmIncDati::FrmIncDati(DatiInc& dati, double massimoCompensi)
-    : Form("frmINC_Dati", "INGEGNERE CAPO : DATI GENERALI") {
+    : Form("frmINC_Dati", "INGEGNERE CAPO : DATI GENERALI", "dati generali") {
   SetContent(Column({Group(Frame1, {Decreti}), Group(Frame2, {Row({Option1, Option2})}),
                      lblCompensi, Buttons({Command1})}));
   Decreti.Mostra(dati.PeriodoTariffario);
@@ -23,19 +23,20 @@ FrmIncDati::FrmIncDati(DatiInc& dati, double massimoCompensi)
   };
 }
 
-FrmIncPrestazioni::FrmIncPrestazioni(const std::string& dove, LottoInc& lotto)
-    : Form("frmINC_Prestazioni", "PRESTAZIONI DELL'INGEGNERE CAPO") {
-  SetContent(Column({lblLotto,
-                     Fields({Row({Check[0], lblAliquota[0]}), Row({Check[1], lblAliquota[1]}),
-                             Row({Check[2], lblAliquota[2]})}),
-                     Buttons({Command1})}));
-  lblLotto.SetText(dove);
+FrmIncPrestazioni::FrmIncPrestazioni(const QuoteInc& quote, LottoInc& lotto)
+    : Form("frmINC_Prestazioni", "PRESTAZIONI DELL'INGEGNERE CAPO", "prestazioni") {
+  const std::array quota = {quote.direzione, quote.assistenza, quote.liquidazione};
+  std::vector<Layout> linee;
   for (std::size_t i = 0; i < kLettere.size(); ++i) {
     Check[i].SetValue(lotto.Prestazioni.find(kLettere[i]) != std::string::npos);
-    lblAliquota[i].SetText(
-        "aliquota " +
-        FormattaCopia(AliquotaTabellaB(lotto.Classe, lotto.Categoria, kLettere[i]), -2));
+    linee.push_back(aliquote.Riga(Check[i],
+                                  AliquotaTabellaB(lotto.Classe, lotto.Categoria, kLettere[i]),
+                                  {.quota = quota[i]}));
   }
+  linee.push_back(aliquote.Piede());
+  linee.push_back(Buttons({Command1}));
+  SetContent(Column(std::move(linee)));
+  aliquote.Segui();
   Command1.onPress = [this, &lotto] {
     lotto.Prestazioni.clear();
     for (std::size_t i = 0; i < kLettere.size(); ++i)

@@ -4,8 +4,10 @@
 
 #include <array>
 
+#include "cases/inc/config.h"
 #include "cases/inc/data.h"
 #include "tariff/forms/form_period.h"
+#include "tariff/forms/service_boxes.h"
 
 namespace orm {
 
@@ -26,15 +28,13 @@ class FrmIncDati : public Form {
 
 class FrmIncPrestazioni : public Form {
  public:
-  FrmIncPrestazioni(const std::string& dove, LottoInc& lotto);
+  // `quote`: what of each aliquot is the chief engineer's.
+  FrmIncPrestazioni(const QuoteInc& quote, LottoInc& lotto);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   std::array<CheckBox, 3> Check{{{*this, "Check1", "g - DIREZIONE LAVORI ( quota )"},
                                  {*this, "Check2", "i - ASSISTENZA AL COLLAUDO"},
                                  {*this, "Check3", "l - LIQUIDAZIONE"}}};
-  std::array<Label, 3> lblAliquota{{{*this, "lblAliquota1", "", Label::Style::Note},
-                                    {*this, "lblAliquota2", "", Label::Style::Note},
-                                    {*this, "lblAliquota3", "", Label::Style::Note}}};
+  AliquoteServizi aliquote{*this};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 };
 

@@ -17,8 +17,9 @@ void InputInc(RunState& stato) {
   ChiediElenco(stato, dati.Lotti, AlMassimo(kLottiIncMassimi, "LOTTI"),
                [&](const PostoRiga& posto, LottoInc& lotto, const std::vector<LottoInc>& altri) {
                  if (!ChiediClasseEImporto(stato, posto, altri, lotto)) return false;
-                 FrmIncPrestazioni prestazioni(DoveSiamo(posto, lotto.Classe, lotto.Categoria),
-                                               lotto);
+                 const PartOfWay qui(stato.player.place,
+                                     DoveSiamo(posto, lotto.Classe, lotto.Categoria));
+                 FrmIncPrestazioni prestazioni(quote, lotto);
                  stato.player.Show(prestazioni);
                  return true;
                });

@@ -5,10 +5,10 @@
 
 namespace orm {
 
-FrmPdlPerizie::FrmPdlPerizie(RunState& stato, std::string dove, std::int16_t& numero)
-    : FormInput(stato, "frmPDL_Perizie", "PERIZIE DI VARIANTE"), numero_(numero) {
-  SetContent(Column({lblLotto, Fields({ciNumeroPerizie}), Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
+FrmPdlPerizie::FrmPdlPerizie(RunState& stato, std::int16_t& numero)
+    : FormInput(stato, "frmPDL_Perizie", "PERIZIE DI VARIANTE", "numero delle perizie"),
+      numero_(numero) {
+  SetContent(Column({Fields({ciNumeroPerizie}), Buttons({Command1})}));
   ciNumeroPerizie.SetValue(numero);
   Command1.onPress = [this] { Conferma(); };
 }
@@ -22,15 +22,15 @@ void FrmPdlPerizie::Conferma() {
   Esci(Uscita::Conferma);
 }
 
-FrmPdlImpPer::FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia,
+FrmPdlImpPer::FrmPdlImpPer(RunState& stato, PeriziaPdl& perizia,
                            const std::vector<PeriziaPdl>& altre)
-    : FormInput(stato, "frmPDL_ImpPer", "IMPORTI DEI LAVORI IN PERIZIA") {
+    : FormInput(stato, "frmPDL_ImpPer", "IMPORTI DEI LAVORI IN PERIZIA", "importi") {
   auto& [suppletivi, espropri, variati] = importo;
-  SetContent(Column({lblLotto, Group(Frame1, {Combo1}), Image1,
-                     AmountFields({suppletivi, espropri, variati}), Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
+  SetContent(
+      Column({Group(Frame1, {Combo1}), Row({AmountFields({suppletivi, espropri, variati}), Image1}),
+              Buttons({Command1})}));
   Combo1.SetIndex(perizia.TipoPerizia.empty() ? -1 : perizia.TipoPerizia[0] - '1');
-  const Addendi addendi{lblLotto.Text(), "LE ALTRE PERIZIE"};
+  const Addendi addendi{stato.player.HeadingOf(*this).way, "LE ALTRE PERIZIE"};
   suppletivi.Chiedi(Chiesto(perizia, &PeriziaPdl::LavoriSuppletivi, altre, addendi));
   espropri.Chiedi(Chiesto(perizia, &PeriziaPdl::EsproPerizia, altre, addendi));
   variati.Chiedi(Chiesto(perizia, &PeriziaPdl::LavoriVariati, altre, addendi));

@@ -11,9 +11,8 @@ namespace orm {
 class FrmPdlPerizie : public FormInput {
  public:
   // `numero`, 0 to 10, is taken when it is confirmed.
-  FrmPdlPerizie(RunState& stato, std::string dove, std::int16_t& numero);
+  FrmPdlPerizie(RunState& stato, std::int16_t& numero);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   // More than a row takes, so that the refusal can say how many it takes.
   InterBox ciNumeroPerizie{*this,
                            "ciNumeroPerizie",
@@ -29,10 +28,8 @@ class FrmPdlPerizie : public FormInput {
 class FrmPdlImpPer : public FormInput {
  public:
   // `perizia` is taken when it is confirmed; `altre`: the other reports of the note.
-  FrmPdlImpPer(RunState& stato, std::string dove, PeriziaPdl& perizia,
-               const std::vector<PeriziaPdl>& altre);
+  FrmPdlImpPer(RunState& stato, PeriziaPdl& perizia, const std::vector<PeriziaPdl>& altre);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "TIPO DI PERIZIA"};
   ComboBox Combo1{*this, "Combo1", "", {"1 - di variante e suppletiva", "2 - di assestamento!"}};
   MarchioEuro Image1{*this, stato_};

@@ -3,7 +3,8 @@
 
 #include <array>
 
-#include "dialogs/form.h"
+#include "cases/pdl/data.h"
+#include "tariff/forms/service_boxes.h"
 
 namespace orm {
 
@@ -11,11 +12,11 @@ class FrmPdlPrestazio : public Form {
  public:
   enum class Modo { Riga, Perizia };  // a variation report has services of design alone
 
-  // "T" or "P", and with "P" the letters; taken when they are confirmed.
-  FrmPdlPrestazio(std::string titolo, std::string dove, std::string& tipo, std::string& stringa,
+  // Of works like those of `riga`: "T" or "P", and with "P" the letters; taken when they are
+  // confirmed.
+  FrmPdlPrestazio(std::string titolo, const RigaPdl& riga, std::string& tipo, std::string& stringa,
                   Modo modo);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "PRESTAZIONI"};
   OptionGroup scelta;
   OptionButton Option1{*this, "Option1", "COMPLETE", scelta};
@@ -32,6 +33,7 @@ class FrmPdlPrestazio : public Form {
                                     {*this, "h", "h   PROVE DI OFFICINA"},
                                     {*this, "i", "i   ASSISTENZA AL COLLAUDO"},
                                     {*this, "l", "l   LIQUIDAZIONE"}}};
+  AliquoteServizi aliquote{*this};
   Button Command1{*this, "Command1", "&O.K.", Button::Role::Default};
 
  private:

@@ -27,10 +27,7 @@ class CatenaPdl : public CatenaClassi<RigaPdl> {
                   const std::vector<RigaPdl>& altre) override {
     Intesta(qui, periodo, riga);
     PeriodoMassimo = std::max(PeriodoMassimo, riga.PeriodoTariffario);
-    orm::ChiediRiga(stato,
-                    {ConNumero(qui.lotto, "LOTTO"),
-                     Dove(qui) + "   " + NomePeriodoTariffario(periodo), qui.posto.Nuova()},
-                    altre, riga);
+    orm::ChiediRiga(stato, {ConNumero(qui.lotto, "LOTTO"), qui.posto.Nuova()}, altre, riga);
   }
 
   std::string& PeriodoMassimo;
@@ -42,9 +39,9 @@ void InputPdl(RunState& stato) {
   DatiPdl dati;
   if (IniziaInput(stato, dati) == Inizio::Rinuncia) return;
   if (!ChiediTipologia(stato.player, dati.TipoParcella, true)) return;
-  dati.IncaricoParziale =
-      ChiediSiNo(stato.player, "PARCELLA PER PROGETTAZIONE E D.L.", kMaggiorazioneParziale,
-                 std::string("ATTENZIONE !\n") + kAvvertenzaParziale, dati.IncaricoParziale);
+  dati.IncaricoParziale = ChiediSiNo(
+      stato.player, "PARCELLA PER PROGETTAZIONE E D.L.", kPassoParziale, kMaggiorazioneParziale,
+      std::string("ATTENZIONE !\n") + kAvvertenzaParziale, dati.IncaricoParziale);
   CatenaPdl(stato, dati).Chiedi();
   const bool conDirezione =
       std::ranges::any_of(dati.Righe, [](const RigaPdl& r) { return r.ImportoDirezione != 0; });

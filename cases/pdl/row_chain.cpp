@@ -17,7 +17,7 @@ class CatenaRiga {
  public:
   CatenaRiga(RunState& run, const PostoPdl& posto, const std::vector<RigaPdl>& altreRighe,
              RigaPdl& rigaDelLotto)
-      : stato(run), qui(posto), dove(posto.dove), altre(altreRighe), riga(rigaDelLotto) {}
+      : stato(run), qui(posto), altre(altreRighe), riga(rigaDelLotto) {}
 
   void ChiediImporti();
   void ChiediPrestazioni();
@@ -32,7 +32,6 @@ class CatenaRiga {
 
   RunState& stato;
   const PostoPdl& qui;
-  const std::string& dove;
   const std::vector<RigaPdl>& altre;
   RigaPdl& riga;
 };
@@ -42,7 +41,7 @@ void CatenaRiga::ChiediImporti() {
     return Chiesto(riga, importo, altre, {qui.lotto, "GLI ALTRI LOTTI E PERIODI"});
   };
   FrmPdlImporti form(
-      stato, "PARCELLA PROGETTAZIONE E D.L.ante D.M. 4-4-01 : IMPORTI DEI LAVORI NEL LOTTO ", dove,
+      stato, "PARCELLA PROGETTAZIONE E D.L.ante D.M. 4-4-01 : IMPORTI DEI LAVORI NEL LOTTO ",
       {chiesto(&RigaPdl::ImportoProgetto), chiesto(&RigaPdl::ImportoEspropri),
        chiesto(&RigaPdl::ImportoSuppletivi), chiesto(&RigaPdl::ImportoEsproPerizie),
        chiesto(&RigaPdl::ImportoDirezione)});
@@ -50,7 +49,7 @@ void CatenaRiga::ChiediImporti() {
 }
 
 void CatenaRiga::ChiediPrestazioni() {
-  FrmPdlPrestazio form("PRESTAZIONI DI TABELLA B EFFETTUATE", dove, riga.TipoPrestazione,
+  FrmPdlPrestazio form("PRESTAZIONI DI TABELLA B EFFETTUATE", riga, riga.TipoPrestazione,
                        riga.Prestazioni, FrmPdlPrestazio::Modo::Riga);
   stato.player.Show(form);
 }
@@ -67,7 +66,7 @@ void CatenaRiga::ChiediAggiuntive() {
   const std::string rifiuto = RifiutoDiContabilita();
   PrestazioniAggiuntive chieste{riga.FlagSorveglianza == "S", riga.FlagContabilita == "S",
                                 riga.FlagRevisione == "S", riga.FlagPerizie == "S"};
-  FrmPdlAltri form(stato, "LAVORI PRIVATI e LL.PP. ante D.M. 4-4-2001", dove, rifiuto, chieste);
+  FrmPdlAltri form(stato, "LAVORI PRIVATI e LL.PP. ante D.M. 4-4-2001", rifiuto, chieste);
   // Works of variations are nothing without the variations.
   if (riga.ImportoSuppletivi != 0 || riga.ImportoEsproPerizie != 0) form.Check4.SetValue(true);
   stato.player.Show(form);
@@ -85,9 +84,9 @@ void CatenaRiga::ChiediAggiuntive() {
 
 void CatenaRiga::ChiediContabilita() {
   riga.CoefficienteContabilita =
-      riga.FlagContabilita == "S" ? ChiediCoefficienteContabilita(stato.player, dove, riga.Classe,
-                                                                  riga.CoefficienteContabilita)
-                                  : 0;
+      riga.FlagContabilita == "S"
+          ? ChiediCoefficienteContabilita(stato.player, riga.Classe, riga.CoefficienteContabilita)
+          : 0;
 }
 
 void CatenaRiga::ChiediPerizie() {
@@ -95,7 +94,7 @@ void CatenaRiga::ChiediPerizie() {
     riga.NumeroPerizie = 0;
     return;
   }
-  FrmPdlPerizie form(stato, dove, riga.NumeroPerizie);
+  FrmPdlPerizie form(stato, riga.NumeroPerizie);
   stato.player.Show(form);
   // The ten that a new row begins with are a proposal.
   if (!form.Confermato() && qui.nuova) riga.NumeroPerizie = 0;
@@ -117,19 +116,19 @@ std::vector<PeriziaPdl> CatenaRiga::AltrePerizie(std::size_t j) const {
 }
 
 void CatenaRiga::ChiediPerizia(std::size_t j) {
-  const std::string quale = dove + "\nPERIZIA n° " + NumberText(static_cast<double>(j + 1)) +
-                            " di " + NumberText(riga.NumeroPerizie);
-  const Drafts::Subject parla(stato.player.DraftsOfRun(),
-                              "perizia " + NumberText(static_cast<double>(j + 1)));
+  const std::string numero = "perizia " + NumberText(static_cast<double>(j + 1));
+  const PartOfWay nellaPerizia(stato.player.place,
+                               {numero + " di " + NumberText(riga.NumeroPerizie)});
+  const Drafts::Subject parla(stato.player.DraftsOfRun(), numero);
   PeriziaPdl& perizia = riga.Perizie[j];
-  FrmPdlImpPer importi(stato, quale, perizia, AltrePerizie(j));
+  FrmPdlImpPer importi(stato, perizia, AltrePerizie(j));
   stato.player.Show(importi);
   if (perizia.LavoriVariati == 0) {
     perizia.TipoPrestazioneVariati = "T";
     perizia.PrestazioniVariati.clear();
     return;
   }
-  FrmPdlPrestazio form("PRESTAZIONI DI TABELLA B SUI LAVORI VARIATI", quale,
+  FrmPdlPrestazio form("PRESTAZIONI DI TABELLA B SUI LAVORI VARIATI", riga,
                        perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati,
                        FrmPdlPrestazio::Modo::Perizia);
   stato.player.Show(form);

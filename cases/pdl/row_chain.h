@@ -9,10 +9,9 @@
 
 namespace orm {
 
-// A row on its way: the number of its lot, what stands above its forms, and whether the note lacked
-// it before.
+// A row on its way: the number of its lot, and whether the note lacked it before.
 struct PostoPdl {
-  std::string lotto, dove;
+  std::string lotto;
   bool nuova;
 };
 

@@ -1,12 +1,16 @@
 #include "cases/pes/form.h"
 
 namespace orm {
+namespace {
+constexpr NomeRiga kBene = {"bene", "il bene", "i beni"};
+}
 
 FrmPesDati::FrmPesDati(RunState& stato, const PostoRiga& posto, BenePes& bene,
                        const std::vector<BenePes>& altri)
-    : FormRiga(stato, "frmPES_Dati", "PERIZIE ESTIMATIVE", posto, Command2), bene_(bene) {
+    : FormRiga(stato, "frmPES_Dati", "PERIZIE ESTIMATIVE", "stima", posto, kBene, Command2),
+      bene_(bene) {
   SetContent(Column({Label1, Fields({txtDescrizione}), Row({AmountFields({valore}), Image1}),
-                     Fields({cdPercentuale}), lblTabellaF, Buttons({Command1, Command2})}));
+                     Fields({cdPercentuale}), lblTabellaF, Fondo(Command1)}));
   Label1.SetText(Etichetta(posto, "BENE"));
   txtDescrizione.SetText(bene.Descrizione);
   valore.Chiedi(

@@ -5,7 +5,9 @@
 namespace orm {
 
 FrmPpeDati::FrmPpeDati(DatiPpe& dati)
-    : Form("frmPPE_Dati", "INPUT DATI PER ONORARIO PIANI PARTICELLARI DI ESPROPRIO"), dati_(dati) {
+    : Form("frmPPE_Dati", "INPUT DATI PER ONORARIO PIANI PARTICELLARI DI ESPROPRIO",
+           "dati del piano"),
+      dati_(dati) {
   SetContent(Column({Fields({ciPP[0], ciPP[1]}), Group(Frame2, {Fields({ciVC[0], ciVC[1]})}),
                      Fields({ciFrazionamenti}), Buttons({cmdESCI})}));
   ciPP[0].SetValue(dati.NumPartite);

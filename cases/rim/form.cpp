@@ -4,8 +4,12 @@
 #include "tariff/unit_rate.h"
 
 namespace orm {
+namespace {
+constexpr NomeRiga kElaborato = {"elaborato", "l'elaborato", "gli elaborati"};
+}
 
-FrmRimDati::FrmRimDati(DatiRim& dati) : Form("frmRIM_Dati", "RILIEVI MANUFATTI : DATI GENERALI") {
+FrmRimDati::FrmRimDati(DatiRim& dati)
+    : Form("frmRIM_Dati", "RILIEVI MANUFATTI : DATI GENERALI", "dati generali") {
   SetContent(Column({Group(Frame1, {Check1, Check2, Check3}), Buttons({Command1})}));
   Check1.SetValue(dati.RilievoStrutture == "SI");
   Check2.SetValue(dati.RilievoImpianti == "SI");
@@ -19,10 +23,11 @@ FrmRimDati::FrmRimDati(DatiRim& dati) : Form("frmRIM_Dati", "RILIEVI MANUFATTI :
 }
 
 FrmRimElaborato::FrmRimElaborato(RunState& stato, const PostoRiga& posto, ElaboratoRim& elaborato)
-    : FormRiga(stato, "frmRIM_Elaborato", "ELABORATI DEL RILIEVO", posto, Command2),
+    : FormRiga(stato, "frmRIM_Elaborato", "ELABORATI DEL RILIEVO", "misure", posto, kElaborato,
+               Command2),
       elaborato_(elaborato) {
   SetContent(Column({Label1, Fields({comTipo, comScala, Row({cdQuantita, lblTariffa}), ciNumero}),
-                     Buttons({Command1, Command2})}));
+                     Fondo(Command1)}));
   Label1.SetText(Etichetta(posto, "ELABORATO"));
   std::vector<std::string> tipi;
   for (const TipoElaboratoRim& tipo : kElaboratiRim) tipi.emplace_back(tipo.nome);

@@ -4,9 +4,13 @@
 #include "tariff/unit_rate.h"
 
 namespace orm {
+namespace {
+constexpr NomeRiga kTerreno = {"terreno", "il terreno", "i terreni"};
+}
 
 FrmRpaDati::FrmRpaDati(DatiRpa& dati)
-    : Form("frmRPA_Dati", "RILIEVI PLANO ALTIMETRICI : DATI GENERALI"), dati_(dati) {
+    : Form("frmRPA_Dati", "RILIEVI PLANO ALTIMETRICI : DATI GENERALI", "dati generali"),
+      dati_(dati) {
   SetContent(
       Column({Group(Frame1, {Fields({cdOre[0], cdOre[1], cdOre[2]})}),
               Group(Frame2, {Fields({ciParticelle[0], ciParticelle[1]})}), Buttons({Command1})}));
@@ -28,10 +32,11 @@ void FrmRpaDati::Conferma() {
 }
 
 FrmRpaTerreno::FrmRpaTerreno(RunState& stato, const PostoRiga& posto, TerrenoRpa& terreno)
-    : FormRiga(stato, "frmRPA_Terreno", "TERRENI RILEVATI", posto, Command2), terreno_(terreno) {
+    : FormRiga(stato, "frmRPA_Terreno", "TERRENI RILEVATI", "misure", posto, kTerreno, Command2),
+      terreno_(terreno) {
   SetContent(
       Column({Label1, Fields({comTerreno, comGiacitura, comScala, Row({cdEttari, lblTariffa})}),
-              Buttons({Command1, Command2})}));
+              Fondo(Command1)}));
   Label1.SetText(Etichetta(posto, "TERRENO"));
   comTerreno.SetIndex(terreno.Terreno - 1);
   comGiacitura.SetIndex(terreno.Giacitura - 1);

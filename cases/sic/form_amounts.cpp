@@ -6,7 +6,8 @@ namespace orm {
 
 FrmSicImporti::FrmSicImporti(RunState& stato, const PostoRiga& posto, LottoSic& lotto,
                              const std::vector<LottoSic>& altri)
-    : FormInput(stato, "frmSIC_Importi", "SICUREZZA CANTIERI : IMPORTI DEI LAVORI NEL LOTTO ") {
+    : FormInput(stato, "frmSIC_Importi", "SICUREZZA CANTIERI : IMPORTI DEI LAVORI NEL LOTTO ",
+                "importi") {
   SetContent(Column({Row({lblClasse, lblCategoria, lblTariffa, Image1}),
                      Group(Frame1, {AmountFields({importo[0]})}),
                      Group(Frame2, {AmountFields({importo[1]})}), Buttons({Command1})}));

@@ -18,10 +18,10 @@ std::string Completa(std::string segni, std::size_t lunghezza) {
 
 }  // namespace
 
-FrmSicSpunte::FrmSicSpunte(std::string nome, std::string riquadro,
+FrmSicSpunte::FrmSicSpunte(std::string nome, std::string passo, std::string riquadro,
                            std::span<const CondizioneSic> condizioni, std::size_t caselle,
                            std::string segni)
-    : Form(std::move(nome), "PARCELLA PER PRESTAZIONI SICUREZZA CANTIERI"),
+    : Form(std::move(nome), "PARCELLA PER PRESTAZIONI SICUREZZA CANTIERI", std::move(passo)),
       Segni(Completa(std::move(segni), condizioni.size())) {
   std::vector<Layout> righe;
   for (std::size_t i = 0; i < caselle; ++i) {
@@ -56,9 +56,8 @@ FrmSicPrestazioni::Riga::Riga(Form& form, std::size_t i)
                          TextOptions{.readOnly = true, .width = 4, .unit = "%"});
 }
 
-FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove,
-                                     LottoSic& lotto)
-    : Form("frmSIC_Prestazioni", "SICUREZZA CANTIERI : PRESTAZIONI "),
+FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione, LottoSic& lotto)
+    : Form("frmSIC_Prestazioni", "SICUREZZA CANTIERI : PRESTAZIONI ", "prestazioni"),
       player_(player),
       versione_(versione),
       lotto_(lotto),
@@ -80,8 +79,7 @@ FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione
     riga.cmd_Maggiorazioni.onPress = [this, i] { ChiediMaggiorazioni(i); };
     MostraRiga(i);
   }
-  SetContent(Column({lblLotto, Group(Frame1, {Fields(std::move(linee))}), Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
+  SetContent(Column({Group(Frame1, {Fields(std::move(linee))}), Buttons({Command1})}));
   Frame1.SetCaption(versione.riquadroPrestazioni);
   Command1.onPress = [this] { Conferma(); };
 }
@@ -127,7 +125,8 @@ std::string FrmSicPrestazioni::Offerti(std::size_t i) const {
 void FrmSicPrestazioni::ChiediMaggiorazioni(std::size_t i) {
   const Drafts::Subject prestazione(player_.DraftsOfRun(), Numero(i + 1));
   const std::size_t n = versione_.maggiorazioni.size();
-  FrmSicSpunte form("frmSIC_Maggiorazioni", versione_.riquadroMaggiorazioni,
+  const PartOfWay qui(player_.place, {righe[i].Check.Caption()});
+  FrmSicSpunte form("frmSIC_Maggiorazioni", "maggiorazioni", versione_.riquadroMaggiorazioni,
                     versione_.maggiorazioni, kCaselleMaggiorazioni,
                     maggiorazioni_.substr(i * n, n));
   player_.Show(form);
@@ -137,8 +136,9 @@ void FrmSicPrestazioni::ChiediMaggiorazioni(std::size_t i) {
 
 void FrmSicPrestazioni::ChiediIncrementi(std::size_t i) {
   const Drafts::Subject prestazione(player_.DraftsOfRun(), Numero(i + 1));
-  FrmSicSpunte form("frmSIC_Incrementi", "INCREMENTI", versione_.incrementi, kIncrementi,
-                    Offerti(i));
+  const PartOfWay qui(player_.place, {righe[i].Check.Caption()});
+  FrmSicSpunte form("frmSIC_Incrementi", "incrementi", "INCREMENTI", versione_.incrementi,
+                    kIncrementi, Offerti(i));
   player_.Show(form);
   incrementi_.replace(i == kCoordinatoreProgetto ? 0 : kIncrementi, kIncrementi, form.Segni);
   MostraRiga(i);

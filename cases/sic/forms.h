@@ -35,8 +35,8 @@ class FrmSicImporti : public FormInput {
 class FrmSicSpunte : public Form {
  public:
   // `segni`: "0", "1" ticked, "2" not available, for each condition.
-  FrmSicSpunte(std::string nome, std::string riquadro, std::span<const CondizioneSic> condizioni,
-               std::size_t caselle, std::string segni);
+  FrmSicSpunte(std::string nome, std::string passo, std::string riquadro,
+               std::span<const CondizioneSic> condizioni, std::size_t caselle, std::string segni);
 
   std::string Segni;  // as given until "O.K." takes new ones
 
@@ -51,9 +51,8 @@ class FrmSicSpunte : public Form {
 // frmSIC_Prestazioni.
 class FrmSicPrestazioni : public Form {
  public:
-  FrmSicPrestazioni(Player& player, const VersioneSic& versione, std::string dove, LottoSic& lotto);
+  FrmSicPrestazioni(Player& player, const VersioneSic& versione, LottoSic& lotto);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1"};
   // A duty with its conditions; increments belong to the two coordinators alone.
   struct Riga {

@@ -14,6 +14,7 @@ bool ChiediLotto(RunState& stato, const VersioneSic& versione, const PostoRiga& 
           stato, posto, lotto.Classe, lotto.Categoria,
           {.titolo = "CLASSE E CATEGORIA per il LOTTO", .etichetta = true, .proposta = true}))
     return false;
+  const PartOfWay qui(stato.player.place, DoveSiamo(posto, lotto.Classe, lotto.Categoria));
   lotto.Tariffa = NumberText(versione.periodo);
   FrmSicImporti importi(stato, posto, lotto, altri);
   stato.player.Show(importi);
@@ -21,8 +22,7 @@ bool ChiediLotto(RunState& stato, const VersioneSic& versione, const PostoRiga& 
   if (lotto.StringaMaggiorazioni.empty())
     lotto.StringaMaggiorazioni.assign(kPrestazioniSic.size() * versione.maggiorazioni.size(), '0');
   if (lotto.StringaIncrementi.empty()) lotto.StringaIncrementi = "000000";
-  FrmSicPrestazioni form(stato.player, versione, DoveSiamo(posto, lotto.Classe, lotto.Categoria),
-                         lotto);
+  FrmSicPrestazioni form(stato.player, versione, lotto);
   stato.player.Show(form);
   return true;
 }

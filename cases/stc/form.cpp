@@ -6,7 +6,9 @@
 namespace orm {
 
 FrmStcDati::FrmStcDati(DatiStc& dati, const IndiciFoi& indici)
-    : Form("frmSTC_Dati", "STATI DI CONSISTENZA"), dati_(dati), indici_(indici) {
+    : Form("frmSTC_Dati", "STATI DI CONSISTENZA", "dati dello stato"),
+      dati_(dati),
+      indici_(indici) {
   SetContent(Column({Fields({casellainteri1, casellainteri2, casellainteri3}), Check1,
                      Fields({casellainteri4, casellainteri5, Row({DTPicker1, lblGiorno})}),
                      lblIndici, Buttons({Command1})}));

@@ -1,6 +1,8 @@
 // Lists, folded and open.
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QListWidget>
+#include <QStylePainter>
 #include <algorithm>
 
 #include "desktop/controls/views.h"
@@ -11,6 +13,7 @@ namespace orm {
 namespace {
 
 constexpr int kWidest = 46;  // characters shown of an item; a longer one is seen whole as a tip
+constexpr int kOpened = 90;  // characters of the widest open list
 constexpr int kMostRows = 8;
 
 int Characters(const std::vector<std::string>& items) {
@@ -19,10 +22,39 @@ int Characters(const std::vector<std::string>& items) {
   return static_cast<int>(std::min<qsizetype>(longest, kWidest));
 }
 
+// Shows by "…" that an item is longer than the field, and opens no wider than its items need, nor
+// wider than a line that can be read.
+class FoldedList : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+  void showPopup() override {
+    const int frame = 2 * view()->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted =
+        std::min(view()->sizeHintForColumn(0) + frame, CharactersWide(*this, kOpened));
+    view()->setTextElideMode(Qt::ElideRight);
+    view()->setMinimumWidth(std::max(width(), wanted));
+    view()->window()->setMaximumWidth(std::max(width(), wanted));
+    QComboBox::showPopup();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText =
+        fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width() - 4);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+};
+
 class ComboView : public ControlView {
  public:
   ComboView(ComboBox& combo, FormHost& host)
-      : ControlView(combo, host), combo_(combo), box_(new QComboBox(host.Window())) {
+      : ControlView(combo, host), combo_(combo), box_(new FoldedList(host.Window())) {
     box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box_->setMaxVisibleItems(12);
     box_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

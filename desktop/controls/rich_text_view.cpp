@@ -9,9 +9,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <functional>
+#include <tuple>
 
 #include "desktop/controls/rich_text_document.h"
 #include "desktop/controls/views.h"
+#include "desktop/icons.h"
 #include "desktop/look.h"
 #include "desktop/pasted_text.h"
 #include "desktop/qt_text.h"
@@ -112,12 +114,13 @@ class RichTextView : public ControlView {
     AddColours();
     bar_->addSeparator();
     auto* group = new QActionGroup(bar_);
-    const std::pair<const char*, Qt::Alignment> sides[] = {{"Sinistra", Qt::AlignLeft},
-                                                           {"Centro", Qt::AlignHCenter},
-                                                           {"Destra", Qt::AlignRight},
-                                                           {"Giustificato", Qt::AlignJustify}};
-    for (const auto& [name, side] : sides) {
-      QAction* action = bar_->addAction(QString::fromLatin1(name));
+    const std::tuple<const char*, LineIcon, Qt::Alignment> sides[] = {
+        {"Allineato a sinistra", LineIcon::Left, Qt::AlignLeft},
+        {"Centrato", LineIcon::Centre, Qt::AlignHCenter},
+        {"Allineato a destra", LineIcon::Right, Qt::AlignRight},
+        {"Giustificato", LineIcon::Justified, Qt::AlignJustify}};
+    for (const auto& [name, icon, side] : sides) {
+      QAction* action = bar_->addAction(IconOf(icon), QString::fromLatin1(name));
       action->setCheckable(true);
       action->setData(static_cast<int>(side));
       group->addAction(action);
@@ -126,14 +129,16 @@ class RichTextView : public ControlView {
               [this, where = side] { edit_->setAlignment(where); });
     }
     bar_->addSeparator();
-    bullet_ = bar_->addAction(QStringLiteral("• Elenco"));
+    bullet_ = bar_->addAction(IconOf(LineIcon::Bullets), QStringLiteral("Elenco puntato"));
     bullet_->setCheckable(true);
     connect(bullet_, &QAction::triggered, this, [this](bool on) { SetBullet(on); });
   }
 
   void AddColours() {
     auto* button = new QToolButton(bar_);
-    button->setText(QStringLiteral("Colore"));
+    button->setIcon(IconOf(LineIcon::Colour));
+    button->setToolTip(QStringLiteral("Colore del testo"));
+    button->setAccessibleName(button->toolTip());
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
     const std::pair<const char*, QColor> colours[] = {{"Nero", QColor(0, 0, 0)},

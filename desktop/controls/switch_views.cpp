@@ -2,6 +2,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "desktop/controls/views.h"
 #include "desktop/qt_text.h"
@@ -20,6 +21,14 @@ QButtonGroup* GroupOf(const OptionGroup& group, QWidget* window) {
     found->setObjectName(name);
   }
   return found;
+}
+
+// A caption whose figure is set off by blanks: options below each other have theirs in one column.
+constexpr QChar kHair = QChar(0x200A);  // the narrowest blank
+constexpr int kBetween = 24;            // pixels between the columns
+QString FirstColumn(const std::string& caption) { return ToQt(caption).section("    ", 0, 0); }
+QString SecondColumn(const std::string& caption) {
+  return ToQt(caption).section("    ", 1).trimmed();
 }
 
 template <class Switch, class Widget>
@@ -59,6 +68,18 @@ class OptionView : public SwitchView<OptionButton, QRadioButton> {
   OptionView(OptionButton& option, FormHost& host) : SwitchView(option, host) {
     widget_->setAutoExclusive(false);
     GroupOf(option.Group(), host.Window())->addButton(widget_);
+  }
+  void Refresh() override {
+    SwitchView::Refresh();
+    if (SecondColumn(model_.Caption()).isEmpty()) return;
+    const QFontMetricsF metrics(widget_->font());
+    double widest = 0;
+    for (const OptionButton* option : model_.Group().Options())
+      widest = std::max(widest, metrics.horizontalAdvance(FirstColumn(option->Caption())));
+    QString text = FirstColumn(model_.Caption());
+    const double hair = std::max(metrics.horizontalAdvance(QString(20, kHair)) / 20, 1.0);
+    text += QString(qRound((widest + kBetween - metrics.horizontalAdvance(text)) / hair), kHair);
+    widget_->setText(text + SecondColumn(model_.Caption()));
   }
 };
 

@@ -3,7 +3,9 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextBlock>
 
 #include "desktop/controls/balloon.h"
@@ -59,10 +61,35 @@ class TextArea : public QPlainTextEdit {
     setTabChangesFocus(true);
   }
   QSize sizeHint() const override { return minimumSize(); }
+  // The lines fold by words at so many columns, however wide the field is; a rule marks the place.
+  void FoldAt(int columns) {
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    folded_ = qCeil(QFontMetricsF(font()).horizontalAdvance(QString(columns, '0')) +
+                    2 * document()->documentMargin()) +
+              cursorWidth();
+    const int bar = verticalScrollBar()->sizeHint().width();
+    setMinimumWidth(folded_ + bar + 2 * frameWidth());
+  }
   std::string refusal;
   std::function<void(int)> onLine;  // a click on a line, without choosing a part of the text
 
  protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QPlainTextEdit::resizeEvent(event);
+    if (folded_ == 0) return;
+    const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->width() : 0;
+    const int beyond = std::max(contentsRect().width() - bar - folded_, 0);
+    if (viewportMargins().right() == beyond) return;
+    setViewportMargins(0, 0, beyond, 0);
+    QResizeEvent narrower(viewport()->size(), {});  // for the lines, laid out before the margin
+    QPlainTextEdit::resizeEvent(&narrower);
+  }
+  void paintEvent(QPaintEvent* event) override {
+    QPlainTextEdit::paintEvent(event);
+    if (folded_ == 0) return;
+    QPainter(viewport())
+        .fillRect(folded_ - 1, 0, 1, viewport()->height(), palette().color(QPalette::Mid));
+  }
   void mouseReleaseEvent(QMouseEvent* event) override {
     QPlainTextEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && onLine && !textCursor().hasSelection())
@@ -101,6 +128,7 @@ class TextArea : public QPlainTextEdit {
     return refusal.empty();
   }
   std::function<std::string(const std::string&)> objection_;
+  int folded_ = 0;  // pixels of the columns at which the lines fold; 0: they fold at the edge
 };
 
 class TextAreaView : public ControlView {
@@ -110,12 +138,14 @@ class TextAreaView : public ControlView {
         box_(box),
         area_(new TextArea(host.Window(),
                            [&box](const std::string& t) { return box.Objection(t); })) {
+    const bool page = box.Options().columns && !box.Options().readOnly;
     if (box.Options().columns) area_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     const QMargins margins = area_->contentsMargins();
     const int frame = margins.top() + margins.bottom() +
                       2 * static_cast<int>(area_->document()->documentMargin());
     area_->setMinimumHeight(area_->fontMetrics().lineSpacing() * box.Options().lines + frame + 4);
     area_->setMinimumWidth(CharactersWide(*area_, std::min(box.Options().width, 70)) + frame);
+    if (page) area_->FoldAt(box.Options().width);
     area_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     UseField(area_);
     if (box.onLine) area_->onLine = [this](int line) { host_.Act([&] { box_.onLine(line); }); };

@@ -247,10 +247,14 @@ void FormBuilder::AddLine(const Layout& line, QGridLayout* grid, int row, bool c
     fields->addWidget(view.Whole());
     grid->addLayout(fields, row, 1);
   } else if (severals) {
+    if (first.control->GetKind() == Kind::Button)
+      view.Whole()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     grid->addWidget(view.Whole(), row, 0);
     grid->addLayout(fields, row, 1);
   } else {
-    const bool inFieldColumn = captions && first.control->GetKind() != Kind::Label;
+    const auto* label = dynamic_cast<const Label*>(first.control);
+    const bool inFieldColumn =
+        captions && (label == nullptr || label->GetStyle() == Label::Style::Note);
     fields->addWidget(view.Whole());
     grid->addLayout(fields, row, inFieldColumn ? 1 : 0, 1, inFieldColumn ? 1 : 2);
   }

@@ -10,6 +10,7 @@
 
 #include "desktop/controls/balloon.h"
 #include "desktop/player/form_builder.h"
+#include "desktop/player/heading_line.h"
 #include "desktop/qt_text.h"
 
 namespace orm {
@@ -82,6 +83,10 @@ void FormDialog::Arrange() {
   scroll_ = new ContentArea(this);
   scroll_->setWidget(content);
   auto* outer = new QVBoxLayout(this);
+  if (!form_.GetHeading().note.empty()) {
+    heading_ = new HeadingLine(form_.GetHeading(), this);
+    outer->addWidget(heading_);
+  }
   outer->addWidget(scroll_, 1);
   if (hasFoot) {
     outer->addSpacing(6);

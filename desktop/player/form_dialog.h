@@ -14,6 +14,8 @@ class QScrollArea;
 
 namespace orm {
 
+class HeadingLine;
+
 class FormDialog : public QDialog, public FormView, public FormHost {
  public:
   // The form has been opened and outlives the dialog.
@@ -21,6 +23,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   ~FormDialog() override;
 
   Form& Model() const { return form_; }
+  const HeadingLine* TopLine() const { return heading_; }  // nullptr: the form stands alone
   ControlView& ViewOf(const Control& control) const { return *views_.at(&control); }
   // The least size without scrolling, and what a window's borders and title bar add to it.
   QSize LeastSize() const { return least_; }
@@ -56,6 +59,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   Form& form_;
   std::map<const Control*, std::unique_ptr<ControlView>> views_;
   std::vector<Control*> reading_;
+  HeadingLine* heading_ = nullptr;
   QScrollArea* scroll_ = nullptr;
   bool grows_ = false;
   bool refit_ = false;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
@@ -46,6 +47,16 @@ MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
   qApp->installEventFilter(this);
   setWindowTitle(ToQt(window.Title()).trimmed());
   setCentralWidget(new PictureArea);
+  passing_ = new QLabel(centralWidget());
+  passing_->setObjectName("archiviata");
+  passing_->setTextFormat(Qt::PlainText);
+  passing_->setAlignment(Qt::AlignCenter);
+  passing_->setWordWrap(true);
+  passing_->setAutoFillBackground(true);
+  passing_->setMargin(8);
+  passing_->hide();
+  passingEnds_.setSingleShot(true);
+  connect(&passingEnds_, &QTimer::timeout, passing_, &QLabel::hide);
   const QRect room = screen()->availableGeometry();
   resize(QSize(1000, 680).boundedTo(room.size() * 0.9));
   move(room.center() - rect().center());
@@ -56,6 +67,7 @@ MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
     menu->setObjectName(ToQt(top.name));
     menu->menuAction()->setObjectName(ToQt(top.name));
     connect(menu, &QMenu::aboutToShow, this, [this, menu, &top] {
+      passing_->hide();
       FillTop(*menu, top);
       window_.MenuOpened(top.name);
     });
@@ -93,8 +105,36 @@ void MenuWindow::Fill(QMenu& menu, const std::vector<MenuItem>& items) {
 }
 
 void MenuWindow::Choose(const std::string& command) {
+  passing_->hide();
   window_.Choose(command);
+  if (const SavedNote note = window_.TakeSaved(); !note.text.empty()) TellSaved(note);
   EndIfEnded();
+}
+
+// A line at the foot of the picture, which no one has to answer.
+void MenuWindow::TellSaved(const SavedNote& note) {
+  passing_->setText("Archiviata: " + ToQt(note.text) + "\nPer il calcolo: " + KeysOf(note.next));
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, palette().color(QPalette::ToolTipBase));
+  colours.setColor(QPalette::WindowText, palette().color(QPalette::ToolTipText));
+  passing_->setPalette(colours);
+  const QSize room = centralWidget()->size();
+  const int height = passing_->heightForWidth(room.width());
+  passing_->setGeometry(0, room.height() - height, room.width(), height);
+  passing_->show();
+  passingEnds_.start(kPassing);
+}
+
+// The keys that open the menus down to a command, one after the other.
+QString MenuWindow::KeysOf(const std::string& command) {
+  QStringList keys;
+  const auto add = [&keys](const QAction* action) {
+    const QString key = QKeySequence::mnemonic(action->text()).toString(QKeySequence::NativeText);
+    keys += keys.isEmpty() ? key : key.section('+', -1);
+  };
+  for (const QMenu* menu : PathTo(command)) add(menu->menuAction());
+  if (const QAction* action = CommandAction(command)) add(action);
+  return keys.join(QStringLiteral(", "));
 }
 
 void MenuWindow::EndIfEnded() {

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <map>
 #include <string>
 
 #include "dialogs/main_window.h"
 
+class QLabel;
 class QMenu;
 
 namespace orm {
@@ -21,6 +23,7 @@ class MenuWindow : public QMainWindow {
   // The first action of the program, once the window has come to the screen. Without it a script
   // is the person, and acts by itself.
   void ActivateOnceShown() { activates_ = true; }
+  static constexpr int kPassing = 12000;  // milliseconds that the line of a saved note stays
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -31,9 +34,13 @@ class MenuWindow : public QMainWindow {
   void FillTop(QMenu& menu, const MenuItem& top);
   void Fill(QMenu& menu, const std::vector<MenuItem>& items);
   void Choose(const std::string& command);
+  void TellSaved(const SavedNote& note);
+  QString KeysOf(const std::string& command);
   void EndIfEnded();
 
   MainWindow& window_;
+  QLabel* passing_ = nullptr;  // over the picture, gone by itself
+  QTimer passingEnds_;
   std::map<std::string, QAction*> commands_;
   bool activates_ = false;
 };

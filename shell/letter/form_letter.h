@@ -33,8 +33,10 @@ class FrmGenLettera : public Form {
   OptionButton Option1{*this, "Option1", "Libero professionista", statoProfessionale};
   OptionButton Option2{*this, "Option2", "Docente", statoProfessionale};
   OptionButton Option3{*this, "Option3", "Dipendente", statoProfessionale};
-  TestoBox Text1{
-      *this, "Text1", "DOCUMENTAZIONE ALLEGATA", {.longest = 2000, .lines = 4, .width = 60}};
+  TestoBox Text1{*this,
+                 "Text1",
+                 "DOCUMENTAZIONE ALLEGATA",
+                 {.longest = 2000, .lines = 4, .width = 72, .columns = true}};
   Button cmdOK{*this, "cmdOK", "&O.K.", Button::Role::Default};
 
  private:

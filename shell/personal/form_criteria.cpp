@@ -70,9 +70,11 @@ void FrmPerCriteri::Voci(Criteri& c, Verso verso) {
   verso(cdPercentualeAggiuntive[2], c.PercIva);
 }
 
-FrmPerCriteri::FrmPerCriteri(RunState& stato) : Form("frmPER_Criteri", "CRITERI"), stato_(stato) {
+FrmPerCriteri::FrmPerCriteri(RunState& stato)
+    : Form("frmPER_Criteri", "CRITERI", "criteri di calcolo"), stato_(stato) {
   SetContent(Disposizione());
-  Option2.onChange = Option3.onChange = [this] { AttivaGruppi(); };
+  chkStampaParere.onChange = chkAggiuntive.onChange = chkSpese[3].onChange = Option2.onChange =
+      Option3.onChange = [this] { AttivaGruppi(); };
   Voci(stato.criteri, Mostra());
   AttivaGruppi();
   btnOK.onPress = [this] { TryAndStay(stato_.player, [this] { Conferma(); }); };
@@ -106,6 +108,14 @@ void FrmPerCriteri::AttivaGruppi() {
   fraDecimali.SetEnabled(compensi || (groups & kTabelle) != 0);
   casellainteri1.SetEnabled((groups & kTabelle) != 0);
   casellainteri2.SetEnabled(compensi);
+  // What is not printed has nothing to be filled in. The fee of the Order stands in both groups.
+  const bool spese = chkAggiuntive.Value();
+  const bool quote = chkStampaParere.Value() || (spese && chkSpese[3].Value());
+  cdQuotaFissa.SetEnabled(quote);
+  cdQuotaPercentuale.SetEnabled(quote);
+  tboxPresidente.SetEnabled(chkStampaParere.Value());
+  for (CheckBox& voce : chkSpese) voce.SetEnabled(spese);
+  for (FloatBox& percentuale : cdPercentualeAggiuntive) percentuale.SetEnabled(spese);
 }
 
 // What cannot be written is not in force either.

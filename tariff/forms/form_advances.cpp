@@ -6,7 +6,7 @@ namespace orm {
 
 FrmGenAcconti::FrmGenAcconti(RunState& stato, DataWriter corpo)
     : FormInput(stato, "frmGEN_Acconti",
-                "                               RAPPORTI CONVENUTI CON IL COMMITTENTE"),
+                "                               RAPPORTI CONVENUTI CON IL COMMITTENTE", "accordi"),
       corpo_(std::move(corpo)) {
   SetContent(
       Column({Group(Frame1, {Row({AmountFields({acconti}), lblValuta, Image1})}),

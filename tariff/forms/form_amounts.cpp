@@ -4,7 +4,7 @@ namespace orm {
 
 FrmGenUnoImporti::FrmGenUnoImporti(RunState& stato, std::string titolo, std::string riquadro,
                                    const ImportoChiesto& chiesto)
-    : FormInput(stato, "frmGEN_UNOIMPORTI", std::move(titolo)) {
+    : FormInput(stato, "frmGEN_UNOIMPORTI", std::move(titolo), "importo") {
   SetContent(Column({Fields({Label1, Label2}),
                      Group(Frame1, {Row({AmountFields({importo}), Image1})}), Buttons({cmdOK})}));
   Frame1.SetCaption(std::move(riquadro));
@@ -26,14 +26,12 @@ void FrmGenUnoImporti::SetClasseCategoria(std::string etichetta, std::string val
   Label2.SetText(std::move(valore));
 }
 
-FrmPdlImporti::FrmPdlImporti(RunState& stato, std::string titolo, std::string dove,
-                             const ImportiPdl& importi)
-    : FormInput(stato, "frmPDL_Importi", std::move(titolo)) {
+FrmPdlImporti::FrmPdlImporti(RunState& stato, std::string titolo, const ImportiPdl& importi)
+    : FormInput(stato, "frmPDL_Importi", std::move(titolo), "importi") {
   auto& [lavori, espropri, suppletivi, espropriPerizie, direzione] = importo;
-  SetContent(Column({Row({lblLotto, Image1}), Group(Frame1, {AmountFields({lavori, espropri})}),
+  SetContent(Column({Group(Frame1, {Row({AmountFields({lavori, espropri}), Image1})}),
                      Group(Frame2, {AmountFields({suppletivi, espropriPerizie})}),
                      Group(Frame3, {AmountFields({direzione})}), lblNota, Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
   for (std::size_t i = 0; i < importo.size(); ++i) importo[i].Chiedi(importi[i]);
   Frame2.SetVisible(importi[2].posto != nullptr);
   Command1.onPress = [this] { Conferma(importo); };

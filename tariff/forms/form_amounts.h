@@ -36,9 +36,8 @@ class FrmPdlImporti : public FormInput {
  public:
   // The amounts are taken when they are confirmed; a sum that the report has no room for is
   // refused.
-  FrmPdlImporti(RunState& stato, std::string titolo, std::string dove, const ImportiPdl& importi);
+  FrmPdlImporti(RunState& stato, std::string titolo, const ImportiPdl& importi);
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   MarchioEuro Image1{*this, stato_};
   Frame Frame1{*this, "Frame1", "PROGETTAZIONE"};
   Frame Frame2{*this, "Frame2", "PERIZIE"};

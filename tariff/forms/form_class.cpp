@@ -11,12 +11,14 @@ FrmGenClasse::FrmGenClasse(RunState& stato, const PostoRiga& posto, std::string&
     : FormRiga(stato, "frmGEN_Classe",
                testi.titolo.empty() ? "CLASSE E CATEGORIA per il " + ConNumero(posto, "LOTTO")
                                     : testi.titolo,
-               posto, cmdFINE),
+               "classe e categoria", posto, kLotto, cmdFINE),
       Classe_(Classe),
       Categoria_(Categoria),
       chiedeImporto_(chiesto.posto != nullptr) {
-  SetContent(Column({Label1, Fields({comClasse}), lblClasse, Fields({comCategoria}), lblCategoria,
-                     Row({AmountFields({importo}), Image1}), Buttons({cmdCONFERMA, cmdFINE})}));
+  SetContent(
+      Column({Row({Label1, Image1}),
+              Fields({comClasse, lblClasse, comCategoria, lblCategoria, importo.ci, importo.cd}),
+              Fondo(cmdCONFERMA)}));
   if (posto.Nuova() || testi.etichetta) Label1.SetText(Etichetta(posto, "LOTTO"));
   std::vector<std::string> nomi;
   for (const NomiClasse& classe : kNomiClassi) nomi.emplace_back(classe.nome);
@@ -69,9 +71,9 @@ bool ChiediClasse(RunState& stato, const PostoRiga& posto, std::string& Classe,
   return FrmGenClasse(stato, posto, Classe, Categoria, testi).Chiedi();
 }
 
-std::string DoveSiamo(const PostoRiga& posto, std::string_view Classe, std::string_view Categoria) {
-  return DoveSiamo(posto, "LOTTO") + "   CLASSE/CATEGORIA " +
-         StringaClasseCategoria(Classe, Categoria);
+std::vector<std::string> DoveSiamo(const PostoRiga& posto, std::string_view Classe,
+                                   std::string_view Categoria) {
+  return {DoveSiamo(posto, kLotto), StringaClasseCategoria(Classe, Categoria)};
 }
 
 }  // namespace orm

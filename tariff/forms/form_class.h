@@ -53,7 +53,8 @@ bool ChiediClasseEImporto(RunState& stato, const PostoRiga& posto, const std::ve
       .Chiedi();
 }
 
-// "LOTTO n° 2 di 3   CLASSE/CATEGORIA 1/c".
-std::string DoveSiamo(const PostoRiga& posto, std::string_view Classe, std::string_view Categoria);
+// The way to the forms of a lot: "lotto 2 di 3", "1/c".
+std::vector<std::string> DoveSiamo(const PostoRiga& posto, std::string_view Classe,
+                                   std::string_view Categoria);
 
 }  // namespace orm

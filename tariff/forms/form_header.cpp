@@ -5,11 +5,11 @@
 namespace orm {
 
 FrmGenIntestazione::FrmGenIntestazione(RunState& stato, std::string nomeFile)
-    : Form("frmGEN_Intestazione",
-           "                                          INTESTAZIONE PARCELLA"),
+    : Form("frmGEN_Intestazione", "                                          INTESTAZIONE PARCELLA",
+           "intestazione"),
       file_(stato.player, stato.folder, std::move(nomeFile)) {
-  SetContent(
-      Column({Fields({txtCommittente, txtIncarico, txtDocumenti, txtNote}), Buttons({Command1})}));
+  SetContent(Column({Fields({txtCommittente, txtIncarico, txtDocumenti, txtNote, lblColonne}),
+                     Buttons({Command1})}));
   const Intestazione dati =
       file_.Leggi(Intestazione(), [&] { return LeggiIntestazione(stato.folder, file_.Nome()); });
   txtCommittente.SetText(dati.Committente);

@@ -30,7 +30,8 @@ constexpr std::array<const char*, 4> kHelp = {
 }  // namespace
 
 FrmGenTipologia::FrmGenTipologia(Player& player, const std::string& tipoParcella)
-    : Form("frmGEN_Tipologia", "TIPOLOGIA DI  PARCELLA"), TipoParcella(tipoParcella) {
+    : Form("frmGEN_Tipologia", "TIPOLOGIA DI  PARCELLA", "tipo di parcella"),
+      TipoParcella(tipoParcella) {
   SetContent(Column({Group(Frame1, {Row({Option[0], Help[0]}), Row({Option[1], Help[1]}),
                                     Row({Option[2], Help[2]}), Row({Option[3], Help[3]})}),
                      Buttons({OKbutton})}));

@@ -15,14 +15,12 @@ std::string Voce(const LavoriContabilita& lavori) {
 
 }  // namespace
 
-FrmPdlAltri::FrmPdlAltri(RunState& stato, std::string titolo, std::string dove, std::string rifiuto,
+FrmPdlAltri::FrmPdlAltri(RunState& stato, std::string titolo, std::string rifiuto,
                          PrestazioniAggiuntive& prestazioni)
-    : FormInput(stato, "frmPDL_Altri", std::move(titolo)),
+    : FormInput(stato, "frmPDL_Altri", std::move(titolo), "prestazioni aggiuntive"),
       rifiuto_(std::move(rifiuto)),
       prestazioni_(prestazioni) {
-  SetContent(
-      Column({lblLotto, Group(Frame1, {Check1, Check2, Check3, Check4}), Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
+  SetContent(Column({Group(Frame1, {Check1, Check2, Check3, Check4}), Buttons({Command1})}));
   Check1.SetValue(prestazioni.Sorveglianza);
   Check2.SetValue(prestazioni.Contabilita);
   Check3.SetValue(prestazioni.Revisione);
@@ -49,11 +47,10 @@ void FrmPdlAltri::Conferma() {
   Esci(Uscita::Conferma);
 }
 
-FrmPdlCont::FrmPdlCont(std::string dove, const std::string& risposta)
-    : Form("frmPDL_Cont", "MISURE e CONTABILITA'"), Risposta(risposta) {
-  SetContent(Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}),
-                     Buttons({Command1})}));
-  lblLotto.SetText(std::move(dove));
+FrmPdlCont::FrmPdlCont(const std::string& risposta)
+    : Form("frmPDL_Cont", "MISURE e CONTABILITA'", "misure e contabilità"), Risposta(risposta) {
+  SetContent(
+      Column({Group(Frame1, {Option[0], Option[1], Option[2], Option[3]}), Buttons({Command1})}));
   for (std::size_t i = 0; i < Option.size(); ++i) Option[i].SetCaption(Voce(kLavoriClasse1[i]));
   if (risposta < "1" || risposta > "4") Risposta = "1";
   tipo.Choose(Risposta[0] - '1');
@@ -63,13 +60,12 @@ FrmPdlCont::FrmPdlCont(std::string dove, const std::string& risposta)
   };
 }
 
-double ChiediCoefficienteContabilita(Player& player, const std::string& dove,
-                                     const std::string& Classe, double attuale) {
+double ChiediCoefficienteContabilita(Player& player, const std::string& Classe, double attuale) {
   if (Classe != "1") return kCoefficienteAltreClassi;
   const auto noto = std::ranges::find(kLavoriClasse1, attuale, &LavoriContabilita::coefficiente);
   const auto indice = noto - kLavoriClasse1.begin();
-  FrmPdlCont form(
-      dove, noto == kLavoriClasse1.end() ? "" : std::string(1, static_cast<char>('1' + indice)));
+  FrmPdlCont form(noto == kLavoriClasse1.end() ? ""
+                                               : std::string(1, static_cast<char>('1' + indice)));
   player.Show(form);
   return kLavoriClasse1[static_cast<std::size_t>(form.Risposta[0] - '1')].coefficiente;
 }

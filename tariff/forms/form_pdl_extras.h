@@ -15,11 +15,10 @@ struct PrestazioniAggiuntive {
 class FrmPdlAltri : public FormInput {
  public:
   // `rifiuto`: why the row can have no accounting; empty when it can.
-  FrmPdlAltri(RunState& stato, std::string titolo, std::string dove, std::string rifiuto,
+  FrmPdlAltri(RunState& stato, std::string titolo, std::string rifiuto,
               PrestazioniAggiuntive& prestazioni);
   void SoloContabilita();  // the others are not offered
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "PRESTAZIONI AGGIUNTIVE"};
   CheckBox Check1{*this, "Check1", "SORVEGLIANZA"};
   CheckBox Check2{*this, "Check2", "MISURE e CONTABILITA'"};
@@ -37,10 +36,9 @@ class FrmPdlAltri : public FormInput {
 class FrmPdlCont : public Form {
  public:
   // `risposta`: "1" to "4", in the order of the options; anything else is the first.
-  FrmPdlCont(std::string dove, const std::string& risposta);
+  explicit FrmPdlCont(const std::string& risposta);
   std::string Risposta;
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1", "TIPO DI LAVORI EDILI "};
   OptionGroup tipo;
   std::array<OptionButton, 4> Option{{{*this, "Option1", "", tipo},
@@ -51,8 +49,7 @@ class FrmPdlCont : public Form {
 };
 
 // The coefficient of accounting for a class; class "1" asks for the kind of works.
-double ChiediCoefficienteContabilita(Player& player, const std::string& dove,
-                                     const std::string& Classe, double attuale);
+double ChiediCoefficienteContabilita(Player& player, const std::string& Classe, double attuale);
 
 // Why an eleventh row of accounting is refused.
 std::string RifiutoContabilita(std::size_t righe);

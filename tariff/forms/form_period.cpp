@@ -1,5 +1,6 @@
 #include "tariff/forms/form_period.h"
 
+#include "runtime/numbers.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {
@@ -24,18 +25,30 @@ void ElencoDecreti::Prendi(std::string& periodo) const {
   if (Index() >= 0) periodo = std::string(1, static_cast<char>('1' + Index()));
 }
 
+namespace {
+
+constexpr NomeRiga kPeriodo = {"periodo", "il periodo", "i periodi"};
+
+std::string TogliePeriodi(const PostoRiga& posto) {
+  if (posto.Nuova()) return "";
+  const std::size_t quanti = posto.esistenti - posto.numero + 1;
+  return "toglie " + NumberText(static_cast<double>(quanti)) +
+         (quanti == 1 ? " periodo" : " periodi") + " con importi";
+}
+
+}  // namespace
+
 TestiTariffe TestiPdlTariffe() {
   return {"frmPDL_Tariffe", "DATA DI ESECUZIONE DELLA PRESTAZIONE", "PERIODO DI VALIDITA' DEL",
           NomiDeiDecreti()};
 }
 
-FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove,
-                       const PostoRiga& posto, int ultimo, const std::string& periodo)
-    : FormRiga(stato, testi.nome, testi.titolo, posto, Command2) {
-  SetContent(
-      Column({lblLotto, Group(Frame1, {Option[0], Option[1], Option[2], Option[3], Option[4]}),
-              Buttons({Command1, Command2})}));
-  lblLotto.SetText(std::move(dove));
+FrmTariffe::FrmTariffe(RunState& stato, const TestiTariffe& testi, const PostoRiga& posto,
+                       int ultimo, const std::string& periodo)
+    : FormRiga(stato, testi.nome, testi.titolo, "decreto", posto, kPeriodo, Command2) {
+  lblToglie.SetText(TogliePeriodi(posto));
+  SetContent(Column(
+      {Group(Frame1, {Option[0], Option[1], Option[2], Option[3], Option[4]}), Fondo(Command1)}));
   Frame1.SetCaption(testi.riquadro);
   for (int i = 0; i < kPeriodo1987; ++i) {
     OptionButton& opzione = Option[static_cast<std::size_t>(i)];

@@ -34,14 +34,13 @@ class FrmTariffe : public FormRiga {
  public:
   // Periods of a lot only go forward: those up to `ultimo`, the last one used, are not offered.
   // `periodo` is chosen at first, or the first one offered.
-  FrmTariffe(RunState& stato, const TestiTariffe& testi, std::string dove, const PostoRiga& posto,
-             int ultimo, const std::string& periodo);
+  FrmTariffe(RunState& stato, const TestiTariffe& testi, const PostoRiga& posto, int ultimo,
+             const std::string& periodo);
 
   // Shows the form: 1 to 5, or nothing at the end of the periods, which comes by itself where a
   // new row has none left to choose. A row that exists is not dropped unseen.
   std::optional<std::int16_t> ChiediPeriodo();
 
-  Label lblLotto{*this, "lblLotto", "", Label::Style::Title};
   Frame Frame1{*this, "Frame1"};
   OptionGroup tipo;
   std::array<OptionButton, kPeriodo1987> Option{{{*this, "Option1", "", tipo},

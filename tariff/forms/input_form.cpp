@@ -25,7 +25,14 @@ void FormRiga::OnOpen() {
   fine_.onPress = [this] { Esci(Uscita::Fine); };
 }
 
+Layout FormRiga::Fondo(Button& conferma) {
+  if (lblToglie.Text().empty()) lblToglie.SetText(Toglie(posto_, riga_));
+  lblToglie.SetVisible(!lblToglie.Text().empty());
+  return Buttons({conferma, fine_, lblToglie});
+}
+
 bool FormRiga::Chiedi() {
+  const PartOfWay qui(stato_.player.place, {DoveSiamo(posto_, riga_)});
   stato_.player.Show(*this);
   return Confermato() || (TipodiUscita == Uscita::Finestra && !posto_.Nuova());
 }

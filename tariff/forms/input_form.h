@@ -11,8 +11,8 @@ namespace orm {
 
 class FormInput : public Form {
  public:
-  FormInput(RunState& stato, std::string nome, std::string titolo)
-      : Form(std::move(nome), std::move(titolo)), stato_(stato) {}
+  FormInput(RunState& stato, std::string nome, std::string titolo, std::string passo)
+      : Form(std::move(nome), std::move(titolo), std::move(passo)), stato_(stato) {}
 
  protected:
   // Tells why what was entered is not taken: the form stays open. False for an empty reason, which
@@ -31,12 +31,16 @@ class FormRiga : public FormInput {
   bool Chiedi();
 
  protected:
-  // `fine`: the button that ends the list.
-  FormRiga(RunState& stato, std::string nome, std::string titolo, PostoRiga posto, Button& fine)
-      : FormInput(stato, std::move(nome), std::move(titolo)),
+  // `riga`: how the list names its rows; `fine`: the button that ends the list.
+  FormRiga(RunState& stato, std::string nome, std::string titolo, std::string passo,
+           PostoRiga posto, const NomeRiga& riga, Button& fine)
+      : FormInput(stato, std::move(nome), std::move(titolo), std::move(passo)),
         posto_(std::move(posto)),
+        riga_(riga),
         fine_(fine) {}
   void OnOpen() override;
+  // The foot of the form: beside the button that ends the list stands what it takes away.
+  Layout Fondo(Button& conferma);
 
   // The same as Rifiuta, with the words that tell how the list ends.
   bool RifiutaRiga(const std::string& motivo);
@@ -46,8 +50,10 @@ class FormRiga : public FormInput {
   }
 
   const PostoRiga posto_;
+  Label lblToglie{*this, "lblToglie", "", Label::Style::Note};
 
  private:
+  const NomeRiga riga_;
   Button& fine_;
 };
 

@@ -8,6 +8,7 @@
 #include "tariff/files/row_lots.h"
 #include "tariff/forms/form_class.h"
 #include "tariff/forms/form_period.h"
+#include "tariff/law/tariff_tables.h"
 
 namespace orm {
 
@@ -38,6 +39,7 @@ class CatenaRighe {
             righeAltrui.insert(righeAltrui.end(), righeDelLotto.begin(), righeDelLotto.end());
           Riga modello = sue.empty() ? Riga() : sue.front();
           if (!ChiediTestata(posto, modello)) return false;
+          const PartOfWay qui(stato.player.place, Dove(posto, modello));
           ChiediPeriodi(posto, modello, sue);
           return true;
         });
@@ -46,6 +48,8 @@ class CatenaRighe {
  protected:
   // The heading of a lot, into `modello`. False at the end of the lots.
   virtual bool ChiediTestata(const PostoRiga& lotto, Riga& modello) = 0;
+  // Where the forms of a lot stand, whose heading is that of `modello`.
+  virtual std::vector<std::string> Dove(const PostoRiga& lotto, const Riga& modello) const = 0;
   // What the row at `posto` of a lot starts from: the lot's heading is that of `modello`, also
   // where the row that existed had another one; `ultimo` is the last period before it, 0 for none;
   // `altreDelLotto` are its other rows.
@@ -57,6 +61,10 @@ class CatenaRighe {
   };
   // The period of a row, nothing at the end of the periods.
   virtual std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const Riga& riga) = 0;
+  // The name of a period.
+  virtual std::string NomeDelPeriodo(std::int16_t periodo) const {
+    return NomePeriodoTariffario(periodo);
+  }
   // The rest of a row. `altreRighe`: the others of the note.
   virtual void ChiediRiga(const PostoPeriodo& qui, std::int16_t periodo, Riga& riga,
                           const std::vector<Riga>& altreRighe) = 0;
@@ -104,6 +112,7 @@ class CatenaRighe {
           if (!periodo) return false;
           std::vector<Riga> altreRighe = righeAltrui;
           altreRighe.insert(altreRighe.end(), altreDelLotto.begin(), altreDelLotto.end());
+          const PartOfWay nelPeriodo(stato.player.place, {NomeDelPeriodo(*periodo)});
           ChiediRiga(qui, *periodo, riga, altreRighe);
           righe.push_back(riga);
           fatto.PeriodoDelLotto.push_back(*periodo);
@@ -132,9 +141,10 @@ class CatenaClassi : public CatenaRighe<Riga> {
 
  protected:
   using PostoPeriodo = typename CatenaRighe<Riga>::PostoPeriodo;
+  using CatenaRighe<Riga>::stato;
 
-  static std::string Dove(const PostoPeriodo& qui) {
-    return DoveSiamo(qui.lotto, qui.modello.Classe, qui.modello.Categoria);
+  std::vector<std::string> Dove(const PostoRiga& lotto, const Riga& modello) const override {
+    return DoveSiamo(lotto, modello.Classe, modello.Categoria);
   }
 
   bool ChiediTestata(const PostoRiga& lotto, Riga& modello) override {
@@ -142,7 +152,7 @@ class CatenaClassi : public CatenaRighe<Riga> {
   }
 
   std::optional<std::int16_t> ChiediPeriodo(const PostoPeriodo& qui, const Riga& riga) override {
-    return FrmTariffe(stato, TestiPdlTariffe(), Dove(qui), qui.posto, qui.ultimo, riga.*Periodo)
+    return FrmTariffe(stato, TestiPdlTariffe(), qui.posto, qui.ultimo, riga.*Periodo)
         .ChiediPeriodo();
   }
 
@@ -152,8 +162,6 @@ class CatenaClassi : public CatenaRighe<Riga> {
     riga.Categoria = qui.modello.Categoria;
     riga.*Periodo = periodo == 0 ? "" : NumberText(periodo);
   }
-
-  using CatenaRighe<Riga>::stato;
 
  private:
   std::string Riga::*const Periodo;

@@ -15,8 +15,17 @@ std::string Etichetta(const PostoRiga& posto, std::string_view cosa, std::string
   return posto.Nuova() ? std::string(nuova) + " " + std::string(cosa) : ConNumero(posto, cosa);
 }
 
-std::string DoveSiamo(const PostoRiga& posto, std::string_view cosa) {
-  return ConNumero(posto, cosa) + (posto.Nuova() ? "" : " di " + Intero(posto.esistenti));
+std::string DoveSiamo(const PostoRiga& posto, const NomeRiga& riga) {
+  return std::string(riga.nome) + " " + Intero(posto.numero) +
+         (posto.Nuova() ? "" : " di " + Intero(posto.esistenti));
+}
+
+std::string Toglie(const PostoRiga& posto, const NomeRiga& riga) {
+  if (posto.Nuova()) return "";
+  if (posto.numero == posto.esistenti)
+    return std::string("toglie ") + riga.una + " " + Intero(posto.numero);
+  return std::string("toglie ") + riga.piu + " da " + Intero(posto.numero) + " a " +
+         Intero(posto.esistenti);
 }
 
 std::string OltreIlMassimo(std::size_t massimo, std::string_view cose) {

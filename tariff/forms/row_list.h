@@ -20,13 +20,21 @@ struct PostoRiga {
   bool Nuova() const { return numero > esistenti; }
 };
 
+// How a list names its rows: "lotto", "il lotto", "i lotti".
+struct NomeRiga {
+  const char *nome, *una, *piu;
+};
+inline constexpr NomeRiga kLotto = {"lotto", "il lotto", "i lotti"};
+
 // "LOTTO n° 2".
 std::string ConNumero(const PostoRiga& posto, std::string_view cosa);
 // The same, for a new row "NUOVO LOTTO".
 std::string Etichetta(const PostoRiga& posto, std::string_view cosa,
                       std::string_view nuova = "NUOVO");
-// "LOTTO n° 2 di 3"; a new one has no "di".
-std::string DoveSiamo(const PostoRiga& posto, std::string_view cosa);
+// "lotto 2 di 3"; a new one has no "di".
+std::string DoveSiamo(const PostoRiga& posto, const NomeRiga& riga);
+// What ending the list at the row takes away: "toglie i lotti da 2 a 20"; empty for nothing.
+std::string Toglie(const PostoRiga& posto, const NomeRiga& riga);
 
 // "UNA PARCELLA PUÒ AVERE AL MASSIMO 20 LOTTI."
 std::string OltreIlMassimo(std::size_t massimo, std::string_view cose);

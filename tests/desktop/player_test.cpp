@@ -1,18 +1,23 @@
 // The desktop player as a whole: message boxes, life of a form, menus, texts with looks, drawings.
 #include <QAbstractButton>
 #include <QImage>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include "desktop/controls/rich_text_document.h"
 #include "desktop/drawing/paint_drawing.h"
+#include "desktop/player/heading_line.h"
 #include "desktop/player/menu_keys.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/player/message_window.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
 #include "shell/letter/form_letter.h"
+#include "tariff/forms/form_header.h"
 #include "tests/desktop/test_player.h"
 
 namespace orm {
@@ -41,7 +46,8 @@ TEST(Ask, EnterIsTheFirstButtonAndEscapeTheOneThatChangesNothing) {
 
 class PlainForm : public Form {
  public:
-  explicit PlainForm(bool anyKey = false) : Form("frmSemplice", "  Titolo "), anyKey_(anyKey) {
+  explicit PlainForm(bool anyKey = false)
+      : Form("frmSemplice", "  Titolo ", "passo"), anyKey_(anyKey) {
     SetContent(Column({Buttons({cmdOK})}));
   }
   bool ClosesOnAnyKey() const override { return anyKey_; }
@@ -151,6 +157,28 @@ TEST(MenuKeys, EachCaptionGetsALetterOfItsOwn) {
                                             "A && &B", " &1 - UNO", "", "A"}));
 }
 
+// Where there is no room the subject gives way, and a tooltip has the whole line.
+TEST(Show, TheHeadingOfAChainTellsWhereOneIs) {
+  PlainForm form;
+  TestPlayer player;
+  const std::string subject = "Ampliamento della scuola\nelementare di via Giacomo Pini in Rende";
+  player.place = {"ESL · Lire", subject, {"lotto 1 di 2", "1/c"}};
+  const QString whole = ToQt(player.HeadingOf(form).Text());
+  EXPECT_EQ(FromQt(whole),
+            "ESL · Lire · Ampliamento della scuola elementare di via Giacomo Pini "
+            "in Rende · lotto 1 di 2 · 1/c · passo");
+  player.onForm = [&](FormDialog& dialog) {
+    const HeadingLine& line = *dialog.TopLine();
+    EXPECT_TRUE(line.Shown().startsWith("ESL · Lire · Ampl") && line.Shown().contains("…"));
+    EXPECT_TRUE(line.Shown().endsWith("Rende · lotto 1 di 2 · 1/c · passo"));
+    EXPECT_EQ(QString(line.toolTip()).replace('\n', ' '), whole);
+  };
+  player.Show(form);
+  player.place = {};
+  player.onForm = [](FormDialog& dialog) { EXPECT_EQ(dialog.TopLine(), nullptr); };
+  player.Show(form);
+}
+
 // A frame that comes and goes leaves the window as it was.
 TEST(Show, GrowsAndShrinksWithAFrame) {
   TestPlayer player;
@@ -176,7 +204,9 @@ class SampleWindow : public MainWindow {
   void Choose(std::string_view name) override { events.push_back("choose " + std::string(name)); }
   void Help(std::string_view name) override { events.push_back("help " + std::string(name)); }
   bool Ended() const override { return false; }
+  SavedNote TakeSaved() override { return std::exchange(saved, {}); }
   std::vector<std::string> events;
+  SavedNote saved;
 
  private:
   std::string title_ = "   ORM2002 ";
@@ -203,6 +233,42 @@ TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
   QTest::keyClick(&shown, Qt::Key_F1);
   EXPECT_EQ(window.events,
             (std::vector<std::string>{"first", "open FILE", "help ESCI", "choose ALTRO", "help "}));
+}
+
+// Told once, with the keys of the calculation, and gone when a menu opens.
+TEST(MenuWindow, ASavedNoteIsToldInPassing) {
+  SampleWindow window;
+  MenuWindow shown(window);
+  shown.show();
+  QTest::qWait(20);
+  const auto* line = shown.findChild<QLabel*>("archiviata");
+  window.saved = {"ESL · Lire · Scuola · 2 lotti", "ESCI"};
+  shown.CommandAction("ALTRO")->trigger();
+  EXPECT_TRUE(line->isVisible());
+  EXPECT_EQ(line->text(), "Archiviata: ESL · Lire · Scuola · 2 lotti\nPer il calcolo: Alt+F, E");
+  EXPECT_TRUE(line->parentWidget()->rect().contains(line->geometry()));
+  QTest::keyClick(&shown, Qt::Key_F, Qt::AltModifier);
+  EXPECT_FALSE(line->isVisible());
+  shown.CommandAction("ALTRO")->trigger();
+  EXPECT_FALSE(line->isVisible());
+}
+
+// A text of the header folds by words at the columns that print, however wide the window is.
+TEST(Header, TextsFoldAtTheColumnsThatPrint) {
+  TestPlayer player;
+  RunState stato(player, WorkFolder("."));
+  FrmGenIntestazione form(stato, "assente.DAP");
+  player.onForm = [&](FormDialog& dialog) {
+    auto* field = qobject_cast<QPlainTextEdit*>(dialog.ViewOf(form.txtIncarico).Field());
+    QTest::keyClicks(field, QString(72, 'W'));
+    EXPECT_EQ(field->document()->firstBlock().layout()->lineCount(), 1);
+    QTest::keyClicks(field, "W");
+    EXPECT_EQ(field->document()->firstBlock().layout()->lineCount(), 2);
+    dialog.resize(dialog.width() + 300, dialog.height());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(field->document()->firstBlock().layout()->lineCount(), 2);
+  };
+  player.Show(form);
 }
 
 TEST(RichTextDocument, KeepsEveryLookThatTheLogicKnows) {

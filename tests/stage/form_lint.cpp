@@ -4,12 +4,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
 #include "desktop/player/form_dialog.h"
+#include "desktop/player/heading_line.h"
 #include "desktop/qt_text.h"
 #include "tests/unit/form_rules.h"
 
@@ -70,6 +72,17 @@ QSize Needed(const QWidget& widget) {
   return widget.minimumSizeHint();
 }
 
+// A form of a chain tells where one is, in the same place as all others.
+void LintHeading(const FormDialog& dialog, Faults& faults) {
+  const HeadingLine* line = dialog.TopLine();
+  if (line == nullptr) return;
+  const QMargins edge = dialog.layout()->contentsMargins();
+  if (line->pos() != QPoint(edge.left(), edge.top()))
+    faults.push_back("il percorso non sta in cima");
+  if (line->width() < line->sizeHint().width()) faults.push_back("il percorso è tagliato");
+  if (dialog.Model().Step().empty()) faults.push_back("il percorso non dice il passo");
+}
+
 void LintRoom(const FormDialog& dialog, Faults& faults) {
   for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
     const bool ours = !widget->objectName().startsWith("qt_") && widget->isVisible() &&
@@ -103,6 +116,7 @@ std::vector<std::string> LintForm(const FormDialog& dialog) {
   Faults faults = FormRules::Broken(dialog.Model());
   LintNames(dialog, faults);
   LintOrder(dialog, faults);
+  LintHeading(dialog, faults);
   LintRoom(dialog, faults);
   return faults;
 }

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "desktop/drawing/drawing_files.h"
+#include "desktop/player/heading_line.h"
 #include "desktop/qt_text.h"
 #include "runtime/folder.h"
 #include "tests/stage/form_lint.h"
@@ -243,6 +244,10 @@ std::string WidgetHand::Shown(Control& control) {
 bool WidgetHand::IsVisible(Control& control) { return WidgetOf(control)->isVisible(); }
 bool WidgetHand::IsEnabled(Control& control) { return WidgetOf(control)->isEnabled(); }
 std::string WidgetHand::Title() { return dialog_.Model().Title(); }
+
+std::string WidgetHand::Heading() {
+  return dialog_.TopLine() == nullptr ? "" : FromQt(dialog_.TopLine()->Whole());
+}
 
 void WidgetHand::Picture(const std::string& name) {
   if (options_.pictures.empty()) return;

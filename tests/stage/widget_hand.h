@@ -31,6 +31,7 @@ class WidgetHand : public FormHand {
   bool IsVisible(Control& control) override;
   bool IsEnabled(Control& control) override;
   std::string Title() override;
+  std::string Heading() override;
   void Picture(const std::string& name) override;
 
  protected:

@@ -36,7 +36,7 @@ TEST_F(FailedSaves, DataOfANote) {
   } person;
   RunState note{person, WorkFolder("/proc")};
   note.FileInp = "INP_PPE.DAP";
-  ChiediAcconti(note, DataWriter());
+  ChiediAcconti(note, DataWriter(), "");
   EXPECT_EQ(person.shown, "frmGEN_Acconti");
   EXPECT_TRUE(person.open);
   EXPECT_EQ(person.messages.size(), 2U);
