@@ -35,7 +35,7 @@ Riquadro PostiEtichette::Posto(double x, double y, double larghezza, double alte
   Riquadro best{x, x + larghezza, y - altezza / 2, y + altezza / 2};
   double least = std::numeric_limits<double>::infinity();
   for (int step = 0; step <= 2 * kSteps; ++step) {
-    const double up = (step % 2 == 0 ? -1 : 1) * ((step + 1) / 2) * kStep;
+    const double up = (step % 2 == 0 ? -1 : 1) * std::ceil(step / 2.0) * kStep;
     const double middle = y + up;
     if (step > 0 && (middle < minimo_ || middle > massimo_)) continue;
     Riquadro r{x, x + larghezza, middle - altezza / 2, middle + altezza / 2};
