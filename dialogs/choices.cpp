@@ -60,16 +60,26 @@ ListControl::ListControl(Form& form, Kind kind, std::string name, std::string ca
 void ListControl::SetItems(std::vector<std::string> items) {
   items_ = std::move(items);
   index_ = -1;
+  automatic_ = false;
   Refresh();
 }
 
-void ListControl::SetIndex(int index) {
+void ListControl::SetIndex(int index) { Take(index, false); }
+void ListControl::Propose(int index) { Take(index, true); }
+
+void ListControl::Take(int index, bool automatic) {
   if (index < 0 || index >= static_cast<int>(items_.size())) index = -1;
-  if (std::exchange(index_, index) != index) Changed();
+  const bool other = std::exchange(index_, index) != index;
+  if (std::exchange(automatic_, automatic) != automatic || other) Changed();
 }
 
 std::string ListControl::ShownText() const {
   return index_ < 0 ? std::string() : items_[static_cast<std::size_t>(index_)];
+}
+
+int ListControl::PlaceOf(std::string_view item) const {
+  const auto found = std::find(items_.begin(), items_.end(), item);
+  return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
 }
 
 std::string ListControl::Enter(std::string_view text) {
@@ -80,9 +90,9 @@ std::string ListControl::Enter(std::string_view text) {
     SetIndex(static_cast<int>(*index));
     return {};
   }
-  const auto found = std::find(items_.begin(), items_.end(), text);
-  if (found == items_.end()) return "La lista non ha questa voce.";
-  SetIndex(static_cast<int>(found - items_.begin()));
+  const int place = PlaceOf(text);
+  if (place < 0) return "La lista non ha questa voce.";
+  SetIndex(place);
   return {};
 }
 

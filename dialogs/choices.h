@@ -55,8 +55,13 @@ class ListControl : public Control {
   const std::vector<std::string>& Items() const { return items_; }
   // Replaces the items; nothing is chosen afterwards.
   void SetItems(std::vector<std::string> items);
-  int Index() const { return index_; }  // -1 for none
-  void SetIndex(int index);             // out of range: none
+  int Index() const { return index_; }       // -1 for none
+  int PlaceOf(std::string_view item) const;  // -1 for none
+  void SetIndex(int index);                  // out of range: none
+  // The program's choice in the place of the person, told by its colour until anybody chooses, be
+  // it the same item.
+  void Propose(int index);
+  bool IsAutomatic() const { return automatic_; }
   std::string ShownText() const override;
   std::string Enter(std::string_view text) override;
 
@@ -65,8 +70,11 @@ class ListControl : public Control {
               std::vector<std::string> items);
 
  private:
+  void Take(int index, bool automatic);
+
   std::vector<std::string> items_;
   int index_ = -1;
+  bool automatic_ = false;
 };
 
 class ComboBox : public ListControl {

@@ -18,6 +18,7 @@ void Control::Refresh() {
 void Control::Changed() {
   Refresh();
   if (onChange) onChange();
+  if (TakesFocus()) form_.OnDataChanged(*this);
 }
 
 void Control::SetCaption(std::string caption) {

@@ -13,7 +13,7 @@ namespace orm {
 // A text that the person cannot change: a note, a result, a title.
 class Label : public Control {
  public:
-  enum class Style { Plain, Note, Warning, Title };
+  enum class Style { Plain, Note, Strong, Warning, Title };
   Label(Form& form, std::string name, std::string text = {}, Style style = Style::Plain);
   const std::string& Text() const { return text_; }
   void SetText(std::string text);

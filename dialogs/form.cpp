@@ -37,6 +37,15 @@ Layout& LastLine(Layout& content) {
   return parts.back();
 }
 
+// Behind the button that confirms, to which Tab comes first.
+void AddResume(std::vector<Layout>& buttons, Button& resume) {
+  const auto confirms = std::ranges::find_if(buttons, [](const Layout& part) {
+    const auto* button = dynamic_cast<const Button*>(part.control);
+    return button != nullptr && button->GetRole() == Button::Role::Default;
+  });
+  buttons.insert(confirms == buttons.end() ? buttons.begin() : confirms + 1, resume);
+}
+
 }  // namespace
 
 Layout Column(std::vector<Layout> parts) {
@@ -54,6 +63,8 @@ Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons) {
   for (Control& button : buttons) parts.emplace_back(button);
   return {Layout::Kind::Buttons, nullptr, std::move(parts)};
 }
+
+Layout Views(std::vector<Layout> parts) { return {Layout::Kind::Views, nullptr, std::move(parts)}; }
 
 std::vector<Control*> ControlsOf(const Layout& layout) {
   std::vector<Control*> controls;
@@ -92,7 +103,7 @@ void Form::SetContent(Layout content) {
     resume_->SetHint("Riporta i dati con cui questa finestra è stata lasciata l'ultima volta.");
     resume_->SetVisible(false);
   }
-  if (resume_) LastLine(content_).children.insert(LastLine(content_).children.begin(), *resume_);
+  if (resume_) AddResume(LastLine(content_).children, *resume_);
   AdoptInto(nullptr, content_);
   // Members are built in an order of their own; a person goes through the form as it is laid out.
   const std::vector<Control*> reading = ControlsOf(content_);

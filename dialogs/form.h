@@ -24,6 +24,7 @@ struct Layout {
     Fields,   // labels in one column, fields in the next, units behind; lines below a row of
               // labels alone are a table with these headings; a Row in it is one line
     Buttons,  // a line of buttons at the right, in the order given
+    Views,    // parts of which one shows at a time, all in the room of the greatest
     Item      // one control
   };
   Layout(Control& item) : kind(Kind::Item), control(&item) {}  // NOLINT: a control is a layout
@@ -42,6 +43,7 @@ Layout Group(Frame& frame, std::vector<Layout> parts);
 // below a field stands in the column of the fields.
 Layout Fields(std::vector<Layout> lines);
 Layout Buttons(std::initializer_list<std::reference_wrapper<Control>> buttons);
+Layout Views(std::vector<Layout> parts);
 
 // The controls of a layout, frames too, in the order in which a person reads them.
 std::vector<Control*> ControlsOf(const Layout& layout);
@@ -85,7 +87,7 @@ class Form {
   Control* Find(std::string_view name) const;  // nullptr when there is none
 
   const Layout& Content() const { return content_; }
-  // A form with entries gets the button of drafts besides, before its other buttons.
+  // A form with entries gets the button of drafts besides, behind the one that confirms.
   void SetContent(Layout content);
   Button* ResumeButton() { return resume_ ? &*resume_ : nullptr; }  // hidden without a draft
 
@@ -106,6 +108,10 @@ class Form {
   virtual void OnOpen() {}
   // The window button or Escape. What the case says for leaving; otherwise nothing more than Close.
   virtual void OnWindowClose() { Close(); }
+  // Escape alone, where it leaves only a part of the form.
+  virtual void OnEscape() { OnWindowClose(); }
+  // A control that a person fills has another value, whoever wrote it; its own event has run.
+  virtual void OnDataChanged(Control&) {}
   // Any key, for a form that ends on one.
   virtual bool ClosesOnAnyKey() const { return false; }
   void Open(Heading heading = {});

@@ -37,7 +37,7 @@ FormValues::FormValues(const Form& form) : hidden_(form.Hidden()) {
     } else if (auto* slider = dynamic_cast<Slider*>(control)) {
       keep(slider->Position());
     } else if (auto* list = dynamic_cast<ListControl*>(control)) {
-      keep(list->Index());
+      keep(list->IsAutomatic() ? list->PlaceOf("") : list->Index());
     } else if (auto* day = dynamic_cast<DatePicker*>(control)) {
       keep(day->Value());
     }
@@ -109,6 +109,16 @@ Drafts::All Drafts::WithOpenForms() const {
   for (const Showing* showing : open_)
     if (FormValues now(showing->form_); now != showing->given_) all[showing->key_] = std::move(now);
   return all;
+}
+
+void Drafts::Showing::KeepPresent() const {
+  drafts_.kept_[key_] = FormValues(form_);
+  if (Button* resume = form_.ResumeButton()) resume->SetVisible(true);
+}
+
+void Drafts::KeepPresent(const Form& form) {
+  for (const Showing* showing : open_)
+    if (&showing->form_ == &form) showing->KeepPresent();
 }
 
 }  // namespace orm

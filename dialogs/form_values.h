@@ -16,6 +16,8 @@ class FormValues {
  public:
   FormValues() = default;
   explicit FormValues(const Form& form);
+  // What each control holds, in the order of reading. A list has the place of its item, that of
+  // none where the program has chosen it, -1 for none.
   using Value = std::variant<bool, int, double, Date, std::string>;
   using Values = std::vector<std::pair<std::string, Value>>;  // by the names of the controls
   // Of an earlier run of the program.
@@ -63,6 +65,7 @@ class Drafts {
    private:
     friend class Drafts;
     void Keep() const;  // if the form holds something else than it came up with
+    void KeepPresent() const;
     Drafts& drafts_;
     Form& form_;
     const std::string key_;
@@ -74,6 +77,8 @@ class Drafts {
   All& Kept() { return kept_; }
   // The same with what stands in the forms on the screen, which is the newer.
   All WithOpenForms() const;
+  // What the form, which is on the screen, holds becomes its draft: other data take its place.
+  void KeepPresent(const Form& form);
 
  private:
   std::string about_;

@@ -1,5 +1,6 @@
 #include "dialogs/lavagna.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -81,6 +82,7 @@ void Lavagna::Clear() {
   views_.clear();
   pen_ = {};
   background_ = {255, 255, 255};
+  notice_.clear();
   left_ = bottom_ = 0;
   right_ = homeWidth_;
   top_ = homeHeight_;
@@ -171,16 +173,34 @@ double Lavagna::LineHeight() const {
   return 1.2 * pen_.fontSize * kPixelsPerPoint * (right_ - left_) / pixelsWide_;
 }
 
+void Lavagna::DrawVerdict(double x, double y, std::string text, DrawOperation::Anchor anchor) {
+  DrawText(x, y, std::move(text), anchor);
+  operations_.back().verdict = true;
+}
+
+void Lavagna::SetNotice(std::string words) {
+  if (std::exchange(notice_, std::move(words)) != notice_) Refresh();
+}
+
+const std::string& Lavagna::SeenText(const DrawOperation& text) const {
+  return text.verdict && !notice_.empty() ? notice_ : text.text;
+}
+
+bool Lavagna::HasVerdict() const {
+  return std::ranges::any_of(operations_, &DrawOperation::verdict);
+}
+
 std::string Lavagna::AsText() const {
   std::string out = "scale " + Shown(left_) + " " + Shown(bottom_) + " " + Shown(right_) + " " +
                     Shown(top_) + "\nbackground " + Shown(background_) + "\n";
+  if (!notice_.empty()) out += "notice \"" + notice_ + "\"\n";
   for (const DrawOperation& op : operations_) {
     out += NameOf(op.kind);
     for (const Point& p : op.points) out += " " + Shown(p.x) + " " + Shown(p.y);
     if (op.kind == DrawOperation::Kind::Arc)
       out += " r " + Shown(op.radius) + " " + Shown(op.from) + " " + Shown(op.to);
     if (op.kind == DrawOperation::Kind::Text) {
-      out += " \"" + op.text + "\"" + NameOf(op.anchor) + (op.upright ? " upright" : "") +
+      out += " \"" + SeenText(op) + "\"" + NameOf(op.anchor) + (op.upright ? " upright" : "") +
              " font " + NumberText(op.fontSize) + (op.bold ? " bold" : "");
     } else {
       out += " width " + NumberText(op.width) + NameOf(op.stroke) + (op.filled ? " filled" : "");

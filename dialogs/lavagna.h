@@ -40,6 +40,7 @@ struct DrawOperation {
   bool bold = false;
   bool filled = false;    // a polygon or a whole circle painted inside
   bool hatching = false;  // a line that fills something, on a layer of its own in a CAD file
+  bool verdict = false;   // a text that says whether what is drawn holds
   int view = -1;          // the view to scale that it belongs to, -1 for none
 };
 
@@ -76,6 +77,15 @@ class Lavagna : public Control {
   void DrawText(double x, double y, std::string text,
                 DrawOperation::Anchor anchor = DrawOperation::Anchor::TopLeft,
                 bool upright = false);
+  void DrawVerdict(double x, double y, std::string text,
+                   DrawOperation::Anchor anchor = DrawOperation::Anchor::TopLeft);
+
+  // A picture of results that are those of other data: the words stand over it and in the place of
+  // its verdict, on the screen and wherever else it goes. Clear takes them away.
+  void SetNotice(std::string words);
+  const std::string& Notice() const { return notice_; }
+  bool HasVerdict() const;
+  const std::string& SeenText(const DrawOperation& text) const;
 
   const std::vector<DrawOperation>& Operations() const { return operations_; }
   const Colour& Background() const { return background_; }
@@ -106,6 +116,7 @@ class Lavagna : public Control {
   int pixelsWide_;
   double left_ = 0, bottom_ = 0, right_, top_;
   Colour background_{255, 255, 255};
+  std::string notice_;
   DrawOperation pen_;
   std::vector<DrawOperation> operations_;
   std::vector<DrawView> views_;

@@ -16,14 +16,19 @@ class FormScelte : public Form {
   FormScelte(std::string nome, std::string titolo) : Form(std::move(nome), std::move(titolo)) {
     OKButton.onPress = [this] { Esci(Uscita::Conferma); };
   }
-  void OnOpen() override { prima_ = FormValues(*this); }
+  void OnOpen() override { Fissa(); }
   // What was given up is a draft like any other's; the choices are those from before.
   void Presenta(Player& player) {
     player.Show(*this);
-    if (!Confermato()) prima_.PutInto(*this);
+    if (!Confermato()) Ripristina();
   }
 
   Button OKButton{*this, "OKButton", "&O.K.", Button::Role::Default};
+
+ protected:
+  // The choices to which a leaving without confirming goes back are those of now.
+  void Fissa() { prima_ = FormValues(*this); }
+  void Ripristina() { prima_.PutInto(*this); }
 
  private:
   FormValues prima_;

@@ -28,8 +28,20 @@ void StampaDato(ReportPrinter& relazione, std::string_view etichetta, std::strin
 namespace {
 void StampaInizio(ReportPrinter& relazione, std::string_view etichetta, double valore,
                   std::string_view modello, std::string_view unita) {
-  relazione.Text(etichetta).Tab(kColonnaValore).Text(FormatPattern(valore, modello));
-  relazione.Tab(kColonnaUnita).Text(unita);
+  const std::string testo = FormatPattern(valore, modello);
+  // A value with no room before its unit begins further left, so that it keeps its line.
+  const auto lunghezza = static_cast<int>(testo.size());
+  const bool lungo = lunghezza > kColonnaUnita - kColonnaValore;
+  relazione.Text(etichetta);
+  const int inizio = lungo ? kColonnaUnita - 1 - lunghezza : kColonnaValore;
+  if (inizio > relazione.Column())
+    relazione.Tab(inizio).Text(testo);
+  else
+    relazione.Text(" ").Text(testo);
+  if (relazione.Column() > kColonnaUnita)
+    relazione.Text(" ").Text(unita);
+  else
+    relazione.Tab(kColonnaUnita).Text(unita);
 }
 }  // namespace
 
@@ -43,8 +55,13 @@ void StampaValoreConLimite(ReportPrinter& relazione, std::string_view etichetta,
                            std::string_view modello, std::string_view unita,
                            std::string_view limite, double ammesso) {
   StampaInizio(relazione, etichetta, valore, modello, unita);
+  if (valore > ammesso) relazione.Tab(kColonnaOltre).Text(kOltre);
   relazione.Tab(kColonnaLimite).Text(limite).Text(FormatPattern(ammesso, modello));
   relazione.Tab(kColonnaUnitaLimite).Line(unita);
+}
+
+void StampaValoriOltre(ReportPrinter& relazione, bool oltre) {
+  if (oltre) relazione.Line("ATTENZIONE : i valori segnati con > superano il loro limite.");
 }
 
 RelazioneStrutturale::RelazioneStrutturale(RunState& stato, std::string file)

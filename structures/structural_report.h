@@ -13,10 +13,12 @@ namespace orm {
 
 inline constexpr int kColonnaValore = 34;
 inline constexpr int kColonnaUnita = 42;
+inline constexpr int kColonnaOltre = 49;
 inline constexpr int kColonnaLimite = 50;
 inline constexpr int kColonnaUnitaLimite = 70;
 
 inline constexpr const char* kDueDecimali = "###0.00";
+inline constexpr const char* kOltre = ">";  // before the limit that a value exceeds
 inline constexpr const char* kAmmessa = "Ammessa : ";
 inline constexpr const char* kAccettata = "Accettata : ";
 
@@ -28,7 +30,8 @@ void StampaSezione(ReportPrinter& relazione, std::string_view titolo);
 void StampaDato(ReportPrinter& relazione, std::string_view etichetta, std::string_view valore,
                 std::string_view unita = {});
 
-// Caption at column 1, value at 34 by its pattern, unit at 42.
+// Caption at column 1, value at 34 by its pattern, unit at 42. A value that is too long for its
+// room begins before it.
 void StampaValore(ReportPrinter& relazione, std::string_view etichetta, double valore,
                   std::string_view modello, std::string_view unita);
 
@@ -36,6 +39,8 @@ void StampaValore(ReportPrinter& relazione, std::string_view etichetta, double v
 void StampaValoreConLimite(ReportPrinter& relazione, std::string_view etichetta, double valore,
                            std::string_view modello, std::string_view unita,
                            std::string_view limite, double ammesso);
+// What the mark of a value beyond its limit means, where there is one.
+void StampaValoriOltre(ReportPrinter& relazione, bool oltre);
 
 // The report of one kind of element, known by its file. The number of elements that it holds
 // belongs to the run of the program.

@@ -27,8 +27,8 @@ class FrmUtiIntereMora : public Form {
       *this, "Text4", "TASSO", {.readOnly = true, .width = 20, .unit = "%", .figure = true}};
   TestoBox Text5{
       *this, "Text5", "INTERESSI DI MORA", {.readOnly = true, .width = 20, .figure = true}};
-  Button Command1{*this, "Command1", "CALCOLA", Button::Role::Default};
-  Button Command2{*this, "Command2", "ESCI", Button::Role::Close};
+  Button Command1{*this, "Command1", "&CALCOLA", Button::Role::Default};
+  Button Command2{*this, "Command2", "&ESCI", Button::Role::Close};
 
  private:
   void Calcola();

@@ -20,7 +20,7 @@ void FrmInaInPensione::Righe() {
 }
 
 FrmInaInPensione::FrmInaInPensione(RunState& stato)
-    : Form("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001"),
+    : FormDiCalcolo("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001"),
       stato_(stato) {
   lblPensioneMinima.SetStyle(Label::Style::Warning);
   lblPensioneMinima.SetVisible(false);
@@ -47,7 +47,7 @@ Layout FrmInaInPensione::Disposizione() {
   return Column({Group(fraCaso, {Row({Option1, Option2})}),
                  Row({Column({Fields(std::move(prime))}), Column({Fields(std::move(ultime))})}),
                  Group(fraAnzianita, {Row({Label6, ciAnni, Label7, ciGiorni})}),
-                 Row({Label4, ciPensioneAnnuale, lblPensioneMinima}),
+                 Row({Label4, ciPensioneAnnuale, lblPensioneMinima}), lblEsito,
                  Buttons({cmdCALCOLOPENSIONE, cmdARCHIVIA})});
 }
 
@@ -62,6 +62,7 @@ void FrmInaInPensione::MostraRedditi(const RedditiAnnui& redditi) {
 }
 
 void FrmInaInPensione::SvuotaRisultato() {
+  SenzaRisultati();
   ciPensioneAnnuale.SetValue(0);
   lblPensioneMinima.SetVisible(false);
 }
@@ -111,6 +112,7 @@ void FrmInaInPensione::CalcolaPensione() {
   const bool minima = !(Pensione_ > kPensioneMinima);
   ciPensioneAnnuale.SetValue(minima ? kPensioneMinima : Pensione_);
   lblPensioneMinima.SetVisible(minima);
+  Calcolato("PENSIONE CALCOLATA");
 }
 
 }  // namespace orm

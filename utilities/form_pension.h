@@ -4,13 +4,13 @@
 #include <memory>
 #include <vector>
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/result_form.h"
 #include "shell/state/run_state.h"
 #include "utilities/pension_file.h"
 
 namespace orm {
 
-class FrmInaInPensione : public Form {
+class FrmInaInPensione : public FormDiCalcolo {
  public:
   explicit FrmInaInPensione(RunState& stato);
 
@@ -32,8 +32,9 @@ class FrmInaInPensione : public Form {
   Label Label4{*this, "Label4", "  IMPORTO ANNUALE PENSIONE  "};
   InterBox ciPensioneAnnuale{*this, "ciPensioneAnnuale", ""};
   Label lblPensioneMinima{*this, "lblPensioneMinima", "    PENSIONE MINIMA    "};
-  Button cmdCALCOLOPENSIONE{*this, "cmdCALCOLOPENSIONE", "CALCOLA PENSIONE", Button::Role::Default};
-  Button cmdARCHIVIA{*this, "cmdARCHIVIA", "ARCHIVIA CASO"};
+  Button cmdCALCOLOPENSIONE{*this, "cmdCALCOLOPENSIONE", "&CALCOLA PENSIONE",
+                            Button::Role::Default};
+  Button cmdARCHIVIA{*this, "cmdARCHIVIA", "&ARCHIVIA CASO"};
 
  private:
   void Righe();

@@ -57,6 +57,9 @@ class LabelView : public ControlView {
       case Label::Style::Note:
         palette.setColor(QPalette::WindowText, NoteText(palette));
         break;
+      case Label::Style::Strong:
+        font.setBold(true);
+        break;
       case Label::Style::Warning:
         palette.setColor(QPalette::WindowText, WarningText(palette));
         font.setBold(true);

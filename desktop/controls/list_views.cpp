@@ -2,6 +2,9 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScreen>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QStylePainter>
 #include <algorithm>
 
@@ -14,28 +17,19 @@ namespace {
 
 constexpr int kWidest = 46;  // characters shown of an item; a longer one is seen whole as a tip
 constexpr int kOpened = 90;  // characters of the widest open list
+constexpr int kLeast = 8;    // letters
 constexpr int kMostRows = 8;
 
 int Characters(const std::vector<std::string>& items) {
-  qsizetype longest = 8;
+  qsizetype longest = kLeast;
   for (const std::string& item : items) longest = std::max(longest, ToQt(item).size());
   return static_cast<int>(std::min<qsizetype>(longest, kWidest));
 }
 
-// Shows by "…" that an item is longer than the field, and opens no wider than its items need, nor
-// wider than a line that can be read.
+// Shows by "…" that an item is longer than the field.
 class FoldedList : public QComboBox {
  public:
   using QComboBox::QComboBox;
-  void showPopup() override {
-    const int frame = 2 * view()->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int wanted =
-        std::min(view()->sizeHintForColumn(0) + frame, CharactersWide(*this, kOpened));
-    view()->setTextElideMode(Qt::ElideRight);
-    view()->setMinimumWidth(std::max(width(), wanted));
-    view()->window()->setMaximumWidth(std::max(width(), wanted));
-    QComboBox::showPopup();
-  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -51,6 +45,21 @@ class FoldedList : public QComboBox {
   }
 };
 
+// Items on as many lines as a width asks for.
+class WrappedItems : public QStyledItemDelegate {
+ public:
+  WrappedItems(int width, QObject* parent) : QStyledItemDelegate(parent), width_(width) {}
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize line = QStyledItemDelegate::sizeHint(option, index);
+    const QRect text = option.fontMetrics.boundingRect(QRect(0, 0, width_, QWIDGETSIZE_MAX),
+                                                       Qt::TextWordWrap, index.data().toString());
+    return {width_, line.height() + text.height() - option.fontMetrics.height()};
+  }
+
+ private:
+  int width_;
+};
+
 class ComboView : public ControlView {
  public:
   ComboView(ComboBox& combo, FormHost& host)
@@ -62,6 +71,10 @@ class ComboView : public ControlView {
     connect(box_, &QComboBox::currentIndexChanged, this, [this](int index) {
       if (!refreshing_) host_.Act([this, index] { combo_.SetIndex(index); });
     });
+    // The item that the program had chosen, chosen by the person.
+    connect(box_, &QComboBox::activated, this, [this](int index) {
+      if (combo_.IsAutomatic()) host_.Act([this, index] { combo_.SetIndex(index); });
+    });
   }
   void Refresh() override {
     ControlView::Refresh();
@@ -70,6 +83,7 @@ class ComboView : public ControlView {
     box_->setCurrentIndex(combo_.Index());
     refreshing_ = false;
     if (box_->currentText().size() > kWidest) box_->setToolTip(box_->currentText());
+    ShowChoice();
   }
   std::string Shown() const override { return FromQt(box_->currentText()); }
 
@@ -82,7 +96,37 @@ class ComboView : public ControlView {
       box_->setItemData(box_->count() - 1, ToQt(item), Qt::ToolTipRole);
     }
     // Lists that are refilled keep the greatest width, so that nothing jumps.
-    box_->setMinimumContentsLength(std::max(box_->minimumContentsLength(), Characters(items_)));
+    const int letter = box_->fontMetrics().horizontalAdvance('X');  // by which a combo measures
+    const int shown = std::min(LongestItem(), CharactersWide(*box_, kWidest));
+    box_->setMinimumContentsLength(
+        std::max({kLeast, box_->minimumContentsLength(), (shown + letter - 1) / letter}));
+    WidenPopup();
+  }
+  int LongestItem() const {
+    int longest = 0;
+    for (const std::string& item : items_)
+      longest = std::max(longest, box_->fontMetrics().horizontalAdvance(ToQt(item)));
+    return longest;
+  }
+  // As wide as the longest item; one that is longer than a line that can be read, or wider than the
+  // screen, is wrapped.
+  void WidenPopup() {
+    const int longest = LongestItem();
+    const int around = box_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 24;
+    const int room = std::min(CharactersWide(*box_, kOpened),
+                              box_->screen()->availableSize().width() - 2 * around);
+    auto* list = qobject_cast<QListView*>(box_->view());
+    list->setMinimumWidth(std::min(longest, room) + around);
+    if (longest <= room) return;
+    list->setWordWrap(true);
+    list->setTextElideMode(Qt::ElideNone);
+    list->setItemDelegate(new WrappedItems(room, list));
+  }
+  void ShowChoice() {
+    QPalette palette;
+    if (combo_.IsAutomatic()) palette.setColor(QPalette::ButtonText, AutomaticText(palette));
+    box_->setPalette(palette);
+    box_->setAccessibleDescription(combo_.IsAutomatic() ? "Scelto dal programma" : "");
   }
   ComboBox& combo_;
   QComboBox* box_;

@@ -48,13 +48,27 @@ QPointF TextStart(DrawOperation::Anchor anchor, const QFontMetricsF& metrics, do
   return {};
 }
 
+// Over a picture whose results are no longer those of the data.
+void PaintNotice(QPainter& painter, const Lavagna& lavagna, const QSizeF& size) {
+  QColor veil = InQt(lavagna.Background());
+  veil.setAlphaF(0.6F);
+  painter.fillRect(QRectF(QPointF(0, 0), size), veil);
+  QFont font = painter.font();
+  font.setPixelSize(static_cast<int>(std::lround(16 * kPixelsPerPoint)));
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(QColor(176, 32, 24));
+  painter.drawText(QRectF(QPointF(0, 0), size), Qt::AlignCenter | Qt::TextWordWrap,
+                   ToQt(lavagna.Notice()));
+}
+
 void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& anchor,
-               const Colour& background) {
+               const Lavagna& lavagna) {
   QFont font = painter.font();
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(op.fontSize * kPixelsPerPoint))));
   font.setBold(op.bold);
   const QFontMetricsF metrics(font);
-  const QString text = ToQt(op.text);
+  const QString text = ToQt(lavagna.SeenText(op));
   const QPointF start = TextStart(op.anchor, metrics, metrics.horizontalAdvance(text));
   painter.save();
   painter.setFont(font);
@@ -63,8 +77,8 @@ void PaintText(QPainter& painter, const DrawOperation& op, const QPointF& anchor
   if (op.halo) {
     QPainterPath rim;
     rim.addText(start, font, text);
-    painter.strokePath(rim,
-                       QPen(InQt(background), kHalo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(
+        rim, QPen(InQt(lavagna.Background()), kHalo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   }
   painter.drawText(start, text);
   painter.restore();
@@ -102,6 +116,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
   const auto at = [&](const Point& p) {
     return QPointF((p.x - lavagna.LeftEdge()) * scale, (lavagna.TopEdge() - p.y) * scale);
   };
+  const bool stale = !lavagna.Notice().empty();
   for (const DrawOperation& op : lavagna.Operations()) {
     painter.setPen(PenOf(op));
     painter.setBrush(op.filled ? QBrush(InQt(op.colour)) : QBrush(Qt::NoBrush));
@@ -113,7 +128,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
         PaintArc(painter, at(op.points[0]), op.radius * scale, op);
         break;
       case DrawOperation::Kind::Text:
-        PaintText(painter, op, at(op.points[0]), lavagna.Background());
+        PaintText(painter, op, at(op.points[0]), lavagna);
         break;
       case DrawOperation::Kind::Polygon: {
         QPolygonF polygon;
@@ -123,6 +138,7 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
       }
     }
   }
+  if (stale) PaintNotice(painter, lavagna, size);
   painter.restore();
 }
 

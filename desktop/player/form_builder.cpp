@@ -115,6 +115,8 @@ void FormBuilder::AddPart(const Layout& part, QBoxLayout* into) {
       return AddFields(part.children, into);
     case Layout::Kind::Buttons:
       return AddButtons(part.children, into);
+    case Layout::Kind::Views:
+      return AddViews(part.children, into);
     case Layout::Kind::Column: {
       auto* column = new QVBoxLayout;
       into->addLayout(column, Grows(part) ? 1 : 0);
@@ -261,6 +263,25 @@ void FormBuilder::AddLine(const Layout& line, QGridLayout* grid, int row, bool c
   for (std::size_t i = 1; severals && i < line.children.size(); ++i)
     AddPart(line.children[i], fields);
   if (view.KeepsWidth() && !Grows(line)) fields->addStretch(1);
+}
+
+// One over the other; those that do not show keep their room, so that the window stays as it is.
+void FormBuilder::AddViews(const std::vector<Layout>& parts, QBoxLayout* into) {
+  auto* room = new QGridLayout;
+  bool grows = false;
+  for (const Layout& part : parts) {
+    auto* column = new QVBoxLayout;
+    room->addLayout(column, 0, 0);
+    AddPart(part, column);
+    if (!Grows(part)) column->addStretch();
+    grows = grows || Grows(part);
+    if (part.control == nullptr) continue;
+    QWidget* whole = viewOf_(*part.control).Whole();
+    QSizePolicy policy = whole->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    whole->setSizePolicy(policy);
+  }
+  into->addLayout(room, grows ? 1 : 0);
 }
 
 void FormBuilder::AddButtons(const std::vector<Layout>& buttons, QBoxLayout* into) {

@@ -32,6 +32,7 @@ class FormBuilder {
   void AddFields(const std::vector<Layout>& lines, QBoxLayout* into);
   void AddTable(const std::vector<Layout>& lines, QBoxLayout* into);
   void AddLine(const Layout& line, QGridLayout* grid, int row, bool captions);
+  void AddViews(const std::vector<Layout>& parts, QBoxLayout* into);
   void AddButtons(const std::vector<Layout>& buttons, QBoxLayout* into);
 
   struct Grid {

@@ -1,5 +1,6 @@
 #include "desktop/player/form_dialog.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -40,6 +41,8 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), form_(for
   TitleChanged();
   MakeViews();
   Arrange();
+  SettleDefault();
+  setWindowFlag(Qt::WindowMaximizeButtonHint, grows_);
   ChainFocus();
   form_.Attach(this);
 }
@@ -50,8 +53,6 @@ void FormDialog::MakeViews() {
   for (Control* control : form_.Controls()) {
     auto view = MakeView(*control, *this);
     view->Refresh();
-    if (auto* push = dynamic_cast<QPushButton*>(view->Field()))
-      push->setDefault(static_cast<Button*>(control)->GetRole() == Button::Role::Default);
     views_.emplace(control, std::move(view));
   }
 }
@@ -121,18 +122,46 @@ void FormDialog::Refit() {
   const QSize spare = content.totalSizeHint() - content.totalMinimumSize();
   if (wanted.height() - spare.height() > Room().height())
     wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
-  const int title = fontMetrics().horizontalAdvance(windowTitle()) + kTitleButtons;
+  const QFontMetrics titleBar(QApplication::font("QMdiSubWindowTitleBar"));
+  const int title = titleBar.horizontalAdvance(windowTitle()) + kTitleButtons;
   wanted.setWidth(std::max(wanted.width(), title));
   least_ = wanted - spare;
   if (wanted == fitted_) return;
+  Fit(wanted);
+  if (shown_) KeepOnScreen();
+}
+
+// A window that a person may size comes up as great as its content wants, and after that becomes
+// greater only where the content would not go in any more.
+void FormDialog::Fit(const QSize& wanted) {
   const bool first = !fitted_.isValid();
-  const QSize size = grows_ && !first ? this->size() + wanted - fitted_ : wanted;
   fitted_ = wanted;
-  if (grows_) {
-    setMinimumSize(least_.boundedTo(Room()));
-    resize(size.boundedTo(Room()));
-  } else {
-    setFixedSize(size.boundedTo(Room()));
+  if (!grows_) return setFixedSize(wanted.boundedTo(Room()));
+  setMinimumSize(least_.boundedTo(Room()));
+  if (first)
+    resize(wanted.boundedTo(Room()));
+  else if (!isMaximized())
+    resize(size().expandedTo(minimumSize()));
+}
+
+void FormDialog::KeepOnScreen() {
+  if (isMaximized()) return;
+  const QRect area = screen()->availableGeometry(), whole = frameGeometry();
+  const auto within = [](int at, int length, int least, int most) {
+    return std::max(least, std::min(at, most - length));
+  };
+  const QPoint to(within(whole.x(), whole.width(), area.left(), area.right() + 1),
+                  within(whole.y(), whole.height(), area.top(), area.bottom() + 1));
+  if (to != whole.topLeft()) move(to);
+}
+
+// Enter presses the default button that is seen: a part of a form may have its own.
+void FormDialog::SettleDefault() {
+  for (const auto& [control, view] : views_) {
+    auto* push = dynamic_cast<QPushButton*>(view->Field());
+    if (push == nullptr || !control->IsShown()) continue;
+    const bool wanted = static_cast<const Button*>(control)->GetRole() == Button::Role::Default;
+    if (wanted && !push->isDefault()) push->setDefault(true);
   }
 }
 
@@ -154,6 +183,7 @@ void FormDialog::showEvent(QShowEvent* event) {
 
 void FormDialog::ControlChanged(Control& control) {
   ViewOf(control).Refresh();
+  if (control.GetKind() == Control::Kind::Frame) SettleDefault();
   if (depth_ > 0)
     refit_ = true;
   else if (shown_)
@@ -229,6 +259,7 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
                         event->key() == Qt::Key_Alt || event->key() == Qt::Key_AltGr ||
                         event->key() == Qt::Key_Meta;
   if (form_.ClosesOnAnyKey() && !modifier) return reject();
+  if (event->matches(QKeySequence::Cancel)) return Act([this] { form_.OnEscape(); });
   QDialog::keyPressEvent(event);
 }
 

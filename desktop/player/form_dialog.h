@@ -53,7 +53,10 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   void ChainFocus();
   bool SettleFields();
   void Refit();
+  void Fit(const QSize& wanted);
   void Centre();
+  void KeepOnScreen();
+  void SettleDefault();
   QSize Room() const;  // of the screen, within the frame of a window
 
   Form& form_;

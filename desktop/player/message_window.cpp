@@ -1,7 +1,10 @@
 #include "desktop/player/message_window.h"
 
+#include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
+#include <algorithm>
 #include <vector>
 
 #include "desktop/pictures.h"
@@ -57,6 +60,17 @@ void SetIcon(QMessageBox& shown, MessageBox::Icon icon) {
   }
 }
 
+// As wide as the longest line, where the screen lets it.
+void WidenToLines(QMessageBox& shown) {
+  auto* text = shown.findChild<QLabel*>("qt_msgbox_label");
+  if (text == nullptr) return;
+  constexpr int kAround = 160;  // icon, margins and the window's frame
+  int longest = 0;
+  for (const QString& line : shown.text().split('\n'))
+    longest = std::max(longest, text->fontMetrics().horizontalAdvance(line) + 2);
+  text->setMinimumWidth(std::min(longest, shown.screen()->availableSize().width() - kAround));
+}
+
 }  // namespace
 
 std::unique_ptr<QMessageBox> BuildMessageWindow(const MessageBox& box, QWidget* parent) {
@@ -74,6 +88,8 @@ std::unique_ptr<QMessageBox> BuildMessageWindow(const MessageBox& box, QWidget* 
     if (&choice == &choices.front()) shown->setDefaultButton(button);
     if (&choice == &choices.back()) shown->setEscapeButton(button);
   }
+  shown->ensurePolished();
+  WidenToLines(*shown);
   return shown;
 }
 

@@ -252,7 +252,7 @@ class Sheet {
     Begin("TEXT", kTexts, op);
     At(10, at);
     Pair(40, kCapital * op.fontSize * Pixel() * Unit(op));
-    Pair(1, Letters(op.text));
+    Pair(1, Letters(lavagna_.SeenText(op)));
     Pair(50, op.upright ? 90.0 : 0.0);
     Pair(41, 0.8);  // as narrow as the letters of the screen
     Pair(72, sideways);

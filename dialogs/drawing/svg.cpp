@@ -72,6 +72,7 @@ class Picture {
                       Attribute("viewBox", "0 0 " + Number(width_) + " " + Number(height)) +
                       ">\n<rect" + size + Attribute("fill", Rgb(lavagna_.Background())) + "/>\n";
     for (const DrawOperation& op : lavagna_.Operations()) out += Element(op);
+    if (!lavagna_.Notice().empty()) out += Notice(size, height);
     return out + "</svg>\n";
   }
 
@@ -132,7 +133,18 @@ class Picture {
     if (op.halo)
       out += Attribute("stroke", Rgb(lavagna_.Background())) + Attribute("stroke-width", 4) +
              Attribute("stroke-linejoin", "round") + Attribute("paint-order", "stroke");
-    return out + Attribute("fill", Rgb(op.colour)) + ">" + Escaped(op.text) + "</text>\n";
+    return out + Attribute("fill", Rgb(op.colour)) + ">" + Escaped(lavagna_.SeenText(op)) +
+           "</text>\n";
+  }
+
+  // A veil over everything, and the words on it.
+  std::string Notice(const std::string& size, double height) const {
+    return "<rect" + size + Attribute("fill", Rgb(lavagna_.Background())) +
+           Attribute("fill-opacity", 0.6) + "/>\n<text" + Attribute("x", width_ / 2.0) +
+           Attribute("y", height / 2) + Attribute("text-anchor", "middle") +
+           Attribute("font-family", "sans-serif") + Attribute("font-size", "16pt") +
+           Attribute("font-weight", "bold") + Attribute("fill", "rgb(176,32,24)") + ">" +
+           Escaped(lavagna_.Notice()) + "</text>\n";
   }
 
   const Lavagna& lavagna_;

@@ -28,10 +28,13 @@ std::string Domanda(Ribaltamento come) {
 FrmVerBalcone::FrmVerBalcone(RunState& stato)
     : FormRiprendibile("frmVER_BALCONE", "VERIFICA STABILITÁ BALCONE in PIETRA", stato) {
   SetContent(Column(
-      {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(),
+      {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(lblEsito),
                                          ingressi.lblModuli, Label_NOTA, lblStatica, Lavagna})}),
-       Buttons({ComCalcola, ComEsci})}));
-  const auto cambiati = [this] { Azzera(); };
+       Buttons({ComCalcola, cmdSALVA, cmdAPRI, ComEsci})}));
+  const auto cambiati = [this] {
+    SegnaCambiati();
+    Azzera();
+  };
   ingressi.TieEvents(cambiati);
   tensioni.TieEvents(cambiati);
   ComCalcola.onPress = [this] { Calcola(); };
@@ -55,6 +58,7 @@ bool FrmVerBalcone::Prosegue(Ribaltamento come) {
 void FrmVerBalcone::Calcola() {
   const DatiBalcone dati = ingressi.Leggi();
   Azzera();
+  SenzaRisultati();
   if (const std::string difetto = DifettoBalcone(dati); !difetto.empty()) {
     stato_.player.Ask(AvvisoVerifica(difetto));
     return;
@@ -67,7 +71,9 @@ void FrmVerBalcone::Calcola() {
     return;
   }
   tensioni.Mostra(risultati);
-  if (tensioni.Supera(risultati)) Label_NOTA.SetText("IL BALCONE NON RISULTA SICURO.");
+  const bool entro = !tensioni.Supera(risultati);
+  Calcolato(entro ? "TENSIONI ENTRO LE AMMISSIBILI" : "TENSIONI OLTRE LE AMMISSIBILI", entro);
+  if (!entro) Label_NOTA.SetText("IL BALCONE NON RISULTA SICURO.");
   ConfrontaConStatica(dati, risultati);
 }
 

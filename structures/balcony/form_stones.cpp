@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "runtime/numbers.h"
 #include "structures/numbered_controls.h"
 
 namespace orm {
@@ -20,9 +21,21 @@ FrmVerPietre::FrmVerPietre() : FormScelte("frmVER_PIETRE", "TENSIONI AMMISSIBILI
   for (Slider& slider : sldPietraS) slider.onChange = [this] { Mostra(); };
   cdSigma.onChange = cdTau.onChange = [this] {
     if (Scelta() != nullptr) return;
-    altraSigma_ = cdSigma.Value();
-    altraTau_ = cdTau.Value();
+    altra_ = {cdSigma.Value(), cdTau.Value()};
   };
+  Mostra();
+}
+
+std::vector<std::string> FrmVerPietre::Hidden() const {
+  return {NumberText(altra_.sigma), NumberText(altra_.tau)};
+}
+
+void FrmVerPietre::SetHidden(const std::vector<std::string>& values) {
+  const auto letto = [](const FloatBox& campo, const std::string& testo) {
+    const double valore = ParseNumber(testo).value_or(0);
+    return valore >= campo.Limits().least && valore <= campo.Limits().most ? valore : 0;
+  };
+  altra_ = {letto(cdSigma, values[0]), letto(cdTau, values[1])};
   Mostra();
 }
 
@@ -65,8 +78,8 @@ void FrmVerPietre::Mostra() {
     sldPietraS[i].SetEnabled(optPietra[i].Value());
   cdSigma.SetReadOnly(!altra);
   cdTau.SetReadOnly(!altra);
-  const bool scritta = altra && altraSigma_ + altraTau_ > 0;
-  const double sigma = scritta ? altraSigma_ : Sigma(), tau = scritta ? altraTau_ : Tau();
+  const bool scritta = altra && altra_.sigma + altra_.tau > 0;
+  const auto [sigma, tau] = scritta ? altra_ : Altra{Sigma(), Tau()};
   cdSigma.SetValue(sigma);
   cdTau.SetValue(tau);
 }

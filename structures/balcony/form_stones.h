@@ -11,6 +11,8 @@ namespace orm {
 class FrmVerPietre : public FormScelte {
  public:
   FrmVerPietre();
+  std::vector<std::string> Hidden() const override;
+  void SetHidden(const std::vector<std::string>& values) override;
   // Of the chosen stone's slider, or as typed for another stone; kg/cmq.
   double Sigma() const;
   double Tau() const;
@@ -32,7 +34,10 @@ class FrmVerPietre : public FormScelte {
   const Pietra* Scelta() const;  // null for another stone
   void Mostra();
 
-  double altraSigma_ = 0, altraTau_ = 0;  // as typed for another stone, while one of the list shows
+  struct Altra {
+    double sigma = 0, tau = 0;
+  };
+  Altra altra_;  // as typed for another stone, while one of the list shows
 };
 
 }  // namespace orm

@@ -68,12 +68,14 @@ PannelloDatiBalcone::PannelloDatiBalcone(Form& form, RunState& stato) : form_(fo
 }
 
 Layout PannelloDatiBalcone::Contents() {
-  std::vector<Layout> gruppi{Group(fraTipo, {optTipo.begin(), optTipo.end()})};
+  std::vector<Layout> geometrie;
   for (PannelloMisure& pannello : misure) {
     std::vector<Layout> righe(pannello.cdGeo.begin(), pannello.cdGeo.end());
     if (&pannello == &misure[0]) righe.emplace_back(cmbPutrella);
-    gruppi.push_back(Group(pannello.fraGeo, {Fields(std::move(righe))}));
+    geometrie.push_back(Group(pannello.fraGeo, {Fields(std::move(righe))}));
   }
+  std::vector<Layout> gruppi{Group(fraTipo, {optTipo.begin(), optTipo.end()}),
+                             Views(std::move(geometrie))};
   gruppi.push_back(Group(fraCarichi, {Fields({Row({cdBordo, cmdCalc_Est}),
                                               Row({cdRipartito, cmdCalc_Acc}), cdPietra})}));
   gruppi.push_back(Group(fraZona, {Row({optSi, optNo, cmdCAR_SISMICHE})}));

@@ -12,7 +12,7 @@ namespace {
 // The element of the results that each cdOUT shows.
 constexpr std::array kMostrati = {SigmaLastra,  TauLastra,  SigmaMensola,      TauMensola,
                                   SigmaAcciaio, TauAcciaio, IncrementoMuratura};
-constexpr std::size_t kPutrella = 2;  // row of the steel
+constexpr std::size_t kRigaPutrella = 2;  // row of the steel
 
 // The stones of slab and brackets, each with its last choice, as long as the program runs.
 struct PietreDelBalcone {
@@ -35,10 +35,11 @@ Layout PannelloTensioniBalcone::Materiali() {
                                       Row({cdMaterialiS[2], cdMaterialiT[2], cmbTipoDiFerro})})});
 }
 
-Layout PannelloTensioniBalcone::Risultati() {
+Layout PannelloTensioniBalcone::Risultati(Label& esito) {
   return Group(fraRisultati,
                {Fields({Row({lblRisultati.begin(), lblRisultati.end()}), Row({cdOUT[0], cdOUT[1]}),
-                        Row({cdOUT[2], cdOUT[3]}), Row({cdOUT[4], cdOUT[5]}), Row({cdOUT[6]})})});
+                        Row({cdOUT[2], cdOUT[3]}), Row({cdOUT[4], cdOUT[5]}), Row({cdOUT[6]})}),
+                esito});
 }
 
 void PannelloTensioniBalcone::TieEvents(const std::function<void()>& cambiati) {
@@ -100,8 +101,8 @@ void PannelloTensioniBalcone::ChiediPietra(std::size_t pietra) {
 
 void PannelloTensioniBalcone::ScegliAcciaio() {
   const Tensioni ammesse = TensioniAcciaio(cmbTipoDiFerro.ShownText());
-  cdMaterialiS[kPutrella].SetValue(ammesse.sigma);
-  cdMaterialiT[kPutrella].SetValue(ammesse.tau);
+  cdMaterialiS[kRigaPutrella].SetValue(ammesse.sigma);
+  cdMaterialiT[kRigaPutrella].SetValue(ammesse.tau);
 }
 
 }  // namespace orm

@@ -18,7 +18,7 @@ class PannelloTensioniBalcone {
  public:
   PannelloTensioniBalcone(Form& form, RunState& stato);
   Layout Materiali();
-  Layout Risultati();
+  Layout Risultati(Label& esito);
   void TieEvents(const std::function<void()>& cambiati);
   // Shows the rows that a kind of balcony has.
   void Scegli(TipoBalcone tipo);

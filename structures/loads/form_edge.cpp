@@ -9,13 +9,16 @@ FrmStruttureCarichiEstremita::FrmStruttureCarichiEstremita()
   SetContent(Column({Group(fraCarico, {optCARICO.Contents(), Fields({cdCarico})}),
                      Group(fraCoppia, {Group(fraSpinta, {optSpinta.Contents()}),
                                        Fields({cdCorrimano, cdCoppia})}),
-                     Buttons({OKButton})}));
+                     Buttons({OKButton, cmdAzzera})}));
   cdCarico.SetReadOnly(true);
   cdCoppia.SetReadOnly(true);
   const auto aggiorna = [this] { Aggiorna(); };
   optCARICO.QuandoCambia(aggiorna);
   optSpinta.QuandoCambia(aggiorna);
   cdCorrimano.onChange = aggiorna;
+  cmdAzzera.onPress = [this] {
+    (figura_ == Cerca::Carico ? gruppoCarico : gruppoSpinta).Choose(-1);
+  };
 }
 
 void FrmStruttureCarichiEstremita::PerAvere(Cerca figura) {

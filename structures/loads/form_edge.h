@@ -26,6 +26,7 @@ class FrmStruttureCarichiEstremita : public FormCarichi {
   SceltaCarico optSpinta{*this, "optSpinta", kVociSpinta, gruppoSpinta, "Kg x ml. / ml."};
   FloatBox cdCorrimano{*this, "cdCorrimano", "Altezza del Corrimano", FinoA(99.99, "ml.")};
   FloatBox cdCoppia{*this, "cdCoppia", "Coppia", FinoA(99999999.99, "Kg x m / ml.")};
+  Button cmdAzzera{*this, "cmdAzzera", "&Azzera"};
 
  private:
   void Aggiorna();

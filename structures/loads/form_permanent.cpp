@@ -27,13 +27,14 @@ Layout FrmStruttureCarichiPermanenti::Elenco() {
   std::vector<Layout> lines;
   for (PannelloCarico& p : pannelli) lines.push_back(Row({p.cdCarico, p.cmdSpecifica}));
   lines.emplace_back(cdTotale);
-  return Group(fraSovraccarichi, {Fields(std::move(lines)), Buttons({cmdCalcola, OKButton})});
+  return Group(fraSovraccarichi,
+               {Fields(std::move(lines)), Buttons({OKButton, cmdCalcola, cmdAzzera})});
 }
 
 Layout FrmStruttureCarichiPermanenti::Specifica(std::size_t pannello) {
   PannelloCarico& p = pannelli[pannello];
   return Group(p.frmSpecificaCarichi,
-               {Contenuto(pannello), Fields({p.cdRisultato}), Buttons({p.cmdAzzera, p.Commando})});
+               {Contenuto(pannello), Fields({p.cdRisultato}), Buttons({p.Commando, p.cmdAzzera})});
 }
 
 Layout FrmStruttureCarichiPermanenti::Contenuto(std::size_t pannello) {
@@ -70,12 +71,15 @@ void FrmStruttureCarichiPermanenti::TieEvents() {
     PannelloCarico& p = pannelli[i];
     p.cmdSpecifica.onPress = [this, &p] { Apri(p); };
     p.cmdAzzera.onPress = [this, i] { Azzera(i); };
-    p.Commando.onPress = [this, &p] {
-      MostraElenco();
-      MoveFocus(p.cmdSpecifica);
+    p.Commando.onPress = [this] {
+      Fissa();
+      Torna();
     };
   }
   cmdCalcola.onPress = aggiorna;
+  cmdAzzera.onPress = [this] {
+    for (std::size_t i = 0; i < pannelli.size(); ++i) Azzera(i);
+  };
 }
 
 void FrmStruttureCarichiPermanenti::OnOpen() {
@@ -83,13 +87,28 @@ void FrmStruttureCarichiPermanenti::OnOpen() {
   MostraElenco();
 }
 
+// What was confirmed in the other panels stays.
+void FrmStruttureCarichiPermanenti::OnEscape() {
+  if (aperto_ == nullptr) return OnWindowClose();
+  Ripristina();
+  Torna();
+}
+
 void FrmStruttureCarichiPermanenti::Apri(PannelloCarico& pannello) {
+  aperto_ = &pannello;
   fraSovraccarichi.SetVisible(false);
   pannello.frmSpecificaCarichi.SetVisible(true);
   if (Control* primo = FirstFocus()) MoveFocus(*primo);
 }
 
+void FrmStruttureCarichiPermanenti::Torna() {
+  PannelloCarico& pannello = *aperto_;
+  MostraElenco();
+  MoveFocus(pannello.cmdSpecifica);
+}
+
 void FrmStruttureCarichiPermanenti::MostraElenco() {
+  aperto_ = nullptr;
   for (PannelloCarico& p : pannelli) p.frmSpecificaCarichi.SetVisible(false);
   fraSovraccarichi.SetVisible(true);
 }

@@ -27,13 +27,14 @@ struct PannelloCarico {
   Frame frmSpecificaCarichi{form, NomeIndicizzato("frmSpecificaCarichi", numero), nome};
   FloatBox cdRisultato{form, NomeIndicizzato("cdRisultato", numero), "Carico", limiti};
   Button cmdAzzera{form, NomeIndicizzato("cmdAzzera", numero), "&Azzera"};
-  Button Commando{form, NomeIndicizzato("Commando", numero), "&O.K."};
+  Button Commando{form, NomeIndicizzato("Commando", numero), "&O.K.", Button::Role::Default};
 };
 
 class FrmStruttureCarichiPermanenti : public FormCarichi {
  public:
   FrmStruttureCarichiPermanenti();
   void OnOpen() override;
+  void OnEscape() override;        // from an open panel back to the list
   double Totale() const override;  // the plain sum of the panels
 
   enum Pannello : std::size_t {
@@ -60,6 +61,7 @@ class FrmStruttureCarichiPermanenti : public FormCarichi {
   std::deque<PannelloCarico> pannelli;
   FloatBox cdTotale{*this, "cdTotale", "TOTALE", FinoA(999999999.99, kKgMq)};
   Button cmdCalcola{*this, "cmdCalcola", "&CALCOLA"};
+  Button cmdAzzera{*this, "cmdAzzera", "&Azzera"};
 
   // A choice for each panel but that of the screed.
   std::array<OptionGroup, 7> gruppi;
@@ -108,10 +110,13 @@ class FrmStruttureCarichiPermanenti : public FormCarichi {
   Layout Contenuto(std::size_t pannello);
   void TieEvents();
   void Apri(PannelloCarico& pannello);
+  void Torna();
   void MostraElenco();
   void Azzera(std::size_t pannello);
   void Aggiorna();
   double Risultato(std::size_t pannello) const;
+
+  PannelloCarico* aperto_ = nullptr;
 };
 
 // The dialog of this run.

@@ -8,12 +8,16 @@ FrmStruttureCarichiAccidentali::FrmStruttureCarichiAccidentali()
                      Group(fraCoperture, {optCoperture.Contents()}),
                      Row({Group(fraRimesse, {optRimesse.Contents()}),
                           Group(fraAltri, {Fields({cdAltriCarichi, cdTotale})})}),
-                     Buttons({OKButton})}));
+                     Buttons({OKButton, cmdAzzera})}));
   cdTotale.SetReadOnly(true);
   const auto aggiorna = [this] { cdTotale.SetValue(Totale()); };
   for (SceltaCarico* scelta : {&optCARICO, &optCoperture, &optRimesse})
     scelta->QuandoCambia(aggiorna);
   cdAltriCarichi.onChange = aggiorna;
+  cmdAzzera.onPress = [this] {
+    gruppo.Choose(-1);
+    cdAltriCarichi.SetValue(0);
+  };
 }
 
 double FrmStruttureCarichiAccidentali::Totale() const {

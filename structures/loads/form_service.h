@@ -21,6 +21,7 @@ class FrmStruttureCarichiAccidentali : public FormCarichi {
   Frame fraAltri{*this, "fraAltri", "ALTRI SOVRACCARICHI AGGIUNTIVI"};
   FloatBox cdAltriCarichi{*this, "cdAltriCarichi", "Altri carichi", FinoA(999999.99, kUnita)};
   FloatBox cdTotale{*this, "cdTotale", "TOTALE", FinoA(9999999.99, kUnita)};
+  Button cmdAzzera{*this, "cmdAzzera", "&Azzera"};
 };
 
 // The dialog of this run.

@@ -3,12 +3,21 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs/message_boxes.h"
 #include "structures/numbered_controls.h"
 
 namespace orm {
 
 void ChiediCarico(RunState& stato, FormCarichi& form, FloatBox& campo) {
+  const NumberLimits& limiti = campo.Limits();
+  const auto entra = [&] { return form.Totale() >= limiti.least && form.Totale() <= limiti.most; };
   form.Presenta(stato.player);
+  while (form.Confermato() && !entra()) {
+    stato.player.Ask(Avviso("IL CARICO NON STA NEL SUO CAMPO\nPUÒ ANDARE DA " +
+                            ShownNumber(limiti.least, limiti) + " A " +
+                            ShownNumber(limiti.most, limiti)));
+    form.Presenta(stato.player);
+  }
   if (form.Confermato()) campo.SetValue(form.Totale());
   campo.Owner().MoveFocus(campo);
 }

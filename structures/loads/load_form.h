@@ -27,7 +27,7 @@ class FormCarichi : public FormScelte {
 };
 
 // Shows the dialog and gives `campo` its figure and the focus; a dialog left by its window changes
-// nothing.
+// nothing. A figure that the field could not show is told, and the dialog comes up again.
 void ChiediCarico(RunState& stato, FormCarichi& form, FloatBox& campo);
 
 // Option buttons with a load each; a choice without a load of its own has a field beside it, open

@@ -74,8 +74,8 @@ DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool sp
 void DisegnoFlessione::Legenda(bool verificata) {
   lavagna_.SetColour(kBlack);
   lavagna_.SetFont(10, true);
-  lavagna_.DrawText(sinistra_ + 0.4, kTitle,
-                    verificata ? "SEZIONE VERIFICATA" : "SEZIONE NON VERIFICATA", Anchor::Left);
+  lavagna_.DrawVerdict(sinistra_ + 0.4, kTitle, verificata ? kVerificata : kNonVerificata,
+                       Anchor::Left);
   lavagna_.SetFont(kSmall);
   lavagna_.DrawText(kSample + 1.6, kTitle, "calcestruzzo compresso", Anchor::Left);
   lavagna_.DrawText(kSample + 1.6, kSecondLine, "tensione non ammissibile", Anchor::Left);

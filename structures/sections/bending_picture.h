@@ -35,6 +35,9 @@ struct QuotaSezione {
   std::string nome;
 };
 
+inline constexpr const char *kVerificata = "SEZIONE VERIFICATA",
+                            *kNonVerificata = "SEZIONE NON VERIFICATA";
+
 class DisegnoFlessione {
  public:
   using Tratti = std::function<std::vector<Tratto>(double)>;  // of the outline at a depth

@@ -1,5 +1,6 @@
 #include "structures/sections/form_bending.h"
 
+#include <cmath>
 #include <utility>
 
 #include "structures/message_boxes.h"
@@ -51,8 +52,11 @@ FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& sta
     };
   }
   for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
+  CD_12.onChange = CD_13.onChange = [this] { MostraLimiti(); };
+  MostraLimiti();
   CD_01.onChange = [this] {
     Azzera();
+    MostraLimiti();
     Label_NOTA.SetText("POSITIVO se tende le fibbre inferiori");
   };
   ComCalcola.onPress = [this] { Calcola(); };
@@ -60,14 +64,15 @@ FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& sta
 }
 
 void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> armature) {
-  SetContent(Column({Row({Column({Group(fraTipo, {Row({Option.begin(), Option.end()})}),
-                                  Column({Group(fraSollecitazioni, {Fields({CD_01})}),
-                                          Group(fraMateriali, {Fields({CD_12, CD_13})})}),
-                                  Group(fraGeometria, {Fields(std::move(geometria))}),
-                                  Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()})})}),
-                          Column({Group(fraArmature, std::move(armature)),
-                                  Group(fraNote, {Label_NOTA}), Lavagna})}),
-                     Buttons({ComCalcola, ComEsci})}));
+  SetContent(
+      Column({Row({Column({Group(fraTipo, {Row({Option.begin(), Option.end()})}),
+                           Column({Group(fraSollecitazioni, {Fields({CD_01})}),
+                                   Group(fraMateriali, {Fields({CD_12, CD_13})})}),
+                           Group(fraGeometria, {Fields(std::move(geometria))}),
+                           Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()}), lblEsito})}),
+                   Column({Group(fraArmature, std::move(armature)), Group(fraNote, {Label_NOTA}),
+                           Lavagna})}),
+              Buttons({ComCalcola, cmdSALVA, cmdAPRI, ComEsci})}));
 }
 
 void FormFlessione::Avvisa(const std::string& testo) { stato_.player.Ask(AvvisoVerifica(testo)); }
@@ -93,12 +98,29 @@ void FormFlessione::Mostra(const RisultatiFlessione& risultati, bool verificata)
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {
     cdOUT[i].SetValue(valori[i]);
     cdOUT[i].SetShown(FormatPattern(valori[i], i == 0 ? "###0.00" : "###0.0"));
+    const bool provato = i != 0 && i != NonProvato();
+    cdOUT[i].SetWarning(provato && std::fabs(valori[i]) >= Ammesso(i));
   }
+  MostraLimiti();
+  Calcolato(verificata ? kVerificata : kNonVerificata, verificata);
   Label_NOTA.SetText(std::string(note_.segni) + (verificata ? "" : note_.nonVerificata));
 }
 
 void FormFlessione::Azzera() {
-  for (FloatBox& risultato : cdOUT) risultato.SetValue(0);
+  for (FloatBox& risultato : cdOUT) {
+    risultato.SetValue(0);
+    risultato.SetWarning(false);
+  }
+}
+
+// Behind each stress the one that it must not reach.
+void FormFlessione::MostraLimiti() {
+  for (std::size_t i = 1; i < cdOUT.size(); ++i)
+    cdOUT[i].SetUnit(i == NonProvato() ? "" : "< " + ShownNumber(Ammesso(i), kTensione));
+}
+
+void FormFlessione::ADatiCambiati() {
+  if (Lavagna.HasVerdict()) Lavagna.SetNotice(kDatiCambiati);
 }
 
 }  // namespace orm

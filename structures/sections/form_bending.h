@@ -36,11 +36,12 @@ struct PannelloArmature {
   Schiera<FloatBox> Distanza;  // how far the bars lie, cm
 };
 
-// The notes in which the dialogs differ.
+// The notes, and what else the dialogs differ in.
 struct NoteFlessione {
   const char* benvenuto;
   const char* segni;
   const char* nonVerificata;
+  bool provaCompresso;  // compressed steel is held against its limit too
 };
 
 class FormFlessione : public FormRiprendibile {
@@ -71,10 +72,11 @@ class FormFlessione : public FormRiprendibile {
   Frame fraNote{*this, "fraNote", "NOTE"};
   Label Label_NOTA{*this, "Label_NOTA", "", Label::Style::Note};
   orm::Lavagna Lavagna{*this, "Lavagna", 30, 10, 504};
-  Button ComCalcola{*this, "ComCalcola", "CALCOLA", Button::Role::Default};
-  Button ComEsci{*this, "ComEsci", "ESCI", Button::Role::Close};
+  Button ComCalcola{*this, "ComCalcola", "&CALCOLA", Button::Role::Default};
+  Button ComEsci{*this, "ComEsci", "&ESCI", Button::Role::Close};
 
  protected:
+  void ADatiCambiati() override;
   virtual void ScegliForma(std::size_t forma) = 0;
   virtual void Calcola() = 0;
 
@@ -89,6 +91,13 @@ class FormFlessione : public FormRiprendibile {
   void Azzera();
 
  private:
+  // The stress that is held against nothing, where compressed steel is not.
+  std::size_t NonProvato() const { return note_.provaCompresso ? 0 : Momento() > 0 ? 3 : 4; }
+  double Ammesso(std::size_t risultato) const {
+    return risultato < 3 ? CD_13.Value() : CD_12.Value();
+  }
+  void MostraLimiti();
+
   NoteFlessione note_;
 };
 

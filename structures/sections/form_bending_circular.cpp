@@ -27,11 +27,11 @@ constexpr std::array<FormaC, 2> kForme = {{
 }};
 constexpr double kMomentoEsempio = 15000, kRaggioEsempio = 30;
 
-constexpr NoteFlessione kNote{
+constexpr NoteFlessione kNoteCircolari{
     "LA BRENTOLI VI DA' IL BENVENUTO\nE VI AUGURA BUON LAVORO.\n\n"
     "E' NECESSARIO SCEGLIERE PER PRIMA COSA IL TIPO DI SEZIONE DA VERIFICARE",
     "Tensioni di COMPRESSIONE  --- NEGATIVE\nTensioni di TRAZIONE      --- POSITIVE",
-    "\n\n\nLo sfondo giallo indica che la sezione non è verificata"};
+    "\n\n\nLo sfondo giallo indica che la sezione non è verificata", true};
 
 std::string Motivo(EsitoC esito) {
   const std::string inizio = "  DATI NON ACCETTABILI !\n";
@@ -54,7 +54,7 @@ FrmVerFlessC1::FrmVerFlessC1(RunState& stato)
     : FormFlessione("frmVER_FLESS_C1",
                     "VERIFICA a FLESSIONE SEMPLICE di SEZIONI in C.A. : Circolari ed Anulari "
                     "( metodo \"n\" )",
-                    stato, kNote, {"Circolare", "Anulare"}) {
+                    stato, kNoteCircolari, {"Circolare", "Anulare"}) {
   Disponi({CD_02, CD_03},
           {Group(fraDistribuita, {anelli.Contents()}), Group(fraConcentrata, {gruppi.Contents()})});
 }
@@ -96,10 +96,10 @@ DatiCircolare FrmVerFlessC1::LeggiDati() const {
 }
 
 void FrmVerFlessC1::Calcola() {
-  if (forma_ == nullptr) {
+  if (forma_ == nullptr || gruppo.Chosen() < 0) {
     stato_.player.Ask({" !!  ATTENZIONE  !!  ", "  SCEGLIERE IL TIPO DI SEZIONE  ",
                        MessageBox::Icon::Exclamation, MessageBox::Buttons::Ok});
-    Label_NOTA.SetText(kNote.benvenuto);
+    Label_NOTA.SetText(kNoteCircolari.benvenuto);
     return;
   }
   if (SenzaMomento()) return;

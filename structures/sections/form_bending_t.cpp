@@ -8,11 +8,11 @@
 namespace orm {
 namespace {
 
-constexpr NoteFlessione kNote{
+constexpr NoteFlessione kNoteT{
     "LA BRENTOLI VI DÀ IL BENVENUTO\nE VI AUGURA BUON LAVORO.\n\n"
     "È NECESSARIO SCEGLIERE PER PRIMA COSA IL TIPO DI SEZIONE DA VERIFICARE",
     "TENS. COMPRESSIONE  --- NEGATIVE\nTENS. TRAZIONE            --- POSITIVE",
-    "\n\n\nLo sfondo giallo indica sezione non verificata"};
+    "\n\n\nLo sfondo giallo indica sezione non verificata", false};
 
 const char* Motivo(EsitoT esito) {
   switch (esito) {
@@ -36,7 +36,7 @@ FrmVerFlessT1::FrmVerFlessT1(RunState& stato)
     : FormFlessione("frmVER_FLESS_T1",
                     "VERIFICA FLESSIONE SEMPLICE SEZIONI in C.A. : Rettangolari, a T, a T rovescia "
                     "e a doppia T",
-                    stato, kNote,
+                    stato, kNoteT,
                     {kFormeT[0].nome, kFormeT[1].nome, kFormeT[2].nome, kFormeT[3].nome}) {
   Disponi({CD_02, CD_03, CD_04, CD_05, CD_06, CD_07}, {strati.Contents()});
   CD_01.onLeave = [this] { Label_NOTA.SetText(""); };
@@ -86,7 +86,8 @@ DatiSezione FrmVerFlessT1::LeggiDati() const {
 }
 
 void FrmVerFlessT1::Calcola() {
-  if (forma_ == nullptr) return Avvisa("  SCEGLIERE ALMENO UN TIPO DI SEZIONE  ");
+  if (forma_ == nullptr || gruppo.Chosen() < 0)
+    return Avvisa("  SCEGLIERE ALMENO UN TIPO DI SEZIONE  ");
   Lavagna.Clear();
   if (SenzaMomento()) return;
   const DatiSezione dati = LeggiDati();

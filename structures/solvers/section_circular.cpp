@@ -13,8 +13,6 @@ namespace {
 constexpr double kPi = 3.14159265358979;
 constexpr double kTenSeconds = kPi / 64800.0;  // of arc
 
-double Square(double v) { return v * v; }
-
 // First and second moment of the segment of half angle u of a circle of diameter Q about its chord.
 double SEG(double Q, double u) {
   const double sine = std::sin(u), cosine = std::cos(u);

@@ -12,7 +12,6 @@
 namespace orm {
 namespace {
 
-double Square(double v) { return v * v; }
 double Cube(double v) { return v * v * v; }
 
 // Where the line at depth x falls. The second range begins a hair behind the first: what lies

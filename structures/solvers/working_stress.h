@@ -1,5 +1,5 @@
-// What every check by the working-stress method shares: the modular ratio, the least cover, and
-// the search of the neutral axis by halving.
+// What every check by the working-stress method shares: the modular ratio, the least cover, the
+// square of a length, and the search of the neutral axis by halving.
 #pragma once
 
 #include <cmath>
@@ -10,6 +10,8 @@ namespace orm {
 inline constexpr double kModuloN = 15.0;
 // Least distance of steel from either edge, cm.
 inline constexpr double kCopriferroMinimo = 2.0;
+
+inline double Square(double v) { return v * v; }
 
 // Root of `f` between x1 and x2, where it changes sign: the interval is halved until f is exactly 0
 // in its middle or it is not wider than `tolleranza`. Comes to an end for any f and any ends: an

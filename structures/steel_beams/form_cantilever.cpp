@@ -2,7 +2,6 @@
 
 #include "dialogs/message_boxes.h"
 #include "structures/loads/form_edge.h"
-#include "structures/loads/form_seismic.h"
 #include "structures/steel_beams/report.h"
 #include "structures/structural_report.h"
 
@@ -15,7 +14,8 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
                                                                Row({cdCoppia, cmdCOPPIA})})}),
                                   Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
                           Column({ingressi.Carichi()})}),
-                     risultati.Contents(), Buttons({comCalcola, cmdSTAMPA, ComEsci})}));
+                     risultati.Contents(lblEsito),
+                     Buttons({comCalcola, cmdSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();
@@ -23,7 +23,10 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
 }
 
 void FrmVerSbalziP::TieEvents() {
-  const auto cambiati = [this] { Azzera(); };
+  const auto cambiati = [this] {
+    SegnaCambiati();
+    Azzera();
+  };
   ingressi.TieEvents(cambiati);
   Option1.onChange = Option2.onChange = cdCarico.onChange = cdCoppia.onChange = cambiati;
   using Cerca = FrmStruttureCarichiEstremita::Cerca;
@@ -59,14 +62,16 @@ DatiSbalzoP FrmVerSbalziP::Leggi() const {
 void FrmVerSbalziP::Calcola() {
   const DatiSbalzoP dati = Leggi();
   Azzera();
+  SenzaRisultati();
   if (dati.lunghezza == 0) {
     stato_.player.Ask(Avviso("IL CALCOLO NON VERRÁ ESEGUITO PERCHÈ LA LUNGHEZZA È ZERO"));
     return;
   }
   dati_ = dati;
   verifica_ = VerificaSbalzoP(dati);
-  risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
-                    {verifica_.ammesse.tau, verifica_.calcolate.tau}});
+  const bool entro = risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
+                                       {verifica_.ammesse.tau, verifica_.calcolate.tau}});
+  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro);
   cmdSTAMPA.SetEnabled(true);
 }
 

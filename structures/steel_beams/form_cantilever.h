@@ -1,6 +1,7 @@
 // frmVER_SBALZI_P: check of a cantilever of NP beams and hollow tiles.
 #pragma once
 
+#include "structures/loads/form_seismic.h"
 #include "structures/resumable_form.h"
 #include "structures/steel_beams/cantilever.h"
 #include "structures/steel_beams/panel_inputs.h"
@@ -32,6 +33,7 @@ class FrmVerSbalziP : public FormRiprendibile {
   Button ComEsci{*this, "ComEsci", "&ESCI", Button::Role::Close};
 
  private:
+  std::vector<Form*> Annesse() const override { return {&CarichiSismici(stato_)}; }
   void TieEvents();
   void Azzera();
   DatiSbalzoP Leggi() const;

@@ -16,11 +16,15 @@ FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
       Column({Row({Column({Group(fraPosizione, {Row({Option1, Option2})}), ingressi.Schema(),
                            Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
                    Column({ingressi.Carichi()})}),
-              risultati.Contents(), Buttons({ComCalcola, cmdSTAMPA, ComEsci})}));
+              risultati.Contents(lblEsito),
+              Buttons({ComCalcola, cmdSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option1.SetValue(true);
   cdMezzeria.SetValue(kAppoggio);
-  const auto cambiati = [this] { Azzera(); };
+  const auto cambiati = [this] {
+    SegnaCambiati();
+    Azzera();
+  };
   ingressi.TieEvents(cambiati);
   Option1.onChange = Option2.onChange = cdMezzeria.onChange = cdIncastro.onChange = cambiati;
   ComCalcola.onPress = [this] { Calcola(); };
@@ -64,13 +68,16 @@ bool FrmVerSolaioP::SiRifiuta(const DatiSolaioP& dati) {
 void FrmVerSolaioP::Calcola() {
   const DatiSolaioP dati = Leggi();
   Azzera();
+  SenzaRisultati();
   if (SiRifiuta(dati)) return;
   dati_ = dati;
   verifica_ = VerificaSolaioP(dati);
-  risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
-                    {verifica_.ammesse.tau, verifica_.calcolate.tau},
-                    {verifica_.permanente.accettata, verifica_.permanente.calcolata},
-                    {verifica_.totale.accettata, verifica_.totale.calcolata}});
+  const bool entro =
+      risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
+                        {verifica_.ammesse.tau, verifica_.calcolate.tau},
+                        {verifica_.permanente.accettata, verifica_.permanente.calcolata},
+                        {verifica_.totale.accettata, verifica_.totale.calcolata}});
+  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro);
   cmdSTAMPA.SetEnabled(true);
 }
 

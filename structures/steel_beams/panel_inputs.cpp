@@ -1,5 +1,6 @@
 #include "structures/steel_beams/panel_inputs.h"
 
+#include "runtime/numbers.h"
 #include "structures/loads/form_filling.h"
 #include "structures/loads/form_permanent.h"
 #include "structures/loads/form_service.h"
@@ -21,6 +22,7 @@ PannelloDatiPutrelle::PannelloDatiPutrelle(Form& form, RunState& stato, const Vo
   cmbTavellone.SetIndex(kPrimoTavellone);
   ScegliPutrella();
   ScegliTavellone();
+  lblRiempimento.SetVisible(false);
 }
 
 Layout PannelloDatiPutrelle::Schema() {
@@ -34,7 +36,8 @@ Layout PannelloDatiPutrelle::Carichi() {
                        {Fields({cdCR[Solettina], cdCR[PesoTavelloni],
                                 Row({cdCR[Riempimento], cmdCALC_RIEMPIMENTO}), cdCR[AltroRipartito],
                                 Row({cdCR[CarichiPermanentiRipartiti], cmdCALCOLAPERMANENTE}),
-                                Row({cdCR[Sovraccarico], cmdCalc_Acc})})}),
+                                Row({cdCR[Sovraccarico], cmdCalc_Acc})}),
+                        lblRiempimento}),
                  Group(fraDiretti, {Fields({cdPesoProprio, cdDiretto})}), lblBlu, lblModuli});
 }
 
@@ -42,13 +45,20 @@ void PannelloDatiPutrelle::TieEvents(const std::function<void()>& cambiati) {
   for (FloatBox* campo : {&cdLunghezza, &cdAltezza, &cdPesoProprio, &cdDiretto})
     campo->onChange = cambiati;
   for (FloatBox& carico : cdCR) carico.onChange = cambiati;
+  cdCR[Riempimento].onChange = [this, cambiati] {
+    altezzaDelPeso_ = AltezzaDaRiempire();
+    SegnaRiempimento();
+    cambiati();
+  };
   cmbTipoDiFerro.onChange = cambiati;
   cmbPutrella.onChange = [this, cambiati] {
     ScegliPutrella();
+    SegnaRiempimento();
     cambiati();
   };
   cmbTavellone.onChange = [this, cambiati] {
     ScegliTavellone();
+    SegnaRiempimento();
     cambiati();
   };
   cmdCALC_RIEMPIMENTO.onPress = [this] {
@@ -73,6 +83,23 @@ void PannelloDatiPutrelle::ScegliPutrella() {
 
 void PannelloDatiPutrelle::ScegliTavellone() {
   cdCR[PesoTavelloni].SetValue(TavelloneDiLista(cmbTavellone.Index()).peso);
+}
+
+double PannelloDatiPutrelle::AltezzaDaRiempire() const {
+  DatiPutrelle dati;
+  Leggi(dati);
+  return AltezzaRiempimento(dati);
+}
+
+// The weight stays as it was given; that it is of another height is said.
+void PannelloDatiPutrelle::SegnaRiempimento() {
+  const double altezza = AltezzaDaRiempire();
+  const bool altra = cdCR[Riempimento].Value() > 0 && altezza != altezzaDelPeso_;
+  cdCR[Riempimento].SetWarning(altra);
+  lblRiempimento.SetVisible(altra);
+  if (altra)
+    lblRiempimento.SetText("Il riempimento è di " + FormatPattern(altezzaDelPeso_, "0.##") +
+                           " cm, ora ne ha " + FormatPattern(altezza, "0.##") + ".");
 }
 
 void PannelloDatiPutrelle::Leggi(DatiPutrelle& dati) const {

@@ -51,6 +51,7 @@ class PannelloDatiPutrelle {
                           "Peso Riempimento [Kg/mq]", "Altro Ripartito [Kg/mq]",
                           "Carichi Permanenti  [Kg/mq]", "Sovraccarico di esercizio [Kg/mq]"},
                          kLimitiCarico};
+  Label lblRiempimento{form_, "lblRiempimento", "", Label::Style::Warning};
   Button cmdCALC_RIEMPIMENTO{form_, "cmdCALC_RIEMPIMENTO", "Analisi..."};
   Button cmdCALCOLAPERMANENTE{form_, "cmdCALCOLAPERMANENTE", "Analisi..."};
   Button cmdCalc_Acc{form_, "cmdCalc_Acc", "Analisi..."};
@@ -65,6 +66,10 @@ class PannelloDatiPutrelle {
  private:
   void ScegliPutrella();
   void ScegliTavellone();
+  double AltezzaDaRiempire() const;
+  void SegnaRiempimento();
+
+  double altezzaDelPeso_ = 0;  // to be filled when the weight of the filling was given, cm
 };
 
 }  // namespace orm

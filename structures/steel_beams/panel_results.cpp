@@ -10,11 +10,11 @@ PannelloRisultatiPutrelle::PannelloRisultatiPutrelle(Form& form, std::vector<std
     for (FloatBox& valore : *colonna) valore.SetReadOnly(true);
 }
 
-Layout PannelloRisultatiPutrelle::Contents() {
+Layout PannelloRisultatiPutrelle::Contents(Label& esito) {
   std::vector<Layout> righe{Row({lblColonne.begin(), lblColonne.end()})};
   for (std::size_t i = 0; i < cdRisultati.size(); ++i)
     righe.push_back(Row({cdVAmmessi[i], cdRisultati[i]}));
-  return Group(fraRisultati, {Fields(std::move(righe))});
+  return Group(fraRisultati, {Fields(std::move(righe)), esito});
 }
 
 void PannelloRisultatiPutrelle::Azzera() {
@@ -25,15 +25,18 @@ void PannelloRisultatiPutrelle::Azzera() {
     }
 }
 
-void PannelloRisultatiPutrelle::Mostra(std::initializer_list<ValoreVerificato> valori) {
+bool PannelloRisultatiPutrelle::Mostra(std::initializer_list<ValoreVerificato> valori) {
   std::size_t i = 0;
+  bool entro = true;
   for (const auto& [ammesso, calcolato] : valori) {
     cdVAmmessi[i].SetValue(ammesso);
     cdVAmmessi[i].SetShown(FormatPattern(ammesso, "###0.00"));
     cdRisultati[i].SetValue(calcolato);
     cdRisultati[i].SetShown(FormatPattern(calcolato, "###0.00"));
     cdRisultati[i++].SetWarning(calcolato > ammesso);
+    entro = entro && calcolato <= ammesso;
   }
+  return entro;
 }
 
 }  // namespace orm

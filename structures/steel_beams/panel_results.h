@@ -14,6 +14,9 @@ struct ValoreVerificato {
   double ammesso = 0, calcolato = 0;
 };
 
+inline constexpr const char *kEntroLimiti = "VALORI ENTRO I LIMITI",
+                            *kOltreLimiti = "VALORI OLTRE I LIMITI";
+
 class PannelloRisultatiPutrelle {
   Form& form_;  // before the controls, which are built on it
   std::vector<std::string> voci_;
@@ -21,10 +24,10 @@ class PannelloRisultatiPutrelle {
  public:
   // A row for each caption.
   PannelloRisultatiPutrelle(Form& form, std::vector<std::string> voci);
-  Layout Contents();
+  Layout Contents(Label& esito);
   void Azzera();
-  // One value for each row; those beyond what is allowed warn.
-  void Mostra(std::initializer_list<ValoreVerificato> valori);
+  // One value for each row; those beyond what is allowed warn. True when none is.
+  bool Mostra(std::initializer_list<ValoreVerificato> valori);
 
   static constexpr double kMassimo = 99999999.99;
   Frame fraRisultati{form_, "fraRisultati", "RISULTATI"};

@@ -61,10 +61,20 @@ void StampaTensione(ReportPrinter& r, const char* nome, double calcolata, double
   StampaValoreConLimite(r, nome, calcolata, kDueDecimali, "Kg/cmq", kAmmessa, ammessa);
 }
 
-void StampaVerifica(ReportPrinter& r, const VerificaPutrella& risultati) {
+void StampaSollecitazioni(ReportPrinter& r, const VerificaPutrella& risultati) {
   StampaSezione(r, "SOLLECITAZIONI");
   StampaValore(r, "Taglio max", risultati.taglio, kDueDecimali, "Kg");
   StampaValore(r, "Momento max", risultati.momento, kDueDecimali, "Kg x ml");
+}
+
+// Of the loads above only the couple has no seismic part.
+void StampaSisma(ReportPrinter& r, const FattoriSismici& sisma) {
+  if (sisma.kv == 0) return;
+  r.Text("Taglio e momento comprendono l'azione sismica : I x 0,4 = ");
+  r.Text(FormatPattern(sisma.kv, "0.00")).Text(", s = ").Line(FormatPattern(sisma.s, "0.00"));
+}
+
+void StampaTensioni(ReportPrinter& r, const VerificaPutrella& risultati) {
   StampaSezione(r, "TENSIONI");
   StampaTensione(r, "Tensione normale max acciaio", risultati.calcolate.sigma,
                  risultati.ammesse.sigma);
@@ -72,10 +82,17 @@ void StampaVerifica(ReportPrinter& r, const VerificaPutrella& risultati) {
                  risultati.ammesse.tau);
 }
 
+bool TensioniOltre(const VerificaPutrella& risultati) {
+  return risultati.calcolate.sigma > risultati.ammesse.sigma ||
+         risultati.calcolate.tau > risultati.ammesse.tau;
+}
+
 void StampaFreccia(ReportPrinter& r, const char* nome, const Freccia& freccia) {
   StampaValoreConLimite(r, nome, freccia.calcolata, kDueDecimali, "cm", kAccettata,
                         freccia.accettata);
 }
+
+bool Oltre(const Freccia& freccia) { return freccia.calcolata > freccia.accettata; }
 
 }  // namespace
 
@@ -83,10 +100,13 @@ void StampaSolaioP(ReportPrinter& relazione, bool primo, int numero, const DatiS
                    const RisultatiSolaioP& risultati) {
   StampaDati(relazione, kSolaio, primo, numero, dati);
   StampaCarichi(relazione, kSolaio, dati);
-  StampaVerifica(relazione, risultati);
+  StampaSollecitazioni(relazione, risultati);
+  StampaTensioni(relazione, risultati);
   StampaSezione(relazione, "FRECCE");
   StampaFreccia(relazione, "Freccia per carico permanente", risultati.permanente);
   StampaFreccia(relazione, "Freccia per carico totale", risultati.totale);
+  StampaValoriOltre(relazione, TensioniOltre(risultati) || Oltre(risultati.permanente) ||
+                                   Oltre(risultati.totale));
 }
 
 void StampaSbalzoP(ReportPrinter& relazione, bool primo, int numero, const DatiSbalzoP& dati,
@@ -96,7 +116,10 @@ void StampaSbalzoP(ReportPrinter& relazione, bool primo, int numero, const DatiS
   StampaSezione(relazione, "CARICHI DI ESTREMITÁ per ml.");
   StampaValore(relazione, "Carico", dati.caricoEstremo, kDueDecimali, "Kg/ml");
   StampaValore(relazione, "Coppia", dati.coppiaEstrema, kDueDecimali, "Kg x m/ml");
-  StampaVerifica(relazione, risultati);
+  StampaSollecitazioni(relazione, risultati);
+  StampaSisma(relazione, dati.sisma);
+  StampaTensioni(relazione, risultati);
+  StampaValoriOltre(relazione, TensioniOltre(risultati));
 }
 
 }  // namespace orm

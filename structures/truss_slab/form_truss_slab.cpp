@@ -55,8 +55,8 @@ std::string Rifiuto(EsitoSolaioT esito) {
 FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
     : FormRiprendibile("frmVER_SOLAIO_TRALIC",
                        "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO", stato) {
-  SetContent(
-      Column({ingressi.Contents(), viste.Contents(), Buttons({comCalcola, comSTAMPA, ComEsci})}));
+  SetContent(Column({ingressi.Contents(), viste.Contents(lblEsito),
+                     Buttons({comCalcola, comSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
   ingressi.TieEvents([this] { Azzera(); });
   SetFirstFocus(ingressi.cdLuce);
   comCalcola.onPress = [this] { Calcola(); };
@@ -92,6 +92,7 @@ void FrmVerSolaioTralic::Calcola() {
   }
   ingressi.ScriviFerri(risultati);
   viste.Mostra({dati, risultati});
+  Calcolato("SOLAIO VERIFICATO");
   comSTAMPA.SetEnabled(true);
 }
 

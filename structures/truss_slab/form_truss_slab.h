@@ -19,6 +19,8 @@ class FrmVerSolaioTralic : public FormRiprendibile {
 
  private:
   void Resume(const FormValues& values) override;
+  void ADatiCambiati() override { viste.SegnaCambiati(); }
+  bool EDato(const Control& control) const override { return !viste.EScelta(control); }
   void Calcola();
   void Stampa();
   void Azzera();

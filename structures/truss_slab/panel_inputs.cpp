@@ -27,8 +27,8 @@ Layout PannelloDatiSolaio::Contents() {
                Group(fraCoefficienti, {Fields({cmbCCM_SIN, cmbCCM_DEX, cmbCCM_MEZ})}),
                Group(fraCarichi, {Fields({cdProprio, Row({cdPermanente, cmdCALCOLAPERMANENTE}),
                                           Row({cdAccidentale, cmdCalc_Acc})})})}),
-       Group(cmbFerri,
-             {Fields({cmbFERRI.begin(), cmbFERRI.end()}), lblVuoto, lblAutomatica, lblZero})});
+       Group(cmbFerri, {Fields({cmbFERRI.begin(), cmbFERRI.end()}), Row({cmdAutomatico, lblBlu}),
+                        lblVuoto, lblAutomatica, lblZero})});
 }
 
 void PannelloDatiSolaio::ValoriIniziali() {
@@ -42,6 +42,8 @@ void PannelloDatiSolaio::ValoriIniziali() {
   cmbCCM_DEX.SetIndex(2);
   cmbCCM_MEZ.SetIndex(1);  // 1/10
   for (ComboBox& lista : cmbFERRI) lista.SetIndex(0);
+  cmdAutomatico.SetEnabled(false);
+  cmdAutomatico.SetHint("Restituisce al programma la scelta dell'ultimo diametro imposto.");
   SegnalaAltezza();
   AggiornaPesoProprio();
 }
@@ -49,7 +51,17 @@ void PannelloDatiSolaio::ValoriIniziali() {
 void PannelloDatiSolaio::TieEvents(const std::function<void()>& cambiati) {
   for (ComboBox* lista : {&cmbTipoDiFerro, &cmbTipoDiCls, &cmbCCM_SIN, &cmbCCM_DEX, &cmbCCM_MEZ})
     lista->onChange = cambiati;
-  for (ComboBox& lista : cmbFERRI) lista.onChange = cambiati;
+  for (std::size_t i = 0; i < kGeneriFerri; ++i) {
+    cmbFERRI[i].onChange = [this, i, cambiati] {
+      SegnaImposto(i);
+      cambiati();
+    };
+  }
+  cmdAutomatico.onPress = [this] {
+    ComboBox& ultimo = cmbFERRI[imposti_.back()];
+    ultimo.SetIndex(0);
+    form_.MoveFocus(ultimo);
+  };
   for (FloatBox* carico : {&cdProprio, &cdPermanente, &cdAccidentale}) carico->onChange = cambiati;
   Option1.onChange = Option2.onChange = cdLuce.onChange = [this, cambiati] {
     SegnalaAltezza();
@@ -149,14 +161,27 @@ DatiSolaioT PannelloDatiSolaio::Leggi() const {
   dati.cSin = ParteDopoBarra(cmbCCM_SIN.ShownText());
   dati.cDex = ParteDopoBarra(cmbCCM_DEX.ShownText());
   dati.cMez = ParteDopoBarra(cmbCCM_MEZ.ShownText());
-  for (std::size_t i = 0; i < cmbFERRI.size(); ++i)
-    dati.ferri[i] = LeggiSceltaFerro(cmbFERRI[i].ShownText());
+  for (std::size_t i = 0; i < kGeneriFerri; ++i) dati.ferri[i] = Ferro(i);
   return dati;
 }
 
+SceltaFerro PannelloDatiSolaio::Ferro(std::size_t genere) const {
+  const ComboBox& lista = cmbFERRI[genere];
+  return lista.IsAutomatic() ? SceltaFerro{} : LeggiSceltaFerro(lista.ShownText());
+}
+
+void PannelloDatiSolaio::SegnaImposto(std::size_t genere) {
+  std::erase(imposti_, genere);
+  if (Ferro(genere)) imposti_.push_back(genere);
+  cmdAutomatico.SetEnabled(!imposti_.empty());
+}
+
 void PannelloDatiSolaio::ScriviFerri(const RisultatiSolaioT& risultati) {
-  for (std::size_t i = 0; i < risultati.campata.size(); ++i)
-    cmbFERRI[i].Enter(NumberText(risultati.campata[i].diametro));
+  for (std::size_t i = 0; i < risultati.campata.size(); ++i) {
+    if (Ferro(i)) continue;  // given
+    const std::string diametro = NumberText(risultati.campata[i].diametro);
+    cmbFERRI[i].Propose(cmbFERRI[i].PlaceOf(diametro));
+  }
 }
 
 }  // namespace orm

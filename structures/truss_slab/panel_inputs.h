@@ -31,8 +31,8 @@ class PannelloDatiSolaio {
   // Takes the span that was typed; false when it was refused with a message and set back.
   bool AccettaLuce();
   DatiSolaioT Leggi() const;
-  // The diameters in the span take the place of what was asked; stubs that were left free stay
-  // free.
+  // The diameters in the span that were left free show what was chosen, as the program's choice:
+  // the next design chooses anew, until a person has chosen. Stubs that were left free stay free.
   void ScriviFerri(const RisultatiSolaioT& risultati);
 
   Frame fraSchema{form_, "fraSchema", "TIPO DI SOLAIO"};
@@ -76,6 +76,10 @@ class PannelloDatiSolaio {
                              {"Ferro aggiuntivo in campata", "Ferro integrativo n.1 in campata",
                               "Ferro integrativo n.2 in campata", "Moncone Lungo", "Moncone Corto"},
                              Elenco(kDiametriFerri)};
+  Button cmdAutomatico{form_, "cmdAutomatico", "Automatico"};
+  Label lblBlu{form_, "lblBlu",
+               "In blu i diametri scelti dal programma:\nCALCOLA li sceglie di nuovo.",
+               Label::Style::Note};
   Label lblVuoto{
       form_, "lblVuoto",
       "VUOTO : scelta automatica  o  0 : se non si\nvuole il tipo di ferro o il diametro",
@@ -91,13 +95,16 @@ class PannelloDatiSolaio {
   void ValoriIniziali();
   bool AltezzaScarsa() const;
   void SegnalaAltezza();
+  SceltaFerro Ferro(std::size_t genere) const;
+  void SegnaImposto(std::size_t genere);
   bool AltezzaAmmessa();
   bool AccettaScelta(ComboBox& lista, int& accettata);  // false: set back, nothing has changed
   void AggiornaPesoProprio();
   const ModuloSolaio& Modulo() const { return kModuliSolaio[optSchema[1].Value() ? 1 : 0]; }
   double Solettina() const;
 
-  double luce_ = 0;  // as last accepted, and so the two choices
+  std::vector<std::size_t> imposti_;  // kinds whose diameter is given, the last one behind
+  double luce_ = 0;                   // as last accepted, and so the two choices
   int solettina_ = 0;
   int blocco_ = 2;        // R 38 x 20, high enough for a usual room
   bool ritorno_ = false;  // while choices are set, not made

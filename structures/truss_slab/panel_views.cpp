@@ -1,14 +1,14 @@
 #include "structures/truss_slab/panel_views.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
+#include "dialogs/data_forms/result_form.h"
 #include "runtime/numbers.h"
+#include "structures/structural_report.h"
 
 namespace orm {
-namespace {
-constexpr const char* kDueDecimali = "###0.00";
-}  // namespace
 
 PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
   for (OptionButton& opt : optVisualizza)
@@ -36,23 +36,26 @@ Layout PannelloVisteSolaio::TabellaTensioni(std::size_t primaColonna,
   return Tabella(primaColonna, std::move(linee));
 }
 
-Layout PannelloVisteSolaio::Contents() {
+Layout PannelloVisteSolaio::Contents(Label& esito) {
   constexpr std::size_t kCampata = 3;  // bars in the span, before the stubs
-  std::vector<Layout> campata, monconi, sollecitazioni;
+  std::vector<Layout> campata, monconi, sollecitazioni, scelte;
   for (std::size_t i = 0; i < cdLunghezze.size(); ++i)
     (i < kCampata ? campata : monconi).push_back(Row({cdLunghezze[i], lblDiametri[i]}));
   for (TestoBox& zona : cdZonePiene) campata.push_back(Row({zona}));
   for (TestoBox& valore : cdSollecitazioni) sollecitazioni.push_back(Row({valore}));
+  scelte.assign(optVisualizza.begin(), optVisualizza.end());
+  scelte.emplace_back(esito);
   return Column(
-      {Group(fraVisualizza, {Row({optVisualizza.begin(), optVisualizza.end()})}),
-       Group(fraDisegno, {Lavagna}),
-       Group(fraFerri, {Row({Tabella(0, std::move(campata)), Tabella(3, std::move(monconi))})}),
-       Group(fraSollecitazioni, {Tabella(6, std::move(sollecitazioni))}),
-       Group(fraTensioni,
-             {Row({TabellaTensioni(8, {MezzeriaCls, MezzeriaAcciaio, SinClsPiena, SinClsTravetto,
-                                       SinAcciaioPiena, SinAcciaioTravetto}),
-                   TabellaTensioni(11, {DexClsPiena, DexClsTravetto, DexAcciaioPiena,
-                                        DexAcciaioTravetto, Tangenziale})})})});
+      {Group(fraVisualizza, {Row(std::move(scelte))}),
+       Views({Group(fraDisegno, {Lavagna}),
+              Group(fraFerri,
+                    {Row({Tabella(0, std::move(campata)), Tabella(3, std::move(monconi))})}),
+              Group(fraSollecitazioni, {Tabella(6, std::move(sollecitazioni))}),
+              Group(fraTensioni,
+                    {Row({TabellaTensioni(8, {MezzeriaCls, MezzeriaAcciaio, SinClsPiena,
+                                              SinClsTravetto, SinAcciaioPiena, SinAcciaioTravetto}),
+                          TabellaTensioni(11, {DexClsPiena, DexClsTravetto, DexAcciaioPiena,
+                                               DexAcciaioTravetto, Tangenziale})})})})});
 }
 
 void PannelloVisteSolaio::ScegliVista() {
@@ -64,7 +67,9 @@ void PannelloVisteSolaio::ScegliVista() {
   if (vista == Schema) DisegnaSchemaSolaio(Lavagna);
   if (vista == Disegno && progetto_)
     DisegnaArmatureSolaio(Lavagna, progetto_->dati, progetto_->risultati);
-  if (vista == Disegno && !progetto_) Lavagna.Clear();
+  if (vista != Disegno || progetto_) return;
+  Lavagna.Clear();
+  if (cambiati_) Lavagna.SetNotice(FormDiCalcolo::kDatiCambiati);
 }
 
 void PannelloVisteSolaio::Azzera() {
@@ -74,6 +79,16 @@ void PannelloVisteSolaio::Azzera() {
     for (TestoBox& valore : *valori) valore.SetText("");
   for (Label& diametro : lblDiametri) diametro.SetText("");
   ScegliVista();
+}
+
+void PannelloVisteSolaio::SegnaCambiati() {
+  cambiati_ = true;
+  ScegliVista();
+}
+
+bool PannelloVisteSolaio::EScelta(const Control& control) const {
+  return std::ranges::any_of(gruppo.Options(),
+                             [&](const OptionButton* opt) { return opt == &control; });
 }
 
 void PannelloVisteSolaio::Scrivi(Valore tensione, double valore, double ammessa) {
@@ -97,6 +112,7 @@ void PannelloVisteSolaio::ScriviFerri(const RisultatiSolaioT& r) {
 
 void PannelloVisteSolaio::Mostra(const ProgettoSolaioT& progetto) {
   progetto_ = progetto;
+  cambiati_ = false;
   const RisultatiSolaioT& r = progetto_->risultati;
   const Ammissibili& ammissibili = r.ammissibili;
   const std::array sollecitazioni = {r.taglio, r.sinistra.momento, r.destra.momento,

@@ -27,9 +27,13 @@ class PannelloVisteSolaio {
 
  public:
   explicit PannelloVisteSolaio(Form& form);
-  Layout Contents();
+  Layout Contents(Label& esito);
   // No design: empty results.
   void Azzera();
+  // The design that was shown is one of other data.
+  void SegnaCambiati();
+  // The control only chooses the view.
+  bool EScelta(const Control& control) const;
   // A design, with its drawing in front.
   void Mostra(const ProgettoSolaioT& progetto);
   const ProgettoSolaioT& Progetto() const { return *progetto_; }  // that is shown
@@ -109,7 +113,7 @@ class PannelloVisteSolaio {
                                 "cdRisultati",
                                 ZonaPienaSin,
                                 {"Lunghezza zona piena a SIN", "Lunghezza zona piena a DEX"},
-                                Figura("cm")};
+                                Figura("cm  < 50")};
   // Headings of the tables, one after the other.
   Schiera<Label> lblColonne{form_,
                             "lblColonne",
@@ -125,6 +129,7 @@ class PannelloVisteSolaio {
   void ScriviFerri(const RisultatiSolaioT& risultati);
 
   std::optional<ProgettoSolaioT> progetto_;
+  bool cambiati_ = false;
 };
 
 }  // namespace orm

@@ -96,6 +96,7 @@ inline constexpr std::array<Tondino, 7> kTondini = {
 
 // What can be asked for each kind of bar: empty for the automatic choice, "0" for none.
 inline constexpr std::array kDiametriFerri = {"", "0", "6", "8", "10", "12", "14", "16", "18"};
+inline constexpr std::size_t kGeneriFerri = 5;
 inline constexpr std::size_t kDiametriFinoA16 = 8;  // items of the kinds without 18 mm
 
 // ---------------------------------------------------------------- coefficients of the moments

@@ -19,7 +19,7 @@ struct DatiSolaioT {
   double pesoProprio = 0, permanente = 0, accidentale = 0;  // kg/mq
   double cSin = 0, cDex = 0, cMez = 0;                      // the 12 of 1/12
   // Additional bar, first and second supplementary bar, long and short stub.
-  std::array<SceltaFerro, 5> ferri;
+  std::array<SceltaFerro, kGeneriFerri> ferri;
 
   double H() const { return AltezzaBlocco(blocco) + solettina; }  // total height, cm
 };

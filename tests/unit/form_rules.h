@@ -52,7 +52,7 @@ class FormRules {
     for (const Control* control : form_.Controls()) {
       const auto* button = dynamic_cast<const Button*>(control);
       if (button == nullptr) continue;
-      defaults += button->GetRole() == Button::Role::Default ? 1 : 0;
+      defaults += button->GetRole() == Button::Role::Default && button->IsShown() ? 1 : 0;
       const auto mark = button->Caption().find('&');
       if (mark == std::string::npos || !button->IsShown()) continue;
       const char key = button->Caption().substr(mark + 1, 1)[0] & ~0x20;

@@ -117,7 +117,7 @@ std::string CodeOf(const std::string& source) {
 const std::vector<std::vector<std::string>> kFloors = {
     {"runtime"},
     {"dialogs", "structures/solvers"},
-    {"dialogs/drawing", "dialogs/rich_text"},
+    {"dialogs/data_forms", "dialogs/drawing", "dialogs/rich_text"},
     {"tariff/law"},
     {"tariff/config"},
     {"tariff"},

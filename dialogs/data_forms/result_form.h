@@ -1,0 +1,36 @@
+// A form whose results stand for the data that they were reckoned from: as soon as one of these
+// changes the form says so, until the results are reckoned anew or go.
+#pragma once
+
+#include <string>
+
+#include "dialogs/form.h"
+
+namespace orm {
+
+class FormDiCalcolo : public Form {
+ public:
+  static constexpr const char* kDatiCambiati = "dati cambiati: ricalcolare";
+  static constexpr const char* kDaCalcolare = "risultati da calcolare";
+
+  FormDiCalcolo(std::string nome, std::string titolo);
+  void OnDataChanged(Control& control) override;
+
+  Label lblEsito{*this, "lblEsito", kDaCalcolare, Label::Style::Note};  // in every layout
+
+ protected:
+  // The results that are shown are those of the data; `regge`: none is beyond its limit.
+  void Calcolato(const std::string& verdetto, bool regge = true);
+  void SenzaRisultati();
+  // Data of the results have changed, in this form or elsewhere.
+  void SegnaCambiati();
+  // What else the form shows of its results and is no longer true.
+  virtual void ADatiCambiati() {}
+  // A control that only chooses what is shown is none.
+  virtual bool EDato(const Control&) const { return true; }
+
+ private:
+  bool calcolato_ = false;
+};
+
+}  // namespace orm
