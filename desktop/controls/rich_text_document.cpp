@@ -22,7 +22,7 @@ constexpr int kTabs = kLeft + 5;
 
 using Alignment = RichSetting::Alignment;
 
-Qt::Alignment ToQt(Alignment alignment) {
+Qt::Alignment SideInQt(Alignment alignment) {
   switch (alignment) {
     case Alignment::Left:
       return Qt::AlignLeft;
@@ -36,7 +36,7 @@ Qt::Alignment ToQt(Alignment alignment) {
   return Qt::AlignLeft;
 }
 
-Alignment FromQt(Qt::Alignment alignment) {
+Alignment SideOf(Qt::Alignment alignment) {
   if (alignment & Qt::AlignHCenter) return Alignment::Centre;
   if (alignment & Qt::AlignRight) return Alignment::Right;
   if (alignment & Qt::AlignJustify) return Alignment::Justified;
@@ -45,7 +45,7 @@ Alignment FromQt(Qt::Alignment alignment) {
 
 QTextBlockFormat FormatOf(const RichSetting& setting) {
   QTextBlockFormat format;
-  format.setAlignment(ToQt(setting.alignment));
+  format.setAlignment(SideInQt(setting.alignment));
   // A bullet stands in the indent that its list makes.
   format.setLeftMargin(setting.bullet ? 0 : setting.left / kTwipsAPixel);
   format.setTextIndent(setting.bullet ? 0 : setting.first / kTwipsAPixel);
@@ -71,7 +71,7 @@ QTextBlockFormat FormatOf(const RichSetting& setting) {
 RichSetting SettingOf(const QTextBlock& block) {
   const QTextBlockFormat format = block.blockFormat();
   RichSetting setting;
-  setting.alignment = FromQt(format.alignment());
+  setting.alignment = SideOf(format.alignment());
   setting.left = format.intProperty(kLeft);
   setting.right = format.intProperty(kRight);
   setting.first = format.intProperty(kFirst);
@@ -85,7 +85,7 @@ RichSetting SettingOf(const QTextBlock& block) {
 RichStyle StyleOf(const QTextCharFormat& format) {
   RichStyle style;
   const QStringList families = format.fontFamilies().toStringList();
-  if (!families.isEmpty()) style.font = orm::FromQt(families.first());
+  if (!families.isEmpty()) style.font = FromQt(families.first());
   if (format.fontPointSize() > 0)
     style.halfPoints = static_cast<int>(std::lround(format.fontPointSize() * 2));
   style.bold = format.fontWeight() >= QFont::DemiBold;
@@ -151,7 +151,7 @@ RichDocument ReadDocument(const QTextDocument& shown, const RichDocument& before
       const QTextFragment fragment = at.fragment();
       QString text = fragment.text();
       text.replace(QChar::LineSeparator, '\n').remove(QChar::ObjectReplacementCharacter);
-      if (!text.isEmpty()) paragraph.Append(orm::FromQt(text), StyleOf(fragment.charFormat()));
+      if (!text.isEmpty()) paragraph.Append(FromQt(text), StyleOf(fragment.charFormat()));
     }
     document.paragraphs.push_back(std::move(paragraph));
   }

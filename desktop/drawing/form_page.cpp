@@ -113,6 +113,7 @@ class FormText {
         return value.isEmpty() ? value : "<p style='margin-top:2px'>" + value + "</p>";
       }
       case Layout::Kind::Column:
+      case Layout::Kind::Views:
         return PartsHtml(part.children);
       case Layout::Kind::Row: {
         if (IsField(part.children[0])) return TableHtml({part});
