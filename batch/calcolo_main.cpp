@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cerrno>
 #include <exception>
 #include <filesystem>
 #include <optional>
@@ -100,6 +101,15 @@ int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string&
   });
 }
 
+// False for a folder that is not there, is none or is closed to the user. A disk that fails is told
+// by the step that meets it, with its reason.
+bool IsOpenFolder(const std::string& folder) {
+  if (::access(folder.c_str(), R_OK | X_OK) != 0)
+    return errno == EIO || errno == ENOSPC || errno == EROFS;
+  std::error_code error;
+  return std::filesystem::is_directory(folder, error) || error;
+}
+
 // Every note of the folder that has its two data files.
 int CalculateAll(orm::RunState& stato, orm::BatchPlayer& player) {
   int worst = kDone;
@@ -124,9 +134,7 @@ int main(int count, char** words) {
   if (const auto outcome = Read(count, words, arguments)) return *outcome;
   orm::BatchPlayer player(arguments.data);
   orm::RunState stato(player, orm::WorkFolder(arguments.cartella));
-  std::error_code error;
-  if (!std::filesystem::is_directory(arguments.cartella, error) ||
-      ::access(arguments.cartella.c_str(), R_OK | X_OK) != 0) {
+  if (!IsOpenFolder(arguments.cartella)) {
     Tell("LA CARTELLA DI LAVORO NON ESISTE O NON SI PUÒ APRIRE : " + arguments.cartella + "\n",
          STDERR_FILENO);
     return kEndedByMessage;

@@ -4,8 +4,8 @@
 #include <QListWidget>
 #include <QScreen>
 #include <QStyle>
-#include <QStyledItemDelegate>
 #include <QStylePainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "desktop/controls/views.h"

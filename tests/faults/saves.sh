@@ -125,7 +125,7 @@ loop "input di una parcella" "$saver" "$at" PARCELLE_PPE_ID
 
 # A folder that lacks two of the installed files.
 rm -rf "$old" "$work"/state-* && mkdir "$old" "$work/installed"
-for name in {CAC,CS1,CS2,GEO,IND,TUS}.CFG {BALCONI,SOLAIATRALICCIO}.PDF; do
+for name in {CAC,CS1,CS2,GEO,INC,IND,TUS}.CFG {BALCONI,SOLAIATRALICCIO}.PDF; do
   echo "$name" >"$work/installed/$name"
 done
 cp "$work"/installed/* "$old" && rm "$old/CS2.CFG" "$old/SOLAIATRALICCIO.PDF"
