@@ -153,9 +153,10 @@ class Keys {
       const auto* drawing = dynamic_cast<const Lavagna*>(form.Find("Lavagna"));
       const bool judged = drawing != nullptr && drawing->HasVerdict();
       EXPECT_TRUE(!judged || drawing->Notice().empty() == verdict) << form.Name();
-      if (judged && !verdict)
+      if (judged && !verdict) {
         for (const std::string& file : {SvgOf(*drawing), DxfOf(*drawing)})
           EXPECT_NE(file.find(FormDiCalcolo::kDatiCambiati), std::string::npos) << form.Name();
+      }
     }
     const auto* list = dynamic_cast<const FrmStruttureCarichiPermanenti*>(&form);
     if (list == nullptr || !list->fraSovraccarichi.IsShown()) return;
