@@ -74,7 +74,8 @@ void ScriviDatiForm(DataWriter& file, const Form& form) {
   std::string formName = form.Name();
   auto count = static_cast<std::int16_t>(values.All().size());
   file.Line(Field("Finestra", formName), Field("Campi", count));
-  for (auto [name, value] : values.All()) {
+  for (const auto& [control, value] : values.All()) {
+    std::string name = control;
     const auto line = [&](auto field) { file.Line(Field(kCampo, name), Field("Valore", field)); };
     if (const auto* list = dynamic_cast<const ListControl*>(form.Find(name)))
       line(ItemOf(*list));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <limits>
 
 #include "runtime/data_file.h"
 #include "tariff/forms/input_form.h"
@@ -38,7 +39,7 @@ class FrmGenAcconti : public FormInput {
   Button OK{*this, "OK", "&O.K.", Button::Role::Default};
 
  private:
-  static constexpr double kSenzaMassimo = NumberLimits{}.advised;
+  static constexpr double kSenzaMassimo = std::numeric_limits<double>::infinity();
 
   void SegnaMassimo();
   void Conferma();
