@@ -48,6 +48,11 @@ class RichTextView : public ControlView {
         whole_(new QWidget(host.Window())),
         bar_(new QToolBar(whole_)),
         edit_(new RichTextEdit(whole_)) {
+    // Paper in dark colours too: what is written has colours of its own.
+    QPalette paper = edit_->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    edit_->setPalette(paper);
     edit_->setAcceptRichText(false);  // tables and pictures of other programs could not be kept
     edit_->setMinimumSize(CharactersWide(*edit_, 76), edit_->fontMetrics().lineSpacing() * 22);
     auto* column = new QVBoxLayout(whole_);
