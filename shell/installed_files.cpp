@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "runtime/file_calls.h"
 #include "shell/shell_boxes.h"
 
 namespace orm {
@@ -18,8 +19,10 @@ constexpr std::array kFileInstallati = {"CAC.CFG", "CS1.CFG",     "CS2.CFG",
 }  // namespace
 
 void DisponiFileInstallati(RunState& stato, const WorkFolder& installati) {
-  std::error_code none;
-  const bool installato = std::filesystem::is_directory(installati.Path(), none);
+  std::error_code error;
+  const bool installato = std::filesystem::is_directory(installati.Path(), error);
+  if (error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory)
+    FailAt(installati.Path(), error.value());
   std::string assenti;
   for (const char* nome : kFileInstallati) {
     if (stato.folder.Exists(nome)) continue;

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -117,7 +118,12 @@ void KeyHand::Push(QPushButton& button) {
   }
 }
 
+// Out of an open panel the first Esc leads back into the form.
 void KeyHand::CloseByWindow() {
+  QPointer<QWidget> before = FocusIn(dialog_);
+  QTest::keyClick(before, Qt::Key_Escape);
+  QCoreApplication::processEvents();
+  if (!dialog_.Model().IsOpen() || (before && before->isVisible())) return;
   QTest::keyClick(FocusIn(dialog_), Qt::Key_Escape);
   QCoreApplication::processEvents();
 }
