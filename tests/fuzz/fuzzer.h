@@ -12,6 +12,7 @@
 
 #include "runtime/data_file.h"
 #include "runtime/failure.h"
+#include "runtime/generations.h"
 #include "tests/temporary_folder.h"
 
 namespace orm::fuzz {
@@ -34,10 +35,15 @@ inline void Require(bool held, std::string_view law) {
   std::abort();
 }
 
-// The working folder of the run; TMPDIR in memory makes it quick.
+// The working folder of the run; TMPDIR in memory makes it quick. A file stands where the kept
+// generations would, which have a format of their own: holding each input against twenty old ones
+// would take most of the time.
 inline const WorkFolder& Place() {
   static const TemporaryFolder place;
-  static const WorkFolder folder = place.Folder();
+  static const WorkFolder folder = [] {
+    place.Folder().Replace(kStorico, "", Durability::Remakeable);
+    return place.Folder();
+  }();
   return folder;
 }
 

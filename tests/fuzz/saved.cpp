@@ -32,7 +32,7 @@ void NomiDelloStorico(std::string_view input) {
   const WorkFolder storico(Place().PathOf(kStorico));
   std::filesystem::remove_all(storico.Path());
   std::filesystem::create_directory(storico.Path());
-  std::size_t others = 0;
+  std::size_t others = 0, before = 0;
   for (std::size_t at = 0; at < input.size();) {
     const std::string name(input.substr(at, input.find('\n', at) - at));
     at += name.size() + 1;
@@ -40,11 +40,12 @@ void NomiDelloStorico(std::string_view input) {
         name.find_first_of(std::string_view("/\0", 2)) != name.npos ||
         name.find("-99") != name.npos || storico.Exists(name))
       continue;
-    const std::size_t before = Generazioni(Place()).size();
     std::ofstream(storico.PathOf(name)) << name;
-    if (Generazioni(Place()).size() == before) ++others;
+    const std::size_t now = Generazioni(Place()).size();
+    if (now == before) ++others;
+    before = now;
   }
-  const std::size_t before = Generazioni(Place(), "A.DAP").size();
+  before = Generazioni(Place(), "A.DAP").size();
   std::filesystem::remove(Place().PathOf("A.DAP"));
   Put("A.DAP", "prima");
   Put("A.DAP", "dopo");
