@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +28,12 @@ std::vector<FileDiAlbero> LeggiAlbero(const std::string& cartella, bool senzaSto
 // nothing is left then.
 void CreaAlbero(const std::string& radice, const std::string& nome,
                 const std::vector<FileDiAlbero>& files);
+
+// Gives a file or folder another name unless that is taken; 0 or the error, EEXIST for a name
+// taken.
+int RinominaSeLibero(const std::string& da, const std::string& a);
+// Flushes what has just got its name in `radice`; the failure says that it is there all the same.
+void EsigiRegistrata(const std::string& radice, const std::string& nome);
 
 // Removes hidden folders that a killed program has left half made.
 void TogliAlberiIncompiuti(const std::string& radice);

@@ -15,6 +15,7 @@ struct VoceLavoro {
   // The last change of its files, in nanoseconds since 1970: of the folder, which every save of the
   // program changes.
   std::int64_t cambiato = 0;
+  bool operator==(const VoceLavoro&) const = default;
 };
 
 class Lavori {

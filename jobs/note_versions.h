@@ -48,6 +48,8 @@ struct Differenza {
   std::string prima, dopo;  // as forms show it; "assente" where one has no such row
 };
 
+inline const std::string kAssente = "assente";
+
 // In the order of the files. A version that cannot be read is a RuntimeFailure.
 std::vector<Differenza> Confronta(const std::string& cartella, const ParcellaDelLavoro& parcella,
                                   const VersioneParcella& prima, const VersioneParcella& dopo);
