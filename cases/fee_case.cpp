@@ -36,7 +36,6 @@
 #include "cases/sup/sup.h"
 #include "tariff/config/price_index.h"
 #include "tariff/files/conversion.h"
-#include "tariff/files/note_fields.h"
 
 namespace orm {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "runtime/field_list.h"
 #include "shell/state/run_state.h"
+#include "tariff/files/note_fields.h"
 
 namespace orm {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "runtime/field_list.h"
+#include "tariff/files/note_fields.h"
 
 namespace orm {
 

@@ -93,7 +93,7 @@ class LetturaZip {
 
   std::vector<FileDiAlbero> Leggi() {
     const zip_int64_t quanti = ::zip_get_num_entries(zip_, 0);
-    if (quanti < 0) Rifiuta(kDanneggiato);
+    if (quanti <= 0) Rifiuta(kDanneggiato);
     if (static_cast<std::size_t>(quanti) > kFileDiAlberoMassimi)
       Rifiuta("L'archivio ha troppi file per essere un lavoro.");
     for (zip_int64_t i = 0; i < quanti; ++i) LeggiVoce(static_cast<zip_uint64_t>(i));
@@ -184,8 +184,8 @@ std::string LeggiFileZip(const std::string& zip) {
 std::string FaiZip(const std::string& nome, const std::vector<FileDiAlbero>& files) {
   const Sorgente sorgente(::zip_source_buffer_create(nullptr, 0, 0, nullptr));
   Zip zip = Apri(sorgente, ZIP_TRUNCATE);
-  // An entry of its own, without which a job that has no file would make no archive.
-  if (::zip_dir_add(zip.get(), nome.c_str(), ZIP_FL_ENC_UTF_8) < 0)
+  // Nothing at all makes no archive.
+  if (files.empty() && ::zip_dir_add(zip.get(), nome.c_str(), ZIP_FL_ENC_UTF_8) < 0)
     Rifiuta("L'archivio non si può comporre.");
   for (const FileDiAlbero& file : files) AggiungiAllo(zip.get(), nome + "/" + file.percorso, file);
   if (::zip_close(zip.get()) != 0) Rifiuta("L'archivio non si può comporre.");

@@ -8,15 +8,23 @@
 namespace orm {
 namespace {
 
-// Gives a file back what it held. What fails here too is kept in `storico`.
-void Rimetti(const WorkFolder& folder, const FileInsieme& nuovo,
+// It has what it was to have, though the disk did not confirm it.
+bool ETuttavia(const WorkFolder& folder, const FileInsieme& file) {
+  try {
+    return folder.Exists(file.nome) && folder.Read(file.nome) == file.contenuto;
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
+
+// Gives a file back what it held. What fails here too is in `storico`.
+void Rimetti(const WorkFolder& folder, const std::string& nome,
              const std::optional<std::string>& prima) {
   try {
-    if (!folder.Exists(nuovo.nome) || folder.Read(nuovo.nome) != nuovo.contenuto) return;
     if (prima)
-      folder.Replace(nuovo.nome, *prima);
+      folder.Replace(nome, *prima);
     else
-      folder.Remove(nuovo.nome);
+      folder.Remove(nome);
   } catch (const RuntimeFailure&) {
     return;
   }
@@ -28,16 +36,22 @@ void ScriviInsieme(const WorkFolder& folder, const std::vector<FileInsieme>& fil
   std::vector<std::optional<std::string>> prima(files.size());
   for (std::size_t i = 0; i < files.size(); ++i)
     if (folder.Exists(files[i].nome)) prima[i] = folder.Read(files[i].nome);
-  std::size_t scritti = 0;
-  try {
-    for (; scritti < files.size(); ++scritti)
-      if (prima[scritti] != files[scritti].contenuto)
-        folder.Replace(files[scritti].nome, files[scritti].contenuto);
-  } catch (const RuntimeFailure&) {
-    // The last one too: it may be in place without the disk's word for it.
-    for (std::size_t i = 0; i <= scritti; ++i) Rimetti(folder, files[i], prima[i]);
-    throw;
+  std::optional<RuntimeFailure> nonConfermato;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (prima[i] == files[i].contenuto) continue;
+    try {
+      folder.Replace(files[i].nome, files[i].contenuto);
+    } catch (const RuntimeFailure& failure) {
+      if (ETuttavia(folder, files[i])) {
+        nonConfermato = failure;
+        continue;
+      }
+      for (std::size_t j = 0; j < i; ++j)
+        if (prima[j] != files[j].contenuto) Rimetti(folder, files[j].nome, prima[j]);
+      throw;
+    }
   }
+  if (nonConfermato) throw *nonConfermato;
 }
 
 void ScriviNelLavoro(const std::string& cartella, const std::vector<FileInsieme>& files) {
