@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/state/run_state.h"
+#include "tariff/files/note_fields.h"
 
 namespace orm {
 
@@ -39,6 +40,8 @@ struct FeeCase {
   Parcella (*calcolo)(RunState&);
   // From Lire to Euro, the data files of the case with this code.
   void (*converti)(const WorkFolder&, const std::string& codice);
+  // The fields of a data file of the case by their names, the closing line with them.
+  std::vector<CampoLetto> (*campi)(const WorkFolder&, const std::string& nomeFile);
 };
 
 // In the order of the menus.

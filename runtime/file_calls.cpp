@@ -112,6 +112,42 @@ std::optional<struct stat> Look(const std::string& folder, std::string_view name
   return std::nullopt;
 }
 
+void RefuseWhatIsNoFile(const struct stat& status, std::string_view name) {
+  if (S_ISDIR(status.st_mode)) FailAt(name, EISDIR);
+  if (!S_ISREG(status.st_mode))
+    throw RuntimeFailure("Non è un file di dati.").AtFile(std::string(name));
+}
+
+std::string ReadWhole(const std::string& folder, std::string_view name, std::size_t most) {
+  // A name that is a pipe or a device must not hang the program: it opens without waiting and is
+  // refused as no regular file.
+  const Descriptor file(OpenRetrying(folder + "/" + std::string(name), O_RDONLY | O_NONBLOCK));
+  if (!file.IsOpen()) {
+    const int error = errno;
+    if (error == ENOENT) Look(folder, name);  // says more of a link, or of the folder
+    FailAt(name, error);
+  }
+  struct stat status {};
+  if (::fstat(file.Get(), &status) != 0) FailAt(name, errno);
+  RefuseWhatIsNoFile(status, name);
+  if (static_cast<std::size_t>(status.st_size) > most) FailAt(name, EFBIG);
+  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t got = 0;
+  while (got < bytes.size()) {
+    const ssize_t n = ::read(file.Get(), bytes.data() + got, bytes.size() - got);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) FailAt(name, errno);
+    if (n == 0) break;
+    got += static_cast<std::size_t>(n);
+  }
+  bytes.resize(got);
+  return bytes;
+}
+
+std::int64_t ChangeOf(const struct stat& status) {
+  return status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec;
+}
+
 int ListFolder(const std::string& folder, std::vector<std::string>& names) {
   const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
   if (open == nullptr) return errno;

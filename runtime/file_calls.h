@@ -4,6 +4,7 @@
 
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,17 @@ int WriteAll(int fd, std::string_view bytes);
 // at, a link that leads nowhere and a folder that has gone are RuntimeFailures: taken for an absent
 // file, they would be replaced by the file of a new installation.
 std::optional<struct stat> Look(const std::string& folder, std::string_view name);
+
+// Refuses what is no regular file.
+void RefuseWhatIsNoFile(const struct stat& status, std::string_view name);
+
+// All bytes of a file of at most `most`. One that is missing, unreadable, larger or no regular file
+// (a pipe must not hang the program) is a RuntimeFailure that names it.
+std::string ReadWhole(const std::string& folder, std::string_view name, std::size_t most);
+
+inline constexpr std::int64_t kNanoseconds = 1'000'000'000;  // of a second
+// When a file was changed, in nanoseconds since 1970.
+std::int64_t ChangeOf(const struct stat& status);
 
 // The names in a folder but "." and "..", in no order; 0 or the error.
 int ListFolder(const std::string& folder, std::vector<std::string>& names);

@@ -20,12 +20,6 @@
 namespace orm {
 namespace {
 
-void RefuseWhatIsNoFile(const struct stat& status, std::string_view name) {
-  if (S_ISDIR(status.st_mode)) FailAt(name, EISDIR);
-  if (!S_ISREG(status.st_mode))
-    throw RuntimeFailure("Non è un file di dati.").AtFile(std::string(name));
-}
-
 // The file that a name leads to: through links, which stay.
 std::string Followed(const std::string& path, std::string_view name) {
   struct stat status {};
@@ -66,29 +60,7 @@ std::vector<std::string> WorkFolder::Names() const {
 }
 
 std::string WorkFolder::Read(std::string_view name) const {
-  // A name that is a pipe or a device must not hang the program: it opens without waiting and is
-  // refused as no regular file.
-  const Descriptor file(OpenRetrying(PathOf(name), O_RDONLY | O_NONBLOCK));
-  if (!file.IsOpen()) {
-    const int error = errno;
-    if (error == ENOENT) Look(path_, name);  // says more of a link, or of the folder
-    FailAt(name, error);
-  }
-  struct stat status {};
-  if (::fstat(file.Get(), &status) != 0) FailAt(name, errno);
-  RefuseWhatIsNoFile(status, name);
-  if (static_cast<std::size_t>(status.st_size) > kLargestFile) FailAt(name, EFBIG);
-  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  std::size_t got = 0;
-  while (got < bytes.size()) {
-    const ssize_t n = ::read(file.Get(), bytes.data() + got, bytes.size() - got);
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) FailAt(name, errno);
-    if (n == 0) break;
-    got += static_cast<std::size_t>(n);
-  }
-  bytes.resize(got);
-  return bytes;
+  return ReadWhole(path_, name, kLargestFile);
 }
 
 void WorkFolder::Replace(std::string_view name, std::string_view bytes,

@@ -28,16 +28,34 @@ bool IsOfTheNetwork(int folder) {
                     static_cast<std::uint32_t>(where.f_type)) > 0;
 }
 
+// The desk of jobs looks whether a folder is held by taking it for an instant: who finds it held
+// tries again before believing it.
+constexpr int kTries = 3;
+constexpr useconds_t kBetween = 20'000;  // microseconds
+
+bool Lock(int folder) {
+  for (int tries = 1; ::flock(folder, LOCK_EX | LOCK_NB) != 0; ++tries) {
+    if (errno != EWOULDBLOCK || tries == kTries) return false;
+    ::usleep(kBetween);
+  }
+  return true;
+}
+
 }  // namespace
 
 FolderLock::FolderLock(const WorkFolder& folder)
     : descriptor_(OpenRetrying(folder.Path(), O_RDONLY | O_DIRECTORY)) {
-  const bool locked = descriptor_ >= 0 && ::flock(descriptor_, LOCK_EX | LOCK_NB) == 0;
+  const bool locked = descriptor_ >= 0 && Lock(descriptor_);
   held_ = descriptor_ < 0 || locked || errno != EWOULDBLOCK;
   certain_ = locked && !IsOfTheNetwork(descriptor_);
   if (!locked) return;
   ClearLeftovers(folder.Path());
   ClearLeftovers(folder.PathOf(kStorico));
+}
+
+bool FolderIsHeld(const std::string& folder) {
+  const Descriptor open(OpenRetrying(folder, O_RDONLY | O_DIRECTORY));
+  return open.IsOpen() && ::flock(open.Get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 FolderLock::~FolderLock() {

@@ -28,4 +28,7 @@ class FolderLock {
   bool certain_ = false;
 };
 
+// Whether a program holds the folder, without disturbing anyone who is about to.
+bool FolderIsHeld(const std::string& folder);
+
 }  // namespace orm

@@ -19,8 +19,8 @@
 namespace orm {
 namespace {
 
-constexpr std::array<std::string_view, 6> kEndings = {".DAP", ".DAG", ".PER",
-                                                      ".CFG", ".DOC", ".RTF"};
+constexpr std::array<std::string_view, 7> kEndings = {".DAP", ".DAG", ".PER", ".CFG",
+                                                      ".DOC", ".RTF", ".VER"};
 constexpr std::size_t kMostOfAName = 20;
 constexpr std::size_t kMostBytes = 8U << 20;
 // "2026-11-21_185240", and "-02" behind it where one second saw more than one save.

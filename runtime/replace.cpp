@@ -15,22 +15,8 @@ namespace orm {
 namespace {
 
 constexpr std::string_view kBegins = ".orm2002-", kEnds = ".tmp";
-constexpr std::time_t kLongestSave = 600;  // seconds; a file beside that is older was left
 constexpr int kMostTries = 100;
 constexpr const char* kAccessList = "system.posix_acl_access";
-
-// No two programs, and no two computers on one folder, are to find the same name at once; should
-// they, the system gives it to one of them.
-std::string FreshName() {
-  timespec now{};
-  ::clock_gettime(CLOCK_REALTIME, &now);
-  auto rest = static_cast<unsigned long long>(now.tv_sec) * 1'000'000'000ULL +
-              static_cast<unsigned long long>(now.tv_nsec);
-  rest ^= static_cast<unsigned long long>(::getpid()) << 40;
-  std::string name(kBegins);
-  for (; rest != 0; rest /= 36) name += "0123456789abcdefghijklmnopqrstuvwxyz"[rest % 36];
-  return name + std::string(kEnds);
-}
 
 // Access lists and a person's own attributes. Those of the system are the kernel's affair.
 void CopyAttributes(const std::string& from, int to) {
@@ -70,6 +56,19 @@ void TakeRights(int fd, const std::string& like, const struct stat& old) {
 
 }  // namespace
 
+// No two programs, and no two computers on one folder, are to find the same name at once; should
+// they, the system gives it to one of them.
+std::string FreshBesideName() {
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  auto rest = static_cast<unsigned long long>(now.tv_sec) * 1'000'000'000ULL +
+              static_cast<unsigned long long>(now.tv_nsec);
+  rest ^= static_cast<unsigned long long>(::getpid()) << 40;
+  std::string name(kBegins);
+  for (; rest != 0; rest /= 36) name += "0123456789abcdefghijklmnopqrstuvwxyz"[rest % 36];
+  return name + std::string(kEnds);
+}
+
 BesideFile::BesideFile(const std::string& folder, std::string_view bytes, Durability durability,
                        const std::string& like)
     : path_(folder + "/") {
@@ -83,7 +82,7 @@ int BesideFile::Write(std::string_view bytes, Durability durability, const std::
   path_.clear();
   int fd = -1;
   for (int tries = 0; fd < 0 && tries < kMostTries; ++tries) {
-    const std::string path = folder + FreshName();
+    const std::string path = folder + FreshBesideName();
     fd = OpenRetrying(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW,
                       replaces ? old.st_mode & 0777 : 0666);
     if (fd >= 0) path_ = path;

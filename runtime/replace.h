@@ -33,10 +33,15 @@ class BesideFile {
   int error_ = 0;
 };
 
+// A name for what waits beside, which no two programs find at once.
+std::string FreshBesideName();
+
 // Names of files beside that a killed program may leave; nobody else has such names.
 bool IsBesideName(std::string_view name);
 
-// Removes those of a folder that no running save can be at work on any more.
+// Removes those of a folder that no running save can be at work on any more; other things than
+// files that bear such names are left to who makes them, with the same delay.
 void ClearLeftovers(const std::string& folder);
+inline constexpr long kLongestSave = 600;  // seconds; what waits beside for longer was left
 
 }  // namespace orm

@@ -18,6 +18,8 @@ constexpr std::array kFileInstallati = {"CAC.CFG", "CS1.CFG",     "CS2.CFG",
 
 }  // namespace
 
+std::span<const char* const> NomiFileInstallati() { return kFileInstallati; }
+
 void DisponiFileInstallati(RunState& stato, const WorkFolder& installati) {
   std::error_code error;
   const bool installato = std::filesystem::is_directory(installati.Path(), error);

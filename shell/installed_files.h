@@ -1,9 +1,14 @@
 // The files that an installation brings for the working folder.
 #pragma once
 
+#include <span>
+
 #include "shell/state/run_state.h"
 
 namespace orm {
+
+// Their names.
+std::span<const char* const> NomiFileInstallati();
 
 // Lays down the configuration files and the technical notes that the working folder lacks, as they
 // are among the installed ones; what the folder has stays as it is. Those that are not installed

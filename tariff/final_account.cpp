@@ -109,14 +109,14 @@ void ContoFinale::Detrai() {
 
 // From here on the account is in Euro, a note in Lire too, though under its own symbol.
 void ContoFinale::StampaNetto() {
-  stampa.Text("COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )");
+  stampa.Text(kVoceNetto);
   Importo(Totale);
   DecimaliValuta = kDecimaliEuro;
   if (!nota.ModoLire) return;
   Totale = LireInEuro(Totale);
   const std::string testo = FormattaNumero(Totale, DecimaliValuta);
   const int inizio = static_cast<int>(kLarghezzaParcella - Characters(testo)) + 1;
-  stampa.Text("ed in EURO").Tab(inizio).Line(testo);
+  stampa.Text(kVoceNettoInEuro).Tab(inizio).Line(testo);
 }
 
 void ContoFinale::StampaFirma(std::string_view ruolo, const std::string& nome) {

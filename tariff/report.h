@@ -32,6 +32,10 @@ inline constexpr std::string_view kRigaBaseGennaio1993 =
 inline constexpr std::string_view kRigaRivalutazione =
     "================= RIVALUTAZIONE MONETARIA ONORARIO =====================";
 
+// The line of the net amount begins with this, and in Lire the next one with the same in Euro.
+inline constexpr std::string_view kVoceNetto = "COMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )";
+inline constexpr std::string_view kVoceNettoInEuro = "ed in EURO";
+
 static_assert(kRigaDatiParcella.size() == kLarghezzaParcella);
 static_assert(kRigaImporti.size() == kLarghezzaParcella);
 static_assert(kRigaOnorariCompensi.size() == kLarghezzaParcella);

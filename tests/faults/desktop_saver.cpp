@@ -3,11 +3,8 @@
 //   orm_desktop_saver FOLDER utente|visore|copia|stampa
 //
 // the form of the professional's data, a report changed in the viewer, its copy as text, a page
-// printed to a file. Exit codes as those of orm_saver. With ORM_STRACE, options of strace, it has
-// itself followed from when everything is on the screen: Qt's own start is no part of a save.
-#include <sys/prctl.h>
-#include <unistd.h>
-
+// printed to a file. Exit codes as those of orm_saver. It is followed (followed.h) from when
+// everything is on the screen: Qt's own start is no part of a save.
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
@@ -15,7 +12,6 @@
 #include <QTest>
 #include <QTimer>
 #include <cstdio>
-#include <fstream>
 #include <string>
 
 #include "desktop/desktop_app.h"
@@ -25,23 +21,11 @@
 #include "desktop/viewer/page.h"
 #include "desktop/viewer/window.h"
 #include "shell/shell.h"
+#include "tests/faults/followed.h"
 
 namespace {
 
 int code = 0;
-
-void BeFollowed() {
-  const char* options = std::getenv("ORM_STRACE");
-  if (options == nullptr) return;
-  ::prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY);
-  const std::string command = "exec strace -p " + std::to_string(::getpid()) + " " + options;
-  if (::fork() == 0) ::execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
-  for (std::string line; line.find("TracerPid:\t") != 0 || line == "TracerPid:\t0";) {
-    ::usleep(1000);
-    std::ifstream status("/proc/self/status");
-    while (std::getline(status, line) && line.find("TracerPid:\t") != 0) continue;
-  }
-}
 
 void Told(const std::string& text, bool failed) {
   std::fputs((text + "\n").c_str(), stderr);

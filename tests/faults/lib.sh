@@ -1,7 +1,7 @@
-# What the fault scripts share. Each is called with the programs: CALCOLO SAVER [DESKTOP_SAVER].
+# What the fault scripts share. Each is called with the programs: CALCOLO SAVER DESK [DESKTOP_SAVER].
 # A law that does not hold is told with its circumstances and counted; the script ends with 1.
 set -uo pipefail
-readonly calcolo=$1 saver=$2 desktop=${3:-}
+readonly calcolo=$1 saver=$2 desk=$3 desktop=${4:-}
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 readonly here skipped=77
 work=$(mktemp -d)

@@ -8,12 +8,20 @@ source "$(dirname "$0")/lib.sh"
 command -v strace >/dev/null || skip "manca strace"
 strace -o /dev/null true 2>/dev/null || skip "non è permesso seguire un processo (ptrace)"
 
-readonly old=$work/old new=$work/new at=$work/at errors="ENOSPC EIO EROFS"
+readonly old=$work/old new=$work/new at=$work/at
+errors="ENOSPC EIO EROFS"
 
-# File by file: old, new, or another whole state that the command may leave.
+# File by file: old, new, or another whole state that the command may leave. In a folder of jobs a job
+# that was not there is not there, or whole.
 check_whole() {
   local file state named
-  for file in $(ls "$old" "$new" "$at" | grep -v -e : -e '^storico$' | sort -u); do
+  for file in $(cd "$new" && find . -mindepth 1 -type d -not -path '*/storico*'); do
+    if [ ! -d "$old/$file" ] && [ -d "$at/$file" ]; then
+      same_files "$new/$file" "$at/$file" || breaks "$1: $file non è intero"
+    fi
+  done
+  for file in $(for state in "$old" "$new" "$at"; do (cd "$state" && find . -type f); done |
+    grep -v -e '/storico/' -e '/\.orm2002-' | sort -u); do
     for state in "$old" "$new" "$work"/state-*; do
       if [ ! -e "$state/$file" ] && [ ! -e "$at/$file" ]; then continue 2; fi
       cmp -s "$state/$file" "$at/$file" 2>/dev/null && continue 2
@@ -21,9 +29,10 @@ check_whole() {
     breaks "$1: $file non è intero"
   done
   # A generation is what some file of its name held, whole.
-  for file in "$at"/storico/*; do
-    [ -e "$file" ] || continue
-    named=$(basename "$file" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
+  for file in $(cd "$at" && find . -path '*/storico/*' -type f -not -name '.orm2002-*'); do
+    named=$(echo "${file/storico\//}" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
+    [ -e "$old/$file" ] && continue
+    file=$at/$file
     for state in "$old" "$new" "$work"/state-*; do cmp -s "$state/$named" "$file" && continue 2; done
     breaks "$1: $file non è intero"
   done
@@ -33,7 +42,7 @@ check_whole() {
 same_files() { diff -rq -x storico -x '.orm2002-*' "$1" "$2" >/dev/null; }
 
 check_error() {
-  local code=$1 where=$2 named
+  local code=$1 where=$2 named  # and the program
   check_whole "$where"
   if [ -n "$(find "$at" -name '.orm2002-*')" ]; then breaks "$where: resta un file a metà"; fi
   if [ "$code" = 0 ]; then
@@ -45,6 +54,10 @@ check_error() {
   grep -q '^File : ' "$work/told" || breaks "$where: il messaggio non nomina il file"
   grep -q 'disco\|Errore' "$work/told" || breaks "$where: il messaggio non dice la ragione"
   grep -q 'I dati sono scritti' "$work/told" && return
+  if [ "$3" = "$desk" ]; then
+    same_files "$old" "$at" || breaks "$where: i file non sono i vecchi"
+    return
+  fi
   named=$(sed -n 's/^File : //p' "$work/told" | head -1)
   [ -n "$named" ] || return
   if [ -e "$new/$named" ] && ! cmp -s "$old/$named" "$new/$named" && cmp -s "$new/$named" "$at/$named"; then
@@ -55,7 +68,7 @@ check_error() {
 # Follows the command: from its start, or a window's save from its own beginning. A window's program
 # starts strace itself, which ends after it: hence the pipe.
 traced() {
-  if [ "$1" = "$desktop" ]; then
+  if [ "$1" = "$desktop" ] || [ "$1" = "$desk" ]; then
     ORM_STRACE="-qq ${options[*]}" "$@" 2>"$work/told" | cat >/dev/null
     return "${PIPESTATUS[0]}"
   fi
@@ -65,7 +78,7 @@ traced() {
 # What is done to the call, with strace's words for it; false when the call was not reached.
 run_with() {
   local call=$1 fault=$2 n=$3
-  rm -rf "$at" && cp -r "$old" "$at"
+  rm -rf "$at" && cp -a "$old" "$at"
   tried=$((tried + 1))
   # The braces keep bash from telling of every program that was killed.
   {
@@ -80,11 +93,11 @@ loop() {
   local title=$1 call n error
   shift
   run=("$@")
-  rm -rf "$new" && cp -r "$old" "$new" && rm -rf "$at" && cp -r "$old" "$at"
+  rm -rf "$new" && cp -a "$old" "$new" && rm -rf "$at" && cp -a "$old" "$at"
   # The calls that a run without faults makes; memory and the start of the program are no saves.
   options=(-o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod)
   traced "${run[@]}" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
-  rm -rf "$new" && cp -r "$at" "$new"
+  rm -rf "$new" && cp -a "$at" "$new"
   local calls
   calls=$(grep -o '^[0-9]* *[a-z0-9_]*(' "$work/trace" | grep -o '[a-z_][a-z0-9_]*' | sort -u |
     grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat -e poll -e ppoll)
@@ -98,7 +111,7 @@ loop() {
     for error in $errors; do
       for ((n = 1; ; n++)); do
         run_with "$call" "error=$error" $n || break
-        check_error $code "$title, $error a $call $n"
+        check_error $code "$title, $error a $call $n" "${run[0]}"
       done
     done
     reached="$reached$call "
@@ -141,6 +154,19 @@ if [ -n "$desktop" ]; then
   sample_folder "$old"
   for what in utente visore copia; do loop "finestra, $what" "$desktop" "$at" $what; done
 fi
+
+# The desk's commands on whole jobs, each failure in one way: the calls are those of above.
+errors=EIO
+sample_folder "$work/job"
+rm -rf "$old" "$work"/state-* && mkdir -p "$old/Uno/storico" "$old/Due"
+cp "$work/job"/{UTENTE.DAG,INT_PPE.DAP,INP_PPE.DAP} "$old/Uno" && cp "$old/Uno/UTENTE.DAG" "$old/TUS.CFG"
+for name in INT INP; do
+  sed 's/[12]/3/' "$old/Uno/${name}_PPE.DAP" >"$old/Uno/storico/${name}_PPE.2001-01-01_080000.DAP"
+  sed 's/[12]/4/' "$old/Uno/${name}_PPE.DAP" >"$old/Due/${name}_PPE.DAP"
+done
+for what in nuovo copia riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
+"$desk" "$old" archivia
+loop "lavori, riprende" "$desk" "$at" riprende
 
 echo "chiamate: $(echo "$reached" | tr ' ' '\n' | sort -u | tr '\n' ' ')"
 finish

@@ -28,6 +28,7 @@ Formats FileFormats();   // data of the program
 Formats TableFormats();  // tables kept by the user
 Formats NoteFormats();   // data of the fee cases
 Formats SavedFormats();  // what stands beside the data
+Formats JobFormats();    // what the desk reads of others
 
 inline void Require(bool held, std::string_view law) {
   if (held) return;

@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** words) {
   using namespace orm::fuzz;
   Require(*count > 1, "uso: fuzz_dati FORMATO [ALTRO...]");
   for (const Formats& formats :
-       {TextFormats(), FileFormats(), TableFormats(), NoteFormats(), SavedFormats()})
+       {TextFormats(), FileFormats(), TableFormats(), NoteFormats(), SavedFormats(), JobFormats()})
     for (const Format& format : formats)
       if (format.name == (*words)[1]) check = format.check;
   Require(check != nullptr, "il formato è conosciuto");
