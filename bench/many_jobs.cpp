@@ -15,6 +15,13 @@ namespace {
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
+std::string TheReport() {
+  std::string text;
+  for (int i = 0; i < 80; ++i)
+    text += "Onorario in funzione delle Particelle                  L.        200.000\r\n";
+  return text;
+}
+
 void Lay(const fs::path& job, int number) {
   fs::create_directory(job);
   const std::string client = "Comune n. " + std::to_string(number),
@@ -25,8 +32,8 @@ void Lay(const fs::path& job, int number) {
         << '"' << client << "\"\r\n\"Strada, lotto " << number << "\"\r\n\"\"\r\n\"\"\r\n";
     std::ofstream(job / ("INP_" + name + ".DAP")) << "2,5,3,1,1\r\n0,0,\"\",1\r\n";
     std::ofstream(job / ("OUT_" + name + ".DOC"))
-        << std::string(6000, ' ')
-        << "\r\nCOMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L. " << net << "\r\n";
+        << TheReport() << "\r\nCOMPETENZE S.E.&.O. (oltre Contr.INARCASSA e IVA )     L. " << net
+        << "\r\n";
   }
   for (const char* name : {"UTENTE.DAG", "TUS.CFG", "CAC.CFG", "CS1.CFG", "GEO.CFG"})
     std::ofstream(job / name) << name;

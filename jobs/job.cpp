@@ -56,7 +56,9 @@ class Lettura {
  public:
   Lettura(const std::string& radice, const std::string& nome)
       : folder_(radice + "/" + nome), lavoro_{nome, folder_.Path(), {}, {}} {
-    for (std::string& file : folder_.Names()) nomi_.insert(std::move(file));
+    std::vector<std::string> nomi;
+    if (const int error = ListFolder(folder_.Path(), nomi)) FailAt(folder_.Path(), error);
+    for (std::string& file : nomi) nomi_.insert(std::move(file));
   }
 
   Lavoro Leggi() {
@@ -125,6 +127,7 @@ class Lettura {
   void AggiungiTesto(const std::string& file, const std::string& descrizione) {
     struct stat stato {};
     if (!Prendi(file) || ::stat(folder_.PathOf(file).c_str(), &stato) != 0) return;
+    if (!S_ISREG(stato.st_mode)) return;
     lavoro_.testi.push_back({file, descrizione, ChangeOf(stato)});
   }
 

@@ -15,15 +15,15 @@ std::string_view SenzaBianchi(std::string_view testo) {
   return testo.substr(0, testo.find_last_not_of(" \t\r") + 1);
 }
 
-// The lines from the last one that begins with `voce` on; empty where there is none.
+// The text from the last line on that begins with `voce`; empty where there is none.
 std::string_view DallaVoce(std::string_view testo, std::string_view voce) {
-  std::string_view trovata;
-  for (std::string_view resto = testo; !resto.empty();) {
-    const auto fine = std::min(resto.find('\n'), resto.size());
-    if (SenzaBianchi(resto.substr(0, fine)).starts_with(voce)) trovata = resto;
-    resto.remove_prefix(std::min(fine + 1, resto.size()));
+  for (auto dove = testo.rfind(voce); dove != std::string_view::npos;) {
+    const auto prima = testo.find_last_not_of(" \t", dove == 0 ? 0 : dove - 1);
+    if (dove == 0 || prima == std::string_view::npos || testo[prima] == '\n')
+      return testo.substr(dove);
+    dove = testo.rfind(voce, dove - 1);
   }
-  return trovata;
+  return {};
 }
 
 // The first line of `righe`, without what it begins with.
