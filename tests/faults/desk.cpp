@@ -18,11 +18,12 @@ int main(int count, char** words) {
   const std::string root = words[1], what = words[2], one = root + "/Uno", zip = root + "/Uno.zip";
   if (orm::WorkFolder(root).Exists("Nuovo")) return 0;
   const auto note = orm::LeggiLavoro(root, "Uno").parcelle.at(0);
+  const auto versions = orm::VersioniDi(one, note);
   BeFollowed();
   try {
     if (what == "nuovo") orm::NuovoLavoro(root, "Nuovo", "Uno", orm::WorkFolder(root));
     if (what == "copia") orm::CopiaParcella(one, note, root + "/Due", true);
-    if (what == "riporta") orm::RiportaVersione(one, note, orm::VersioniDi(one, note).back());
+    if (what == "riporta") orm::RiportaVersione(one, note, versions.back());
     if (what == "rinomina") orm::RinominaLavoro(root, "Uno", "Nuovo");
     if (what == "archivia") orm::ArchiviaLavoro(one, zip);
     if (what == "riprende") orm::RiprendiLavoro(zip, root, "Nuovo");
