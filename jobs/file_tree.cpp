@@ -21,7 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kNascosto = ".orm2002-";  // drafts and what killed programs leave
 constexpr int kProfonditaMassima = 8;                // of folders in a folder
 
 struct LetturaAlbero {

@@ -14,6 +14,8 @@ struct FileDiAlbero {
   std::int64_t cambiato = 0;  // in nanoseconds since 1970; 0: now
 };
 
+inline constexpr std::string_view kNascosto = ".orm2002-";  // drafts, what killed programs leave
+
 // A job of this size and more is none that the program makes.
 inline constexpr std::size_t kByteDiAlberoMassimi = 256U << 20;
 inline constexpr std::size_t kFileDiAlberoMassimi = 5000;

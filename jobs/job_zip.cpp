@@ -87,6 +87,12 @@ void EsigiPercorso(const std::string& percorso) {
       Rifiuta("L'archivio contiene un nome che non si può scrivere", percorso);
 }
 
+// What another system adds, and hidden files of ours: a draft comes from a run of the program.
+bool EDaLasciare(const std::string& percorso) {
+  return percorso.substr(0, percorso.find('/')) == kDiUnAltroSistema ||
+         std::string_view(percorso).substr(percorso.rfind('/') + 1).starts_with(kNascosto);
+}
+
 class LetturaZip {
  public:
   explicit LetturaZip(zip_t* zip) : zip_(zip) {}
@@ -112,8 +118,7 @@ class LetturaZip {
     if (cartella) percorso.pop_back();
     EsigiPercorso(percorso);
     EsigiFile(posto, percorso);
-    const bool altrui = percorso.substr(0, percorso.find('/')) == kDiUnAltroSistema;
-    if (cartella || altrui) return;
+    if (cartella || EDaLasciare(percorso)) return;
     if ((stato.valid & ZIP_STAT_ENCRYPTION_METHOD) != 0 && stato.encryption_method != ZIP_EM_NONE)
       Rifiuta("L'archivio è protetto da una parola d'ordine.");
     if (!nomi_.insert(Capitals(percorso)).second)

@@ -48,8 +48,10 @@ TEST_F(GenerationsTest, WhatIsReplacedStaysOnceAndComesBack) {
   EXPECT_EQ(folder_.Read("INP_PPE.DAP"), "a");
   EXPECT_EQ(Contents("INP_PPE.DAP"), (Texts{"d", "b", "c", "a"}));
   EXPECT_EQ(folder_.Names(), Texts{"INP_PPE.DAP"});
-  folder_.Replace("copia.pdf", "1"), folder_.Replace("copia.pdf", "2");
-  EXPECT_EQ(Generazioni(folder_).size(), 4U);
+  for (const char* name : {"copia.pdf", "SOLAIO_P_Rossi.VER"})
+    folder_.Replace(name, "1"), folder_.Replace(name, "2");
+  EXPECT_EQ(Generazioni(folder_).size(), 5U);
+  EXPECT_EQ(Contents("SOLAIO_P_Rossi.VER"), Texts{"1"});
 }
 
 // Twenty days with two saves each, and a person's own file among them.

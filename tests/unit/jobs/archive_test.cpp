@@ -63,6 +63,7 @@ TEST_F(ArchiveTest, HostileArchivesAreRefusedWithAWord) {
       {"", "danneggiato"},
   };
   ASSERT_EQ(LeggiZip(good).files.size(), 1U);
+  EXPECT_TRUE(LeggiZip(FaiZip("Job", {{".orm2002-bozze.bozza", "x", 0}})).files.empty());
   for (const auto& [bytes, word] : cases)
     EXPECT_NE(ReasonOf([&] { LeggiZip(bytes); }).find(word), std::string::npos)
         << word << " : " << ReasonOf([&] { LeggiZip(bytes); });
