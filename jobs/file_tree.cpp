@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kProfonditaMassima = 8;                // of folders in a folder
+constexpr int kProfonditaMassima = 8;  // of folders in a folder
 
 struct LetturaAlbero {
   bool senzaStorico;
@@ -58,7 +58,9 @@ void LetturaAlbero::Leggi(const std::string& cartella, const std::string& prima,
       continue;
     }
     const std::string dentro = cartella + "/" + nome;
-    if (profondita == kProfonditaMassima || fs::is_symlink(dentro))
+    struct stat senzaSeguire {};
+    if (::lstat(dentro.c_str(), &senzaSeguire) != 0) FailAt(prima + nome, errno);
+    if (profondita == kProfonditaMassima || S_ISLNK(senzaSeguire.st_mode))
       throw RuntimeFailure("È un collegamento a una cartella, o una cartella troppo interna.")
           .AtFile(prima + nome);
     Leggi(dentro, prima + nome + "/", profondita + 1);

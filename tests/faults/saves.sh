@@ -29,7 +29,7 @@ check_whole() {
     breaks "$1: $file non è intero"
   done
   # A generation is what some file of its name held, whole.
-  for file in $(cd "$at" && find . -path '*/storico/*' -type f -not -name '.orm2002-*'); do
+  for file in $(cd "$at" && find . -path '*/storico/*' -type f -not -path '*/.orm2002-*'); do
     named=$(echo "${file/storico\//}" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
     file=$at/$file
     cmp -s "$(find "$old" -path "*/storico/${file##*/}" | head -1)" "$file" && continue
