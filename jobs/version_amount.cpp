@@ -51,7 +51,8 @@ class CartellaDiLink {
 
   void Aggiungi(const std::string& nome, const std::string& porta) const {
     std::error_code error;
-    fs::create_symlink(fs::absolute(porta), path_ + "/" + nome, error);
+    const fs::path intero = fs::absolute(porta, error);
+    if (!error) fs::create_symlink(intero, path_ + "/" + nome, error);
     if (error) FailAt(nome, error.value());
   }
   WorkFolder Folder() const { return WorkFolder(path_); }
