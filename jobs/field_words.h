@@ -8,6 +8,9 @@
 
 namespace orm {
 
+// "Scala" of a survey of lands, whose scales are not those of buildings.
+inline constexpr const char* kScalaTerreno = "ScalaTerreno";
+
 // "Importo dei lavori di progetto" of "ImportoProgetto"; a field without words of its own has its
 // name, with blanks: "Importo progetto".
 std::string ParoleDelCampo(std::string_view nome);

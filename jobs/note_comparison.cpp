@@ -52,7 +52,11 @@ class Posti {
     }
     if (campo.nome == kInternoDi.campo) ++interni_;
     const bool interno = interni_ > 0 && !dove_.empty();
-    return {interno ? dove_ + ", " + NomeConNumero(kInternoDi.nome, interni_) : dove_, campo};
+    CampoAlPosto alPosto{interno ? dove_ + ", " + NomeConNumero(kInternoDi.nome, interni_) : dove_,
+                         campo};
+    // Two kinds of rows have a scale, each with scales of its own.
+    if (campo.nome == "Scala" && dove_.starts_with("Terreno")) alPosto.campo.nome = kScalaTerreno;
+    return alPosto;
   }
 
  private:

@@ -94,6 +94,9 @@ TEST_F(VersionsTest, DifferencesAreInTheWordsOfTheForms) {
   EXPECT_EQ(told("PDL", "\"5\",\"\",\"5\",-75000000", "\"4\",\"\",\"5\",1"),
             "Lotto 2, riga 1: Classe 5 > 4\n"
             "Lotto 2, riga 1: Importo dei lavori di progetto L. -75.000.000 > L. 1\n");
+  EXPECT_EQ(told("RPA", "1,1,1,7.35", "2,1,2,7.35"),
+            "Terreno 1: Terreni NUDI O POCO ALBERATI > FRASTAGLIATI, PALUDOSI\n"
+            "Terreno 1: Scala 1:1000 > 1:2000\n");
 }
 
 TEST_F(VersionsTest, EveryFieldOfEveryCaseHasWords) {
