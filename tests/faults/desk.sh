@@ -1,0 +1,18 @@
+#!/bin/bash
+# The fault loops of the desk's commands on whole jobs. The calls are those of saves.sh, so each fails in
+# one way. Killed at a call that only looks, a program leaves what it leaves at the next one.
+source "$(dirname "$0")/loops.sh"
+
+errors=EIO looks="newfstatat|getdents64|read|close|lseek|fcntl|access"
+sample_folder "$work/job"
+rm -rf "$old" "$work"/state-* && mkdir -p "$old/Uno/storico" "$old/Due"
+cp "$work/job"/{UTENTE.DAG,INT_PPE.DAP,INP_PPE.DAP} "$old/Uno" && cp "$old/Uno/UTENTE.DAG" "$old/TUS.CFG"
+for name in INT INP; do
+  sed 's/[12]/3/' "$old/Uno/${name}_PPE.DAP" >"$old/Uno/storico/${name}_PPE.2001-01-01_080000.DAP"
+  sed 's/[12]/4/' "$old/Uno/${name}_PPE.DAP" >"$old/Due/${name}_PPE.DAP"
+done
+for what in nuovo copia riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
+"$desk" "$old" archivia
+loop "lavori, riprende" "$desk" "$at" riprende
+
+finish_loops

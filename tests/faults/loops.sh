@@ -1,0 +1,124 @@
+# Fault loops: every file-system call of a command is made to fail, or the program is killed at it, the
+# first time, the second time... until the call is no longer reached. After a kill each file is the old
+# one or the new one, whole, and the same command then works. After an error there is the message with
+# its reason, the file that it names is the old one, and nothing is left beside.
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+command -v strace >/dev/null || skip "manca strace"
+strace -o /dev/null true 2>/dev/null || skip "non è permesso seguire un processo (ptrace)"
+
+readonly old=$work/old new=$work/new at=$work/at
+errors="ENOSPC EIO EROFS" looks=""
+
+# File by file: old, new, or another whole state that the command may leave. In a folder of jobs a job
+# that was not there is not there, or whole.
+check_whole() {
+  local file state named
+  for file in $(cd "$new" && find . -mindepth 1 -type d -not -path '*/storico*'); do
+    if [ ! -d "$old/$file" ] && [ -d "$at/$file" ]; then
+      same_files "$new/$file" "$at/$file" || breaks "$1: $file non è intero"
+    fi
+  done
+  for file in $(for state in "$old" "$new" "$at"; do (cd "$state" && find . -type f); done |
+    grep -v -e '/storico/' -e '/\.orm2002-' | sort -u); do
+    for state in "$old" "$new" "$work"/state-*; do
+      if [ ! -e "$state/$file" ] && [ ! -e "$at/$file" ]; then continue 2; fi
+      cmp -s "$state/$file" "$at/$file" 2>/dev/null && continue 2
+    done
+    breaks "$1: $file non è intero"
+  done
+  # A generation is what some file of its name held, whole.
+  for file in $(cd "$at" && find . -path '*/storico/*' -type f -not -path '*/.orm2002-*'); do
+    named=$(echo "${file/storico\//}" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
+    file=$at/$file
+    cmp -s "$(find "$old" -path "*/storico/${file##*/}" | head -1)" "$file" && continue
+    for state in "$old" "$new" "$work"/state-*; do cmp -s "$state/$named" "$file" && continue 2; done
+    breaks "$1: $file non è intero"
+  done
+}
+
+# What a person sees of two folders is the same.
+same_files() { diff -rq -x storico -x '.orm2002-*' "$1" "$2" >/dev/null; }
+
+check_error() {
+  local code=$1 where=$2 named  # and the program
+  check_whole "$where"
+  if [ -n "$(find "$at" -name '.orm2002-*')" ]; then breaks "$where: resta un file a metà"; fi
+  if [ "$code" = 0 ]; then
+    [ -s "$work/told" ] && return  # told before the command, which went on
+    same_files "$new" "$at" || breaks "$where: nessun messaggio, ma i file non sono i nuovi"
+    return
+  fi
+  [ "$code" = 2 ] || breaks "$where: esce con $code"
+  grep -q '^File : ' "$work/told" || breaks "$where: il messaggio non nomina il file"
+  grep -q 'disco\|Errore' "$work/told" || breaks "$where: il messaggio non dice la ragione"
+  grep -q 'I dati sono scritti' "$work/told" && return
+  if [ "$3" = "$desk" ]; then
+    same_files "$old" "$at" || breaks "$where: i file non sono i vecchi"
+    return
+  fi
+  named=$(sed -n 's/^File : //p' "$work/told" | head -1)
+  [ -n "$named" ] || return
+  if [ -e "$new/$named" ] && ! cmp -s "$old/$named" "$new/$named" && cmp -s "$new/$named" "$at/$named"; then
+    breaks "$where: $named è nuovo malgrado il messaggio"
+  fi
+}
+
+# Follows the command: from its start, or a window's save from its own beginning. A window's program
+# starts strace itself, which ends after it: hence the pipe.
+traced() {
+  if [ "$1" = "$desktop" ] || [ "$1" = "$desk" ]; then
+    ORM_STRACE="-qq ${options[*]}" "$@" 2>"$work/told" | cat >/dev/null
+    return "${PIPESTATUS[0]}"
+  fi
+  strace -f "${options[@]}" "$@" >/dev/null 2>"$work/told"
+}
+
+# What is done to the call, with strace's words for it; false when the call was not reached.
+run_with() {
+  local call=$1 fault=$2 n=$3
+  rm -rf "$at" && cp -a "$old" "$at"
+  tried=$((tried + 1))
+  # The braces keep bash from telling of every program that was killed.
+  {
+    options=(-o "$work/trace" -e trace="$call" -e inject="$call:$fault:when=$n")
+    traced "${run[@]}"
+    code=$?
+  } 2>/dev/null
+  grep -q 'INJECTED\|killed by SIGKILL' "$work/trace"
+}
+
+loop() {
+  local title=$1 call n error
+  shift
+  run=("$@")
+  rm -rf "$new" && cp -a "$old" "$new" && rm -rf "$at" && cp -a "$old" "$at"
+  # The calls that a run without faults makes; memory and the start of the program are no saves.
+  options=(-o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod)
+  traced "${run[@]}" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
+  rm -rf "$new" && cp -a "$at" "$new"
+  local calls
+  calls=$(grep -o '^[0-9]* *[a-z0-9_]*(' "$work/trace" | grep -o '[a-z_][a-z0-9_]*' | sort -u |
+    grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat -e poll -e ppoll)
+  for call in $calls; do
+    for ((n = 1; ; n++)); do
+      [[ $call =~ ^($looks)$ ]] && break
+      run_with "$call" signal=KILL $n || break
+      check_whole "$title, interrotto a $call $n"
+      "${run[@]}" >/dev/null 2>&1 || breaks "$title, dopo l'interruzione a $call $n: esce con $?"
+      same_files "$new" "$at" || breaks "$title, dopo l'interruzione a $call $n: non riparte"
+    done
+    for error in $errors; do
+      for ((n = 1; ; n++)); do
+        run_with "$call" "error=$error" $n || break
+        check_error $code "$title, $error a $call $n" "${run[0]}"
+      done
+    done
+    reached="$reached$call "
+  done
+}
+reached=""
+
+finish_loops() {
+  echo "chiamate: $(echo "$reached" | tr ' ' '\n' | sort -u | tr '\n' ' ')"
+  finish
+}
