@@ -55,7 +55,7 @@ std::string CampiDaJson::Posto(std::string_view campo, int linea) const {
   return campo.empty() ? posto : posto + ", " + std::string(campo);
 }
 
-void CampiDaJson::Rifiuta(std::string_view campo, const std::string& motivo) const {
+void CampiDaJson::Respingi(std::string_view campo, const std::string& motivo) const {
   throw RuntimeFailure(motivo).AtField(Posto(campo));
 }
 
@@ -63,49 +63,49 @@ void CampiDaJson::BeginLine() {
   if (forma_ == FormaCampi::Oggetto) return;
   letti_.clear();
   ++linea_;
-  if (linea_ > valore_.size()) Rifiuta("", "L'elenco finisce prima di questa linea.");
+  if (linea_ > valore_.size()) Respingi("", "L'elenco finisce prima di questa linea.");
   if (const Json& linea = valore_[linea_ - 1]; !linea.is_object())
-    Rifiuta("", AlPostoDi("di un oggetto", linea));
+    Respingi("", AlPostoDi("di un oggetto", linea));
 }
 
 void CampiDaJson::EndLine() {
-  if (forma_ == FormaCampi::Linee) RifiutaAltri();
+  if (forma_ == FormaCampi::Linee) RespingiAltri();
 }
 
-void CampiDaJson::RifiutaAltri() const {
+void CampiDaJson::RespingiAltri() const {
   const Json& oggetto = forma_ == FormaCampi::Linee ? valore_[linea_ - 1] : valore_;
   for (const auto& [nome, valore] : oggetto.items())
-    if (!letti_.contains(nome)) Rifiuta(nome, "Questo campo non è previsto.");
+    if (!letti_.contains(nome)) Respingi(nome, "Questo campo non è previsto.");
 }
 
 void CampiDaJson::EsigiFine() {
-  if (forma_ == FormaCampi::Oggetto) return RifiutaAltri();
-  if (linea_++ < valore_.size()) Rifiuta("", "Questa linea non è prevista.");
+  if (forma_ == FormaCampi::Oggetto) return RespingiAltri();
+  if (linea_++ < valore_.size()) Respingi("", "Questa linea non è prevista.");
 }
 
 const Json& CampiDaJson::Prendi(const char* nome) {
   const Json& oggetto = forma_ == FormaCampi::Linee ? valore_[linea_ - 1] : valore_;
   const auto trovato = oggetto.find(nome);
-  if (trovato == oggetto.end()) Rifiuta(nome, "Manca questo campo.");
+  if (trovato == oggetto.end()) Respingi(nome, "Manca questo campo.");
   letti_.insert(nome);
   return *trovato;
 }
 
 void CampiDaJson::Give(Field<std::string> campo) {
   const Json& valore = Prendi(campo.name);
-  if (!valore.is_string()) Rifiuta(campo.name, AlPostoDi("di un testo", valore));
+  if (!valore.is_string()) Respingi(campo.name, AlPostoDi("di un testo", valore));
   campo.value = valore.get<std::string>();
 }
 
 void CampiDaJson::Give(Field<double> campo) {
   const Json& valore = Prendi(campo.name);
-  if (!valore.is_number()) Rifiuta(campo.name, AlPostoDi("di un numero", valore));
+  if (!valore.is_number()) Respingi(campo.name, AlPostoDi("di un numero", valore));
   campo.value = valore.get<double>();
 }
 
 void CampiDaJson::Give(Field<bool> campo) {
   const Json& valore = Prendi(campo.name);
-  if (!valore.is_boolean()) Rifiuta(campo.name, AlPostoDi("di true o false", valore));
+  if (!valore.is_boolean()) Respingi(campo.name, AlPostoDi("di true o false", valore));
   campo.value = valore.get<bool>();
 }
 
@@ -113,9 +113,9 @@ template <class T>
 void CampiDaJson::Intero(Field<T> campo) {
   double valore = 0;
   Give(Field<double>(campo.name, valore));
-  if (valore != Fix(valore)) Rifiuta(campo.name, "Il numero deve essere intero.");
+  if (valore != Fix(valore)) Respingi(campo.name, "Il numero deve essere intero.");
   if (valore < std::numeric_limits<T>::min() || valore > std::numeric_limits<T>::max())
-    Rifiuta(campo.name, "Il numero è fuori dai limiti del campo (overflow).");
+    Respingi(campo.name, "Il numero è fuori dai limiti del campo (overflow).");
   campo.value = static_cast<T>(valore);
 }
 
@@ -126,8 +126,8 @@ void CampiDaJson::Give(Field<std::uint8_t> campo) { Intero(campo); }
 void CampiDaJson::Give(CountField campo) {
   Intero(Field<std::int16_t>(campo));
   if (campo.value < 0 || campo.value > campo.most)
-    Rifiuta(campo.name,
-            "Il numero di elementi deve essere fra 0 e " + NumberText(campo.most) + ".");
+    Respingi(campo.name,
+             "Il numero di elementi deve essere fra 0 e " + NumberText(campo.most) + ".");
 }
 
 }  // namespace orm

@@ -38,8 +38,8 @@ class CampiDaJson : public FieldSource {
   double Numero(const char* nome, double minimo, double massimo);
   template <class T>
   void Intero(Field<T> campo);
-  void RifiutaAltri() const;
-  [[noreturn]] void Rifiuta(std::string_view campo, const std::string& motivo) const;
+  void RespingiAltri() const;
+  [[noreturn]] void Respingi(std::string_view campo, const std::string& motivo) const;
 
   void BeginLine() override;
   void EndLine() override;

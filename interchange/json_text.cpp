@@ -15,8 +15,8 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kPiuProfondo = 16;
 
-[[noreturn]] void RifiutaTesto(std::string_view testo, std::size_t fine,
-                               const std::string& motivo) {
+[[noreturn]] void RespingiTesto(std::string_view testo, std::size_t fine,
+                                const std::string& motivo) {
   const std::string_view prima = testo.substr(0, std::min(fine, testo.size()));
   const auto colonna = Characters(prima.substr(prima.rfind('\n') + 1));
   throw RuntimeFailure(motivo + ", al carattere " + NumberText(static_cast<double>(colonna)) +
@@ -56,7 +56,7 @@ Json LeggiJson(std::string_view testo) {
     const char* motivo = codifica                     ? "Il testo non è in codifica UTF-8"
                          : errore.byte > testo.size() ? "Il testo JSON finisce a metà"
                                                       : "Il testo non è JSON";
-    RifiutaTesto(testo, errore.byte, motivo);
+    RespingiTesto(testo, errore.byte, motivo);
   } catch (const Json::out_of_range&) {
     throw RuntimeFailure("Il testo JSON contiene un numero fuori da ogni limite.");
   }

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "runtime/failure.h"
-#include "tariff/files/field_list.h"
 #include "tariff/files/closing_line.h"
+#include "tariff/files/field_list.h"
 
 namespace orm {
 
