@@ -116,7 +116,9 @@ void ContoFinale::StampaNetto() {
   Totale = LireInEuro(Totale);
   const std::string testo = FormattaNumero(Totale, DecimaliValuta);
   const int inizio = static_cast<int>(kLarghezzaParcella - Characters(testo)) + 1;
-  stampa.Text(kVoceNettoInEuro).Tab(inizio).Line(testo);
+  stampa.Text(kVoceNettoInEuro).Tab(inizio);
+  nota.SegnaImporto(TipoImporto::Onorari, true);
+  stampa.Line(testo);
 }
 
 void ContoFinale::StampaFirma(std::string_view ruolo, const std::string& nome) {

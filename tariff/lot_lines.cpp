@@ -48,7 +48,8 @@ Percentuale Parcella::PercentualeDaTabellaC(int periodo, double lire) const {
 }
 
 void Parcella::StampaLavori(double importo) {
-  uscita.Tab(kColonnaLavori).Line(StringaImporto(TestoImporto(importo), TipoImporto::Lavori));
+  uscita.Tab(kColonnaLavori);
+  StampaCampo(TestoImporto(importo), TipoImporto::Lavori);
 }
 
 void Parcella::StampaLavori(int colonna, std::string_view voce, double importo) {

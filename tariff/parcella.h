@@ -46,6 +46,7 @@ class Parcella {
   // " x 1,6", cut alike. Without any amount of works it is 0.
   double Coefficiente = 1;
   std::string StringaCoefficiente;
+  std::vector<ImportoStampato> stampati;  // in the order of the report
   std::vector<RigaContabilita> contemp;  // works whose accounting is still to be reckoned
 
   // ---- money (report.cpp)
@@ -62,6 +63,16 @@ class Parcella {
   // amounts of works, of 14 for fees. "L. " is two characters longer than "€", so a Euro line ends
   // two columns before a line in Lire. A text too long for the field is a RuntimeFailure.
   std::string StringaImporto(std::string_view testo, TipoImporto tipo) const;
+
+  // Tells that the amount printed next begins here. A note in Lire ends in Euro.
+  void SegnaImporto(TipoImporto tipo, bool inEuro) {
+    stampati.push_back({uscita.Contents().size(), tipo, inEuro});
+  }
+  // Ends a line with an amount in the currency of the note.
+  void StampaCampo(std::string_view testo, TipoImporto tipo, bool inEuro);
+  void StampaCampo(std::string_view testo, TipoImporto tipo) {
+    StampaCampo(testo, tipo, !ModoLire);
+  }
 
   // ---- the frame of the report (report.cpp)
   // The heading: title, client, professional, `frase` that names the work, texts of the header.

@@ -226,8 +226,8 @@ void NotaGeo::CalcolaCompensoAggiuntivo() {
   const std::string costo = TestoImporto(d.CostoIndagini);
   uscita.Line("Compenso aggiuntivo per tenuta rapporti contabili")
       .Line("ed amministrativi con ditte e laboratori di prove")
-      .Text("geotecniche per un costo complessivo di ")
-      .Line(StringaImporto(costo, TipoImporto::Onorari));
+      .Text("geotecniche per un costo complessivo di ");
+  StampaCampo(costo, TipoImporto::Onorari);
   compensoAggiuntivo = IntInLire(kCompensoIndagini * d.CostoIndagini);
   StampaRigaOnorario(1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",
                      compensoAggiuntivo);
