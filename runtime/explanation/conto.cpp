@@ -4,26 +4,31 @@
 
 namespace orm {
 
-std::string Somma::Testo() const {
-  std::string testo = "0";
-  for (std::size_t i = 0; i < quanti_; ++i)
-    testo = i == 0 ? CifraEsatta(addendi_[0]) : ScriviConto("{} + {}", {testo, addendi_[i]});
-  return testo;
+// Where there is no room for the terms of `b`, the number that they come to stands for them.
+Conto& Conto::Fa(char segno, const Conto& b, double esito) {
+  if (b.quanti_ <= 1 || b.quanti_ >= kPassi) return Fa(segno, b.valore_, esito);
+  if (quanti_ == 0 && segno == '+') return *this = b;
+  const Conto altro = b;  // b may be this
+  Prepara(segno, altro.quanti_);
+  for (std::size_t i = 0; i < altro.quanti_; ++i) passi_[quanti_ + i] = altro.passi_[i];
+  passi_[quanti_].segno = segno;
+  ++passi_[quanti_].apre;
+  quanti_ += altro.quanti_;
+  ++passi_[quanti_ - 1].chiude;
+  valore_ = esito;
+  return *this;
 }
 
 std::string Conto::Testo() const {
+  if (quanti_ == 0) return "0";
   std::string testo;
-  bool somma = false;  // what is written so far adds or subtracts
   for (std::size_t i = 0; i < quanti_; ++i) {
     const Passo& passo = passi_[i];
-    const bool prodotto = passo.segno == 'x' || passo.segno == '/';
-    if (prodotto && somma) testo = "(" + testo + ")";
-    somma = i > 0 && !prodotto;
-    Termine termine = passo.numero;
-    if (passo.somma != nullptr && passo.somma->Addendi() > 1)
-      termine = "(" + passo.somma->Testo() + ")";
-    testo = i == 0 ? ScriviConto("{}", {termine})
-                   : ScriviConto("{} " + std::string(1, passo.segno) + " {}", {testo, termine});
+    if (i > 0) testo.append({' ', passo.segno, ' '});
+    testo.append(passo.apre, '(');
+    const bool chiuso = passo.numero < 0 && i > 0 && passo.apre == 0;
+    testo += chiuso ? "(" + CifraEsatta(passo.numero) + ")" : CifraEsatta(passo.numero);
+    testo.append(passo.chiude, ')');
   }
   return testo;
 }

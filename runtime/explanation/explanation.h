@@ -9,9 +9,8 @@
 //   have; a minus right before a number, at the start of the sum or of a parenthesis, belongs to
 //   it;
 // - done in IEEE doubles it gives exactly the result that is stated, and the cuts of the result
-//   give exactly the figure that is printed. A sum therefore holds no rounded intermediate: one is
-//   written out in parentheses, or is a figure that was cut before it was used, with what the cut
-//   has left of it.
+//   give exactly the figure that is printed. So a sum holds no rounded intermediate: one is written
+//   out in parentheses, or is the result of another step with all its digits, or what a cut left.
 #pragma once
 
 #include <cstddef>

@@ -120,7 +120,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"dialogs", "structures/solvers"},
     {"dialogs/data_forms", "dialogs/drawing", "dialogs/rich_text"},
     {"tariff/law"},
-    {"tariff/config"},
+    {"tariff/chains", "tariff/config"},
     {"tariff"},
     {"tariff/files"},
     {"shell/state"},
