@@ -32,6 +32,13 @@ std::string Italiana(std::string testo, bool negativa) {
 
 }  // namespace
 
+void Passaggio::Annota(std::string_view nota) { note.emplace_back(nota); }
+
+Catena Unite(Catena prima, Catena poi) {
+  std::move(poi.begin(), poi.end(), std::back_inserter(prima));
+  return prima;
+}
+
 std::string_view Spiegazione::Cifra() const {
   const auto principale = std::find_if(passi.rbegin(), passi.rend(),
                                        [](const Passaggio& passo) { return !passo.cifra.empty(); });
@@ -48,7 +55,7 @@ void Spiegazioni::Aggiungi(std::string_view stampato, Catena passi) {
   Spiegazione& spiegazione = righe_.back();
   while (stampato.ends_with('\n') || stampato.ends_with('\r')) stampato.remove_suffix(1);
   spiegazione.testo = SenzaSpaziDoppi(stampato.substr(stampato.rfind('\n') + 1));
-  std::move(passi.begin(), passi.end(), std::back_inserter(spiegazione.passi));
+  spiegazione.passi = Unite(std::move(spiegazione.passi), std::move(passi));
 }
 
 const Spiegazione* Spiegazioni::Della(std::size_t riga) const {

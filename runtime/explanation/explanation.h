@@ -41,14 +41,15 @@ struct Passaggio {
   // What is done and under which rule, without a full stop at its end: "Art. 15, Tabella A, classe
   // I, categoria c, D.M. 11-6-1987: percentuale per interpolazione".
   std::string regola;
-  std::string conto;                // the sum; empty where the figure stands as it is found
-  std::optional<double> risultato;  // before the cuts; nothing for a step of words alone
-  std::string unita = {};           // behind the result: "%", "Lire"
-  std::vector<Taglio> tagli = {};   // in their order
+  std::string conto = {};                // the sum; empty where the figure stands as it is found
+  std::optional<double> risultato = {};  // before the cuts; nothing for a step of words alone
+  std::string unita = {};                // behind the result: "%", "Lire"
+  std::vector<Taglio> tagli = {};        // in their order
   std::vector<std::string> note =
       {};                  // an oddity that is meant, where a figure of the data is from
   std::string cifra = {};  // as the line prints it; empty for a step on the way to a figure
 
+  void Annota(std::string_view nota);
   // What the cuts have left of the result.
   std::optional<double> Valore() const {
     return tagli.empty() ? risultato : std::optional(tagli.back().dopo);
@@ -56,6 +57,7 @@ struct Passaggio {
 };
 
 using Catena = std::vector<Passaggio>;
+Catena Unite(Catena prima, Catena poi);
 
 // A line of a report that carries figures. The last step with a figure is that of its main one.
 struct Spiegazione {

@@ -33,7 +33,7 @@ Passaggio PassoAumenti(int periodo, bool oltre, const Conto& aumenti) {
                       ", l'uno sull'altro: " + decreti,
                   aumenti.Testo(), aumenti.Valore()};
   if (oltre && periodo >= kPeriodo1987)
-    passo.note.push_back("L'aumento del D.M. 11-6-1987 si ferma a " + InLire(kLimiteTabellaA));
+    passo.Annota("L'aumento del D.M. 11-6-1987 si ferma a " + InLire(kLimiteTabellaA));
   return passo;
 }
 
@@ -75,7 +75,7 @@ Catena CatenaTabellaA(const LetturaTabella& l, int periodo, std::string_view cla
     passo.regola += TraIPassi(l.passi) + "; tra i due si interpola in linea retta";
     passo.conto = ContoInterpolazione(l.passi, Con(aumenti));
     if (l.passi.x0 == 0)
-      passo.note.push_back(
+      passo.Annota(
           "Sotto il primo importo della tabella la percentuale cala con l'importo fino a zero");
   }
   catena.push_back(std::move(passo));
@@ -94,9 +94,9 @@ Catena CatenaTabellaNuova(const LetturaCurva& l, double lire, std::string_view c
                  ClasseInParole(classe, categoria) + " e " + InLire(lire),
              "", 0, "%"};
   } else if (l.X > lire) {
-    passo.note.push_back("Sotto " + InLire(kCurvaDa) + " vale la percentuale di questo importo");
+    passo.Annota("Sotto " + InLire(kCurvaDa) + " vale la percentuale di questo importo");
   } else if (l.X < lire) {
-    passo.note.push_back("Oltre " + InLire(l.X) + " vale la percentuale di questo importo");
+    passo.Annota("Oltre " + InLire(l.X) + " vale la percentuale di questo importo");
   }
   return {passo};
 }

@@ -141,13 +141,14 @@ Conto AumentiFinoA(int periodo, bool oltre) {
 }
 
 void TabellaBAliquote(std::string_view classe, std::string_view categoria,
-                      const Aliquote& selezione, Aliquote& aliquote, double& sommaProgettazione,
-                      double& sommaDirezione) {
+                      const Aliquote& selezione, Aliquote& aliquote, Conto& sommaProgettazione,
+                      Conto& sommaDirezione) {
   if (const RigaTabellaB* riga = RigaPer(kTabellaB, classe, categoria))
     std::ranges::copy(riga->aliquote, aliquote.begin() + 1);
   const auto somma = [&](std::size_t primo, std::size_t ultimo) {
-    double totale = 0;
-    for (std::size_t i = primo; i <= ultimo; ++i) totale += selezione[i] * aliquote[i];
+    Conto totale;
+    for (std::size_t i = primo; i <= ultimo; ++i)
+      if (const double quota = selezione[i] * aliquote[i]; quota != 0) totale += quota;
     return totale;
   };
   sommaProgettazione = somma(1, kServiziProgettoTabellaB);

@@ -40,10 +40,11 @@ Conto AumentiFinoA(int periodo, bool oltre);
 using Aliquote = std::array<double, 11>;
 
 // Table B: the row of the class, and the sums of selezione[i] * aliquote[i] of the design (1 to 6)
-// and of the supervision (7 to 10). An unknown class leaves `aliquote` as they were.
+// and of the supervision (7 to 10), without those of 0. An unknown class leaves `aliquote` as they
+// were.
 void TabellaBAliquote(std::string_view classe, std::string_view categoria,
-                      const Aliquote& selezione, Aliquote& aliquote, double& sommaProgettazione,
-                      double& sommaDirezione);
+                      const Aliquote& selezione, Aliquote& aliquote, Conto& sommaProgettazione,
+                      Conto& sommaDirezione);
 
 // The aliquot of one letter of Table B; 0 where it has no row.
 double AliquotaTabellaB(std::string_view classe, std::string_view categoria, char lettera);

@@ -122,6 +122,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"tariff/law"},
     {"tariff/chains", "tariff/config"},
     {"tariff"},
+    {"tariff/closing"},
     {"tariff/files"},
     {"shell/state"},
     {"tariff/forms"},
