@@ -85,7 +85,9 @@ void Parcella::ApriParcella(std::string_view frase) {
 std::string Parcella::Numero() { return NumberText(static_cast<double>(++progressivo)) + " -"; }
 
 void Parcella::ConcludiRiga(double& valore, int decimali, bool inColonna) {
+  const double prima = valore;
   const std::string testo = FormattaNumero(valore, decimali);
+  Ricorda(prima, valore, decimali, testo);
   if (inColonna)
     uscita.Tab(kColonnaImporto);
   else

@@ -2,11 +2,8 @@
 // menu reaches against reports worked out apart.
 #include <regex>
 
-#include "cases/fee_case.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
-#include "tariff/files/case_files.h"
-#include "tests/unit/cases/note_test.h"
 #include "tests/unit/cases/random_files.h"
 
 namespace orm {
