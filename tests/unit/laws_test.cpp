@@ -116,6 +116,7 @@ std::string CodeOf(const std::string& source) {
 // The rooms of the house from the ground up; those of one row are neighbours on one floor.
 const std::vector<std::vector<std::string>> kFloors = {
     {"runtime"},
+    {"runtime/explanation"},
     {"dialogs", "structures/solvers"},
     {"dialogs/data_forms", "dialogs/drawing", "dialogs/rich_text"},
     {"tariff/law"},
