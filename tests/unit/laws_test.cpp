@@ -139,6 +139,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"batch", "desktop"},
     {"desktop/drawing"},
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},
+    {"desktop/viewer/panels"},
     {"desktop/player", "desktop/viewer"},
     {"desktop/programs"},
 };
