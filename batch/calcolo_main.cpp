@@ -1,4 +1,5 @@
-// orm2002-calcolo: calculates fee notes without a screen.
+// orm2002-calcolo: calculates fee notes without a screen, and takes them to other programs and
+// back.
 //
 // Exit codes: 0 done; 1 a message of the program ended the command; 2 a run-time failure; 3 wrong
 // usage.
@@ -15,6 +16,7 @@
 
 #include "batch/batch_player.h"
 #include "cases/fee_case.h"
+#include "interchange/interchange.h"
 #include "runtime/folder_lock.h"
 #include "runtime/text.h"
 #include "shell/dispatch.h"
@@ -30,14 +32,24 @@ constexpr int kNone = -1;  // there was nothing to do
 
 constexpr const char* kProgram = "orm2002-calcolo";
 
-void Tell(std::string_view text, int descriptor) {
-  if (::write(descriptor, text.data(), text.size()) < 0) return;
+// False when nobody takes it all.
+bool Tell(std::string_view text, int descriptor) {
+  while (!text.empty()) {
+    const ssize_t n = ::write(descriptor, text.data(), text.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(n));
+  }
+  return true;
 }
 
 struct Arguments {
   std::string codice;
   bool euro = false;
   bool tutti = false;
+  bool json = false;
+  std::string csv;     // "", "italiano" or "semplice"
+  std::string daJson;  // a file
   std::string cartella = ".";
   orm::Date data = orm::SystemDate();
 };
@@ -51,6 +63,10 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
   auto* codice = app.add_option("CODICE", a.codice);
   auto* euro = app.add_flag("--euro", a.euro);
   auto* tutti = app.add_flag("--tutti", a.tutti)->excludes(codice)->excludes(euro);
+  auto* json = app.add_flag("--json", a.json)->excludes(tutti);
+  auto* csv = app.add_flag("--csv{italiano}", a.csv)->excludes(tutti)->excludes(json);
+  auto* daJson = app.add_option("--da-json", a.daJson);
+  for (auto* other : {codice, euro, tutti, json, csv}) daJson->excludes(other);
   app.add_option("--cartella", a.cartella);
   app.add_option("--data", data);
   std::string objection;
@@ -60,8 +76,10 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
     objection = "Argomenti errati.";
   }
   a.codice = orm::Capitals(a.codice);
-  if (objection.empty() && codice->empty() == tutti->empty())
-    objection = "Occorre un codice oppure --tutti.";
+  if (objection.empty() && codice->empty() && tutti->empty() && daJson->empty())
+    objection = "Occorre un codice, oppure --tutti o --da-json.";
+  if (!a.csv.empty() && a.csv != "italiano" && a.csv != "semplice")
+    objection = "Il CSV è --csv oppure --csv=semplice.";
   if (!a.codice.empty() && orm::FindFeeCase(a.codice) == nullptr)
     objection = "Codice sconosciuto: " + a.codice;
   if (!data.empty()) {
@@ -88,6 +106,12 @@ int Guard(orm::BatchPlayer& player, Step&& step) {
   return kRuntimeFailure;
 }
 
+// What a save replaced and could not keep.
+void TellWarning(orm::BatchPlayer& player, const orm::WorkFolder& folder) {
+  if (const std::string why = folder.TakeWarning(); !why.empty())
+    player.Ask(orm::AvvisoVersioneNonConservata(why));
+}
+
 int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
               bool lire) {
   stato.CasoDiParcella = codice;
@@ -95,9 +119,33 @@ int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string&
   return Guard(player, [&] {
     orm::LeggiCriteri(stato);
     const bool done = orm::CalcoloParcella(stato);
-    if (const std::string why = stato.folder.TakeWarning(); !why.empty())
-      player.Ask(orm::AvvisoVersioneNonConservata(why));
+    TellWarning(player, stato.folder);
     return done ? kDone : kEndedByMessage;
+  });
+}
+
+// The note that was calculated, as other programs read it.
+int Hand(const Arguments& a, orm::BatchPlayer& player, const orm::WorkFolder& folder) {
+  return Guard(player, [&] {
+    const auto marchi = a.csv == "semplice" ? orm::MarchiCsv::Semplici : orm::MarchiCsv::Italiani;
+    const std::string text = a.json ? orm::ParcellaInJson(folder, a.codice, !a.euro, a.data)
+                                    : orm::ParcellaInCsv(folder, a.codice, !a.euro, marchi, a.data);
+    if (!Tell(text, STDOUT_FILENO))
+      throw orm::RuntimeFailure("Non si può scrivere tutto ciò che è chiesto.");
+    return kDone;
+  });
+}
+
+// The files of a note out of its JSON; their names come out.
+int TakeBack(const Arguments& a, orm::BatchPlayer& player, const orm::WorkFolder& folder) {
+  return Guard(player, [&] {
+    const std::filesystem::path path(a.daJson);
+    const orm::WorkFolder where(path.has_parent_path() ? path.parent_path().string() : ".");
+    const std::string name = path.filename().string();
+    for (const std::string& file : orm::ScriviDaJson(folder, name, where.Read(name)))
+      Tell(file + "\n", STDOUT_FILENO);
+    TellWarning(player, folder);
+    return kDone;
   });
 }
 
@@ -148,6 +196,9 @@ int main(int count, char** words) {
   if (!lock.Certain())
     Tell("La cartella è di rete, o di un altro sistema: un altro computer può usarla intanto.\n",
          STDERR_FILENO);
-  return arguments.tutti ? CalculateAll(stato, player)
-                         : Calculate(stato, player, arguments.codice, !arguments.euro);
+  if (arguments.tutti) return CalculateAll(stato, player);
+  if (!arguments.daJson.empty()) return TakeBack(arguments, player, stato.folder);
+  const int outcome = Calculate(stato, player, arguments.codice, !arguments.euro);
+  const bool asked = arguments.json || !arguments.csv.empty();
+  return outcome == kDone && asked ? Hand(arguments, player, stato.folder) : outcome;
 }

@@ -14,6 +14,7 @@ Parcella NuovaParcella(const RunState& stato) {
   nota.intestazione = LeggiIntestazione(stato.folder, stato.FileInt);
   nota.oggi = stato.player.Today();
   nota.scaglioni = ScaglioniCompensi(stato.folder);
+  if (stato.spiega) nota.spiegazioni.Attiva();
   return nota;
 }
 

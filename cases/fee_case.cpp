@@ -50,23 +50,23 @@ constexpr auto kTabelleCompensiVoci =
 const std::vector<FeeCase>& FeeCases() {
   // clang-format off
   static const std::vector<FeeCase> kCases = {
-      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcolaDaFile<CalcoloAgp>, ConvertiParcella<DatiAgp>, LeggiCampi<DatiAgp>},
-      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcolaDaFile<CalcoloCoa>, ConvertiParcella<DatiCoa>, LeggiCampi<DatiCoa>},
-      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>, LeggiCampi<DatiCos>},
+      {"AGP", " 1 - AGGIORNAMENTO PREZZI ( £ )", nullptr, nullptr, "PARCELLE_AGP", true, true, kTabelleCompensiVoci, InputAgp, CalcolaDaFile<CalcoloAgp>, ConvertiParcella<DatiAgp>, kCampiNota<DatiAgp>},
+      {"COA", " 2 - COLLAUDO AMMINISTRATIVO ( £ )", nullptr, nullptr, "PARCELLE_COA", true, true, kCompensiETabelle, InputCoa, CalcolaDaFile<CalcoloCoa>, ConvertiParcella<DatiCoa>, kCampiNota<DatiCoa>},
+      {"CS1", " 3 - COLLAUDO STATICO ( £ )", "    1  Versione con Tabelle ante D.M. 4-4-01", nullptr, "PARCELLE_CS1", true, true, kCompensiETabelle, InputCos, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>, kCampiNota<DatiCos>},
       // "CS2" is calculated like "CS1" but stands in no menu, and has no input of its own.
-      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>, LeggiCampi<DatiCos>},
-      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kCompensiETabelle, InputInc, CalcolaDaFile<CalcoloInc>, ConvertiParcella<DatiInc>, LeggiCampi<DatiInc>},
-      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcolaDaFile<CalcoloPdl>, ConvertiParcella<DatiPdl>, LeggiCampi<DatiPdl>},
-      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, CalcolaDaFile<CalcoloEsl>, ConvertiParcella<DatiEsl>, LeggiCampi<DatiEsl>},
-      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcolaDaFile<CalcoloGEO>, ConvertiParcella<DatiGeotecnici>, LeggiCampi<DatiGeotecnici>},
-      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>, LeggiCampi<DatiSicurezza>},
-      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>, LeggiCampi<DatiSicurezza>},
-      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kCompensiETabelle, InputPes, CalcolaDaFile<CalcoloPes>, ConvertiParcella<DatiPes>, LeggiCampi<DatiPes>},
-      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcolaDaFile<CalcoloPpe>, ConvertiParcella<DatiPpe>, LeggiCampi<DatiPpe>},
-      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcolaDaFile<CalcoloStc>, ConvertiParcella<DatiStc>, LeggiCampi<DatiStc>},
-      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kNoCriteria, InputRim, CalcolaDaFile<CalcoloRim>, ConvertiParcella<DatiRim>, LeggiCampi<DatiRim>},
-      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kNoCriteria, InputRpa, CalcolaDaFile<CalcoloRpa>, ConvertiParcella<DatiRpa>, LeggiCampi<DatiRpa>},
-      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kCompensiETabelle, InputSup, CalcolaDaFile<CalcoloSup>, nullptr, LeggiCampi<DatiSup>},
+      {"CS2", nullptr, nullptr, nullptr, nullptr, false, false, kCompensiETabelle, nullptr, CalcolaDaFile<CalcoloCos>, ConvertiParcella<DatiCos>, kCampiNota<DatiCos>},
+      {"INC", " 4 - INGEGNERE CAPO ( £)", nullptr, nullptr, "PARCELLE_INC", true, true, kCompensiETabelle, InputInc, CalcolaDaFile<CalcoloInc>, ConvertiParcella<DatiInc>, kCampiNota<DatiInc>},
+      {"PDL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    1  LL.PP. ante D.M. 4-4-01 e Lavori Privati", nullptr, "PARCELLE_PDL", true, true, kAllCriteria, InputPdl, CalcolaDaFile<CalcoloPdl>, ConvertiParcella<DatiPdl>, kCampiNota<DatiPdl>},
+      {"ESL", " 5 - PROGETTAZIONE e DIREZIONE LAVORI ( £ )", "    2  LL.PP.  D.M. 4-4-01", nullptr, "PARCELLE_ESL", true, true, kCompensiETabelle, InputEsl, CalcolaDaFile<CalcoloEsl>, ConvertiParcella<DatiEsl>, kCampiNota<DatiEsl>},
+      {"GEO", " 6 - PRESTAZIONI GEOTECNICHE ( £ )", nullptr, nullptr, "PARCELLE_GEO", true, true, kAllCriteria, DatiGEO, CalcolaDaFile<CalcoloGEO>, ConvertiParcella<DatiGeotecnici>, kCampiNota<DatiGeotecnici>},
+      {"SC1", " 7 - SICUREZZA CANTIERI ( £ )", "    1  Versione secondo C.N.I. e C.N.A.", nullptr, "PARCELLE_SC1", true, true, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>, kCampiNota<DatiSicurezza>},
+      {"SC2", " 7 - SICUREZZA CANTIERI ( £ )", "    2  Versione secondo D.M. 4-4-01", nullptr, "PARCELLE_SC2", true, false, kCompensiETabelle, DatiSIC, CalcolaDaFile<CalcoloSIC>, ConvertiParcella<DatiSicurezza>, kCampiNota<DatiSicurezza>},
+      {"PES", " 8 - PERIZIE ESTIMATIVE ( £ )", nullptr, nullptr, "PARCELLE_PES", true, true, kCompensiETabelle, InputPes, CalcolaDaFile<CalcoloPes>, ConvertiParcella<DatiPes>, kCampiNota<DatiPes>},
+      {"PPE", " 9 - PIANI PARTICELLARI DI ESPROPRIO ( £ )", nullptr, nullptr, "PARCELLE_PPE", true, true, kNoCriteria, InputPpe, CalcolaDaFile<CalcoloPpe>, ConvertiParcella<DatiPpe>, kCampiNota<DatiPpe>},
+      {"STC", "10 - STATI DI CONSISTENZA ( £ )", nullptr, nullptr, "PARCELLE_STC", true, true, kNoCriteria, InputStc, CalcolaDaFile<CalcoloStc>, ConvertiParcella<DatiStc>, kCampiNota<DatiStc>},
+      {"RIM", "11 - RILIEVI MANUFATTI ( £ )", nullptr, nullptr, "PARCELLE_RIM", true, true, kNoCriteria, InputRim, CalcolaDaFile<CalcoloRim>, ConvertiParcella<DatiRim>, kCampiNota<DatiRim>},
+      {"RPA", "12 - RILIEVI PLANO ALTIMETRICI ( £ )", nullptr, "12 -RILIEVI PLANO ALTIMETRICI ( € )", "PARCELLE_RPA", true, true, kNoCriteria, InputRpa, CalcolaDaFile<CalcoloRpa>, ConvertiParcella<DatiRpa>, kCampiNota<DatiRpa>},
+      {"SUP", "13 - SUPPORTO RESPONSABILE PROCEDIMENTO ( £ )", nullptr, nullptr, "PARCELLE_SUP", false, true, kCompensiETabelle, InputSup, CalcolaDaFile<CalcoloSup>, nullptr, kCampiNota<DatiSup>},
   };
   // clang-format on
   return kCases;

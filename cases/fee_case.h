@@ -41,7 +41,7 @@ struct FeeCase {
   // From Lire to Euro, the data files of the case with this code.
   void (*converti)(const WorkFolder&, const std::string& codice);
   // The fields of a data file of the case by their names, the closing line with them.
-  std::vector<CampoLetto> (*campi)(const WorkFolder&, const std::string& nomeFile);
+  CampiDelFile campi;
 };
 
 // In the order of the menus.

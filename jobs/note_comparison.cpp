@@ -102,7 +102,7 @@ Elenco ElencoDi(const std::string& cartella, const ParcellaDelLavoro& parcella,
   }
   const FileDiVersione dati = DatiDi(cartella, parcella, versione);
   const FeeCase* caso = FindFeeCase(parcella.codice);
-  if (caso != nullptr && caso->campi != nullptr && dati.folder.Exists(dati.nome))
+  if (caso != nullptr && dati.folder.Exists(dati.nome))
     Aggiungi(elenco, caso->campi(dati.folder, dati.nome));
   return elenco;
 }

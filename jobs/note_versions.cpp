@@ -69,7 +69,7 @@ std::vector<CampoLetto> Corpo(const std::string& cartella, const ParcellaDelLavo
   constexpr std::size_t kCampiChiusura = 4;
   const FileDiVersione dati = DatiDi(cartella, parcella, versione);
   const FeeCase* caso = FindFeeCase(parcella.codice);
-  if (caso == nullptr || caso->campi == nullptr) return {};
+  if (caso == nullptr) return {};
   std::vector<CampoLetto> campi = caso->campi(dati.folder, dati.nome);
   campi.resize(campi.size() - std::min(campi.size(), kCampiChiusura));
   return campi;

@@ -3,34 +3,17 @@
 
 #include <filesystem>
 
-#include "cases/fee_case.h"
-#include "dialogs/form.h"
+#include "interchange/interchange.h"
 #include "jobs/note_versions.h"
 #include "jobs/version_files.h"
 #include "runtime/failure.h"
 #include "runtime/file_calls.h"
 #include "shell/personal/settings.h"
-#include "tariff/parcella.h"
 
 namespace orm {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Nobody stands before a calculation.
-class Nessuno : public Player {
- public:
-  Answer Ask(const MessageBox&) override { return Answer::Cancel; }
-  std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
-  void StartProgram(const std::string&, const std::string&) override {}
-  bool ProgramExists(const std::string&) override { return false; }
-  OutsidePrograms DefaultPrograms() override { return {}; }
-  ScreenSize Screen() override { return {}; }
-  Date Today() override { return SystemDate(); }
-
- private:
-  void Present(Form& form) override { form.OnWindowClose(); }
-};
 
 // A folder of links to the files of a version and to the tables and settings of its job, as a
 // calculation wants them; gone with this object.
@@ -67,8 +50,6 @@ bool ServeAlCalcolo(const std::string& nome) {
 
 std::optional<Netto> Calcola(const std::string& cartella, const ParcellaDelLavoro& parcella,
                              const VersioneParcella& versione) {
-  const FeeCase* caso = FindFeeCase(parcella.codice);
-  if (caso == nullptr || caso->calcolo == nullptr) return std::nullopt;
   const CartellaDiLink link;
   for (const std::string& nome : WorkFolder(cartella).Names())
     if (ServeAlCalcolo(nome)) link.Aggiungi(nome, cartella + "/" + nome);
@@ -76,14 +57,8 @@ std::optional<Netto> Calcola(const std::string& cartella, const ParcellaDelLavor
                        dati = DatiDi(cartella, parcella, versione);
   link.Aggiungi(parcella.file.FileInt, testa.folder.PathOf(testa.nome));
   link.Aggiungi(parcella.file.FileInp, dati.folder.PathOf(dati.nome));
-  Nessuno nessuno;
-  RunState stato(nessuno, link.Folder());
-  stato.CasoDiParcella = parcella.codice;
-  stato.ModoLire = parcella.lire;
-  stato.FileInt = parcella.file.FileInt;
-  stato.FileInp = parcella.file.FileInp;
-  LeggiCriteri(stato);
-  return NettoDellaRelazione(caso->calcolo(stato).uscita.Contents(), parcella.lire);
+  const Parcella nota = CalcolaDaCartella(link.Folder(), parcella.codice, parcella.lire);
+  return NettoDellaRelazione(nota.uscita.Contents(), parcella.lire);
 }
 
 }  // namespace

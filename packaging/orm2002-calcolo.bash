@@ -7,11 +7,15 @@ _orm2002_calcolo() {
       mapfile -t COMPREPLY < <(compgen -d -- "$word")
       compopt -o filenames
       return ;;
+    --da-json)
+      mapfile -t COMPREPLY < <(compgen -f -- "$word")
+      compopt -o filenames
+      return ;;
     --data)
       mapfile -t COMPREPLY < <(compgen -W "$(date +%d/%m/%Y)" -- "$word")
       return ;;
   esac
-  help=$("${COMP_WORDS[0]}" --help 2>/dev/null | grep -oE '^  ([A-Z][A-Z0-9]{2}$|--[a-z]+)')
+  help=$("${COMP_WORDS[0]}" --help 2>/dev/null | grep -oE '^  ([A-Z][A-Z0-9]{2}$|--[a-z=-]+)')
   mapfile -t COMPREPLY < <(compgen -W "$help" -- "$word")
 }
 complete -F _orm2002_calcolo orm2002-calcolo

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "runtime/numbers.h"
+#include "tariff/chains/compensation_chains.h"
 #include "tariff/law/table_compensations.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
@@ -41,34 +42,60 @@ double PercCompensiNuovaTariffaEuro(double importo) {
   return PercCompensi2001(importo, kCompensi2001Euro);
 }
 
-void Parcella::CompensiAccessori(double lire, ModoCompensi modo) {
+void Parcella::CompensiSuLavori(const Conto& importo, const char* regola) {
+  Catena lavori;
+  if (spiegazioni.Attive()) lavori = Unite({PassoImporto(regola, importo)}, CatenaInLire(importo));
+  CompensiAccessori(ImportoInLire(importo), ModoCompensi::Stampa, lavori);
+}
+
+void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& lavori) {
+  CatenaCompensi.clear();
   if (modo == ModoCompensi::Nessuno || lire == 0) {
     Coefficiente = modo == ModoCompensi::Nessuno ? 1 : 0;
     StringaCoefficiente.clear();
+    if (modo != ModoCompensi::Nessuno && spiegazioni.Attive())
+      CatenaCompensi = {{"Senza importi di lavori il coefficiente dei compensi è 0", "", 0}};
     return;
   }
   std::string percentuale;
   // Both are cut to their printed decimals, the coefficient to two more.
-  const auto tagliati = [&](double P) {
+  const auto tagliati = [&](double P, auto&& passo) {
+    const double intera = P;
     int decimali = 0;
     DecimaliPercentuale(lire, decimali, criteri.DecimaliCompensi);
     percentuale = FormattaNumero(P, decimali);
-    Coefficiente = P / 100 + 1;
+    const double somma = P / 100 + 1;
+    Coefficiente = somma;
     StringaCoefficiente = " x " + FormattaNumero(Coefficiente, decimali + 2);
+    if (!spiegazioni.Attive()) return;
+    CatenaCompensi = {passo(intera), PassoCoefficiente(P, somma)};
+    CatenaCompensi[0].tagli = {{TipoTaglio::Decimali, decimali, intera, P}};
+    CatenaCompensi[0].note = {MotivoDecimali(decimali, criteri.DecimaliCompensi)};
+    CatenaCompensi[1].tagli = {{TipoTaglio::Decimali, decimali + 2, somma, Coefficiente}};
   };
   // Both stand as plain numbers, with the decimal point; 0 % prints nothing.
-  const auto comeSono = [&](double P) {
+  const auto comeSono = [&](double P, auto&& passo) {
     Coefficiente = P / 100 + 1;
     const bool nulli = Coefficiente == 1;
     percentuale = nulli ? "" : NumberText(P);
     StringaCoefficiente = nulli ? "" : " x " + NumberText(Coefficiente);
+    if (spiegazioni.Attive()) CatenaCompensi = {passo(P), PassoCoefficiente(P, Coefficiente)};
   };
   const std::string& tipo = criteri.TipoPercentualeCompensi;
   const bool conImporto = tipo == "CALCOLATA" || tipo == "NUOVA TARIFFA";
-  if (tipo == "CALCOLATA") tagliati(scaglioni.PercCompensiAccessoriCfg(lire));
-  if (tipo == "NUOVA TARIFFA") tagliati(PercCompensiNuovaTariffaLire(lire));
-  if (tipo == "ASSEGNATA") comeSono(criteri.PercCompensiAssegnata);
-  if (tipo == "CALABRIA") comeSono(PercentualeCalabria(lire, criteri.ResidenzaCollaudatore));
+  if (tipo == "CALCOLATA") {
+    Interpolazione lettura;
+    tagliati(scaglioni.PercCompensiAccessoriCfg(lire, &lettura),
+             [&](double P) { return PassoScaglioniCompensi(lettura, P); });
+  }
+  if (tipo == "NUOVA TARIFFA")
+    tagliati(PercCompensiNuovaTariffaLire(lire),
+             [&](double P) { return PassoCompensi2001(lire, P); });
+  if (tipo == "ASSEGNATA") comeSono(criteri.PercCompensiAssegnata, PassoCompensiAssegnati);
+  if (tipo == "CALABRIA")
+    comeSono(PercentualeCalabria(lire, criteri.ResidenzaCollaudatore), [&](double P) {
+      return PassoCompensiCalabria(lire, criteri.ResidenzaCollaudatore, P);
+    });
   if (modo != ModoCompensi::Stampa || Coefficiente == 1) return;
 
   uscita.Line(kRigaCompensiAccessori);
@@ -76,9 +103,15 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo) {
   if (conImporto) {
     uscita.Text(" su ");
     StampaLavori(InValuta(lire));
+    Spiega([&] { return Unite(lavori, CatenaInValuta(lire)); });
   } else {
     uscita.EndLine();
   }
+  spiegazioni.Riga(uscita.Contents(), [&] {
+    Catena catena{CatenaCompensi.front()};
+    catena.front().cifra = percentuale + "%";
+    return catena;
+  });
 }
 
 double Parcella::SenzaCompensi(double onorario) const {

@@ -5,12 +5,23 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_e.h"
+#include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
 
 namespace orm {
 namespace {
+
+// Of a band, in the currency of the note; the last one has no upper limit.
+std::pair<double, double> LimitiDellaFascia(std::size_t fascia, bool modoLire) {
+  const auto limite = [&](std::size_t n) {
+    if (n == 0 || n > kLimitiTabellaELire.size()) return 0.0;
+    return modoLire ? kLimitiTabellaELire[n - 1] : kLimitiTabellaEEuro[n - 1];
+  };
+  return {limite(fascia - 1), limite(fascia)};
+}
 
 // The first row of its kind takes the amounts of the later ones.
 void Riunisci(std::vector<RigaContabilita>& righe) {
@@ -48,7 +59,34 @@ std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLir
          NumeroContabilita(fascia.onorario, modoLire);
 }
 
-void Parcella::CalcoloMisureContabilita(double& onorario, std::string& testo) {
+Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
+  const int decimali = modoLire ? 0 : -2;
+  const auto limiti = LimitiDellaFascia(f.fascia, modoLire);
+  const std::string fascia =
+      f.fascia > kLimitiTabellaELire.size()
+          ? "oltre " + CifraEsatta(limiti.first)
+          : "da " + CifraEsatta(limiti.first) + " a " + CifraEsatta(limiti.second);
+  Passaggio aliquota{"Tabella E, fascia " + fascia +
+                         ": percentuale del D.M. 25-2-1965 per il "
+                         "coefficiente del " +
+                         SiglaDecreto(f.periodo),
+                     f.aliquota.Testo(), f.aliquota.Valore(), "%"};
+  aliquota.Annota("La riga ne mostra cinque decimali, il conto li prende tutti");
+  Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte.Testo(), f.parte.Valore()};
+  Passaggio coefficiente{"Coefficiente del tipo di lavori", "", f.coefficiente};
+  const std::string mostrato = CoefficienteInStringa(f.coefficiente);
+  if (mostrato != FormattaCopia(f.coefficiente, -2))
+    coefficiente.Annota("La riga mostra " + mostrato +
+                                ": quello dei dati non è nella lista");
+  else
+    coefficiente.cifra = mostrato;
+  Passaggio onorario{"Onorario della fascia, che entra nel totale con tutte le sue cifre",
+                     f.onorario.Testo(), f.onorario.Valore()};
+  return {Mostrato(std::move(aliquota), -5, "%"), std::move(coefficiente),
+          Mostrato(std::move(parte), decimali), Mostrato(std::move(onorario), decimali)};
+}
+
+void Parcella::CalcoloMisureContabilita(Conto& onorario, std::string& testo) {
   if (contemp.size() > kRigheContabilita)
     throw RuntimeFailure("La contabilità dei lavori è chiesta per più di " +
                          NumberText(kRigheContabilita) + " lotti o righe della parcella.");
@@ -62,21 +100,43 @@ void Parcella::CalcoloMisureContabilita(double& onorario, std::string& testo) {
   // Only a line feed stands between the lines of the block. The totals lie behind the cursor and
   // so begin lines of their own.
   uscita.Text("MISURE E CONTABILITÀ LAVORI ( tab. E )");
-  for (const FasciaContabilita& fascia : conto.fasce)
+  for (const FasciaContabilita& fascia : conto.fasce) {
     uscita.LineFeed().Text(TestoFasciaContabilita(fascia, ModoLire));
+    spiegazioni.Riga(uscita.Contents(), [&] { return CatenaFascia(fascia, ModoLire); });
+  }
   uscita.Tab(23).Text("------------------------------ ");
   uscita.Tab(10).Text("Totali  ");
   uscita.Tab(20).Text(NumeroContabilita(conto.importo, ModoLire));
   uscita.Tab(38).Line(NumeroContabilita(conto.onorario, ModoLire));
+  spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+    return {Mostrato(PassoImporto("Importo dei lavori con contabilità, somma delle righe",
+                                  conto.importo),
+                     DecimaliValuta()),
+            Mostrato(PassoImporto("Onorario di misura e contabilità, somma delle fasce con tutte "
+                                  "le loro cifre",
+                                  conto.onorario),
+                     DecimaliValuta())};
+  });
 }
 
 double Parcella::StampaContabilita() {
   if (contemp.empty()) return 0;
-  double onorario = 0;
+  Conto onorario;
   std::string testo;
   CalcoloMisureContabilita(onorario, testo);
-  double compenso = IntInLire(onorario * Coefficiente);
+  const Conto prodotto = onorario * Coefficiente;
+  double compenso = IntInLire(prodotto);
   StampaRigaOnorario(1, " " + testo + StringaCoefficiente + " =", compenso);
+  Spiega([&] {
+    Catena catena = CatenaCompensi;
+    catena.push_back(PassoOnorario(
+        "Misura e contabilità, Tabella E: totale delle fasce per il coefficiente dei compensi",
+        prodotto));
+    catena.back().Annota(
+        "Il totale delle fasce entra nel conto con tutte le sue cifre, non solo con quelle della "
+        "riga");
+    return catena;
+  });
   return compenso;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 
+#include "runtime/explanation/explanation.h"
 #include "tariff/law/accounting_fee.h"
 
 namespace orm {
@@ -13,6 +14,9 @@ std::string CoefficienteInStringa(double coefficiente);
 
 // "1,83965% x 1,00 x       5.000.000 =          91.982", without line end.
 std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLire);
+
+// How it came about: the rate, the part, the fee, as that text shows them.
+Catena CatenaFascia(const FasciaContabilita& fascia, bool modoLire);
 
 // A number right-justified in 15 characters, with the decimals of the currency. A longer one stands
 // as it is. The value is not cut.

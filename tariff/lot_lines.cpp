@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "runtime/numbers.h"
+#include "tariff/chains/percentage_chains.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
@@ -14,6 +15,18 @@ std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string
   return NumberText(static_cast<double>(numero)) + " - CLASSE/CATEGORIA    " +
          StringaClasseCategoria(classe, categoria);
 }
+
+namespace {
+
+// What the data hold is one of their fields, or a sum of them.
+Passaggio DatoOSomma(const Parcella& nota, std::string_view campo, const Conto& importo) {
+  return importo.Semplice()
+             ? nota.PassoDato(campo, importo)
+             : nota.PassoImporto("Dai dati della parcella, somma di \"" + std::string(campo) + "\"",
+                                 importo);
+}
+
+}  // namespace
 
 std::string TestoQuota(double quota) { return FormattaCopia(quota, -2) + " x "; }
 
@@ -29,7 +42,12 @@ Percentuale Parcella::PercentualeDaTabellaA(double importo, int periodo, std::st
                                             std::string_view categoria) const {
   Percentuale p;
   double lire = ImportoInLire(importo);
-  StringaPercentualeTabellaA(lire, periodo, classe, categoria, criteri, p.valore, p.testo);
+  LetturaTabella lettura;
+  StringaPercentualeTabellaA(lire, periodo, classe, categoria, criteri, p.valore, p.testo,
+                             &lettura);
+  if (spiegazioni.Attive() && lire != 0)
+    SpiegaTaglio(p, lire, lettura.percentuale,
+                 Unite(CatenaInLire(importo), CatenaTabellaA(lettura, periodo, classe, categoria)));
   return p;
 }
 
@@ -37,18 +55,26 @@ Percentuale Parcella::PercentualeDaTabellaNuova(double importo, std::string_view
                                                 std::string_view categoria) const {
   if (importo == 0) return {0, "0 %"};
   double lire = ImportoInLire(importo), valore = 0;
-  PercentualeTabellaNuova(lire, classe, categoria, valore);
-  return PercentualeTagliata(lire, valore);
+  LetturaCurva lettura;
+  PercentualeTabellaNuova(lire, classe, categoria, valore, &lettura);
+  return PercentualeTagliata(lire, valore, [&] {
+    return Unite(CatenaInLire(importo), CatenaTabellaNuova(lettura, lire, classe, categoria));
+  });
 }
 
 Percentuale Parcella::PercentualeDaTabellaC(int periodo, double lire) const {
   double valore = 0;
-  PercentualeTabellaContabilita(periodo, lire, valore);
-  return PercentualeTagliata(lire, valore);
+  LetturaTabella lettura;
+  PercentualeTabellaContabilita(periodo, lire, valore, &lettura);
+  return PercentualeTagliata(lire, valore, [&] { return CatenaTabellaC(lettura, periodo); });
 }
 
 void Parcella::StampaLavori(double importo) {
-  uscita.Tab(kColonnaLavori).Line(StringaImporto(TestoImporto(importo), TipoImporto::Lavori));
+  double mostrato = importo;
+  const std::string testo = FormattaNumero(mostrato, DecimaliValuta());
+  Ricorda(importo, mostrato, DecimaliValuta(), testo);
+  uscita.Tab(kColonnaLavori);
+  StampaCampo(testo, TipoImporto::Lavori);
 }
 
 void Parcella::StampaLavori(int colonna, std::string_view voce, double importo) {
@@ -56,32 +82,53 @@ void Parcella::StampaLavori(int colonna, std::string_view voce, double importo) 
   StampaLavori(importo);
 }
 
-void Parcella::StampaProgettoSpecifica(int colonna, double importo) {
-  if (importo == 0) return;
-  StampaLavori(colonna, importo > 0 ? " - LAVORI DI PROGETTO" : " - LAVORI PROGETTO ORIGINARIO",
-               std::fabs(importo));
+void Parcella::StampaLavori(int colonna, std::string_view voce, const Conto& importo,
+                            std::string_view campo) {
+  StampaLavori(colonna, voce, importo);
+  Spiega([&]() -> Catena { return {DatoOSomma(*this, campo, importo)}; });
+}
+
+// An amount below 0 is shown without its minus.
+void Parcella::StampaProgettoSpecifica(int colonna, const Conto& importo, std::string_view campo) {
+  if (importo > 0) StampaLavori(colonna, " - LAVORI DI PROGETTO", importo, campo);
+  if (importo >= 0) return;
+  StampaLavori(colonna, " - LAVORI PROGETTO ORIGINARIO", std::fabs(importo));
+  Spiega([&]() -> Catena {
+    Passaggio senzaMeno = PassoImporto("Si mostra senza il meno", std::fabs(importo));
+    senzaMeno.note = {
+        "Il meno dice che questi lavori contano per la percentuale e non danno "
+        "onorario"};
+    return {DatoOSomma(*this, campo, importo), std::move(senzaMeno)};
+  });
 }
 
 void Parcella::StampaDirezioneSpecifica(int colonna, std::string_view TipoParcella,
-                                        double importo) {
+                                        const Conto& importo, std::string_view campo) {
   if (importo > kDirezioneMinimaStampata)
     StampaLavori(colonna,
                  TipoParcella == "CONSUNTIVA" ? " - IMPORTO CONSUNTIVO LORDO"
                                               : " - LAVORI DIRETTI          ",
-                 importo);
+                 importo, campo);
 }
 
-void Parcella::StampaDirezioneOnorari(std::string_view TipoParcella, double importo) {
+void Parcella::StampaDirezioneOnorari(std::string_view TipoParcella, double importo,
+                                      std::string_view campo) {
   if (importo > kDirezioneMinimaStampata)
     StampaLavori(3,
                  TipoParcella == "CONSUNTIVA" ? " - Importo consuntivo lordo" : " - Lavori diretti",
-                 importo);
+                 importo, campo);
 }
 
-void Parcella::StampaPercentuale(std::string_view voce, const Percentuale& percentuale, double base,
-                                 int colonna) {
+// The percentage is the figure of the line: its steps stand behind those of the base.
+void Parcella::StampaPercentuale(std::string_view voce, const Percentuale& percentuale,
+                                 const Conto& base, int colonna, std::string_view regola) {
   uscita.Text(voce).Text(percentuale.testo).Tab(colonna).Text(" su  ");
   StampaLavori(base);
+  Spiega([&]() -> Catena { return {PassoImporto(std::string(regola), base)}; });
+  spiegazioni.Riga(uscita.Contents(), [&] {
+    return percentuale.catena.empty() ? Catena{{"Su un importo di 0 la percentuale è 0"}}
+                                      : percentuale.catena;
+  });
 }
 
 double Parcella::StampaOnorario(const RigaFormula& f, double onorario) {
@@ -105,12 +152,28 @@ void Parcella::StampaVoce(std::string_view titolo, std::string formula, double o
 }
 
 // In Lire the cut comes before the division by 100, as nowhere else in these notes.
-double Parcella::StampaCertificato(int periodo, double SommaDirezione) {
+double Parcella::StampaCertificato(int periodo, const Conto& SommaDirezione) {
   uscita.Line("CERTIFICATO REGOLARE ESECUZIONE  ( tab. C )");
   const Percentuale p = PercentualeDaTabellaC(periodo, ImportoInLire(SommaDirezione));
-  double compenso = IntInLire(p.valore * SommaDirezione * Coefficiente) / 100;
+  const Conto prodotto = p.valore * SommaDirezione * Coefficiente;
+  const double intero = IntInLire(prodotto);
+  double compenso = intero / 100;
   StampaRigaOnorario(1, " " + p.testo + " x " + TestoImporto(SommaDirezione) + StringaCoefficiente,
                      compenso);
+  Spiega([&] {
+    Catena catena = CatenaOnorario(
+        p, prodotto,
+        {"Percentuale per importo dei lavori diretti e coefficiente dei compensi accessori",
+         Unite({PassoImporto("Somma dei lavori diretti", SommaDirezione)},
+               CatenaInLire(SommaDirezione))});
+    catena.push_back(
+        PassoImporto("Certificato di regolare esecuzione, Tabella C: il centesimo del "
+                     "prodotto",
+                     Conto(intero) / 100));
+    if (ModoLire)
+      catena.back().Annota("Qui la parte intera si prende prima di dividere per 100");
+    return catena;
+  });
   return compenso;
 }
 

@@ -4,12 +4,20 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/explanation/conto.h"
 #include "tariff/table_a_slices.h"
 
 namespace orm {
 
 // "3 - CLASSE/CATEGORIA    1/c", the start of a line.
 std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string_view categoria);
+
+// Where the data have the amounts of a lot or a row.
+inline constexpr std::string_view kCampoProgetto = "PROGETTAZIONE, IMPORTO LAVORI";
+inline constexpr std::string_view kCampoEspropri = "PROGETTAZIONE, ESPROPRI";
+inline constexpr std::string_view kCampoSuppletivi = "PERIZIE, IMPORTO LAVORI SUPPLETIVI";
+inline constexpr std::string_view kCampoEsproPerizie = "PERIZIE, ESPROPRI  IN  PERIZIE";
+inline constexpr std::string_view kCampoDirezione = "DIREZIONE LAVORI, IMPORTO";
 
 inline constexpr std::string_view kVocePercentualeProgetto = " % Prog. (Tab. A) = ";
 inline constexpr std::string_view kVocePercentualeDirezione = " % D.L.  (Tab. A) = ";
@@ -27,7 +35,7 @@ std::string TestoQuota(double quota);
 struct RigaFormula {
   std::string_view inizio = " ";
   bool percentualePrima = false;
-  double aliquota = 0;
+  Conto aliquota;
   int decimali = 2;  // of the aliquot, zeros at the end dropped
   const Percentuale& percentuale;
   std::string importo;

@@ -1,5 +1,7 @@
 #include "tariff/percentages.h"
 
+#include <array>
+
 #include "runtime/numbers.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
@@ -43,15 +45,31 @@ void DecimaliPercentuale(double importo, int& decimali, int criterio) {
     decimali = 9;
 }
 
+std::string MotivoDecimali(int decimali, int criterio) {
+  constexpr std::array<const char*, 10> kImporti = {"in nessuna fascia",
+                                                    "",
+                                                    "",
+                                                    "sotto 100.000",
+                                                    "da 100.000 a 1.000.000",
+                                                    "da 1.000.001 a 10.000.000",
+                                                    "da 10.000.001 a 500.000.000",
+                                                    "da 500.000.001 a 1.000.000.000",
+                                                    "da 1.000.000.001 a 100.000.000.000",
+                                                    "oltre 100.000.000.000"};
+  if (criterio != 0) return "I decimali sono quelli scelti nei criteri di calcolo";
+  return "I decimali dipendono dall'importo in Lire: " +
+         std::string(kImporti[static_cast<std::size_t>(decimali)]);
+}
+
 void StringaPercentualeTabellaA(double& importo, int periodo, std::string_view classe,
                                 std::string_view categoria, const Criteri& criteri,
-                                double& percentuale, std::string& testo) {
+                                double& percentuale, std::string& testo, LetturaTabella* lettura) {
   if (importo == 0) {
     percentuale = 0;
     testo = "0 %";
     return;
   }
-  PercentualeTabellaA(importo, periodo, classe, categoria, percentuale);
+  PercentualeTabellaA(importo, periodo, classe, categoria, percentuale, lettura);
   int decimali = 0;
   DecimaliPercentuale(importo, decimali, criteri.DecimaliTabelle);
   testo = FormattaNumero(percentuale, decimali) + "%";

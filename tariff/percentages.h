@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "tariff/criteria.h"
+#include "tariff/law/readings.h"
 
 namespace orm {
 
@@ -21,11 +22,14 @@ void PercentualeTabellaNuovaDaEuro(double importo, std::string_view classe,
 // Decimals that a percentage is printed with, and cut to: those of the criteria (`criterio`) when
 // they are not 0, otherwise by the amount in Lire.
 void DecimaliPercentuale(double importo, int& decimali, int criterio);
+// Why there are so many, in Italian.
+std::string MotivoDecimali(int decimali, int criterio);
 
 // Percentage of Table A cut to its decimals, and its text, "4,36916%" ("0 %" for an amount of 0):
 // fees are reckoned with the cut one, so that a reader can check them on the printed figures.
 void StringaPercentualeTabellaA(double& importo, int periodo, std::string_view classe,
                                 std::string_view categoria, const Criteri& criteri,
-                                double& percentuale, std::string& testo);
+                                double& percentuale, std::string& testo,
+                                LetturaTabella* lettura = nullptr);
 
 }  // namespace orm

@@ -23,15 +23,14 @@ std::string Parcella::TestoImporto(double importo) const {
   return FormattaCopia(importo, DecimaliValuta());
 }
 
-namespace {
-
-// "3 - ..." or "  3 - ...", the heading of a lot or of a fee; "=== ... ===", that of a section.
 bool IsTitolo(std::string_view riga) {
   if (riga.starts_with("===")) return true;
   riga.remove_prefix(std::min(riga.find_first_not_of(' '), riga.size()));
   const auto cifre = std::min(riga.find_first_not_of("0123456789"), riga.size());
   return cifre > 0 && riga.substr(cifre).starts_with(" - ");
 }
+
+namespace {
 
 // Where a report stands, in the words of its reader: under which heading, on what line.
 std::string DoveSiTrova(std::string_view stampato) {
@@ -66,6 +65,12 @@ std::string Parcella::StringaImporto(std::string_view testo, TipoImporto tipo) c
   return (ModoLire ? "L. " : "€") + Blanks(larghezza - lunghezza) + std::string(testo);
 }
 
+void Parcella::StampaCampo(std::string_view testo, TipoImporto tipo, bool inEuro) {
+  const std::string campo = StringaImporto(testo, tipo);
+  SegnaImporto(tipo, inEuro);
+  uscita.Line(campo);
+}
+
 void Parcella::ApriParcella(std::string_view frase) {
   uscita.Tab(15).Line("PARCELLA DELLE COMPETENZE PROFESSIONALI");
   uscita.Tab(3).Line("( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )");
@@ -80,12 +85,14 @@ void Parcella::ApriParcella(std::string_view frase) {
 std::string Parcella::Numero() { return NumberText(static_cast<double>(++progressivo)) + " -"; }
 
 void Parcella::ConcludiRiga(double& valore, int decimali, bool inColonna) {
+  const double prima = valore;
   const std::string testo = FormattaNumero(valore, decimali);
+  Ricorda(prima, valore, decimali, testo);
   if (inColonna)
     uscita.Tab(kColonnaImporto);
   else
     uscita.Text(" ");
-  uscita.Line(StringaImporto(testo, TipoImporto::Onorari));
+  StampaCampo(testo, TipoImporto::Onorari, !ModoLire || decimali != DecimaliValuta());
 }
 
 void Parcella::StampaRigaOnorario(int tab, std::string& etichetta, double& valore) {

@@ -54,4 +54,15 @@ inline constexpr int kColonnaLavori = 48;
 
 enum class TipoImporto { Lavori, Onorari };
 
+// An amount that a report has in its column.
+struct ImportoStampato {
+  std::size_t campo =
+      0;  // where its field begins, with the symbol if it has one: bytes of the report
+  TipoImporto tipo = TipoImporto::Onorari;
+  bool inEuro = false;
+};
+
+// "3 - ..." or "  3 - ...", the heading of a lot or of a fee; "=== ... ===", that of a section.
+bool IsTitolo(std::string_view riga);
+
 }  // namespace orm

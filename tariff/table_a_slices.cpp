@@ -19,18 +19,19 @@ PercentualiTabellaA Parcella::PercentualiDellaBase(double base, int periodo,
 }
 
 std::vector<QuotaImporto> Parcella::QuoteDellImporto(const PercentualiTabellaA& percentuali,
-                                                     double importo) const {
+                                                     const Conto& importo) const {
   if (!percentuali.divise) return {{importo, percentuali.entro}};
   const double limite = LimiteTabellaA();
   return {{limite, percentuali.entro}, {importo - limite, percentuali.oltre}};
 }
 
 std::vector<QuotaImporto> Parcella::QuoteProgressive(const PercentualiTabellaA& percentuali,
-                                                     double importo, double prima) const {
+                                                     const Conto& importo,
+                                                     const Conto& prima) const {
   const double limite = LimiteTabellaA();
   if (!percentuali.divise || prima + importo <= limite) return {{importo, percentuali.entro}};
   if (prima >= limite) return {{importo, percentuali.oltre}};
-  const double entro = limite - prima;
+  const Conto entro = limite - prima;
   return {{entro, percentuali.entro}, {importo - entro, percentuali.oltre}};
 }
 

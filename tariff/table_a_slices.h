@@ -4,12 +4,16 @@
 
 #include <string>
 
+#include "runtime/explanation/conto.h"
+#include "runtime/explanation/explanation.h"
+
 namespace orm {
 
 // A percentage cut to what its text shows, "4,36916%". One that is not needed has no text.
 struct Percentuale {
   double valore = 0;
   std::string testo;
+  Catena catena = {};  // how it came about, where that is asked
 };
 
 struct PercentualiTabellaA {
@@ -19,7 +23,7 @@ struct PercentualiTabellaA {
 
 // An amount or a part of it with its percentage.
 struct QuotaImporto {
-  double importo;
+  Conto importo;
   const Percentuale& percentuale;
 };
 

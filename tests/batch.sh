@@ -49,6 +49,22 @@ for file in "$work/prima"/*; do cmp "$file" "$work/$(basename "$file")" || broke
 mkdir "$work/esempi" && cp "$scripts"/../../data/*.CFG "$scripts"/../../data/sample/* "$work/esempi"
 expects 0 '' "$calcolo" --tutti --cartella "$work/esempi"
 
+# A note goes to another folder and is the same there; a refused one writes nothing.
+mkdir "$work/altra" && cp "$scripts"/../../data/*.CFG "$work/altra"
+"$calcolo" PDL --json --cartella "$work/esempi" --data 15/03/2002 >"$work/pdl.json"
+expects 0 '' "$calcolo" --da-json "$work/pdl.json" --cartella "$work/altra"
+expects 0 '' "$calcolo" PDL --cartella "$work/altra" --data 15/03/2002
+for file in INT_PDL.DAP INP_PDL.DAP UTENTE.DAG OUT_PDL.DOC; do
+  cmp "$work/esempi/$file" "$work/altra/$file" || broken=1
+done
+"$calcolo" PPE --csv=semplice --cartella "$work/esempi" | grep -q '^18,"ONORARI E COMPENSI",.*,212000,ITL,onorari' || broken=1
+printf '{"formato": 3}' >"$work/altro.json"
+expects 2 'Campo : formato' "$calcolo" --da-json "$work/altro.json" --cartella "$work/altra"
+expects 2 'assente.json' "$calcolo" --da-json "$work/assente.json" --cartella "$work/altra"
+expects 2 'scrivere' bash -c "'$calcolo' PPE --json --cartella '$work/esempi' >/dev/full"
+expects 3 'Uso:' "$calcolo" PPE --da-json "$work/pdl.json"
+expects 3 'oppure --csv=semplice' "$calcolo" PPE --csv=altro
+
 # A note that fails does not keep the others from being made; the worst code counts.
 rm "$work/INT_PPE.DAP" && ln -s INT_PPE.DAP "$work/INT_PPE.DAP" && rm "$work/OUT_PPE_E.DOC"
 expects 2 'collegamento' "$calcolo" --tutti --cartella "$work"

@@ -28,6 +28,8 @@ class NotaAgp : public Parcella {
 
  private:
   void CalcolaLotto(const LottoAgp& lotto);
+  Passaggio PassoAliquota(double aliquota) const;
+  Passaggio PassoMetodo() const;
   // Compensations are in the surcharge too.
   bool MaggiorazioneConglobata() const { return criteri.CompensiSuMaggiorazione == "SI"; }
 
@@ -61,25 +63,53 @@ void NotaAgp::CalcolaLotto(const LottoAgp& lotto) {
   for (const auto& [importo, P] : quote)
     StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
   const double aliquota = AliquotaAggiornamento(lotto.Classe, lotto.Categoria);
+  const auto ragioni = [&]() -> Ragioni {
+    return {
+        "Art. 23, aggiornamento dei prezzi: percentuale per importo per aliquota per la parte "
+        "del metodo, per il coefficiente dei compensi",
+        {PassoAliquota(aliquota), PassoMetodo()}};
+  };
   const std::string inizio = FormattaCopia(CoefficienteMetodo, 2) + " x ";
   for (const auto& [importo, P] : quote)
-    TotaleGenerale +=
-        StampaOnorario({.inizio = inizio,
-                        .aliquota = aliquota,
-                        .percentuale = P,
-                        .importo = TestoImporto(importo)},
-                       P.valore * importo * aliquota * CoefficienteMetodo / 100 * Coefficiente);
+    TotaleGenerale += StampaOnorario(
+        {.inizio = inizio,
+         .aliquota = aliquota,
+         .percentuale = P,
+         .importo = TestoImporto(importo)},
+        P.valore * importo * aliquota * CoefficienteMetodo / 100 * Coefficiente, ragioni);
+}
+
+Passaggio NotaAgp::PassoAliquota(double aliquota) const {
+  return {"Art. 19, Tabella B, lettera d, preventivo particolareggiato", "", aliquota};
+}
+
+Passaggio NotaAgp::PassoMetodo() const {
+  return {"Art. 23, " +
+              std::string(d.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO"
+                              ? "variazioni percentuali dei prezzi"
+                              : "nuove analisi dei prezzi") +
+              ": parte dell'aliquota",
+          "", CoefficienteMetodo};
 }
 
 void NotaAgp::CalcolaMaggiorazione() {
   if (d.EsecutoreDellAggiornamento != "SI") return;
   uscita.Line(Numero() + " MAGGIORAZIONE PER INCARICO PARZIALE");
-  const double quota = kIncaricoParziale * TotaleGenerale;
   const bool conglobata = MaggiorazioneConglobata();
-  const double base = conglobata ? TotaleGenerale : SenzaCompensi(TotaleGenerale);
-  maggiorazione = IntInLire(conglobata ? quota : SenzaCompensi(quota));
+  const double base = conglobata ? TotaleGenerale.Valore() : SenzaCompensi(TotaleGenerale);
+  Conto quota = kIncaricoParziale * TotaleGenerale;
+  if (!conglobata) quota = Coefficiente == 0 ? Conto(0) : quota / Coefficiente;
+  maggiorazione = IntInLire(quota);
   StampaRigaOnorario(1, " " + TestoQuota(kIncaricoParziale) + TestoImporto(base) + " =",
                      maggiorazione);
+  Spiega([&]() -> Catena {
+    Passaggio passo = PassoOnorario(
+        "Art. 23-b e art. 18, incarico parziale: un quarto degli onorari dell'aggiornamento",
+        quota);
+    if (!conglobata)
+      passo.regola += ", senza i compensi accessori, come dicono i criteri di calcolo";
+    return {std::move(passo)};
+  });
   TotaleGenerale += maggiorazione;
 }
 

@@ -46,7 +46,7 @@ bool Contiene(std::string_view prestazioni, std::string_view codice) {
 
 // The services of one table that a lot takes in one phase.
 struct GruppoServizi {
-  double aliquota = 0;
+  Conto aliquota;
   std::string testo;  // "a+b"
 };
 
@@ -55,13 +55,25 @@ GruppoServizi ServiziDi(std::span<const ServizioEsl> tabella, FaseEsl fase, std:
   GruppoServizi gruppo;
   for (const ServizioEsl& servizio : tabella) {
     if (servizio.fase != fase) continue;
-    const double volte = servizio.codice == "l4" ? NumeroAddetti : 1;
-    if (Contiene(prestazioni, servizio.scelta))
-      gruppo.aliquota += servizio.aliquote[colonna] * volte;
+    Conto aliquota = servizio.aliquote[colonna];
+    if (servizio.codice == "l4") aliquota *= NumeroAddetti;
+    if (Contiene(prestazioni, servizio.scelta)) gruppo.aliquota += aliquota;
     if (Contiene(prestazioni, servizio.codice))
       gruppo.testo += (gruppo.testo.empty() ? "" : "+") + std::string(servizio.codice);
   }
   return gruppo;
+}
+
+// What those that count are called in the dialogs.
+std::string NomiServizi(std::span<const ServizioEsl> tabella,
+                        std::span<const char* const> didascalie, FaseEsl fase,
+                        const std::string& prestazioni) {
+  std::string nomi;
+  for (std::size_t i = 0; i < tabella.size(); ++i)
+    if (tabella[i].fase == fase && Contiene(prestazioni, tabella[i].scelta))
+      nomi += (nomi.empty() ? "" : ";") + std::string(didascalie[i]);
+  while (nomi.ends_with('.')) nomi.pop_back();
+  return nomi;
 }
 
 class NotaEsl : public Parcella {
@@ -85,13 +97,13 @@ class NotaEsl : public Parcella {
   double BaseDirezione(const LottoEsl& lotto) const;
   void CalcolaLotto(std::size_t numeroLotto, const LottoEsl& lotto);
   void StampaImporti(std::size_t numeroLotto, const LottoEsl& lotto);
-  double OnorarioProgetto(const Lavori& lavori);
-  double OnorarioDirezione(const Lavori& lavori);
-  double OnorarioFase(FaseEsl fase, const Lavori& lavori);
+  Conto OnorarioProgetto(const Lavori& lavori);
+  Conto OnorarioDirezione(const Lavori& lavori);
+  Conto OnorarioFase(FaseEsl fase, const Lavori& lavori);
 
   const DatiEsl& d;
-  double SommaDirezione = 0;
-  double TotaleProgetto = 0, TotaleDirezione = 0, TotaleContabilita = 0, TotaleCertificato = 0;
+  Conto SommaDirezione;
+  Conto TotaleProgetto, TotaleDirezione, TotaleContabilita, TotaleCertificato;
 };
 
 void NotaEsl::StampaSpecifica() {
@@ -100,8 +112,8 @@ void NotaEsl::StampaSpecifica() {
     const LottoEsl& lotto = d.Lotti[i];
     if (lotto.ImportoProgettazione != 0 || lotto.ImportoDirezioneLavori != 0)
       uscita.Line(TitoloLotto(i + 1, lotto.Classe, lotto.Categoria));
-    StampaProgettoSpecifica(5, lotto.ImportoProgettazione);
-    StampaDirezioneSpecifica(5, d.TipoParcella, lotto.ImportoDirezioneLavori);
+    StampaProgettoSpecifica(5, lotto.ImportoProgettazione, kCampoProgetto);
+    StampaDirezioneSpecifica(5, d.TipoParcella, lotto.ImportoDirezioneLavori, kCampoDirezione);
   }
 }
 
@@ -112,13 +124,13 @@ double NotaEsl::BaseDirezione(const LottoEsl& lotto) const {
 }
 
 void NotaEsl::CalcolaCompensi() {
-  double SommaProgetto = 0;
+  Conto SommaProgetto;
   for (const LottoEsl& lotto : d.Lotti) {
     SommaProgetto += std::fabs(lotto.ImportoProgettazione);
     if (lotto.ImportoDirezioneLavori > kDirezioneMinimaSommata)
       SommaDirezione += lotto.ImportoDirezioneLavori;
   }
-  CompensiAccessori(ImportoInLire(std::max(SommaProgetto, SommaDirezione)));
+  CompensiSulMaggiore(SommaProgetto, SommaDirezione);
 }
 
 void NotaEsl::CalcolaLotti() {
@@ -140,8 +152,8 @@ void NotaEsl::CalcolaLotto(std::size_t numeroLotto, const LottoEsl& lotto) {
     StampaPercentuale(kVocePercentualeProgetto, progetto.percentuale, baseProgetto);
   if (direzione.importo > 0)
     StampaPercentuale(kVocePercentualeDirezione, direzione.percentuale, baseDirezione);
-  const double onorarioProgetto = OnorarioProgetto(progetto);
-  const double onorarioDirezione = OnorarioDirezione(direzione);
+  const Conto onorarioProgetto = OnorarioProgetto(progetto);
+  const Conto onorarioDirezione = OnorarioDirezione(direzione);
   TotaleProgetto += onorarioProgetto;
   TotaleDirezione += onorarioDirezione;
   if (lotto.MisureContabilita != "NO")
@@ -155,30 +167,31 @@ void NotaEsl::StampaImporti(std::size_t numeroLotto, const LottoEsl& lotto) {
         .Tab(32)
         .Line("Decreto 4-4-2001");
   if (lotto.ImportoProgettazione > 3)
-    StampaLavori(3, " - Lavori di progetto", lotto.ImportoProgettazione);
-  StampaDirezioneOnorari(d.TipoParcella, lotto.ImportoDirezioneLavori);
+    StampaLavori(3, " - Lavori di progetto", lotto.ImportoProgettazione, kCampoProgetto);
+  StampaDirezioneOnorari(d.TipoParcella, lotto.ImportoDirezioneLavori, kCampoDirezione);
 }
 
-double NotaEsl::OnorarioProgetto(const Lavori& lavori) {
+Conto NotaEsl::OnorarioProgetto(const Lavori& lavori) {
   if (lavori.importo <= 0) return 0;
-  double onorario = 0;
+  Conto onorario;
   for (const FaseEsl fase : {FaseEsl::Preliminare, FaseEsl::Definitivo, FaseEsl::Esecutivo})
     onorario += OnorarioFase(fase, lavori);
   return onorario;
 }
 
-double NotaEsl::OnorarioDirezione(const Lavori& lavori) {
-  return lavori.importo < 3 ? 0 : OnorarioFase(FaseEsl::Direzione, lavori);
+Conto NotaEsl::OnorarioDirezione(const Lavori& lavori) {
+  return lavori.importo < 3 ? Conto() : OnorarioFase(FaseEsl::Direzione, lavori);
 }
 
 // The base services, then the integrative ones. The name of the phase stands once above them; a
 // group of share 0 prints nothing.
-double NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
+Conto NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
   const LottoEsl& lotto = lavori.lotto;
   const std::size_t colonna = ColonnaTabelleB(lotto.Classe, lotto.Categoria);
-  double totale = 0;
+  Conto totale;
   bool titolo = false;
   const auto gruppo = [&](std::string_view voce, std::span<const ServizioEsl> tabella,
+                          std::span<const char* const> didascalie, const char* nome,
                           const std::string& prestazioni, int decimali,
                           const std::string& addetti) {
     const auto servizi = ServiziDi(tabella, fase, colonna, prestazioni, lotto.NumeroAddetti);
@@ -186,16 +199,33 @@ double NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
     if (!titolo) uscita.Line(NomeFase(fase));
     titolo = true;
     uscita.Text(voce).Text(servizi.testo).Line(addetti);
+    if (!addetti.empty())
+      spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+        Passaggio passo = PassoDato("Numero addetti", lotto.NumeroAddetti);
+        passo.cifra = NumberText(lotto.NumeroAddetti);
+        passo.note = {"Conta solo per la prestazione l4"};
+        return {std::move(passo)};
+      });
     totale += StampaOnorario(
         {.aliquota = servizi.aliquota,
          .decimali = decimali,
          .percentuale = lavori.percentuale,
          .importo = TestoImporto(lavori.importo)},
-        lavori.importo * lavori.percentuale.valore * servizi.aliquota / 100 * Coefficiente);
+        Conto(lavori.importo) * lavori.percentuale.valore * servizi.aliquota / 100 * Coefficiente,
+        [&]() -> Ragioni {
+          return {
+              "D.M. 4-4-2001: importo per percentuale per aliquote, per il coefficiente dei "
+              "compensi",
+              {{"Aliquote della " + std::string(nome) + ":" +
+                    NomiServizi(tabella, didascalie, fase, prestazioni),
+                servizi.aliquota.Testo(), servizi.aliquota.Valore()}}};
+        });
   };
   const bool piuAddetti = fase == FaseEsl::Direzione && lotto.NumeroAddetti > 1;
-  gruppo(" aliquote base : ", kTabellaBEsl, lotto.PrestazioniBase, 2, "");
-  gruppo("aliquote integrative : ", kTabellaB1Esl, lotto.PrestazioniIntegrative, 3,
+  gruppo(" aliquote base : ", kTabellaBEsl, kDidascalieBase, "Tabella B", lotto.PrestazioniBase, 2,
+         "");
+  gruppo("aliquote integrative : ", kTabellaB1Esl, kDidascalieIntegrative, "Tabella B1",
+         lotto.PrestazioniIntegrative, 3,
          piuAddetti ? "(x" + NumberText(lotto.NumeroAddetti) + ")" : "");
   return totale;
 }
@@ -212,8 +242,8 @@ void NotaEsl::CalcolaCertificato() {
 }
 
 void NotaEsl::StampaRiepilogo() {
-  std::array<double, 4> importi = {TotaleProgetto, TotaleDirezione, TotaleContabilita,
-                                   TotaleCertificato};
+  std::array<Conto, 4> importi = {TotaleProgetto, TotaleDirezione, TotaleContabilita,
+                                  TotaleCertificato};
   StampaRiepilogoEsl("EL", importi);
 }
 

@@ -8,42 +8,6 @@
 namespace orm {
 namespace {
 
-// In the order of the tables.
-constexpr std::array<const char*, 11> kDidascalieBase = {
-    " a  - Relazioni, planimetrie, schemi grafici",
-    " b  - Calcolo sommari spesa",
-    " c  - Relazione illustrativa, elaborati grafici per ottenere autorizzazioni",
-    " d  - Disciplinare elementi tecnici",
-    " e  - Computo metrico estimativo, quadro economico",
-    " f  - Relazione generale e specialistiche, elaborati grafici, calcoli esecutivi",
-    " g  - Particolari costruttivi e decorativi.",
-    " h  - Computo metrico estimativo definitivo, quadro economico, elenco prezzi ed eventuale "
-    "analisi, quadro dell'incidenza percentuale della quantità di manodopera",
-    " i  - Schema di contratto, capitolato speciale d'appalto, cronoprogramma.",
-    " l  - Direzione Lavori, assistenza al collaudo, prove d'officina",
-    " l1 - Liquidazione.",
-};
-constexpr std::array<const char*, 17> kDidascalieIntegrative = {
-    " m  - Piano economico e finanziario di massima",
-    " n  - Capitolato speciale e prestazionale",
-    " o1 -  Relazione di indagine geotecnica",
-    " o2 -  Relazione di indagine idrologica",
-    " o3 -  Relazione di indagine idraulica",
-    " o4 -  Relazione di indagine sismica",
-    " o5 -  Relazione di indagine archeologica",
-    " p  - Studio di inserimento urbanistico",
-    " q  - Schema di contratto, capitolato speciale d'appalto",
-    " r1  - Relazione di indagine geotecnica",
-    " r2 -  Relazione di indagine idrologica",
-    " r3 -  Relazione di indagine idraulica",
-    " r4 -  Relazione di indagine sismica",
-    " s  - Piano di manutenzione dell'opera",
-    " l2  - Controllo aggiornamento elaborati di progetto, aggiornamento dei manuali d'uso e "
-    "manutenzione",
-    " l3 - Coordinamento e supervisione dell'ufficio di direzione lavori",
-    " l4 -  Ufficio della direzione lavori, per ogni addetto con qualifica di direttore operativo.",
-};
-
 // The codes of a string, each between two marks: "+m+o1+".
 bool Nominata(const std::string& stringa, std::string_view codice) {
   return ("+" + stringa + "+").find("+" + std::string(codice) + "+") != std::string::npos;

@@ -8,6 +8,8 @@
 #include "cases/geo/geo.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
+#include "tariff/chains/percentage_chains.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/table_geotechnics.h"
 #include "tariff/money.h"
@@ -15,6 +17,10 @@
 
 namespace orm {
 namespace {
+
+constexpr std::string_view kCampoProgettoGeo = "Importo a base d'asta dei Lavori di progetto",
+                           kCampoDirezioneGeo = "Importo dei Lavori diretti",
+                           kCampoIndagini = "COSTO INDAGINI E PROVE";
 
 std::size_t IndiceSottoclasse(const RigaGeo& riga) {
   const std::string& s = riga.Sottoclasse;
@@ -45,8 +51,8 @@ std::array<bool, 6> ServiziFattiGeo(const RigaGeo& riga) {
 // What a group's percentages are taken on. Works beyond the design change no fee of the design.
 struct GruppoGeo {
   std::size_t primaRiga = 0, righe = 0;
-  double ProgettoGruppo = 0, DirezioneGruppo = 0, BaseDirezione = 0;
-  double SommaProgetto = 0, SommaDirezione = 0;  // signed, as the list of amounts shows them
+  Conto ProgettoGruppo = {}, DirezioneGruppo = {}, BaseDirezione = {};
+  Conto SommaProgetto = {}, SommaDirezione = {};  // signed, as the list of amounts shows them
 };
 
 GruppoGeo BasiDelGruppo(const DatiGeotecnici& d, std::size_t primaRiga, std::size_t righe) {
@@ -78,21 +84,24 @@ class NotaGeo : public Parcella {
   // A phase of a row, or one service of it.
   struct Blocco {
     std::vector<const char*> titolo;
-    std::string lettere;  // of a partial service; empty: not shown
-    double quota = 0;
+    std::string lettere;   // of a partial service; empty: not shown
+    std::string prestate;  // of the services done
+    Conto quota;
   };
-  Percentuale PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const;
+  Percentuale PercentualeGeo(const RigaGeo& riga, int periodo, const Conto& importo) const;
   void CalcolaRiga(const GruppoGeo& gruppo, const RigaGeo& riga, int periodo);
   Blocco BloccoDi(const RigaGeo& riga, std::vector<const char*> titolo, std::size_t primo,
                   std::size_t ultimo) const;
   std::vector<Blocco> BlocchiDirezione(const RigaGeo& riga) const;
-  double OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo);
+  Conto OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo);
   double OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, double importo);
+  Catena CatenaQuote(const Blocco& blocco) const;
 
   const DatiGeotecnici& d;
   const TariffaGeo& tariffa;
   std::vector<GruppoGeo> gruppi;
-  double totaleProgetto = 0, totaleDirezione = 0, compensoAggiuntivo = 0;
+  Conto totaleProgetto, totaleDirezione;
+  double compensoAggiuntivo = 0;
 };
 
 NotaGeo::NotaGeo(Parcella parcella, const DatiGeotecnici& dati, const TariffaGeo& tariffaGeo)
@@ -110,28 +119,45 @@ void NotaGeo::StampaSpecifica() {
     const std::string numeroGruppo = Numero();  // skipped with a group that prints nothing
     if (g.SommaProgetto == 0 && g.SommaDirezione == 0) continue;
     uscita.Line(numeroGruppo + " SOTTOCLASSE   " + d.Righe[g.primaRiga].Sottoclasse);
-    StampaProgettoSpecifica(5, g.SommaProgetto);
-    StampaDirezioneSpecifica(5, d.TipoDiParcella, g.SommaDirezione);
+    StampaProgettoSpecifica(5, g.SommaProgetto, kCampoProgettoGeo);
+    StampaDirezioneSpecifica(5, d.TipoDiParcella, g.SommaDirezione, kCampoDirezioneGeo);
   }
 }
 
 void NotaGeo::CalcolaCompensi() {
-  double TotaleProgetto = 0, TotaleDirezione = 0;
+  Conto TotaleProgetto, TotaleDirezione;
   for (const GruppoGeo& g : gruppi) {
     TotaleProgetto += g.ProgettoGruppo;
     TotaleDirezione += g.DirezioneGruppo;
   }
-  CompensiAccessori(ImportoInLire(std::max(TotaleProgetto, TotaleDirezione)));
+  CompensiSulMaggiore(TotaleProgetto, TotaleDirezione);
 }
 
-Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, double importo) const {
+Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, const Conto& importo) const {
   if (importo == 0) return {};
   if (periodo < 1 || periodo > static_cast<int>(kPeriodiGeo))
     throw RuntimeFailure("Il periodo tariffario " + NumberText(periodo) + " non esiste.")
         .AtField("TariffaDelGruppo");
   const double lire = ImportoInLire(importo);
   const TabelleGeo tabelle = tariffa.Periodo(periodo);
-  return PercentualeTagliata(lire, tabelle.Percentuale(IndiceSottoclasse(riga), lire));
+  Interpolazione lettura;
+  const double valore = tabelle.Percentuale(IndiceSottoclasse(riga), lire, &lettura);
+  return PercentualeTagliata(lire, valore, [&] {
+    Catena catena = CatenaInLire(importo);
+    catena.push_back({"Tabella delle prestazioni geotecniche (GEO.CFG), sottoclasse " +
+                          riga.Sottoclasse + ", tariffa " +
+                          tariffa.testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)],
+                      ContoInterpolazione(lettura), valore, "%"});
+    Passaggio& passo = catena.back();
+    if (lettura.x0 == lettura.x1) {
+      passo.conto = "";
+      passo.note = {"Fino al primo importo della tabella la percentuale è la prima"};
+    } else if (valore == 0) {
+      passo.conto = "";
+      passo.note = {"Oltre la tabella la percentuale cala con l'ultima pendenza, e si ferma a 0"};
+    }
+    return catena;
+  });
 }
 
 void NotaGeo::CalcolaGruppi() {
@@ -149,10 +175,14 @@ void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) 
   const Percentuale PDirezione = PercentualeGeo(riga, periodo, g.BaseDirezione);
   uscita.Line("SOTTOCLASSE " + riga.Sottoclasse + " ( tariffa " +
               tariffa.testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)] + " )");
-  if (progetto) StampaLavori(3, " - Lavori di progetto", riga.ImportoProgetto);
-  StampaDirezioneOnorari(d.TipoDiParcella, riga.ImportoDirezione);
-  if (progetto) StampaPercentuale(" % Prog.  = ", PProgetto, g.ProgettoGruppo);
-  if (direzione) StampaPercentuale(" % D.L.   = ", PDirezione, g.BaseDirezione);
+  if (progetto) StampaLavori(3, " - Lavori di progetto", riga.ImportoProgetto, kCampoProgettoGeo);
+  StampaDirezioneOnorari(d.TipoDiParcella, riga.ImportoDirezione, kCampoDirezioneGeo);
+  if (progetto)
+    StampaPercentuale(" % Prog.  = ", PProgetto, g.ProgettoGruppo, 33,
+                      "Lavori di progetto del gruppo, senza il loro segno");
+  if (direzione)
+    StampaPercentuale(" % D.L.   = ", PDirezione, g.BaseDirezione, 33,
+                      "Lavori su cui si prende la percentuale della direzione nel gruppo");
   if (progetto)
     totaleProgetto +=
         OnorarioBlocco(BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0,
@@ -168,13 +198,13 @@ NotaGeo::Blocco NotaGeo::BloccoDi(const RigaGeo& riga, std::vector<const char*> 
                                   std::size_t primo, std::size_t ultimo) const {
   const auto& quote = kQuoteGeo[IndiceSottoclasse(riga)];
   const auto fatti = ServiziFattiGeo(riga);
-  Blocco blocco{std::move(titolo), "", 0};
+  Blocco blocco{std::move(titolo), "", "", {}};
   for (std::size_t i = primo; i < ultimo; ++i) {
     if (!fatti[i]) continue;
     blocco.quota += quote[i];
-    blocco.lettere += (blocco.lettere.empty() ? "" : "+") + std::string(1, kLettereGeo[i]);
+    blocco.prestate += (blocco.prestate.empty() ? "" : "+") + std::string(1, kLettereGeo[i]);
   }
-  if (riga.TipoDiPrestazione != "P") blocco.lettere.clear();
+  if (riga.TipoDiPrestazione == "P") blocco.lettere = blocco.prestate;
   return blocco;
 }
 
@@ -188,18 +218,32 @@ std::vector<NotaGeo::Blocco> NotaGeo::BlocchiDirezione(const RigaGeo& riga) cons
       BloccoDi(riga, {"ASSISTENZA AL COLLAUDO E ALLE OPERAZIONI DI", "LIQUIDAZIONE LAVORI"}, 5, 6)};
 }
 
-double NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo) {
+Catena NotaGeo::CatenaQuote(const Blocco& blocco) const {
+  std::string nomi;
+  for (const char lettera : blocco.prestate)
+    if (const auto posto = kLettereGeo.find(lettera); posto != std::string_view::npos)
+      nomi += (nomi.empty() ? "" : "; ") + std::string(1, lettera) + " - " + kPrestazioniGeo[posto];
+  return {{"Quote delle prestazioni: " + nomi, blocco.quota.Testo(), blocco.quota.Valore()}};
+}
+
+Conto NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo) {
   if (blocco.quota == 0) return 0;
   for (const char* riga : blocco.titolo) uscita.Line(riga);
   if (!blocco.lettere.empty()) uscita.Line("  Prestazioni : " + blocco.lettere);
-  const double onorario = StampaOnorario({.inizio = "    ",
-                                          .percentualePrima = true,
-                                          .aliquota = blocco.quota,
-                                          .decimali = 4,
-                                          .percentuale = P,
-                                          .importo = TestoImporto(importo)},
-                                         importo * blocco.quota * P.valore / 100 * Coefficiente);
-  return onorario + OnorarioArticolo18(blocco, P, importo);
+  const double onorario = StampaOnorario(
+      {.inizio = "    ",
+       .percentualePrima = true,
+       .aliquota = blocco.quota,
+       .decimali = 4,
+       .percentuale = P,
+       .importo = TestoImporto(importo)},
+      Conto(importo) * blocco.quota * P.valore / 100 * Coefficiente, [&]() -> Ragioni {
+        return {
+            "Onorario: importo per quote per percentuale, "
+            "per il coefficiente dei compensi",
+            CatenaQuote(blocco)};
+      });
+  return Conto(onorario) + OnorarioArticolo18(blocco, P, importo);
 }
 
 // With compensations there is one cut, after the product with their coefficient.
@@ -208,16 +252,19 @@ double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, d
   uscita.Line("INCARICO PARZIALE ( art. 18 )");
   const bool conglobato = criteri.CompensiSuMaggiorazione != "NO";
   const std::string inizio = " " + TestoQuota(kIncaricoParziale);
-  double onorario = kIncaricoParziale * P.valore * blocco.quota * importo / 100;
-  if (conglobato) onorario = onorario * Coefficiente;
-  return StampaOnorario({.inizio = inizio,
-                         .percentualePrima = true,
-                         .aliquota = blocco.quota,
-                         .decimali = 4,
-                         .percentuale = P,
-                         .importo = TestoImporto(importo),
-                         .conCompensi = conglobato},
-                        onorario);
+  Conto onorario = Conto(kIncaricoParziale) * P.valore * blocco.quota * importo / 100;
+  if (conglobato) onorario *= Coefficiente;
+  return StampaOnorario(
+      {.inizio = inizio,
+       .percentualePrima = true,
+       .aliquota = blocco.quota,
+       .decimali = 4,
+       .percentuale = P,
+       .importo = TestoImporto(importo),
+       .conCompensi = conglobato},
+      onorario, [&]() -> Ragioni {
+        return {"Art. 18, incarico parziale: un quarto dell'onorario", CatenaQuote(blocco)};
+      });
 }
 
 // It carries no compensations. The cost is no fee, so that it stands behind its words.
@@ -226,16 +273,24 @@ void NotaGeo::CalcolaCompensoAggiuntivo() {
   const std::string costo = TestoImporto(d.CostoIndagini);
   uscita.Line("Compenso aggiuntivo per tenuta rapporti contabili")
       .Line("ed amministrativi con ditte e laboratori di prove")
-      .Text("geotecniche per un costo complessivo di ")
-      .Line(StringaImporto(costo, TipoImporto::Onorari));
-  compensoAggiuntivo = IntInLire(kCompensoIndagini * d.CostoIndagini);
+      .Text("geotecniche per un costo complessivo di ");
+  StampaCampo(costo, TipoImporto::Onorari);
+  spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+    return {Mostrato(PassoDato(kCampoIndagini, d.CostoIndagini), DecimaliValuta())};
+  });
+  const Conto compenso = Conto(kCompensoIndagini) * d.CostoIndagini;
+  compensoAggiuntivo = IntInLire(compenso);
   StampaRigaOnorario(1, costo + " x " + FormattaCopia(kCompensoIndagini, -2) + " = ",
                      compensoAggiuntivo);
+  Spiega([&]() -> Catena {
+    return {
+        PassoOnorario("Un decimo del costo delle indagini, senza compensi accessori", compenso)};
+  });
 }
 
 void NotaGeo::Chiudi() {
   TotaleGenerale = totaleProgetto + totaleDirezione + compensoAggiuntivo;
-  std::array<double, 3> importi = {totaleProgetto, totaleDirezione, compensoAggiuntivo};
+  std::array<Conto, 3> importi = {totaleProgetto, totaleDirezione, compensoAggiuntivo};
   StampaRiepilogoPrestazioni("GEO", importi);
   ChiudiConCompensi(compensoAggiuntivo);
 }

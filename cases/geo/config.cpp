@@ -57,11 +57,14 @@ class LettoreGeo {
 
 }  // namespace
 
-double TabelleGeo::Percentuale(std::size_t sottoclasse, double lire) const {
+double TabelleGeo::Percentuale(std::size_t sottoclasse, double lire,
+                               Interpolazione* lettura) const {
   std::vector<double> tabella = Y.at(sottoclasse);
   tabella[0] = tabella[1];
   std::size_t i = 0;
   while (i < Passo.size() - 1 && Passo[i] <= lire) ++i;
+  const std::size_t sotto = i == 0 ? 0 : i - 1;
+  if (lettura != nullptr) *lettura = {lire, Passo[sotto], Passo[i], tabella[sotto], tabella[i]};
   if (i == 0) return tabella[0];
   return std::max(0.0, tabella[i - 1] - (tabella[i - 1] - tabella[i]) * (lire - Passo[i - 1]) /
                                             (Passo[i] - Passo[i - 1]));

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "runtime/folder.h"
+#include "tariff/law/readings.h"
 
 namespace orm {
 
@@ -25,7 +26,8 @@ struct TabelleGeo {
 
   // Percent of an amount in Lire above 0; `sottoclasse` from 0 to 3. The first step repeats the
   // second, and the percentage is flat below it; above the last it falls on, but never below 0.
-  double Percentuale(std::size_t sottoclasse, double lire) const;
+  // `lettura` receives the steps, equal where it is flat.
+  double Percentuale(std::size_t sottoclasse, double lire, Interpolazione* lettura = nullptr) const;
 };
 
 // `periodo` 1 to 5, or 0 for names and steps alone. A file that is absent, short, or holds what

@@ -27,8 +27,8 @@ int PeriodoDelCertificato(const std::string& PeriodoMassimo) {
 
 }  // namespace
 
-void NotaPdl::StampaSeNonNullo(std::string_view voce, double importo) {
-  if (importo != 0) StampaLavori(2, voce, importo);
+void NotaPdl::StampaSeNonNullo(std::string_view voce, double importo, std::string_view campo) {
+  if (importo != 0) StampaLavori(2, voce, importo, campo);
 }
 
 void NotaPdl::StampaSpecifica() {
@@ -37,21 +37,21 @@ void NotaPdl::StampaSpecifica() {
     const RigaPdl& r = d.Righe[i];
     if (std::ranges::any_of(ImportiDella(r), [](double x) { return x != 0; }))
       uscita.Line(TitoloLotto(i + 1, r.Classe, r.Categoria));
-    StampaProgettoSpecifica(2, r.ImportoProgetto);
-    StampaSeNonNullo(" - ESPROPRIAZIONI", r.ImportoEspropri);
-    StampaSeNonNullo(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi);
-    StampaSeNonNullo(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie);
-    StampaDirezioneSpecifica(2, d.TipoParcella, r.ImportoDirezione);
+    StampaProgettoSpecifica(2, r.ImportoProgetto, kCampoProgetto);
+    StampaSeNonNullo(" - ESPROPRIAZIONI", r.ImportoEspropri, kCampoEspropri);
+    StampaSeNonNullo(" - LAVORI SUPPLETIVI", r.ImportoSuppletivi, kCampoSuppletivi);
+    StampaSeNonNullo(" - ESPROPRI IN PERIZIA", r.ImportoEsproPerizie, kCampoEsproPerizie);
+    StampaDirezioneSpecifica(2, d.TipoParcella, r.ImportoDirezione, kCampoDirezione);
   }
 }
 
 void NotaPdl::CalcolaCompensi() {
-  double SommaProgetto = 0;
+  Conto SommaProgetto;
   for (const RigaPdl& r : d.Righe) {
-    SommaProgetto += std::fabs(r.ImportoProgetto) + r.ImportoSuppletivi;
+    SommaProgetto += Addendi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
   }
-  CompensiAccessori(ImportoInLire(std::max(SommaProgetto, SommaDirezione)));
+  CompensiSulMaggiore(SommaProgetto, SommaDirezione);
 }
 
 void NotaPdl::CalcolaLotti() {
@@ -66,29 +66,29 @@ void NotaPdl::CalcolaLotti() {
 void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto) {
   const auto righe = std::span(d.Righe).subspan(primaRiga, lotto.PeriodoDelLotto.size());
   const BasiLotto basi = BasiDelLotto(righe, d.TipoParcella);
-  double direzionePrima = 0;
+  Conto direzionePrima;
   for (std::size_t j = 0; j < righe.size(); ++j) {
-    CalcolaRiga(PreparaConto(righe[j], lotto.PeriodoDelLotto[j], basi, direzionePrima),
+    CalcolaRiga(Prepara(righe[j], lotto.PeriodoDelLotto[j], basi, direzionePrima),
                 primaRiga + j + 1);
     if (righe[j].ImportoDirezione > 0) direzionePrima += righe[j].ImportoDirezione;
   }
 }
 
-NotaPdl::Conto NotaPdl::PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
-                                     double direzionePrima) const {
-  Conto conto{riga,
-              Periodo,
-              basi,
-              direzionePrima,
-              PercentualiDellaBase(basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
-              PercentualiDellaBase(basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
+NotaPdl::RigaInCorso NotaPdl::Prepara(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
+                                      const Conto& direzionePrima) const {
+  RigaInCorso conto{riga,
+                    Periodo,
+                    basi,
+                    direzionePrima,
+                    PercentualiDellaBase(basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
+                    PercentualiDellaBase(basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
   conto.fatti = ServiziFatti(riga.TipoPrestazione, riga.Prestazioni);
   TabellaBAliquote(riga.Classe, riga.Categoria, conto.fatti, conto.aliquote, conto.AliquotaProgetto,
                    conto.AliquotaDirezione);
   return conto;
 }
 
-void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numeroRiga) {
+void NotaPdl::CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga) {
   const RigaPdl& riga = conto.riga;
   if (std::ranges::any_of(ImportiDella(riga), [](double x) { return x > 0; })) {
     uscita.Text(TitoloLotto(numeroRiga, riga.Classe, riga.Categoria))
@@ -96,16 +96,18 @@ void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numeroRiga) {
         .Line(NomePeriodoTariffario(conto.Periodo));
     StampaImportiRiga(riga);
     if (riga.ImportoProgetto > 0)
-      StampaPercentuali(kVocePercentualeProgetto, conto.progetto, conto.basi.BaseProgetto);
+      StampaPercentuali(kVocePercentualeProgetto, conto.progetto, conto.basi.BaseProgetto,
+                        "Lavori di progetto ed espropri del lotto");
     if (riga.ImportoDirezione > 0)
-      StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione);
+      StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione,
+                        "Lavori del lotto su cui si prende la percentuale della direzione");
   }
   totali[0] += OnorarioProgetto(conto);
   totali[0] += OnorarioPerizie(conto);
-  const double direzione = OnorarioDirezione(conto);
+  const Conto direzione = OnorarioDirezione(conto);
   totali[1] += direzione;
   const bool sorveglianza = direzione != 0 && riga.FlagSorveglianza != "N";
-  UltimaSorveglianza = sorveglianza ? OnorarioSorveglianza(conto) : 0;
+  UltimaSorveglianza = sorveglianza ? OnorarioSorveglianza(conto) : Conto();
   totali[2] += UltimaSorveglianza;
   if (direzione != 0 && riga.FlagContabilita != "N")
     contemp.push_back({conto.Periodo, riga.CoefficienteContabilita, riga.ImportoDirezione});
@@ -113,17 +115,17 @@ void NotaPdl::CalcolaRiga(const Conto& conto, std::size_t numeroRiga) {
 
 // A design that is left out shows its minus here.
 void NotaPdl::StampaImportiRiga(const RigaPdl& r) {
-  StampaSeNonNullo(" - Lavori di progetto", r.ImportoProgetto);
-  StampaSeNonNullo(" - Espropriazioni", r.ImportoEspropri);
-  StampaSeNonNullo(" - Lavori suppletivi", r.ImportoSuppletivi);
-  StampaSeNonNullo(" - Espropri in perizia", r.ImportoEsproPerizie);
-  StampaDirezioneOnorari(d.TipoParcella, r.ImportoDirezione);
+  StampaSeNonNullo(" - Lavori di progetto", r.ImportoProgetto, kCampoProgetto);
+  StampaSeNonNullo(" - Espropriazioni", r.ImportoEspropri, kCampoEspropri);
+  StampaSeNonNullo(" - Lavori suppletivi", r.ImportoSuppletivi, kCampoSuppletivi);
+  StampaSeNonNullo(" - Espropri in perizia", r.ImportoEsproPerizie, kCampoEsproPerizie);
+  StampaDirezioneOnorari(d.TipoParcella, r.ImportoDirezione, kCampoDirezione);
 }
 
 void NotaPdl::StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
-                                double base) {
+                                const Conto& base, const char* regola) {
   for (const auto& [importo, P] : QuoteDellImporto(percentuali, base))
-    StampaPercentuale(voce, P, importo);
+    StampaPercentuale(voce, P, importo, 33, regola);
 }
 
 void NotaPdl::CalcolaContabilita() { totali[3] = StampaContabilita(); }
@@ -133,11 +135,16 @@ void NotaPdl::CalcolaRevisione() {
   if (totali[3] == 0 || d.Righe.back().FlagRevisione != "S" || d.Righe.back().ImportoDirezione == 0)
     return;
   uscita.Line("CALCOLO COMPENSO REVISIONALE");
-  totali[4] = IntInLire(kRevisionePrezzi * kRevisionePrezziSu * totali[3]);
+  const Conto compenso = Conto(kRevisionePrezzi) * kRevisionePrezziSu * totali[3].Valore();
+  double stampato = IntInLire(compenso);
   StampaRigaOnorario(1,
                      " " + TestoQuota(kRevisionePrezzi) + TestoQuota(kRevisionePrezziSu) +
                          TestoImporto(totali[3]) + " =",
-                     totali[4]);
+                     stampato);
+  Spiega([&]() -> Catena {
+    return {PassoOnorario("Revisione prezzi: 0,20 di 0,75 dell'onorario di contabilità", compenso)};
+  });
+  totali[4] = stampato;
 }
 
 void NotaPdl::CalcolaCertificato() {
@@ -147,8 +154,9 @@ void NotaPdl::CalcolaCertificato() {
 
 void NotaPdl::Chiudi() {
   StampaRiepilogoPrestazioni("PD", totali);
-  for (const double parte : totali) TotaleGenerale += parte;
-  double NonConglobati = 0;
+  for (const Conto& parte : totali)
+    if (parte != 0) TotaleGenerale += parte;
+  Conto NonConglobati;
   if (SommaArticolo18 > 0 && criteri.CompensiSuMaggiorazione == "NO")
     NonConglobati += SommaArticolo18;
   if (UltimaSorveglianza > 0 && criteri.CompensiSuSorveglianza == "NO")

@@ -22,50 +22,62 @@ class NotaPdl : public Parcella {
 
  private:
   // One row of a lot at work.
-  struct Conto {
+  struct RigaInCorso {
     const RigaPdl& riga;
     int Periodo;
     const BasiLotto& basi;
-    double direzionePrima;  // supervision of the lot's rows before this one
+    Conto direzionePrima;  // supervision of the lot's rows before this one
     PercentualiTabellaA progetto, direzione;
     Aliquote fatti{};     // 1 for each service done
     Aliquote aliquote{};  // Table B of the class
-    double AliquotaProgetto = 0, AliquotaDirezione = 0;
+    Conto AliquotaProgetto = {}, AliquotaDirezione = {};
   };
   // What a supervision is paid as: everything together, or each service apart.
   struct VoceDirezione {
     std::string titolo;
-    double aliquota;
+    Conto aliquota;
+    std::size_t primo = 7, ultimo = 10;  // letters
+  };
+
+  // What the slices of an amount are paid for: `regola` and the step of the aliquots.
+  struct Voce {
+    const char* regola;
+    const Conto& aliquota;
+    Passaggio aliquote;
   };
 
   void CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto);
-  Conto PreparaConto(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
-                     double direzionePrima) const;
-  void CalcolaRiga(const Conto& conto, std::size_t numeroRiga);
-  void StampaSeNonNullo(std::string_view voce, double importo);
+  RigaInCorso Prepara(const RigaPdl& riga, int Periodo, const BasiLotto& basi,
+                      const Conto& direzionePrima) const;
+  void CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga);
+  void StampaSeNonNullo(std::string_view voce, double importo, std::string_view campo);
   void StampaImportiRiga(const RigaPdl& riga);
   void StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
-                         double base);
+                         const Conto& base, const char* regola);
 
-  double OnorarioProgetto(const Conto& conto);
-  double OnorarioPerizie(const Conto& conto);
-  double OnorarioPerizia(const Conto& conto, const PeriziaPdl& perizia);
-  double OnorarioPerizia(double aliquota, double importo, const PercentualiTabellaA& percentuali);
-  double OnorarioDirezione(const Conto& conto);
-  std::vector<VoceDirezione> VociDirezione(const Conto& conto) const;
-  double BaseArticolo18(const Conto& conto) const;
-  double OnorarioSorveglianza(const Conto& conto);
-  double StampaQuota(double aliquota, const QuotaImporto& quota);
+  Conto OnorarioProgetto(const RigaInCorso& conto);
+  Conto OnorarioPerizie(const RigaInCorso& conto);
+  Conto OnorarioPerizia(const RigaInCorso& conto, const PeriziaPdl& perizia);
+  Conto OnorarioPerizia(const Voce& voce, const Conto& importo,
+                        const PercentualiTabellaA& percentuali);
+  Conto OnorarioDirezione(const RigaInCorso& conto);
+  std::vector<VoceDirezione> VociDirezione(const RigaInCorso& conto) const;
+  Conto BaseArticolo18(const RigaInCorso& conto) const;
+  Conto OnorarioSorveglianza(const RigaInCorso& conto);
+  double StampaQuota(const Voce& voce, const QuotaImporto& quota);
+  // The aliquots of the services done, by their letters; no step where nobody asks.
+  Passaggio PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
+                          std::size_t ultimo, const Conto& aliquota) const;
   void StampaTitoloArticolo18() { uscita.Line("INCARICO PARZIALE ( art. 18 )"); }
-  double OnorarioArticolo18(double aliquota, const QuotaImporto& quota, bool oltreLimite);
+  double OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite);
 
   const DatiPdl& d;
-  double SommaDirezione = 0;
-  double SommaArticolo18 = 0;
-  double UltimaSorveglianza = 0;  // of the last row alone
+  Conto SommaDirezione;
+  Conto SommaArticolo18;
+  Conto UltimaSorveglianza;  // of the last row alone
   // Design with art. 18 and variations, supervision with art. 18, surveillance, accounting,
   // revision, certificate.
-  std::array<double, 6> totali{};
+  std::array<Conto, 6> totali{};
 };
 
 }  // namespace orm

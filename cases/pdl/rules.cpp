@@ -21,21 +21,28 @@ std::size_t IndiceServizio(char lettera, const char* campo) {
 
 }  // namespace
 
+Conto Addendi(double a, double b) {
+  Conto somma;
+  for (const double addendo : {a, b})
+    if (addendo != 0) somma += addendo;
+  return somma;
+}
+
 BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella) {
   BasiLotto basi;
-  double SommaEspropri = 0, SommaSuppletivi = 0, SommaDirezione = 0;
+  Conto SommaEspropri, SommaSuppletivi, SommaDirezione;
   for (const RigaPdl& r : righe) {
-    basi.BaseProgetto += std::fabs(r.ImportoProgetto) + r.ImportoEspropri;
-    basi.BaseDirezione += std::fabs(r.ImportoProgetto) + r.ImportoSuppletivi;
-    SommaEspropri += r.ImportoEspropri;
-    SommaSuppletivi += r.ImportoSuppletivi;
+    basi.BaseProgetto += Addendi(std::fabs(r.ImportoProgetto), r.ImportoEspropri);
+    basi.BaseDirezione += Addendi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
+    if (r.ImportoEspropri != 0) SommaEspropri += r.ImportoEspropri;
+    if (r.ImportoSuppletivi != 0) SommaSuppletivi += r.ImportoSuppletivi;
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
   }
   const bool menoLavori = SommaDirezione < basi.BaseDirezione;
   const bool piuLavori = SommaDirezione > basi.BaseDirezione;
   if (piuLavori && SommaSuppletivi == 0 && TipoParcella != "SCISSA") {
     basi.EccedenzaLavori = SommaDirezione - basi.BaseDirezione;
-    basi.BaseProgetto = SommaDirezione + SommaEspropri;
+    basi.BaseProgetto = SommaEspropri == 0 ? SommaDirezione : SommaDirezione + SommaEspropri;
   }
   if (piuLavori || (menoLavori && TipoParcella == "CONSUNTIVA") || TipoParcella == "INTERROTTA" ||
       TipoParcella == "SCISSA")

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cases/pdl/data.h"
+#include "runtime/explanation/conto.h"
 #include "tariff/law/tariff_tables.h"
 
 namespace orm {
@@ -13,8 +14,10 @@ namespace orm {
 // The amounts that a lot's percentages are taken on, over all its rows, and by how much the works
 // supervised go beyond the design, where no variation explains it.
 struct BasiLotto {
-  double BaseProgetto = 0, BaseDirezione = 0, EccedenzaLavori = 0;
+  Conto BaseProgetto, BaseDirezione, EccedenzaLavori;
 };
+// Two amounts of a row, without one of 0.
+Conto Addendi(double a, double b);
 BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella);
 
 // 1 for each service done, a to l: all of them with "T". Letters stand at every second character

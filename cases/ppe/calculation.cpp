@@ -1,4 +1,5 @@
 // The fee of expropriation plans: a fixed rate for each unit.
+#include <initializer_list>
 #include <limits>
 
 #include "cases/ppe/data.h"
@@ -6,6 +7,7 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/law/table_expropriation.h"
+#include "tariff/money.h"
 #include "tariff/parcella.h"
 
 namespace orm {
@@ -28,19 +30,21 @@ class NotaPpe : public Parcella {
   const char* Testo(const TariffaPpe& tariffa) const {
     return ModoLire ? tariffa.testoLire : tariffa.testoEuro;
   }
-  double Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const;
+  Conto Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const;
+  Passaggio PassoTariffa(const TariffaPpe& tariffa) const;
   void CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa);
   void CalcolaVerbale();
-  void StampaBlocco(const char* titolo, const std::string& formula, double importo);
+  void StampaBlocco(const char* titolo, const std::string& formula, const Conto& conto,
+                    std::initializer_list<const TariffaPpe*> tariffe);
 
   const DatiPpe& d;
 };
 
 // In Lire a product is one of 32-bit whole numbers, and a greater one a failure; the sums are not.
-double NotaPpe::Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
-  if (!ModoLire) return numero * Tariffa(tariffa);
+Conto NotaPpe::Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
   try {
-    return CheckedProduct32(numero, tariffa.lire);
+    if (ModoLire) CheckedProduct32(numero, tariffa.lire);
+    return Conto(numero) * Tariffa(tariffa);
   } catch (const RuntimeFailure& failure) {
     const int massimo = std::numeric_limits<std::int32_t>::max() / tariffa.lire;
     throw RuntimeFailure(failure.Reason() + "\n" + NumberText(numero) + Testo(tariffa) +
@@ -49,18 +53,26 @@ double NotaPpe::Prodotto(std::int16_t numero, const TariffaPpe& tariffa) const {
 }
 
 void NotaPpe::StampaDati() {
-  const auto riga = [this](const char* etichetta, std::int16_t numero) {
-    if (numero != 0) uscita.Text(etichetta).Bare(numero).EndLine();
+  const auto riga = [this](const char* etichetta, std::int16_t numero, const char* campo) {
+    if (numero == 0) return;
+    uscita.Text(etichetta).Bare(numero).EndLine();
+    spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+      Passaggio passo = PassoDato(campo, numero);
+      passo.cifra = CifraEsatta(numero);
+      return {std::move(passo)};
+    });
   };
   uscita.Line(kRigaDatiParcella);
-  riga("Numero Partite catastali    : ", d.NumPartite);
-  riga("Numero Particelle catastali : ", d.NumParticelle);
+  riga("Numero Partite catastali    : ", d.NumPartite, "Numero PARTITE CATASTALI");
+  riga("Numero Particelle catastali : ", d.NumParticelle, "Numero PARTICELLE CATASTALI");
   if (d.NumParticelleVerbale + d.NumFabbricati != 0) {
     uscita.Line("Redazione verbale di consistenza");
-    riga("relativo a Numero Particelle catastali : ", d.NumParticelleVerbale);
-    riga("relativo a Numero Fabbricati           : ", d.NumFabbricati);
+    riga("relativo a Numero Particelle catastali : ", d.NumParticelleVerbale,
+         "VERBALE DI CONSISTENZA, Numero delle PARTICELLE CATASTALI");
+    riga("relativo a Numero Fabbricati           : ", d.NumFabbricati,
+         "VERBALE DI CONSISTENZA, Numero FABBRICATI");
   }
-  riga("Numero Frazionamenti : ", d.NumFrazionamenti);
+  riga("Numero Frazionamenti : ", d.NumFrazionamenti, "Numero dei FRAZIONAMENTI");
 }
 
 void NotaPpe::CalcolaOnorari() {
@@ -74,7 +86,21 @@ void NotaPpe::CalcolaOnorari() {
 
 void NotaPpe::CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa) {
   if (numero != 0)
-    StampaBlocco(titolo, " n° " + ConSegno(numero) + Testo(tariffa), Prodotto(numero, tariffa));
+    StampaBlocco(titolo, " n° " + ConSegno(numero) + Testo(tariffa), Prodotto(numero, tariffa),
+                 {&tariffa});
+}
+
+// In Euro most rates are those in Lire, brought over to the cent before anything is counted.
+Passaggio NotaPpe::PassoTariffa(const TariffaPpe& tariffa) const {
+  Passaggio passo = PassoImporto("Legge 143/1949, compenso fisso per " + std::string(tariffa.cosa),
+                                 Tariffa(tariffa));
+  if (ModoLire || tariffa.euro != 0) return passo;
+  const Conto cambio = Conto(tariffa.lire) / kLirePerEuro;
+  passo.regola += ", dalle Lire al cambio di 1.936,27";
+  passo.conto = cambio.Testo();
+  passo.risultato = cambio.Valore();
+  passo.tagli = {{TipoTaglio::SullaCifra, 2, cambio.Valore(), Tariffa(tariffa)}};
+  return passo;
 }
 
 void NotaPpe::CalcolaVerbale() {
@@ -84,16 +110,27 @@ void NotaPpe::CalcolaVerbale() {
     if (numero != 0) formula += " +" + ConSegno(numero) + Testo(tariffa);
     return Prodotto(numero, tariffa);
   };
-  double importo = Tariffa(kTariffaVerbale);
+  Conto importo = Tariffa(kTariffaVerbale);
   importo += addendo(d.NumParticelleVerbale, kTariffaParticellaVerbale);
   importo += addendo(d.NumFabbricati, kTariffaFabbricato);
-  StampaBlocco("Onorario per verbale di consistenza ", formula, importo);
+  StampaBlocco("Onorario per verbale di consistenza ", formula, importo,
+               {&kTariffaVerbale, &kTariffaParticellaVerbale, &kTariffaFabbricato});
 }
 
 // The fee of a block: its text, how it comes about, and the amount.
-void NotaPpe::StampaBlocco(const char* titolo, const std::string& formula, double importo) {
+void NotaPpe::StampaBlocco(const char* titolo, const std::string& formula, const Conto& conto,
+                           std::initializer_list<const TariffaPpe*> tariffe) {
   uscita.Line(titolo).Text(formula + " ");
+  double importo = conto;
   StampaImporto(importo);
+  Spiega([&] {
+    Catena catena;
+    for (const TariffaPpe* tariffa : tariffe) catena.push_back(PassoTariffa(*tariffa));
+    catena.push_back(PassoImporto("Numeri dei dati per i compensi fissi", conto));
+    if (tariffe.begin()[0] == &kTariffaPartita && ModoLire)
+      catena.back().note = {"La riga scrive 106.0000, con uno zero di troppo, e conta 106.000"};
+    return catena;
+  });
   TotaleGenerale += importo;
 }
 
@@ -106,7 +143,7 @@ Parcella CalcoloPpe(Parcella parcella, const DatiPpe& dati, double& totale) {
   nota.StampaDati();
   nota.CalcolaOnorari();
   totale = nota.TotaleGenerale;
-  nota.ChiudiParcella(totale, 0);
+  nota.ChiudiParcella(nota.TotaleGenerale, 0);
   return nota;
 }
 

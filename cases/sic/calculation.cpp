@@ -47,7 +47,7 @@ void NotaSic::StampaSpecifica() {
     const Gruppo& g = gruppi[i];
     if (g.SommaProgetto == 0 && g.SommaEseguito == 0) continue;
     uscita.Line(TitoloLotto(i + 1, d.Lotti[k].Classe, d.Lotti[k].Categoria));
-    StampaProgettoSpecifica(5, g.SommaProgetto);
+    StampaProgettoSpecifica(5, g.SommaProgetto, kCampoProgetto);
     if (g.SommaEseguito > 0) StampaLavori(5, " - LAVORI ESEGUITI         ", g.SommaEseguito);
   }
 }

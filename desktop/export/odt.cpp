@@ -86,7 +86,7 @@ std::string OdtOf(const QStringList& lines, const QString& fontFamily) {
   ZipArchive archive;
   archive.Add("mimetype", kMimeType);  // first, as readers look for it there
   archive.Add("content.xml", Content(lines).toStdString());
-  archive.Add("styles.xml", Styles(ColumnsOf(lines), fontFamily).toStdString());
+  archive.Add("styles.xml", Styles(PaperColumns(lines), fontFamily).toStdString());
   archive.Add("META-INF/manifest.xml", kManifest);
   return archive.Finish();
 }

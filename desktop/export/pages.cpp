@@ -1,4 +1,4 @@
-// Pages of fixed columns: the size of the letters, the breaks and the painting.
+// Pages of fixed columns: the size of the letters, the rows, the breaks and the painting.
 #include "desktop/export/pages.h"
 
 #include <QFontDatabase>
@@ -6,6 +6,7 @@
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace orm {
@@ -15,6 +16,7 @@ constexpr qreal kLargestLetters = 11;
 constexpr qreal kSideMargin = 20, kTopMargin = 18, kBottomMargin = 14;  // millimetres
 constexpr int kFooterLines = 2;  // the page number and the room above it
 constexpr int kTab = 8;
+constexpr int kFeeColumn = 55;  // before it: a fee stands from column 56
 
 bool IsSectionTitle(const QString& line) { return line.startsWith(QLatin1String("=====")); }
 bool IsEmpty(const QString& line) { return line.trimmed().isEmpty(); }
@@ -28,15 +30,6 @@ QString WithoutTabs(const QString& line) {
     } else {
       out += c;
     }
-  }
-  return out;
-}
-
-QStringList Folded(const QStringList& lines, int columns) {
-  QStringList out;
-  for (const QString& line : lines) {
-    out += line.left(columns);
-    for (qsizetype at = columns; at < line.size(); at += columns) out += line.mid(at, columns);
   }
   return out;
 }
@@ -83,6 +76,41 @@ int ColumnsOf(const QStringList& lines) {
   return static_cast<int>(std::min<qsizetype>(columns, kMostColumns));
 }
 
+int PaperColumns(const QStringList& lines) {
+  qsizetype columns = kReportColumns;
+  for (const QString& line : lines) {
+    if (IsSectionTitle(line)) return kReportColumns;
+    if (line.size() <= kMostPaperColumns) columns = std::max(columns, line.size());
+  }
+  return static_cast<int>(columns);
+}
+
+QStringList FoldedByWords(const QString& line, int columns) {
+  if (line.size() <= columns) return {line};
+  static const QRegularExpression fee(
+      QStringLiteral("^(.*\\S) +((?:L\\. |€) *-?[\\d.]+(?:,\\d+)?) *$"));
+  const auto found = fee.match(line);
+  QString rest = found.hasMatch() ? found.captured(1) : line;
+  while (rest.endsWith(' ')) rest.chop(1);
+  const auto first = rest.indexOf(QRegularExpression(QStringLiteral("[^ ]")));
+  const QString indent(std::clamp<qsizetype>(first, 0, columns / 2), ' ');
+
+  QStringList rows;
+  while (rest.size() > columns) {
+    auto blank = rest.lastIndexOf(' ', columns);
+    if (blank <= indent.size()) blank = columns;  // one endless word
+    QString row = rest.left(blank);
+    while (row.endsWith(' ')) row.chop(1);
+    rows += row;
+    rest = indent + rest.mid(blank).trimmed();
+  }
+  if (!found.hasMatch()) return rows + QStringList(rest);
+  // The fee keeps its column, on a row of its own where the words come too near.
+  if (rest.size() < kFeeColumn)
+    return rows + QStringList(rest.leftJustified(kFeeColumn) + found.captured(2));
+  return rows + QStringList{rest, QString(kFeeColumn, ' ') + found.captured(2)};
+}
+
 std::vector<QStringList> BreakIntoPages(const QStringList& lines, int linesPerPage) {
   std::vector<QStringList> pages;
   for (int first = 0; first < lines.size();) {
@@ -104,7 +132,9 @@ ReportPages::ReportPages(const QString& text, QPagedPaintDevice& device) {
   const int dpi = device.logicalDpiX();
   area_ = device.pageLayout().paintRectPixels(dpi).size();
   const QStringList lines = VisibleLines(text);
-  const int columns = ColumnsOf(lines);
+  const int columns = PaperColumns(lines);
+  QStringList rows;
+  for (const QString& line : lines) rows += FoldedByWords(line, columns);
 
   const qreal widthAtLargest =
       QFontMetricsF(ReportFont(kLargestLetters), &device).horizontalAdvance('0') * columns;
@@ -113,7 +143,7 @@ ReportPages::ReportPages(const QString& text, QPagedPaintDevice& device) {
   lineHeight_ = metrics.lineSpacing();
   left_ = std::max<qreal>(0, (area_.width() - metrics.horizontalAdvance('0') * columns) / 2);
   const int linesPerPage = static_cast<int>(area_.height() / lineHeight_) - kFooterLines;
-  pages_ = BreakIntoPages(Folded(lines, columns), linesPerPage);
+  pages_ = BreakIntoPages(rows, linesPerPage);
   if (pages_.empty()) pages_.push_back({});
 }
 

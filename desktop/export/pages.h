@@ -11,7 +11,8 @@
 namespace orm {
 
 inline constexpr int kReportColumns = 72;
-inline constexpr int kMostColumns = 100;  // a longer line goes on in the next one
+inline constexpr int kMostColumns = 100;      // of the sheet on the screen
+inline constexpr int kMostPaperColumns = 80;  // of the tables of a check
 
 // DejaVu Sans Mono where it is installed, the system's fixed font otherwise.
 QFont ReportFont(qreal pointSize);
@@ -20,8 +21,18 @@ QFont ReportFont(qreal pointSize);
 // end taken as one.
 QStringList VisibleLines(const QString& text);
 
-// Columns that a page must offer: those of a report, or the longest line up to the most.
+// Columns that the sheet on the screen offers: those of a report, or the longest line up to the
+// most.
 int ColumnsOf(const QStringList& lines);
+
+// Columns of a page on paper, on which longer lines are folded. A fee note has those of a report
+// whatever its texts, so that every note is printed in one size; other texts, which have wider
+// tables, those of their widest line that is no paragraph.
+int PaperColumns(const QStringList& lines);
+
+// The rows on paper of a line: broken between words, with the indent of the line, a fee at its end
+// in its own column.
+QStringList FoldedByWords(const QString& line, int columns);
 
 // Cuts the lines into pages of at most `linesPerPage`. A page does not end in the title of a
 // section, and ends before one or at an empty line where that leaves little room unused.

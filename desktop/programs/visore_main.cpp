@@ -1,4 +1,4 @@
-// orm2002-visore FILE: shows a report as a page of fixed columns.
+// orm2002-visore [FILE]: shows a report as a page of fixed columns; without a name it asks for one.
 //
 //   orm2002-visore --pdf OUT.pdf FILE     writes a copy and shows nothing; no display is needed
 //   orm2002-visore --odt OUT.odt FILE
@@ -6,6 +6,7 @@
 //
 // Exit 0 done; 1 the file cannot be shown or the copy not written; 3 wrong usage.
 #include <QApplication>
+#include <QDir>
 #include <QSettings>
 #include <cstdio>
 #include <map>
@@ -14,6 +15,7 @@
 
 #include "desktop/desktop_app.h"
 #include "desktop/export/export.h"
+#include "desktop/export/subject.h"
 #include "desktop/last_words.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/screen.h"
@@ -67,7 +69,8 @@ int WriteCopy(const Request& request) {
     const QString text = QString::fromStdString(DecodeText(place.Read()).text);
     const FilePlace copy = FilePlace::Of(request.copy);
     RefuseSameFile(place, copy);
-    copy.Replace(CopyOf(kCopies.at(request.copyOption), text, QString::fromStdString(place.name)));
+    const QString title = DocumentTitle(text, QString::fromStdString(place.name));
+    copy.Replace(CopyOf(kCopies.at(request.copyOption), text, title));
     return kDone;
   } catch (RuntimeFailure& failure) {
     Complain(failure.AtFile(request.file).Text());
@@ -96,6 +99,7 @@ int ShowRichText(const std::string& file) {
 int ShowReport(const std::string& file) {
   QSettings habits(QStringLiteral("ORM2002"), QStringLiteral("Visore"));
   ViewerWindow window;
+  window.Recent().KeepIn(habits);
   window.Open(file);
   window.TakeHabits(habits);
   window.show();
@@ -113,6 +117,11 @@ int ShowFile(const std::string& file) {
          QString::fromStdString(failure.Text()));
     return kFailed;
   }
+}
+
+int AskAndShow() {
+  const QString path = AskFileToOpen(nullptr, QDir::currentPath());
+  return path.isEmpty() ? kDone : ShowFile(path.toStdString());
 }
 
 int Run(int argc, char** argv) {
@@ -133,9 +142,8 @@ int Run(int argc, char** argv) {
   }
   DressApplication(application);
   if (request.valid) return ShowFile(request.file);
-  Tell(nullptr, QMessageBox::Information,
-       argc > 1 ? QStringLiteral("Gli argomenti non sono quelli attesi.")
-                : QStringLiteral("Manca il nome del file da mostrare."),
+  if (argc == 1) return AskAndShow();
+  Tell(nullptr, QMessageBox::Information, QStringLiteral("Gli argomenti non sono quelli attesi."),
        QString::fromUtf8(ProgramUsage(kProgram)).trimmed());
   return kWrongUsage;
 }

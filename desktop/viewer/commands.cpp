@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -49,8 +50,33 @@ void CopyMenu(QMenu* file, ViewerWindow& window) {
           [&window] { window.AskCopy(CopyKind::Utf8); });
 }
 
+void RecentMenu(QMenu* file, ViewerWindow& window) {
+  QMenu* recent = file->addMenu(QStringLiteral("Apri recent&i"));
+  recent->setObjectName(QStringLiteral("recent"));
+  recent->setToolTipsVisible(true);
+  QObject::connect(recent, &QMenu::aboutToShow, recent, [recent, &window] {
+    recent->clear();
+    int number = 0;
+    for (const QString& path : window.Recent().Paths()) {
+      const QFileInfo place(path);
+      const QString folder = QFileInfo(place.path()).fileName();
+      QString caption = place.fileName() + QStringLiteral("  -  ") + folder;
+      caption.replace('&', QStringLiteral("&&"));
+      QAction* action = recent->addAction(QStringLiteral("&%1  ").arg(++number % 10) + caption);
+      action->setToolTip(path);
+      QObject::connect(action, &QAction::triggered, &window,
+                       [&window, path] { window.OpenInstead(path); });
+    }
+    if (number == 0) recent->addAction(QStringLiteral("Nessuno"))->setEnabled(false);
+  });
+}
+
 void FileMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
   QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
+  Command(file, "open", QStringLiteral("&Apri..."), {QKeySequence::Open},
+          [&window] { window.AskOpen(); });
+  RecentMenu(file, window);
+  file->addSeparator();
   commands.save = Command(file, "save", QStringLiteral("&Salva"), {QKeySequence::Save},
                           [&window] { window.Save(); });
   Command(file, "saveAs", QStringLiteral("Salva con &nome..."),
@@ -60,11 +86,11 @@ void FileMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
                             [&window] { window.AskReload(); });
   file->addSeparator();
   QAction* preview =
-      Command(file, "preview", QStringLiteral("&Anteprima di stampa..."),
+      Command(file, "preview", QStringLiteral("Ant&eprima di stampa..."),
               {QKeySequence(QStringLiteral("Ctrl+Shift+P"))}, [&window] { window.Preview(); });
   QAction* print = Command(file, "print", QStringLiteral("S&tampa..."), {QKeySequence::Print},
                            [&window] { window.Print(); });
-  QAction* pdf = Command(file, "exportPdf", QStringLiteral("&Esporta PDF..."),
+  QAction* pdf = Command(file, "exportPdf", QStringLiteral("Esporta P&DF..."),
                          {QKeySequence(QStringLiteral("Ctrl+E"))},
                          [&window] { window.AskCopy(CopyKind::Pdf); });
   file->addSeparator();
@@ -120,6 +146,11 @@ void FindMenu(QToolBar* bar, ViewerWindow& window) {
           [&find] { find.Next(); });
   Command(menu, "findPreviousCommand", QStringLiteral("&Precedente"),
           {QKeySequence(QStringLiteral("Shift+F3"))}, [&find] { find.Previous(); });
+  menu->addSeparator();
+  Command(menu, "nextSection", QStringLiteral("Sezione s&eguente"),
+          {QKeySequence(QStringLiteral("Ctrl+PgDown"))}, [&window] { window.GoToSection(false); });
+  Command(menu, "previousSection", QStringLiteral("Sezione p&recedente"),
+          {QKeySequence(QStringLiteral("Ctrl+PgUp"))}, [&window] { window.GoToSection(true); });
   OnToolBar(bar, open, LineIcon::Find, QStringLiteral("Trova"), QStringLiteral("Cerca nel testo"));
 }
 
@@ -140,7 +171,7 @@ void ThemeMenu(QMenu* view, ViewerWindow& window) {
   });
 }
 
-void ViewMenu(QToolBar* bar, ViewerWindow& window) {
+void ViewMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
   QMenu* view = window.menuBar()->addMenu(QStringLiteral("&Visualizza"));
   ViewerPage& page = window.Page();
   QAction* larger =
@@ -152,6 +183,19 @@ void ViewMenu(QToolBar* bar, ViewerWindow& window) {
               [&page] { page.ZoomBy(-1); });
   Command(view, "normal", QStringLiteral("&Dimensione normale"),
           {QKeySequence(QStringLiteral("Ctrl+0"))}, [&page] { page.SetZoom(100); });
+  commands.fit = Command(view, "fit", QStringLiteral("&Adatta alla larghezza"),
+                         {QKeySequence(QStringLiteral("Ctrl+9"))}, [] {});
+  commands.fit->setCheckable(true);
+  QObject::connect(commands.fit, &QAction::toggled, &page, [&page](bool on) {
+    if (page.Fits() != on) page.SetFit(on);
+  });
+  view->addSeparator();
+  commands.sections =
+      Command(view, "showSections", QStringLiteral("&Sezioni"), {Qt::Key_F6}, [] {});
+  commands.sections->setCheckable(true);
+  QObject::connect(commands.sections, &QAction::toggled, &window, [&window](bool on) {
+    if (window.SectionsShown() != on) window.ShowSections(on);
+  });
   view->addSeparator();
   ThemeMenu(view, window);
   bar->addSeparator();
@@ -159,6 +203,12 @@ void ViewMenu(QToolBar* bar, ViewerWindow& window) {
             QStringLiteral("Riduce i caratteri"));
   OnToolBar(bar, larger, LineIcon::Larger, QStringLiteral("Ingrandisci"),
             QStringLiteral("Ingrandisce i caratteri"));
+}
+
+void HelpMenu(ViewerWindow& window) {
+  QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Aiuto"));
+  Command(help, "help", QStringLiteral("&Guida del visore"), {QKeySequence::HelpContents},
+          [&window] { window.ShowHelp(); });
 }
 
 }  // namespace
@@ -175,7 +225,8 @@ ViewerCommands BuildCommands(ViewerWindow& window) {
   FileMenu(bar, window, commands);
   EditMenu(bar, window, commands);
   FindMenu(bar, window);
-  ViewMenu(bar, window);
+  ViewMenu(bar, window, commands);
+  HelpMenu(window);
   return commands;
 }
 

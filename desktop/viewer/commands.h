@@ -16,6 +16,8 @@ struct ViewerCommands {
   QAction* redo = nullptr;
   QAction* cut = nullptr;
   QAction* paste = nullptr;
+  QAction* sections = nullptr;
+  QAction* fit = nullptr;
 };
 
 // Builds menus and tool bar into the window, which lives at least as long.

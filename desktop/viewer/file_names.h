@@ -1,4 +1,4 @@
-// Asking for the name of a file to write.
+// Asking for the name of a file to write or to read.
 #pragma once
 
 #include <QString>
@@ -18,7 +18,10 @@ struct NameQuestion {
 // The path that the person gives, beginning in `folder`; empty when there is none.
 QString AskFileName(QWidget* parent, const QString& folder, const NameQuestion& question);
 
-// The question for a copy of the report called `report`.
-NameQuestion NameOfCopy(CopyKind kind, const QString& report);
+// The path of a file to show; empty when there is none.
+QString AskFileToOpen(QWidget* parent, const QString& folder);
+
+// The question for a copy, which proposes `name` with the ending of its kind.
+NameQuestion NameOfCopy(CopyKind kind, const QString& name);
 
 }  // namespace orm

@@ -7,6 +7,7 @@
 namespace orm {
 
 inline constexpr const char* kViewerName = "ORM2002 Visore";
+inline constexpr int kStatusMilliseconds = 6000;  // of a word in the status bar
 
 // Shows a message with one button.
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {});

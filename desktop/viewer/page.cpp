@@ -46,6 +46,7 @@ void ViewerPage::SetText(const std::string& text) {
   const QString shown = QString::fromStdString(text);
   columns_ = ColumnsOf(VisibleLines(shown));
   setPlainText(shown);
+  if (fits_) FitToWidth();
   PlaceSheet();
 
   const QTextBlock block = document()->findBlockByNumber(std::min(line, blockCount() - 1));
@@ -61,6 +62,23 @@ std::string ViewerPage::Text() const {
 }
 
 void ViewerPage::SetZoom(int percent) {
+  fits_ = false;
+  Enlarge(percent);
+}
+
+void ViewerPage::SetFit(bool on) {
+  fits_ = on;
+  if (on) FitToWidth();
+  if (zoomChanged) zoomChanged();
+}
+
+void ViewerPage::FitToWidth() {
+  int percent = kMostZoom;
+  while (percent > kLeastZoom && SheetWidthAt(percent) > Room()) --percent;
+  if (percent != zoom_) Enlarge(percent);
+}
+
+void ViewerPage::Enlarge(int percent) {
   zoom_ = std::clamp(percent, kLeastZoom, kMostZoom);
   const QFont font = ReportFont(kLetters * zoom_ / 100);
   setFont(font);
@@ -72,14 +90,17 @@ void ViewerPage::SetZoom(int percent) {
 
 void ViewerPage::ZoomBy(int steps) { SetZoom((zoom_ / kZoomStep + steps) * kZoomStep); }
 
-int ViewerPage::SheetWidth() const {
-  const qreal letter = QFontMetricsF(document()->defaultFont()).horizontalAdvance('0');
+int ViewerPage::SheetWidth() const { return SheetWidthAt(zoom_); }
+
+int ViewerPage::SheetWidthAt(int percent) const {
+  const qreal letter = QFontMetricsF(ReportFont(kLetters * percent / 100)).horizontalAdvance('0');
   return static_cast<int>(std::ceil(columns_ * letter)) + 2 * kSheetMargin + 2;
 }
 
+int ViewerPage::Room() const { return width() - verticalScrollBar()->sizeHint().width(); }
+
 void ViewerPage::PlaceSheet() {
-  const int room = width() - verticalScrollBar()->sizeHint().width();
-  const int side = std::max(0, (room - SheetWidth()) / 2);
+  const int side = std::max(0, (Room() - SheetWidth()) / 2);
   const QMargins margins(side, 0, side, 0);
   if (viewportMargins() != margins) setViewportMargins(margins);
   update();
@@ -117,12 +138,18 @@ bool ViewerPage::event(QEvent* event) {
 
 void ViewerPage::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
+  if (fits_) FitToWidth();
   PlaceSheet();
 }
 
 void ViewerPage::changeEvent(QEvent* event) {
   QPlainTextEdit::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) UpdateColours();
+}
+
+// Files are for the window to open.
+bool ViewerPage::canInsertFromMimeData(const QMimeData* source) const {
+  return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
 }
 
 void ViewerPage::insertFromMimeData(const QMimeData* source) {

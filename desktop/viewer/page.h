@@ -20,6 +20,9 @@ class ViewerPage : public QPlainTextEdit {
   int Zoom() const { return zoom_; }  // per cent
   void SetZoom(int percent);
   void ZoomBy(int steps);
+  // While it fits, the zoom follows the width of the window; a zoom that is set ends that.
+  void SetFit(bool on);
+  bool Fits() const { return fits_; }
   std::function<void()> zoomChanged;
 
   // Width of the whole sheet at the present zoom, in pixels.
@@ -30,13 +33,19 @@ class ViewerPage : public QPlainTextEdit {
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   void changeEvent(QEvent* event) override;
 
  private:
   void PlaceSheet();
+  void Enlarge(int percent);
+  int SheetWidthAt(int percent) const;
+  void FitToWidth();
+  int Room() const;
   void UpdateColours();
   int zoom_ = 100;
+  bool fits_ = false;
   int columns_;
 };
 

@@ -1,29 +1,35 @@
-// The window of the report viewer and what it does with its file.
+// The window of the report viewer: its parts, what it shows of its state, and its habits.
 #include "desktop/viewer/window.h"
 
 #include <QAction>
-#include <QCloseEvent>
-#include <QFileInfo>
+#include <QCoreApplication>
 #include <QLabel>
+#include <QProcess>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
+#include <QSplitter>
 #include <QStatusBar>
+#include <QTextBlock>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/export/subject.h"
 #include "desktop/find_bar.h"
 #include "desktop/viewer/messages.h"
-#include "desktop/viewer/notice.h"
 #include "desktop/viewer/page.h"
+#include "desktop/viewer/panels/notice.h"
+#include "desktop/viewer/panels/section_list.h"
 #include "desktop/viewer/print.h"
-#include "runtime/failure.h"
 #include "runtime/text.h"
 
 namespace orm {
 namespace {
 
-constexpr int kMessageMilliseconds = 6000;
-constexpr int kRoomAround = 20;     // pixels that a new window leaves free
+constexpr int kRoomAround = 20;  // pixels that a new window leaves free
+constexpr int kPanelWidth = 220;
+constexpr int kEditPause = 300;     // milliseconds
 constexpr int kLeastReadable = 60;  // per cent: a sheet too wide for the screen shrinks no further
 
 QLabel* StateLabel(ViewerWindow* window, const char* name) {
@@ -42,6 +48,9 @@ ViewerWindow::ViewerWindow()
     : notice_(new NoticeBar),
       page_(new ViewerPage),
       find_(new FindBar(*page_)),
+      sections_(new SectionList),
+      side_(new QSplitter),
+      edited_(new QTimer(this)),
       unsaved_(*page_),
       watch_([this] { LookAtDisk(); }) {
   auto* whole = new QWidget(this);
@@ -49,199 +58,90 @@ ViewerWindow::ViewerWindow()
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(notice_);
-  column->addWidget(page_, 1);
+  side_->addWidget(sections_);
+  side_->addWidget(page_);
+  side_->setStretchFactor(1, 1);
+  side_->setChildrenCollapsible(false);
+  side_->setSizes({kPanelWidth, kPanelWidth * 4});
+  column->addWidget(side_, 1);
   column->addWidget(find_);
   setCentralWidget(whole);
   placeLabel_ = StateLabel(this, "placeLabel");
   modeLabel_ = StateLabel(this, "modeLabel");
   formatLabel_ = StateLabel(this, "formatLabel");
   zoomLabel_ = StateLabel(this, "zoomLabel");
+  sections_->hide();
+  setAcceptDrops(true);
   commands_ = BuildCommands(*this);
 
   connect(page_->document(), &QTextDocument::modificationChanged, this, [this] { ShowState(); });
   connect(page_->document(), &QTextDocument::undoAvailable, this, [this] { ShowState(); });
   connect(page_->document(), &QTextDocument::redoAvailable, this, [this] { ShowState(); });
   connect(page_, &QPlainTextEdit::cursorPositionChanged, this, [this] { ShowState(); });
+  edited_->setSingleShot(true);
+  edited_->setInterval(kEditPause);
+  connect(page_->document(), &QTextDocument::contentsChanged, edited_, qOverload<>(&QTimer::start));
+  connect(edited_, &QTimer::timeout, this, [this] {
+    sections_->Fill(page_->Visible());
+    sections_->Follow(page_->textCursor().blockNumber());
+  });
+  sections_->chosen = [this](int line) { GoToLine(line); };
+  sections_->left = [this] { page_->setFocus(); };
   page_->zoomChanged = [this] { ShowState(); };
   page_->setFocus();
 }
 
 void ViewerWindow::FitToSheet() {
   const QSize room = screen()->availableSize() - QSize(kRoomAround, 0);
-  while (page_->SheetWidth() > room.width() - kRoomAround && page_->Zoom() > kLeastReadable)
+  while (!page_->Fits() && page_->SheetWidth() > room.width() - kRoomAround &&
+         page_->Zoom() > kLeastReadable)
     page_->ZoomBy(-1);
   resize(std::min(page_->SheetWidth() + 100, room.width()), std::min(860, room.height() - 60));
 }
 
-void ViewerWindow::Open(const std::string& path) {
-  const FilePlace place = FilePlace::Of(path);
-  const std::string bytes = place.Read();
-  try {
-    DecodeText(bytes);  // refuses what is no text before anything changes
-  } catch (RuntimeFailure& failure) {
-    throw failure.AtFile(place.name);
-  }
-  place_ = place;
-  Show(bytes);
-  page_->moveCursor(QTextCursor::Start);
-  unsaved_.Follow(place_);
-  SetEditing((editable_ && unsaved_.ComesBack(this)) || !IsReport(place_.name));
-  watch_.Follow(QFileInfo(QString::fromStdString(place_.Path())).absoluteFilePath());
+void ViewerWindow::Print() {
+  PrintReport(page_->Visible(), DocumentTitle(page_->Visible(), Title()), this);
 }
 
-void ViewerWindow::Show(const std::string& bytes) {
-  const DecodedText decoded = DecodeText(bytes);
-  format_ = decoded.format;
-  onDisk_ = bytes;
-  asked_.clear();
-  notice_->hide();
-  page_->SetText(decoded.text);
-  // A text that would not come back byte for byte is only shown.
-  const std::string back = page_->Text();
-  editable_ = !FirstLackingCharacter(back, format_) && EncodeText(back, format_) == bytes;
-  if (!editable_) SetEditing(false);
+void ViewerWindow::Preview() {
+  PreviewReport(page_->Visible(), DocumentTitle(page_->Visible(), Title()), this);
+}
+
+void ViewerWindow::GoToLine(int line) {
+  // Near the top of the window, wherever the line was.
+  page_->verticalScrollBar()->setValue(std::max(0, line - 1));
+  page_->setTextCursor(QTextCursor(page_->document()->findBlockByNumber(line)));
+}
+
+void ViewerWindow::ShowBeside(QWidget& panel, bool on) {
+  const int width = std::max(panel.width(), kPanelWidth) + side_->handleWidth();
+  if (on == panel.isHidden() && !isMaximized() && !isFullScreen()) {
+    // The page keeps its room as far as the screen goes.
+    const int most = screen()->availableSize().width() - kRoomAround;
+    const int wanted = on ? std::min(size().width() + width, std::max(most, size().width()))
+                          : std::max(size().width() - width, minimumSizeHint().width());
+    resize(wanted, height());
+  }
+  panel.setVisible(on);
+  (on ? panel : *page_).setFocus();
   ShowState();
 }
 
-bool ViewerWindow::RefusedForEncoding() {
-  const auto lacking = FirstLackingCharacter(page_->Text(), format_);
-  if (!lacking) return false;
-  const QString text =
-      QStringLiteral(
-          "Il carattere «%1» della riga %2 non esiste nella codifica Windows-1252 del file.")
-          .arg(QString::fromStdString(lacking->character))
-          .arg(lacking->line);
-  const QString detail = QStringLiteral(
-      "Il file non è stato salvato e le modifiche restano nella finestra. Si può togliere il "
-      "carattere, oppure salvare una copia in UTF-8.");
-  if (Choose(this, text, detail,
-             {QStringLiteral("Salva copia &UTF-8..."), QStringLiteral("&Annulla")}) == 0)
-    AskCopy(CopyKind::Utf8);
-  return true;
+void ViewerWindow::ShowSections(bool on) { ShowBeside(*sections_, on); }
+
+bool ViewerWindow::SectionsShown() const { return !sections_->isHidden(); }
+
+void ViewerWindow::GoToSection(bool backward) {
+  const int line = sections_->LineBeyond(page_->textCursor().blockNumber(), backward);
+  if (line >= 0) GoToLine(line);
 }
 
-bool ViewerWindow::WriteTo(const FilePlace& place) {
-  if (RefusedForEncoding()) return false;
-  try {
-    const std::string bytes = EncodeText(page_->Text(), format_);
-    CheckOpensAgain(bytes, format_);
-    place.Replace(bytes);
-    onDisk_ = bytes;
-  } catch (const RuntimeFailure& failure) {
-    Tell(this, QMessageBox::Warning, QStringLiteral("Il file non è stato salvato."),
-         QString::fromStdString(failure.Text()) +
-             QStringLiteral("\n\nLe modifiche restano nella finestra."));
-    return false;
-  }
-  asked_.clear();
-  notice_->hide();
-  page_->document()->setModified(false);
-  statusBar()->showMessage(QStringLiteral("Salvato."), kMessageMilliseconds);
-  if (const std::string why = place.folder.TakeWarning(); !why.empty())
-    Tell(this, QMessageBox::Information,
-         QStringLiteral("Il file è salvato, ma quello di prima non è nella cartella storico."),
-         QString::fromStdString(why));
-  return true;
+void ViewerWindow::ShowHelp() {
+  const QString guide = QCoreApplication::applicationDirPath() + QStringLiteral("/orm2002-guida");
+  if (!QProcess::startDetached(guide, {QStringLiteral("manuale/visore.md")}))
+    Tell(this, QMessageBox::Warning, QStringLiteral("La guida non può essere mostrata."),
+         QStringLiteral("Manca il programma ") + guide);
 }
-
-bool ViewerWindow::Save() {
-  std::string now;
-  try {
-    now = place_.Read();
-  } catch (const RuntimeFailure&) {
-    now = onDisk_;  // gone or unreadable: writing it anew tells what there is to tell
-  }
-  if (now != onDisk_ &&
-      Choose(this, QStringLiteral("Il file è stato cambiato da un altro programma."),
-             QStringLiteral("Salvando, quello che è stato scritto nel frattempo andrebbe perduto."),
-             {QStringLiteral("&Sovrascrivi"), QStringLiteral("&Annulla")}, 1) != 0)
-    return false;
-  return WriteTo(place_);
-}
-
-bool ViewerWindow::SaveAs(const std::string& path) {
-  const FilePlace place = FilePlace::Of(path);
-  if (!WriteTo(place)) return false;
-  unsaved_.Forget();
-  place_ = place;
-  unsaved_.Follow(place_);
-  watch_.Follow(QFileInfo(QString::fromStdString(place_.Path())).absoluteFilePath());
-  ShowState();
-  return true;
-}
-
-bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path) {
-  try {
-    const FilePlace copy = FilePlace::Of(path);
-    RefuseSameFile(place_, copy);
-    copy.Replace(CopyOf(kind, page_->Visible(), Title()));
-  } catch (const RuntimeFailure& failure) {
-    Tell(this, QMessageBox::Warning, QStringLiteral("La copia non è stata salvata."),
-         QString::fromStdString(failure.Text()));
-    return false;
-  }
-  statusBar()->showMessage(QStringLiteral("Copia salvata: ") + QString::fromStdString(path),
-                           kMessageMilliseconds);
-  return true;
-}
-
-bool ViewerWindow::AskSaveAs() {
-  const QString path =
-      AskName({QStringLiteral("Salva con nome"), QStringLiteral("Tutti i file (*)"), {}, Title()});
-  return !path.isEmpty() && SaveAs(path.toStdString());
-}
-
-bool ViewerWindow::AskCopy(CopyKind kind) {
-  const QString path = AskName(NameOfCopy(kind, Title()));
-  return !path.isEmpty() && SaveCopy(kind, path.toStdString());
-}
-
-QString ViewerWindow::AskName(const NameQuestion& question) {
-  return AskFileName(this, QString::fromStdString(place_.folder.Path()), question);
-}
-
-void ViewerWindow::AskReload() {
-  if (page_->document()->isModified() &&
-      Choose(this, QStringLiteral("Il documento ha modifiche non salvate."),
-             QStringLiteral("Ricaricando il file dal disco andrebbero perdute."),
-             {QStringLiteral("&Ricarica"), QStringLiteral("&Annulla")}) != 0)
-    return;
-  try {
-    Show(place_.Read());
-    statusBar()->showMessage(QStringLiteral("Ricaricato."), kMessageMilliseconds);
-  } catch (const RuntimeFailure& failure) {
-    Tell(this, QMessageBox::Warning, QStringLiteral("Il file non può essere ricaricato."),
-         QString::fromStdString(failure.Text()));
-  }
-}
-
-void ViewerWindow::LookAtDisk() {
-  try {
-    const std::string now = place_.Read();
-    if (now == onDisk_ || now == asked_) return;
-    DecodeText(now);
-    if (!page_->document()->isModified()) {
-      Show(now);
-      statusBar()->showMessage(QStringLiteral("Aggiornato: il file è stato riscritto."),
-                               kMessageMilliseconds);
-      return;
-    }
-    asked_ = now;
-    notice_->Ask(
-        QStringLiteral("Il file è stato riscritto, forse da un nuovo calcolo, mentre qui ci "
-                       "sono modifiche non salvate."),
-        {QStringLiteral("&Ricarica dal disco"), QStringLiteral("&Tieni le modifiche")},
-        [this, now](int choice) {
-          if (choice == 0) return Show(now);
-          onDisk_ = now;  // known now: saving may replace it
-        });
-  } catch (const RuntimeFailure& failure) {
-    statusBar()->showMessage(QString::fromStdString(failure.Reason()), kMessageMilliseconds);
-  }
-}
-
-void ViewerWindow::Print() { PrintReport(page_->Visible(), Title(), this); }
-void ViewerWindow::Preview() { PreviewReport(page_->Visible(), Title(), this); }
 
 bool ViewerWindow::Editing() const { return !page_->isReadOnly(); }
 
@@ -270,7 +170,11 @@ void ViewerWindow::ShowState() {
   commands_.undo->setEnabled(Editing() && page_->document()->isUndoAvailable());
   commands_.redo->setEnabled(Editing() && page_->document()->isRedoAvailable());
 
+  commands_.sections->setChecked(SectionsShown());
+  commands_.fit->setChecked(page_->Fits());
+
   const QTextCursor cursor = page_->textCursor();
+  sections_->Follow(cursor.blockNumber());
   placeLabel_->setText(QStringLiteral("Riga %1, colonna %2")
                            .arg(cursor.blockNumber() + 1)
                            .arg(cursor.positionInBlock() + 1));
@@ -281,26 +185,22 @@ void ViewerWindow::ShowState() {
   zoomLabel_->setText(QStringLiteral("%1 %").arg(page_->Zoom()));
 }
 
-void ViewerWindow::closeEvent(QCloseEvent* event) {
-  if (!page_->document()->isModified()) return event->accept();
-  const int choice = Choose(
-      this, QStringLiteral("Salvare le modifiche a %1?").arg(Title()),
-      QStringLiteral("Senza salvarle andrebbero perdute."),
-      {QStringLiteral("&Salva"), QStringLiteral("&Non salvare"), QStringLiteral("&Annulla")});
-  const bool leave = choice == 1 || (choice == 0 && Save());
-  if (leave) unsaved_.Forget();
-  event->setAccepted(leave);
-}
-
 void ViewerWindow::TakeHabits(const QSettings& settings) {
   page_->SetZoom(settings.value(QStringLiteral("zoom"), 100).toInt());
+  sections_->setVisible(settings.value(QStringLiteral("sections")).toBool());
+  side_->restoreState(settings.value(QStringLiteral("side")).toByteArray());
   const int theme = settings.value(QStringLiteral("theme"), 0).toInt();
   if (theme == 1 || theme == 2) SetTheme(static_cast<Theme>(theme));
   if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray())) FitToSheet();
+  page_->SetFit(settings.value(QStringLiteral("fit")).toBool());
+  ShowState();
 }
 
 void ViewerWindow::KeepHabits(QSettings& settings) const {
   settings.setValue(QStringLiteral("zoom"), page_->Zoom());
+  settings.setValue(QStringLiteral("fit"), page_->Fits());
+  settings.setValue(QStringLiteral("sections"), SectionsShown());
+  settings.setValue(QStringLiteral("side"), side_->saveState());
   settings.setValue(QStringLiteral("theme"), static_cast<int>(theme_));
   settings.setValue(QStringLiteral("geometry"), saveGeometry());
 }

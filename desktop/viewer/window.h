@@ -7,17 +7,21 @@
 #include "desktop/viewer/commands.h"
 #include "desktop/viewer/file.h"
 #include "desktop/viewer/file_names.h"
+#include "desktop/viewer/recent.h"
 #include "desktop/viewer/theme.h"
 #include "desktop/viewer/unsaved.h"
 #include "desktop/viewer/watch.h"
 
 class QLabel;
 class QSettings;
+class QSplitter;
+class QTimer;
 
 namespace orm {
 
 class FindBar;
 class NoticeBar;
+class SectionList;
 class ViewerPage;
 
 // A report made by the program, to be read: it opens closed to editing.
@@ -30,6 +34,11 @@ class ViewerWindow : public QMainWindow {
   // Reads and shows a file. A file that cannot be read or is no text is a RuntimeFailure, and the
   // window stays as it was.
   void Open(const std::string& path);
+  // The same in the place of what is shown, which may have to be saved first; a refused file is
+  // told. A rich text comes up in a window of its own.
+  void OpenInstead(const QString& path);
+  void AskOpen();
+  RecentFiles& Recent() { return recent_; }
 
   // Save the text in the encoding of the file. False when it was not saved: the reason has been
   // shown and the edits stay.
@@ -52,6 +61,13 @@ class ViewerWindow : public QMainWindow {
   void SetTheme(Theme theme);
   Theme CurrentTheme() const { return theme_; }
 
+  // The list of sections beside the page, and the way from one heading to another.
+  void ShowSections(bool on);
+  bool SectionsShown() const;
+  void GoToSection(bool backward);
+
+  void ShowHelp();
+
   ViewerPage& Page() { return *page_; }
   FindBar& Find() { return *find_; }
   const TextFormat& Format() const { return format_; }
@@ -65,9 +81,15 @@ class ViewerWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void Show(const std::string& bytes);
+  void FollowFile();
+  void GoToLine(int line);
+  void ShowBeside(QWidget& panel, bool on);
+  bool MayLeave();
   bool WriteTo(const FilePlace& place);
   bool RefusedForEncoding();
   void LookAtDisk();
@@ -78,10 +100,14 @@ class ViewerWindow : public QMainWindow {
   NoticeBar* notice_;
   ViewerPage* page_;
   FindBar* find_;
+  SectionList* sections_;
+  QSplitter* side_;
+  QTimer* edited_;  // a moment after the last of a row of edits
   QLabel *placeLabel_, *modeLabel_, *formatLabel_, *zoomLabel_;
   ViewerCommands commands_;
   FilePlace place_;
   UnsavedText unsaved_;
+  RecentFiles recent_;
   TextFormat format_;
   std::string onDisk_;  // the bytes that the text comes from
   std::string asked_;   // the newer bytes that the notice bar asks about

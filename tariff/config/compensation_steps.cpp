@@ -45,14 +45,17 @@ std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder) {
 
 }  // namespace
 
-double ScaglioniCompensi::PercCompensiAccessoriCfg(double importo) const {
+double ScaglioniCompensi::PercCompensiAccessoriCfg(double importo, Interpolazione* lettura) const {
   const std::vector<Scaglione> scaglioni = LeggiScaglioni(folder_);
   if (importo == 0) return 0;
   std::size_t i = 0;
   while (i < scaglioni.size() && importo > scaglioni[i].importo) ++i;
-  if (i == 0) return scaglioni.front().percentuale;
-  if (i == scaglioni.size()) return scaglioni.back().percentuale;
-  const Scaglione &sotto = scaglioni[i - 1], &sopra = scaglioni[i];
+  const bool fuori = i == 0 || i == scaglioni.size();
+  const Scaglione& sopra = scaglioni[i == scaglioni.size() ? i - 1 : i];
+  const Scaglione& sotto = fuori ? sopra : scaglioni[i - 1];
+  if (lettura != nullptr)
+    *lettura = {importo, sotto.importo, sopra.importo, sotto.percentuale, sopra.percentuale};
+  if (fuori) return sopra.percentuale;
   return sotto.percentuale - (sotto.percentuale - sopra.percentuale) * (importo - sotto.importo) /
                                  (sopra.importo - sotto.importo);
 }

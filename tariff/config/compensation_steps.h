@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "runtime/folder.h"
+#include "tariff/law/readings.h"
 
 namespace orm {
 
@@ -17,8 +18,8 @@ class ScaglioniCompensi {
 
   // Percentage at an amount in Lire. Between two steps it is interpolated, beyond either end it
   // stays; an amount of 0 gives 0. A file that is absent, short, has another count or amounts that
-  // fall is a RuntimeFailure.
-  double PercCompensiAccessoriCfg(double importo) const;
+  // fall is a RuntimeFailure. `lettura` receives the two steps; at either end both are that one.
+  double PercCompensiAccessoriCfg(double importo, Interpolazione* lettura = nullptr) const;
 
  private:
   WorkFolder folder_;

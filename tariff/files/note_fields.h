@@ -1,60 +1,65 @@
-// The data file of a note as the list of its fields by their names: for what is not one of the
-// files itself.
+// The files of a note for who does not know its case: their fields as a list, and a file out of
+// fields from elsewhere.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include "runtime/failure.h"
 #include "tariff/files/closing_line.h"
+#include "tariff/files/field_list.h"
 
 namespace orm {
 
-struct CampoLetto {
-  enum class Tipo { Testo, Numero, Importo, Conto, Booleano };
-  std::string nome;
-  Tipo tipo = Tipo::Testo;
-  std::string testo;  // of a text
-  double numero = 0;  // of all others; a Boolean is 0 or 1
+// A kind of file by its description. What cannot be read or made is a RuntimeFailure.
+struct CampiDelFile {
+  std::vector<CampoLetto> (*leggi)(DataReader& file);
+  void (*scrivi)(FieldSource& campi, DataWriter& file);
+
+  // The fields of a file of the folder.
+  std::vector<CampoLetto> operator()(const WorkFolder& folder, const std::string& nome) const {
+    return Leggi(nome, folder.Read(nome));
+  }
+  std::vector<CampoLetto> Leggi(const std::string& nome, std::string_view bytes) const {
+    DataReader file = DataReader::OfBytes(nome, bytes);
+    try {
+      return leggi(file);
+    } catch (RuntimeFailure& failure) {
+      throw failure.AtFile(nome);  // one of the case's own checks does not know it
+    }
+  }
 };
 
-// An archive that passes over the description of a file.
-class FieldList {
- public:
-  template <class... F>
-  void Line(F... fields) {
-    (Take(fields), ...);
-  }
-  const std::vector<CampoLetto>& All() const { return all_; }
-
- private:
-  using Tipo = CampoLetto::Tipo;
-  void Take(Field<std::string> field) { all_.push_back({field.name, Tipo::Testo, field.value, 0}); }
-  void Take(Field<bool> field) {
-    all_.push_back({field.name, Tipo::Booleano, {}, field.value ? 1.0 : 0.0});
-  }
-  void Take(MoneyField field) { Add(field, Tipo::Importo); }
-  void Take(CountField field) { Add(field, Tipo::Conto); }
-  template <class T>
-  void Take(Field<T> field) {
-    Add(field, Tipo::Numero);
-  }
-  template <class F>
-  void Add(const F& field, Tipo tipo) {
-    all_.push_back({field.name, tipo, {}, static_cast<double>(field.value)});
-  }
-  std::vector<CampoLetto> all_;
-};
-
-// The body of the case, then the closing line. A file that cannot be read is a RuntimeFailure.
+// Of a file that holds one record.
 template <class Dati>
-std::vector<CampoLetto> LeggiCampi(const WorkFolder& folder, const std::string& nomeFile) {
-  Dati dati;
+inline constexpr CampiDelFile kCampi = {[](DataReader& file) {
+                                          Dati dati;
+                                          Campi(file, dati);
+                                          file.ExpectEnd();
+                                          FieldList elenco;
+                                          Campi(elenco, dati);
+                                          return elenco.All();
+                                        },
+                                        [](FieldSource& campi, DataWriter& file) {
+                                          Dati dati;
+                                          Campi(campi, dati);
+                                          Campi(file, dati);
+                                        }};
+
+// The body of a case, then the closing line.
+template <class Dati>
+struct CorpoEChiusura {
+  Dati corpo;
   Chiusura chiusura;
-  LeggiFileDati(folder, nomeFile, dati, chiusura);
-  FieldList campi;
-  Campi(campi, dati);
-  CampiChiusura(campi, chiusura);
-  return campi.All();
+};
+
+template <class Archive, class Dati>
+void Campi(Archive& file, CorpoEChiusura<Dati>& nota) {
+  Campi(file, nota.corpo);
+  CampiChiusura(file, nota.chiusura);
 }
+
+template <class Dati>
+inline constexpr CampiDelFile kCampiNota = kCampi<CorpoEChiusura<Dati>>;
 
 }  // namespace orm

@@ -17,16 +17,17 @@ double Limite(std::size_t fascia, bool modoLire) {
   return modoLire ? kLimitiTabellaELire[fascia - 1] : kLimitiTabellaEEuro[fascia - 1];
 }
 
-double Aliquota(std::size_t fascia, int periodo) {
+Conto Aliquota(std::size_t fascia, int periodo) {
   if (periodo < 1 || periodo > kPeriodo1987) periodo = kPeriodo1987;
   const DecretoTariffario& decreto = kDecreti[static_cast<std::size_t>(periodo - 1)];
-  return kAliquoteTabellaE[fascia - 1] *
+  return Conto(kAliquoteTabellaE[fascia - 1]) *
          (fascia > kLimiti ? decreto.coefficienteOltre : decreto.coefficiente);
 }
 
-FasciaContabilita Calcola(std::size_t fascia, const RigaContabilita& riga, double parte) {
-  const double aliquota = Aliquota(fascia, riga.periodo);
-  return {aliquota, riga.coefficiente, parte, parte * aliquota * riga.coefficiente / 100};
+FasciaContabilita Calcola(std::size_t fascia, const RigaContabilita& riga, const Conto& parte) {
+  const Conto aliquota = Aliquota(fascia, riga.periodo);
+  return {aliquota, riga.coefficiente, parte, parte * aliquota * riga.coefficiente / 100,
+          fascia,   riga.periodo};
 }
 
 }  // namespace
@@ -35,10 +36,10 @@ OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita
                                                bool modoLire) {
   OnorarioContabilita esito;
   std::size_t chiuse = 0;  // bands filled so far
-  double usata = 0;        // part of the current band that earlier rows have taken
-  const auto aggiungi = [&](std::size_t fascia, const RigaContabilita& riga, double parte) {
+  Conto usata = 0;         // part of the current band that earlier rows have taken
+  const auto aggiungi = [&](std::size_t fascia, const RigaContabilita& riga, const Conto& parte) {
     esito.fasce.push_back(Calcola(fascia, riga, parte));
-    esito.onorario += esito.fasce.back().onorario;
+    esito.onorario += esito.fasce.back().onorario.Valore();
   };
 
   for (const RigaContabilita& riga : righe) {
@@ -48,14 +49,14 @@ OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita
       if (esito.importo >= Limite(n, modoLire)) ++raggiunte;
 
     for (std::size_t n = chiuse + 1; n <= raggiunte; ++n) {
-      const double parte = Limite(n, modoLire) - Limite(n - 1, modoLire) - usata;
+      const Conto parte = Conto(Limite(n, modoLire)) - Limite(n - 1, modoLire) - usata;
       if (!(parte > 0)) continue;
       aggiungi(n, riga, parte);
       usata = 0;
     }
     chiuse = raggiunte;
 
-    const double resto = esito.importo - Limite(chiuse, modoLire) - usata;
+    const Conto resto = esito.importo - Limite(chiuse, modoLire) - usata;
     if (!(resto > 0)) continue;
     aggiungi(chiuse + 1, riga, resto);
     usata = esito.importo - Limite(chiuse, modoLire);

@@ -1,7 +1,10 @@
 // Measurement and accounting of works: the progressive scale of Table E.
 #pragma once
 
+#include <cstddef>
 #include <vector>
+
+#include "runtime/explanation/conto.h"
 
 namespace orm {
 
@@ -9,19 +12,21 @@ namespace orm {
 struct RigaContabilita {
   int periodo = 5;  // 1 to 5; any other counts as 5
   double coefficiente = 1;
-  double importo = 0;  // in the currency of the note
+  Conto importo;  // in the currency of the note
 };
 
 // The part of a row's amount that lies in one band, and its fee.
 struct FasciaContabilita {
-  double aliquota = 0;  // percent, of the row's period
+  Conto aliquota;  // percent, of the row's period
   double coefficiente = 1;
-  double parte = 0;
-  double onorario = 0;  // neither cut nor rounded
+  Conto parte;
+  Conto onorario;          // neither cut nor rounded
+  std::size_t fascia = 1;  // 1 to 6
+  int periodo = 5;
 };
 
 struct OnorarioContabilita {
-  double importo = 0, onorario = 0;  // sums over the rows; the fee is not rounded
+  Conto importo, onorario;  // sums over the rows; the fee is not rounded
   std::vector<FasciaContabilita> fasce;
 };
 

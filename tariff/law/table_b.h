@@ -15,6 +15,17 @@ namespace orm {
 
 inline constexpr std::string_view kLettereTabellaB = "abcdefghil";
 inline constexpr std::size_t kServiziProgettoTabellaB = 6;
+inline constexpr std::array<const char*, 10> kPrestazioniTabellaB = {
+    "progetto di massima",
+    "preventivo sommario",
+    "progetto esecutivo",
+    "preventivo particolareggiato",
+    "particolari costruttivi e decorativi",
+    "capitolati e contratti",
+    "direzione dei lavori",
+    "prove d'officina",
+    "assistenza al collaudo",
+    "liquidazione"};
 
 struct RigaTabellaB {
   std::string_view chiave;  // works, as in class_rows.h

@@ -16,13 +16,20 @@ struct TariffaPpe {
   double euro;  // 0: the Lire through LireInEuro
   const char* testoLire;
   const char* testoEuro;
+  const char* cosa;  // what it pays
 };
 
-inline constexpr TariffaPpe kTariffaPartita{106000, 0, " x 106.0000", " x 54,74"};
-inline constexpr TariffaPpe kTariffaParticella{40000, 0, " x 40.000", " x 20,66"};
-inline constexpr TariffaPpe kTariffaVerbale{139000, 0, "139.000", "71,79"};
-inline constexpr TariffaPpe kTariffaParticellaVerbale{29000, 14.98, "x29.000", "x 14,98"};
-inline constexpr TariffaPpe kTariffaFabbricato{149000, 0, "x149.000", "x 76,95"};
-inline constexpr TariffaPpe kTariffaFrazionamento{1800000, 0, " x 1.800.000", " x 929,62"};
+inline constexpr TariffaPpe kTariffaPartita{106000, 0, " x 106.0000", " x 54,74",
+                                            "ogni partita catastale"};
+inline constexpr TariffaPpe kTariffaParticella{40000, 0, " x 40.000", " x 20,66",
+                                               "ogni particella catastale"};
+inline constexpr TariffaPpe kTariffaVerbale{139000, 0, "139.000", "71,79",
+                                            "il verbale di consistenza, quota fissa"};
+inline constexpr TariffaPpe kTariffaParticellaVerbale{29000, 14.98, "x29.000", "x 14,98",
+                                                      "il verbale, per ogni particella"};
+inline constexpr TariffaPpe kTariffaFabbricato{149000, 0, "x149.000", "x 76,95",
+                                               "il verbale, per ogni fabbricato"};
+inline constexpr TariffaPpe kTariffaFrazionamento{1800000, 0, " x 1.800.000", " x 929,62",
+                                                  "ogni frazionamento"};
 
 }  // namespace orm

@@ -79,30 +79,36 @@ std::optional<double> ImportoSullaCurva(double x, bool classe5) {
 }  // namespace
 
 void PercentualeTabellaA(double& importo, int periodo, std::string_view classe,
-                         std::string_view categoria, double& percentuale) {
+                         std::string_view categoria, double& percentuale, LetturaTabella* lettura) {
   importo = std::fabs(importo);
   const double x = importo;
   const Passi<30> X = ImportiTabellaA();
   const Passi<30> T = PercentualiTabellaA(classe, categoria);
   const std::size_t i = PassoDi(X, x);
-  if (i == 30) {
+  const bool ultima = i == 30;
+  if (ultima) {
     percentuale = ProdottoFinoA(periodo, &DecretoTariffario::aumentoOltre) * T[30];
-    return;
+  } else {
+    const double c = ProdottoFinoA(periodo, &DecretoTariffario::aumento);
+    const double da = T[i - 1] * c, a = T[i] * c;
+    percentuale = da - (da - a) * (x - X[i - 1]) / (X[i] - X[i - 1]);
   }
-  const double c = ProdottoFinoA(periodo, &DecretoTariffario::aumento);
-  const double da = T[i - 1] * c, a = T[i] * c;
-  percentuale = da - (da - a) * (x - X[i - 1]) / (X[i] - X[i - 1]);
+  if (lettura != nullptr)
+    *lettura = {{x, X[i - 1], X[i], T[i - 1], T[i]}, ultima, ultima, percentuale};
 }
 
 void PercentualeTabellaNuova(double& importo, std::string_view classe, std::string_view categoria,
-                             double& percentuale) {
+                             double& percentuale, LetturaCurva* lettura) {
   importo = std::fabs(importo);
   const auto X = ImportoSullaCurva(importo, classe == "5");
   const auto* curva = RigaPer(kTabellaNuova, classe, categoria);
-  if (X && curva) percentuale = std::pow(10, curva->p) * std::pow(*X, curva->b) + curva->q;
+  if (!X || !curva) return;
+  percentuale = std::pow(10, curva->p) * std::pow(*X, curva->b) + curva->q;
+  if (lettura != nullptr) *lettura = {*X, curva->b, curva->p, curva->q, true, percentuale};
 }
 
-void PercentualeTabellaContabilita(int periodo, double importo, double& percentuale) {
+void PercentualeTabellaContabilita(int periodo, double importo, double& percentuale,
+                                   LetturaTabella* lettura) {
   if (importo == 0) {
     percentuale = 0;
     return;
@@ -115,16 +121,34 @@ void PercentualeTabellaContabilita(int periodo, double importo, double& percentu
   const bool entro = importo <= kLimiteTabellaA + 1 || periodo < kPeriodo1987;
   percentuale = p * ProdottoFinoA(periodo, entro ? &DecretoTariffario::aumento
                                                  : &DecretoTariffario::aumentoOltre);
+  if (lettura != nullptr)
+    *lettura = {{importo, X[i - 1], X[i], T[i - 1], T[i]}, i == 21, !entro, percentuale};
+}
+
+Conto AumentiFinoA(int periodo, bool oltre) {
+  Conto prodotto(1);
+  bool primo = true;
+  for (std::size_t i = 0; i < kDecreti.size() && static_cast<int>(i) < periodo; ++i) {
+    const double aumento = oltre ? kDecreti[i].aumentoOltre : kDecreti[i].aumento;
+    if (aumento == 1) continue;
+    if (primo)
+      prodotto = aumento;
+    else
+      prodotto *= aumento;
+    primo = false;
+  }
+  return prodotto;
 }
 
 void TabellaBAliquote(std::string_view classe, std::string_view categoria,
-                      const Aliquote& selezione, Aliquote& aliquote, double& sommaProgettazione,
-                      double& sommaDirezione) {
+                      const Aliquote& selezione, Aliquote& aliquote, Conto& sommaProgettazione,
+                      Conto& sommaDirezione) {
   if (const RigaTabellaB* riga = RigaPer(kTabellaB, classe, categoria))
     std::ranges::copy(riga->aliquote, aliquote.begin() + 1);
   const auto somma = [&](std::size_t primo, std::size_t ultimo) {
-    double totale = 0;
-    for (std::size_t i = primo; i <= ultimo; ++i) totale += selezione[i] * aliquote[i];
+    Conto totale;
+    for (std::size_t i = primo; i <= ultimo; ++i)
+      if (const double quota = selezione[i] * aliquote[i]; quota != 0) totale += quota;
     return totale;
   };
   sommaProgettazione = somma(1, kServiziProgettoTabellaB);
@@ -160,6 +184,11 @@ double AliquotaRevisioneCalcoli(std::string_view classe, std::string_view catego
 std::string NomePeriodoTariffario(int periodo) {
   if (periodo < 1 || periodo > static_cast<int>(kDecreti.size())) return "D.M. xx-yyyyy-zzzz";
   return std::string(kDecreti[static_cast<std::size_t>(periodo - 1)].nome);
+}
+
+std::string SiglaDecreto(int periodo) {
+  if (periodo < 1 || periodo > static_cast<int>(kDecreti.size())) return "";
+  return std::string(kDecreti[static_cast<std::size_t>(periodo - 1)].sigla);
 }
 
 std::string NomePeriodoTariffarioEsteso(int periodo) {

@@ -11,30 +11,40 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/explanation/conto.h"
+#include "tariff/law/readings.h"
+
 namespace orm {
 
 // Table A by linear interpolation between its steps. `importo` becomes its absolute value. A class
 // or category without a row gives 0, and so does period 6. An amount of 0 has no step below it: a
-// RuntimeFailure.
+// RuntimeFailure. `lettura`, here and below, receives what was found.
 void PercentualeTabellaA(double& importo, int periodo, std::string_view classe,
-                         std::string_view categoria, double& percentuale);
+                         std::string_view categoria, double& percentuale,
+                         LetturaTabella* lettura = nullptr);
 
 // The curve of D.M. 4-4-2001. `importo` becomes its absolute value. An unknown class or category,
 // and an amount in the Lira above 50 or above 1,000 million, leave `percentuale` as it was.
 void PercentualeTabellaNuova(double& importo, std::string_view classe, std::string_view categoria,
-                             double& percentuale);
+                             double& percentuale, LetturaCurva* lettura = nullptr);
 
 // Table C, of accounting and testing. 0 gives 0; an amount below 0 is a RuntimeFailure.
-void PercentualeTabellaContabilita(int periodo, double importo, double& percentuale);
+void PercentualeTabellaContabilita(int periodo, double importo, double& percentuale,
+                                   LetturaTabella* lettura = nullptr);
+
+// The rises of the decrees up to a period's one, as they are multiplied, up to the end of the
+// tables or beyond it; those of 1 are left out.
+Conto AumentiFinoA(int periodo, bool oltre);
 
 // Ten values, one for each letter from a to l, with the indices 1 to 10; element 0 is not used.
 using Aliquote = std::array<double, 11>;
 
 // Table B: the row of the class, and the sums of selezione[i] * aliquote[i] of the design (1 to 6)
-// and of the supervision (7 to 10). An unknown class leaves `aliquote` as they were.
+// and of the supervision (7 to 10), without those of 0. An unknown class leaves `aliquote` as they
+// were.
 void TabellaBAliquote(std::string_view classe, std::string_view categoria,
-                      const Aliquote& selezione, Aliquote& aliquote, double& sommaProgettazione,
-                      double& sommaDirezione);
+                      const Aliquote& selezione, Aliquote& aliquote, Conto& sommaProgettazione,
+                      Conto& sommaDirezione);
 
 // The aliquot of one letter of Table B; 0 where it has no row.
 double AliquotaTabellaB(std::string_view classe, std::string_view categoria, char lettera);
@@ -52,6 +62,8 @@ std::optional<std::size_t> ColonnaTabelle2001(std::string_view classe, std::stri
 // "D.M. 25-febbraio-1965", and the same with the dates of validity.
 std::string NomePeriodoTariffario(int periodo);
 std::string NomePeriodoTariffarioEsteso(int periodo);
+// "D.M. 11-6-1987".
+std::string SiglaDecreto(int periodo);
 
 // Classes "5" and "8" have no categories.
 bool SenzaCategorie(std::string_view classe);

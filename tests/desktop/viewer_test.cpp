@@ -2,16 +2,21 @@
 // has the columns of the report.
 #include <QAction>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <random>
 
 #include "desktop/export/export.h"
 #include "desktop/export/pages.h"
+#include "desktop/export/subject.h"
 #include "desktop/export/zip.h"
 #include "desktop/find_bar.h"
 #include "desktop/italian_captions.h"
@@ -340,6 +345,131 @@ TEST(ViewerPages, BreaksAtSectionsAndKeepsEveryLine) {
     }
     EXPECT_EQ(all, lines);
   }
+}
+
+// A fee note is printed in one size whatever its texts; an overlong line is folded between words,
+// its fee in its column. The tables of a check keep their rows.
+TEST(ViewerPages, FoldsOverlongLinesByWords) {
+  const QString fee = "L.     28.808.156";
+  const QString text = QString("Strada di circonvallazione ").repeated(9).trimmed();
+  EXPECT_EQ(PaperColumns({text, QString(72, '=')}), 72);
+  EXPECT_EQ(PaperColumns({text, QString(80, 'x')}), 80);
+  EXPECT_EQ(FoldedByWords(text, 72).join(' '), text);
+  for (const QString& row : FoldedByWords(text, 72)) EXPECT_LE(row.size(), 72);
+  const std::pair<QString, QStringList> cases[] = {
+      {QString(72, 'x'), {QString(72, 'x')}},
+      {QString(100, 'x'), {QString(72, 'x'), QString(28, 'x')}},
+      {"  0,25 x " + QString(60, '1') + " x 1,4027 = " + fee,
+       {"  0,25 x " + QString(60, '1') + " x", QString("  1,4027 =").leftJustified(55) + fee}},
+      {QString(60, '1') + " " + fee, {QString(60, '1'), QString(55, ' ') + fee}},
+  };
+  for (const auto& [line, rows] : cases) EXPECT_EQ(FoldedByWords(line, 72), rows);
+}
+
+// Name and title of a copy: "SUBJECT - CASE", fit for a file on any system.
+TEST(ViewerExport, CopiesAreNamedByTheirSubject) {
+  const auto note = [](const QString& subject) {
+    return "              PARCELLA\ndovute da : Ente\ndi bonifica\nall' Ingegnere A B\n"
+           "per le prestazioni di rilievo relative a :\n" +
+           subject + "\nDelibera\n==== DATI ====\n";
+  };
+  const std::pair<QString, QString> cases[] = {
+      {"Strada \"Serre\", tronco 2°", "Strada Serre, tronco 2° - PPE_E"},
+      {" ../a/b: c* ", "a-b- c - PPE_E"},
+      {"", "OUT_PPE_E"},
+      {"?.", "OUT_PPE_E"},
+      {QString("parola ").repeated(30), QString("parola ").repeated(8).trimmed() + " - PPE_E"},
+  };
+  for (const auto& [subject, name] : cases)
+    EXPECT_EQ(NameBySubject(note(subject), "OUT_PPE_E.DOC").toStdString(), name.toStdString());
+  EXPECT_EQ(DocumentTitle(note("Ponte: 2"), "OUT_PPE.DOC"), "Ponte: 2");
+  EXPECT_EQ(DocumentTitle("lettera\n", "OUT_LET.DOC"), "OUT_LET.DOC");
+}
+
+// By keys alone: another file, the sections, the width of the window, the help.
+TEST_F(ViewerTest, OpensGoesAndFitsByKeys) {
+  std::string report = kReport;
+  for (int i = 0; i < 300; ++i) report += "\r\n";
+  Write("A.DOC", report + "== CARICHI ==\r\n1 - CLASSE I/c\r\n");
+  Write("B.txt", "uno\r\n");
+  QSettings settings(folder_.filePath("visore.ini"), QSettings::IniFormat);
+  ViewerWindow window;
+  window.Recent().KeepIn(settings);
+  window.Open(PathOf("A.DOC"));
+  window.show();
+  const auto key = [&window](Qt::Key pressed, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window, pressed,
+                    with);
+  };
+  const auto line = [&window] { return window.Page().textCursor().blockNumber(); };
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  key(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(line(), 1);
+  key(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(line(), 306);
+  key(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(line(), 1);
+  key(Qt::Key_F6);
+  auto* sections = window.findChild<QListWidget*>("sections");
+  ASSERT_TRUE(sections->isVisible() && sections->hasFocus());
+  EXPECT_EQ(sections->count(), 3);
+  EXPECT_EQ(sections->currentItem()->text(), "ONORARI E COMPENSI");
+  key(Qt::Key_End);
+  EXPECT_EQ(line(), 307);
+  key(Qt::Key_Return);
+  EXPECT_TRUE(window.Page().hasFocus());
+
+  key(Qt::Key_9, Qt::ControlModifier);
+  const int before = window.Page().Zoom();
+  EXPECT_TRUE(window.Page().Fits());
+  window.resize(window.width() + 300, window.height());
+  QCoreApplication::processEvents();
+  EXPECT_GT(window.Page().Zoom(), before);
+  EXPECT_EQ(window.Page().horizontalScrollBar()->maximum(), 0);
+  key(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_FALSE(window.Page().Fits());
+
+  {
+    Person person(0, QString::fromStdString(PathOf("B.txt")));
+    key(Qt::Key_O, Qt::ControlModifier);
+  }
+  EXPECT_EQ(window.Page().Text(), "uno\n");
+  QTest::keyClicks(&window.Page(), "x");
+  {
+    Person person("Annulla");  // what is written is not left unasked
+    window.OpenInstead(QString::fromStdString(PathOf("A.DOC")));
+    EXPECT_EQ(window.Page().Text(), "xuno\n");
+  }
+  ASSERT_TRUE(window.Save());
+  const QStringList both = {folder_.filePath("B.txt"), folder_.filePath("A.DOC")};
+  EXPECT_EQ(window.Recent().Paths(), both);
+  QFile::remove(folder_.filePath("A.DOC"));
+  Person person("Chiudi");
+  window.OpenInstead(QString::fromStdString(PathOf("A.DOC")));
+  EXPECT_EQ(window.Page().Text(), "xuno\n");
+  EXPECT_EQ(window.Recent().Paths(), both.mid(0, 1));  // a file that has gone goes from the list
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  key(Qt::Key_F1);
+  EXPECT_TRUE(person.Said().contains("orm2002-guida"));  // which is not beside the tests
+}
+
+TEST_F(ViewerTest, OpensADroppedFile) {
+  Write("A.DOC", kReport);
+  Write("B.txt", "uno\r\n");
+  ViewerWindow window;
+  window.Open(PathOf("A.DOC"));
+  window.SetEditing(true);
+  QMimeData dragged;
+  dragged.setUrls({QUrl::fromLocalFile(folder_.filePath("B.txt"))});
+  const auto send = [&dragged](QWidget* to, auto event) {
+    QApplication::sendEvent(to, &event);
+    return event.isAccepted();
+  };
+  QWidget* page = window.Page().viewport();
+  EXPECT_TRUE(send(page, QDragEnterEvent({9, 9}, Qt::CopyAction, &dragged, Qt::LeftButton, {})));
+  send(page, QDropEvent({9, 9}, Qt::CopyAction, &dragged, Qt::LeftButton, {}));
+  EXPECT_EQ(window.Page().Text(), "uno\n");
 }
 
 TEST_F(ViewerTest, PdfKeepsTheColumns) {

@@ -29,6 +29,7 @@ Formats TableFormats();  // tables kept by the user
 Formats NoteFormats();   // data of the fee cases
 Formats SavedFormats();  // what stands beside the data
 Formats JobFormats();    // what the desk reads of others
+Formats JsonFormats();   // a note for other programs
 
 inline void Require(bool held, std::string_view law) {
   if (held) return;

@@ -12,8 +12,8 @@ std::function<void(std::string_view)> check;
 extern "C" int LLVMFuzzerInitialize(int* count, char*** words) {
   using namespace orm::fuzz;
   Require(*count > 1, "uso: fuzz_dati FORMATO [ALTRO...]");
-  for (const Formats& formats :
-       {TextFormats(), FileFormats(), TableFormats(), NoteFormats(), SavedFormats(), JobFormats()})
+  for (const Formats& formats : {TextFormats(), FileFormats(), TableFormats(), NoteFormats(),
+                                 SavedFormats(), JobFormats(), JsonFormats()})
     for (const Format& format : formats)
       if (format.name == (*words)[1]) check = format.check;
   Require(check != nullptr, "il formato è conosciuto");

@@ -13,7 +13,7 @@ class BloccoContabilita : public NoteTest {
     nota.CalcoloMisureContabilita(onorario, testo);
   }
 
-  double onorario = 0;
+  Conto onorario;
   std::string testo;
 };
 

@@ -242,7 +242,7 @@ TEST_F(FinalAccount, PrintedLinesAddUpToPrintedTotals) {
 
 TEST_F(FinalAccount, SummaryLeavesOutZerosAndCutsTheOthers) {
   nota.ModoLire = false;
-  std::array<double, 6> importi = {1000.999, 0, 20.5, 3, 0, 4.009};
+  std::array<Conto, 6> importi = {1000.999, 0, 20.5, 3, 0, 4.009};
   nota.StampaRiepilogoPrestazioni("PD", importi);
   // clang-format off
   EXPECT_EQ(Report(), Page(R"(

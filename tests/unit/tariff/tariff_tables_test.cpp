@@ -151,7 +151,7 @@ TEST(TableB, EveryRowAddsUpToOne) {
     for (const char* categoria : {"a", "b", "c", "d", "e", "f", "g"}) {
       if (classe == '7' && categoria[0] > 'c') continue;
       Aliquote aliquote{};
-      double progettazione = 0, direzione = 0;
+      Conto progettazione, direzione;
       TabellaBAliquote(std::string(1, classe), categoria, tutte, aliquote, progettazione,
                        direzione);
       EXPECT_NEAR(progettazione + direzione, 1, 1e-12) << classe << categoria;
@@ -162,7 +162,7 @@ TEST(TableB, EveryRowAddsUpToOne) {
 TEST(TableB, SumsWhatIsChosen) {
   Aliquote scelte{}, aliquote{};
   scelte[1] = scelte[3] = scelte[8] = 1;
-  double progettazione = 5, direzione = 5;
+  Conto progettazione = 5, direzione = 5;
   TabellaBAliquote("5", "", scelte, aliquote, progettazione, direzione);
   EXPECT_DOUBLE_EQ(progettazione, 0.42);
   EXPECT_DOUBLE_EQ(direzione, 0.12);

@@ -1,5 +1,5 @@
 // Amounts in Italian words.
-#include "tariff/amount_in_words.h"
+#include "tariff/closing/amount_in_words.h"
 
 #include <array>
 #include <string_view>

@@ -1,0 +1,76 @@
+// Explanations as paragraphs that can be pasted.
+#include <cmath>
+
+#include "runtime/explanation/explanation.h"
+
+namespace orm {
+namespace {
+
+// A number with at least the decimals that its cut asks for.
+std::string Tagliata(const Taglio& taglio) {
+  std::string testo = CifraEsatta(taglio.dopo);
+  if (taglio.tipo != TipoTaglio::Decimali || taglio.decimali >= 0) return testo;
+  std::string intera = CifraADecimali(taglio.dopo, -taglio.decimali);
+  return intera.size() > testo.size() ? intera : testo;
+}
+
+std::string InDecimali(int decimali) {
+  const int n = std::abs(decimali);
+  return n == 0 ? "all'unità" : n == 1 ? "a un decimale" : "a " + CifraEsatta(n) + " decimali";
+}
+
+std::string FraseTaglio(const Taglio& taglio) {
+  switch (taglio.tipo) {
+    case TipoTaglio::ParteIntera:
+      return "Se ne prende la parte intera";
+    case TipoTaglio::Decimali:
+      return "Si taglia " + InDecimali(taglio.decimali);
+    case TipoTaglio::Arrotonda:
+      return "Si arrotonda " + InDecimali(taglio.decimali);
+    default:
+      return "Si arrotonda " + InDecimali(taglio.decimali) + ", guardando la sola cifra che segue";
+  }
+}
+
+// A cut that found nothing to take is not told.
+std::string TestoTaglio(const Taglio& taglio) {
+  if (taglio.prima == taglio.dopo) return "";
+  const std::string scarto = CadeNelTaglio(taglio);
+  return " " + FraseTaglio(taglio) + ": " + Tagliata(taglio) +
+         (scarto.starts_with('-') ? " (si aggiunge " + scarto.substr(1) : " (cade " + scarto) +
+         ").";
+}
+
+std::string TestoPasso(const Passaggio& passo) {
+  std::string testo = passo.regola;
+  if (passo.risultato) {
+    testo += ": ";
+    if (!passo.conto.empty()) testo += passo.conto + " = ";
+    testo += CifraEsatta(*passo.risultato);
+    if (!passo.unita.empty()) testo += " " + passo.unita;
+  }
+  testo += ".";
+  for (const Taglio& taglio : passo.tagli) testo += TestoTaglio(taglio);
+  for (const std::string& nota : passo.note) testo += " " + nota + ".";
+  return testo;
+}
+
+}  // namespace
+
+std::string TestoSpiegazione(const Spiegazione& spiegazione) {
+  std::string testo = "Riga " + CifraEsatta(static_cast<double>(spiegazione.riga)) + ": " +
+                      spiegazione.testo + "\n";
+  int numero = 0;
+  for (const Passaggio& passo : spiegazione.passi)
+    testo += "  " + CifraEsatta(++numero) + ". " + TestoPasso(passo) + "\n";
+  return testo;
+}
+
+std::string TestoSpiegazioni(const std::vector<Spiegazione>& righe) {
+  std::string testo;
+  for (const Spiegazione& spiegazione : righe)
+    testo += (testo.empty() ? "" : "\n") + TestoSpiegazione(spiegazione);
+  return testo;
+}
+
+}  // namespace orm

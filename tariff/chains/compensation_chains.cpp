@@ -1,0 +1,73 @@
+#include "tariff/chains/compensation_chains.h"
+
+#include "tariff/chains/percentage_chains.h"
+#include "tariff/law/table_compensations.h"
+
+namespace orm {
+namespace {
+
+Passaggio PassoPercentuale(const std::string& regola, double percentuale) {
+  return {"Compensi accessori conglobati (art. 13). " + regola, "", percentuale, "%"};
+}
+
+std::string ImportoDi(double lire) { return "L'importo dei lavori è di L. " + CifraEsatta(lire); }
+
+}  // namespace
+
+Passaggio PassoScaglioniCompensi(const Interpolazione& l, double percentuale) {
+  Passaggio passo = PassoPercentuale(
+      "Criterio \"CALCOLATA  secondo FILE PERSONALIZZATO\", scaglioni di CAC.CFG. " +
+          ImportoDi(l.x),
+      percentuale);
+  if (l.x0 == l.x1) {
+    passo.regola += ", fuori dagli scaglioni: vale la percentuale dell'ultimo incontrato, L. " +
+                    CifraEsatta(l.x0);
+    return passo;
+  }
+  passo.regola += ", tra L. " + CifraEsatta(l.x0) + " (" + CifraEsatta(l.y0) + " %) e L. " +
+                  CifraEsatta(l.x1) + " (" + CifraEsatta(l.y1) +
+                  " %); tra i due si interpola in linea retta";
+  passo.conto = ContoInterpolazione(l);
+  return passo;
+}
+
+Passaggio PassoCompensi2001(double lire, double percentuale) {
+  const Compensi2001& tratto = kCompensi2001Lire;
+  Passaggio passo = PassoPercentuale(
+      "Criterio \"CALCOLATA secondo D.M. 4-4-01\". " + ImportoDi(lire), percentuale);
+  if (lire <= tratto.fino) {
+    passo.regola += ": fino a L. " + CifraEsatta(tratto.fino) + " la percentuale è la massima";
+  } else if (lire > tratto.a) {
+    passo.regola += ": oltre L. " + CifraEsatta(tratto.a) + " la percentuale è la minima";
+  } else if (lire < tratto.da) {
+    passo.regola += ", in nessuno dei due tratti del decreto";
+  } else {
+    passo.regola += ": da L. " + CifraEsatta(tratto.da) + " a L. " + CifraEsatta(tratto.a) +
+                    " la percentuale cala in linea retta";
+    passo.conto = ScriviConto("{} - ({} - {}) x ({} - {}) / ({} - {})",
+                              {kCompensiMassimi2001, kCompensiMassimi2001, kCompensiMinimi2001,
+                               lire, tratto.da, tratto.a, tratto.da});
+  }
+  return passo;
+}
+
+Passaggio PassoCompensiAssegnati(double percentuale) {
+  return PassoPercentuale("Criterio \"ASSEGNATA per CONVENZIONE\"", percentuale);
+}
+
+Passaggio PassoCompensiCalabria(double lire, std::string_view residenza, double percentuale) {
+  const std::string dove = residenza == "FUORIREGIONE" ? "Fuori Regione"
+                           : residenza == "OLTRE100KM" ? "Oltre 100 Km"
+                                                       : "Entro 100 Km";
+  return PassoPercentuale(
+      "Criterio della Regione Calabria per i collaudi, residenza del collaudatore \"" + dove +
+          "\". " + ImportoDi(lire),
+      percentuale);
+}
+
+Passaggio PassoCoefficiente(double percentuale, double coefficiente) {
+  return {"Coefficiente che aggiunge i compensi accessori all'onorario",
+          ScriviConto("{} / 100 + 1", {percentuale}), coefficiente};
+}
+
+}  // namespace orm

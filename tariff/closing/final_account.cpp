@@ -1,0 +1,164 @@
+// Totals, reduction, advances and signature.
+#include "tariff/closing/final_account.h"
+
+#include "runtime/numbers.h"
+#include "tariff/money.h"
+#include "tariff/report.h"
+
+namespace orm {
+namespace {
+
+constexpr int kDecimaliEuro = -2;
+// Signatures are centred over a name that ends before this column.
+constexpr int kFineFirma = 64;
+
+}  // namespace
+
+std::string Percento(double valore) { return FormattaCopia(valore, 2) + "% "; }
+
+void ContoFinale::StampaTotali(const Conto& onorari, const Conto& compensi) {
+  Onorari = nota.IntInLire(onorari);
+  Compensi = nota.IntInLire(compensi);
+  const Conto somma = Conto(Onorari) + Compensi;
+  Totale = somma;
+  stampa.Line(kRigaTotali);
+  stampa.Text("TOTALE (Onorari e Compensi)");
+  Importo(Totale);
+  nota.Spiega([&] {
+    Catena catena = prima;
+    catena.push_back(nota.PassoOnorario("Onorari della parcella", onorari));
+    catena.push_back(nota.PassoOnorario("Compensi accessori della parcella", compensi));
+    catena.push_back(nota.PassoImporto("Onorari e compensi", somma));
+    return catena;
+  });
+}
+
+Conto ContoFinale::BaseRiduzione() const {
+  switch (nota.chiusura.ApplicazioneRiduzione) {
+    case 1:
+      return Conto(Onorari) + Compensi;
+    case 2:
+      return Onorari;
+    case 3:
+      return Compensi;
+    default:
+      return 0;
+  }
+}
+
+void ContoFinale::Riduci() {
+  const Chiusura& patti = nota.chiusura;
+  if (patti.PercDiRiduzione == 0) return;
+  if (patti.TipoRiduzione.empty()) {
+    stampa.Text("Rid. del " + Percento(patti.PercDiRiduzione) + "Art.4 comma 12bis L. 155/89");
+  } else {
+    stampa.Tab(3).Text("Riduzione concordata del").Bare(patti.PercDiRiduzione).Text("%");
+  }
+  if (patti.ApplicazioneRiduzione == 2) stampa.Text(" sugli Onorari");
+  if (patti.ApplicazioneRiduzione == 3) stampa.Text(" sui Compensi");
+  const Conto prodotto = BaseRiduzione() * patti.PercDiRiduzione / 100;
+  double Riduzione = prodotto;
+  Importo(Riduzione);
+  nota.Spiega([&]() -> Catena {
+    const char* regola =
+        patti.TipoRiduzione.empty()
+            ? "Riduzione dell'art. 4, comma 12bis, L. 155/89, in percento di ciò su cui si applica"
+            : "Riduzione concordata, in percento di ciò su cui si applica";
+    return {nota.PassoDato("Percentuale di Riduzione", patti.PercDiRiduzione),
+            nota.PassoImporto(regola, prodotto)};
+  });
+  const Conto ridotto = Conto(Totale) - Riduzione;
+  Totale = ridotto;
+  stampa.Text("TOTALE RIDOTTO");
+  Importo(Totale);
+  Spiega("Totale meno la riduzione", ridotto);
+}
+
+void ContoFinale::Detrai() {
+  double Acconti = nota.chiusura.Acconti;
+  if (Acconti == 0) return;
+  stampa.Text("a detrarre ACCONTI");
+  Importo(Acconti);
+  nota.Spiega(
+      [&]() -> Catena { return {nota.PassoDato("Acconti ricevuti", nota.chiusura.Acconti)}; });
+  netto = Conto(Totale) - Acconti;
+  Totale = netto;
+}
+
+// From here on the account is in Euro, a note in Lire too, though under its own symbol.
+void ContoFinale::StampaNetto() {
+  stampa.Text(kVoceNetto);
+  if (nota.chiusura.Acconti == 0) netto = Totale;
+  Importo(Totale);
+  Spiega("Competenze: il totale, meno la riduzione e gli acconti che ci sono", netto);
+  DecimaliValuta = kDecimaliEuro;
+  if (!nota.ModoLire) return;
+  const Conto cambio = Conto(Totale) / kLirePerEuro;
+  const double euro = Totale = LireInEuro(Totale);
+  const std::string testo = FormattaNumero(Totale, DecimaliValuta);
+  const int inizio = static_cast<int>(kLarghezzaParcella - Characters(testo)) + 1;
+  stampa.Text(kVoceNettoInEuro).Tab(inizio);
+  nota.SegnaImporto(TipoImporto::Onorari, true);
+  stampa.Line(testo);
+  nota.spiegazioni.Riga(stampa.Contents(), [&]() -> Catena {
+    return {{"In Euro, al cambio fisso di 1.936,27 Lire (regolamento CE 2866/98)",
+             cambio.Testo(),
+             cambio.Valore(),
+             "Euro",
+             {{TipoTaglio::SullaCifra, 2, cambio.Valore(), euro},
+              {TipoTaglio::Decimali, DecimaliValuta, euro, Totale}},
+             {"Da qui in poi il conto è in Euro"},
+             testo}};
+  });
+}
+
+void ContoFinale::StampaFirma(std::string_view ruolo, const std::string& nome) {
+  const auto lunghezza = static_cast<int>(Characters(nome));
+  const auto avanzo = lunghezza - static_cast<int>(Characters(ruolo));
+  const int inizio = kFineFirma - lunghezza;
+  stampa.Tab(inizio + static_cast<int>(Int(avanzo / 2.0))).Line(ruolo);
+  stampa.Tab(inizio).Line(nome);
+}
+
+void ContoFinale::Firma() {
+  stampa.Tab(kColonnaImporto).Line(std::string(17, '='));
+  if (!luogoEData.empty()) stampa.Line(luogoEData);
+  StampaFirma("IL  PROFESSIONISTA", Titolo + utente.Nome);
+}
+
+void Parcella::ChiudiParcella(const Conto& onorari, const Conto& compensi, const Catena& prima) {
+  ContoFinale conto(*this, prima);
+  conto.StampaTotali(onorari, compensi);
+  conto.Riduci();
+  conto.Detrai();
+  conto.StampaNetto();
+  conto.Firma();
+  if (conto.Negativo()) return;
+  conto.CalcolaTassaParere();
+  conto.StampaSpeseAggiuntive();
+  conto.StampaParere();
+}
+
+void Parcella::ChiudiConCompensi(const Conto& NonConglobati) {
+  const double totale = TotaleGenerale;
+  Conto senza;
+  if (Coefficiente != 0)
+    senza = NonConglobati == 0 ? Conto(totale) / Coefficiente
+                               : (Conto(totale) - NonConglobati) / Coefficiente;
+  if (NonConglobati != 0) senza += NonConglobati;
+  const double onorari = IntInLire(senza);
+  Catena prima;
+  if (spiegazioni.Attive()) {
+    prima = {PassoImporto("Somma di tutti gli onorari, che contengono i compensi accessori",
+                          TotaleGenerale),
+             PassoOnorario("Senza i compensi accessori: la somma divisa per il loro coefficiente",
+                           senza)};
+    if (NonConglobati != 0)
+      prima.back().regola += "; ne sta fuori ciò che non li porta, e si riaggiunge";
+    if (Coefficiente == 0)
+      prima.back().Annota("Il coefficiente è 0: non c'è nulla da dividere");
+  }
+  ChiudiParcella(onorari, Conto(totale) - onorari, prima);
+}
+
+}  // namespace orm

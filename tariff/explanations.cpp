@@ -1,0 +1,108 @@
+// How the figures of a note came about: what all its lines share.
+#include "tariff/explanations.h"
+
+#include <cmath>
+
+#include "runtime/numbers.h"
+#include "tariff/money.h"
+#include "tariff/parcella.h"
+#include "tariff/percentages.h"
+
+namespace orm {
+namespace {
+
+// A number that lies a hair below a whole one, beyond the digits that anybody sees.
+bool MancaUnSoffio(double valore) {
+  const auto visto = ParseNumber(NumberText(valore));
+  return visto && Int(*visto) > Int(valore);
+}
+
+}  // namespace
+
+void AnnotaTaglio(const Taglio& taglio, std::vector<std::string>& note) {
+  if (taglio.tipo != TipoTaglio::Decimali) return;
+  if (std::fabs(taglio.dopo) > std::fabs(taglio.prima))
+    note.push_back("Una coda di nove è uno scarto del calcolo e vale l'unità che le manca");
+  if (taglio.decimali != 0 && taglio.prima != 0 &&
+      std::fabs(taglio.dopo) < 0.1 / std::pow(10, std::abs(taglio.decimali)))
+    note.push_back("Tutte le cifre cadono, ma resta una coda che non è zero");
+}
+
+Passaggio Mostrato(Passaggio passo, int decimali, const std::string& dopo) {
+  Taglio taglio{TipoTaglio::Decimali, decimali, passo.Valore().value_or(0), 0};
+  taglio.dopo = taglio.prima;
+  passo.cifra = FormattaNumero(taglio.dopo, decimali) + dopo;
+  passo.tagli.push_back(taglio);
+  return passo;
+}
+
+Passaggio Parcella::PassoDato(std::string_view campo, double valore) const {
+  return {"Dai dati della parcella, \"" + std::string(campo) + "\"", "", valore};
+}
+
+Passaggio Parcella::PassoImporto(std::string regola, const Conto& conto) const {
+  return {std::move(regola), conto.Semplice() ? "" : conto.Testo(), conto.Valore(),
+          ModoLire ? "Lire" : "Euro"};
+}
+
+Passaggio Parcella::PassoOnorario(std::string regola, const Conto& conto) const {
+  Passaggio passo = PassoImporto(std::move(regola), conto);
+  if (!ModoLire) return passo;
+  passo.tagli.push_back({TipoTaglio::ParteIntera, 0, conto.Valore(), Int(conto.Valore())});
+  if (MancaUnSoffio(conto.Valore()))
+    passo.Annota(
+        "Il conto in numeri binari resta un soffio sotto l'intero che mostra, e la "
+        "parte intera è quella che viene prima");
+  return passo;
+}
+
+Catena Parcella::CatenaInLire(double importo) const {
+  if (ModoLire || importo == 0) return {};
+  const Conto conto = Conto(importo) * kLirePerEuro;
+  return {{"Importo in Lire, al cambio fisso di 1.936,27 Lire per Euro (regolamento CE 2866/98)",
+           conto.Testo(),
+           conto.Valore(),
+           "Lire",
+           {{TipoTaglio::SullaCifra, 0, conto.Valore(), ImportoInLire(importo)}}}};
+}
+
+Catena Parcella::CatenaInValuta(double lire) const {
+  if (ModoLire) return {PassoImporto("Importo dei lavori", lire)};
+  const Conto conto = Conto(lire) / kLirePerEuro;
+  return {{"Di nuovo in Euro, dalle Lire intere",
+           conto.Testo(),
+           conto.Valore(),
+           "Euro",
+           {{TipoTaglio::SullaCifra, 2, conto.Valore(), InValuta(lire)}}}};
+}
+
+void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore, Catena catena) const {
+  int decimali = 0;
+  DecimaliPercentuale(lire, decimali, criteri.DecimaliTabelle);
+  Passaggio& passo = catena.back();
+  passo.tagli.push_back({TipoTaglio::Decimali, decimali, valore, p.valore});
+  passo.Annota(MotivoDecimali(decimali, criteri.DecimaliTabelle));
+  AnnotaTaglio(passo.tagli.back(), passo.note);
+  passo.cifra = p.testo;
+  p.catena = std::move(catena);
+}
+
+Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Ragioni ragioni,
+                                bool conCompensi) const {
+  Catena catena = Unite(std::move(ragioni.prima), P.catena);
+  if (conCompensi) catena = Unite(std::move(catena), CatenaCompensi);
+  for (Passaggio& passo : catena) passo.cifra.clear();  // those of other lines
+  catena.push_back(PassoOnorario(std::move(ragioni.regola), onorario));
+  for (std::string& nota : ragioni.note) catena.back().Annota(std::move(nota));
+  return catena;
+}
+
+void Parcella::SpiegaRiga(Catena catena) {
+  Passaggio& ultimo = catena.back();
+  ultimo.tagli.push_back(stampata_.taglio);
+  AnnotaTaglio(stampata_.taglio, ultimo.note);
+  ultimo.cifra = stampata_.testo;
+  spiegazioni.Riga(uscita.Contents(), [&] { return std::move(catena); });
+}
+
+}  // namespace orm
