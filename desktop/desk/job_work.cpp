@@ -151,6 +151,7 @@ void TakeArchive(DeskWindow& window) {
 
 void TrashJob(DeskWindow& window) {
   const QString job = window.Job();
+  const std::string folder = window.Folder();
   if (job.isEmpty()) return;
   if (Choose(&window, QStringLiteral("Spostare nel cestino il lavoro \"%1\"?").arg(job),
              QStringLiteral("Ci vanno tutte le sue parcelle, con le versioni di prima."),
@@ -158,8 +159,8 @@ void TrashJob(DeskWindow& window) {
              kDeskName) != 0)
     return;
   Try(&window, QStringLiteral("Il lavoro non è stato spostato nel cestino."), [&] {
-    EsigiNonInUso(window.Folder());
-    if (!QFile::moveToTrash(ToQt(window.Folder())))
+    EsigiNonInUso(folder);
+    if (!QFile::moveToTrash(ToQt(folder)))
       throw RuntimeFailure("Su questo disco il cestino non si può usare. Il lavoro resta dov'è.");
   });
   window.Look();

@@ -13,20 +13,11 @@ constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
 JobsModel::JobsModel(const std::string& root) : jobs_(root) {}
 
 bool JobsModel::Look() {
-  // A search does not outlive a list that has changed.
-  search_.reset();
+  if (!jobs_.Guarda()) return false;
   beginResetModel();
-  bool changed = false;
-  try {
-    changed = jobs_.Guarda();
-  } catch (...) {
-    Fill();
-    endResetModel();
-    throw;
-  }
   Fill();
   endResetModel();
-  return changed;
+  return true;
 }
 
 void JobsModel::Seek(const QString& words) {

@@ -1,5 +1,6 @@
 #include "desktop/desk/window.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -57,7 +58,9 @@ DeskWindow::DeskWindow(DeskSettings& settings)
   pause_.setInterval(kPause);
   useCheck_.start(kUseCheck);
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, &pause_, [this] { pause_.start(); });
-  connect(&pause_, &QTimer::timeout, this, [this] { Look(); });
+  // What a question is about stays as it is until it is answered.
+  connect(&pause_, &QTimer::timeout, this,
+          [this] { QApplication::activeModalWidget() == nullptr ? Look() : pause_.start(); });
   connect(&searching_, &QTimer::timeout, this, [this] {
     SearchOn();
     jobsView_->currentIndex().isValid() ? MarkFound() : GoTo(job_);
@@ -159,13 +162,15 @@ void DeskWindow::SetRoot(const QString& folder) {
 void DeskWindow::ListJobs() {
   listing_ = true;
   unreadable_.clear();
+  bool changed = false;
   try {
-    jobs_->Look();
+    changed = jobs_->Look();
   } catch (const RuntimeFailure& failure) {
     unreadable_ = ToQt(failure.Text());
   }
   listing_ = false;
   ShowPages();
+  if (!changed) return ChooseRow();
   SearchOn();
   GoTo(job_);
 }
