@@ -141,6 +141,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},
     {"desktop/viewer/panels"},
     {"desktop/player", "desktop/viewer"},
+    {"desktop/desk"},
     {"desktop/programs"},
 };
 
