@@ -3,10 +3,10 @@
 #include <QDir>
 #include <QLocale>
 
+#include "desktop/dress/seen_marks.h"
 #include "desktop/italian_captions.h"
 #include "desktop/pictures.h"
 #include "desktop/qt_text.h"
-#include "desktop/seen_marks.h"
 
 namespace orm {
 

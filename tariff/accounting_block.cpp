@@ -76,8 +76,7 @@ Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
   Passaggio coefficiente{"Coefficiente del tipo di lavori", "", f.coefficiente};
   const std::string mostrato = CoefficienteInStringa(f.coefficiente);
   if (mostrato != FormattaCopia(f.coefficiente, -2))
-    coefficiente.Annota("La riga mostra " + mostrato +
-                                ": quello dei dati non è nella lista");
+    coefficiente.Annota("La riga mostra " + mostrato + ": quello dei dati non è nella lista");
   else
     coefficiente.cifra = mostrato;
   Passaggio onorario{"Onorario della fascia, che entra nel totale con tutte le sue cifre",

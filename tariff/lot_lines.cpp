@@ -170,8 +170,7 @@ double Parcella::StampaCertificato(int periodo, const Conto& SommaDirezione) {
         PassoImporto("Certificato di regolare esecuzione, Tabella C: il centesimo del "
                      "prodotto",
                      Conto(intero) / 100));
-    if (ModoLire)
-      catena.back().Annota("Qui la parte intera si prende prima di dividere per 100");
+    if (ModoLire) catena.back().Annota("Qui la parte intera si prende prima di dividere per 100");
     return catena;
   });
   return compenso;

@@ -50,8 +50,8 @@ class Parcella {
   double Coefficiente = 1;
   std::string StringaCoefficiente;
   std::vector<ImportoStampato> stampati;  // in the order of the report
-  Catena CatenaCompensi;                 // how the coefficient came about, where that is asked
-  std::vector<RigaContabilita> contemp;  // works whose accounting is still to be reckoned
+  Catena CatenaCompensi;                  // how the coefficient came about, where that is asked
+  std::vector<RigaContabilita> contemp;   // works whose accounting is still to be reckoned
 
   // ---- explanations: beside each line with figures, how they came about (explanations.cpp)
   Spiegazioni spiegazioni;
@@ -133,8 +133,9 @@ class Parcella {
   // The same on a sum of works in the currency of the note, which `regola` words.
   void CompensiSuLavori(const Conto& importo, const char* regola);
   void CompensiSulMaggiore(const Conto& progetto, const Conto& direzione) {
-    CompensiSuLavori(std::max(progetto, direzione),
-                     "Importo dei lavori: la maggiore fra le somme di quelli di progetto e diretti");
+    CompensiSuLavori(
+        std::max(progetto, direzione),
+        "Importo dei lavori: la maggiore fra le somme di quelli di progetto e diretti");
   }
   // A fee without its compensations; where there is no coefficient nothing to divide: 0.
   double SenzaCompensi(double onorario) const;
@@ -213,7 +214,9 @@ class Parcella {
   template <class Fa>
   double StampaOnorario(const RigaFormula& formula, const Conto& onorario, Fa&& ragioni) {
     const double stampato = StampaOnorario(formula, onorario.Valore());
-    Spiega([&] { return CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi); });
+    Spiega([&] {
+      return CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi);
+    });
     return stampato;
   }
   // A fee under its number and title, and how it comes about on the next line. In Lire it is cut to

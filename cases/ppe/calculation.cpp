@@ -58,7 +58,7 @@ void NotaPpe::StampaDati() {
     uscita.Text(etichetta).Bare(numero).EndLine();
     spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
       Passaggio passo = PassoDato(campo, numero);
-      passo.cifra = CifraEsatta(numero);
+      passo.cifra = NumberText(numero);
       return {std::move(passo)};
     });
   };

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <array>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

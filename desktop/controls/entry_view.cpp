@@ -8,7 +8,7 @@
 #include <algorithm>
 
 #include "desktop/controls/balloon.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

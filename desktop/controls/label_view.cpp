@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "desktop/controls/views.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

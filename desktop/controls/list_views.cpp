@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "desktop/controls/views.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

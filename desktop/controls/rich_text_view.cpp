@@ -13,8 +13,8 @@
 
 #include "desktop/controls/rich_text_document.h"
 #include "desktop/controls/views.h"
+#include "desktop/dress/look.h"
 #include "desktop/icons.h"
-#include "desktop/look.h"
 #include "desktop/pasted_text.h"
 #include "desktop/qt_text.h"
 

@@ -2,7 +2,7 @@
 #include <QSlider>
 
 #include "desktop/controls/views.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 #include "runtime/numbers.h"
 

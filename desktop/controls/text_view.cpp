@@ -11,7 +11,7 @@
 #include "desktop/controls/balloon.h"
 #include "desktop/controls/entry_view.h"
 #include "desktop/controls/views.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

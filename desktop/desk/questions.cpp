@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/desk/desk_view.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/viewer/messages.h"
 #include "jobs/job_search.h"

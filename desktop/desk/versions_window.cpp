@@ -12,7 +12,7 @@
 
 #include "desktop/desk/desk_view.h"
 #include "desktop/desk/questions.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
 

@@ -18,7 +18,7 @@
 #include "desktop/desk/job_work.h"
 #include "desktop/desk/jobs_model.h"
 #include "desktop/desk/note_work.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 #include "runtime/failure.h"
 

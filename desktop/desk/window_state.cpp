@@ -12,7 +12,7 @@
 #include "desktop/desk/job_work.h"
 #include "desktop/desk/questions.h"
 #include "desktop/desk/window.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

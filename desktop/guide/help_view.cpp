@@ -10,7 +10,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "desktop/page_dress.h"
+#include "desktop/dress/page_dress.h"
 #include "desktop/print_whole.h"
 #include "desktop/qt_text.h"
 

@@ -7,8 +7,8 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include "desktop/dress/page_dress.h"
 #include "desktop/notes/note_drawing.h"
-#include "desktop/page_dress.h"
 #include "runtime/failure.h"
 
 namespace orm {

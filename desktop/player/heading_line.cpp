@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "desktop/controls/control_view.h"
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {

@@ -155,8 +155,7 @@ void Parcella::ChiudiConCompensi(const Conto& NonConglobati) {
                            senza)};
     if (NonConglobati != 0)
       prima.back().regola += "; ne sta fuori ciò che non li porta, e si riaggiunge";
-    if (Coefficiente == 0)
-      prima.back().Annota("Il coefficiente è 0: non c'è nulla da dividere");
+    if (Coefficiente == 0) prima.back().Annota("Il coefficiente è 0: non c'è nulla da dividere");
   }
   ChiudiParcella(onorari, Conto(totale) - onorari, prima);
 }

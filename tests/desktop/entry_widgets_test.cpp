@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 #include "tariff/forms/amount_box.h"
 #include "tests/desktop/test_player.h"

@@ -136,6 +136,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"shell"},
     {"interchange"},
     {"jobs", "script"},
+    {"desktop/dress"},
     {"batch", "desktop"},
     {"desktop/drawing"},
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},

@@ -7,8 +7,8 @@ namespace orm {
 
 class SeenMarks : public QProxyStyle {
  public:
-  // Styles draw an edge darker than the window, which in dark colours is no edge: a mark that is not
-  // set, and a field, would be nothing but the text beside it.
+  // Styles draw an edge darker than the window, which in dark colours is no edge: a mark that is
+  // not set, and a field, would be nothing but the text beside it.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
 };

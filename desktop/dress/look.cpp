@@ -1,4 +1,4 @@
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 
 #include <QFontMetrics>
 #include <QPainter>

@@ -1,10 +1,10 @@
-#include "desktop/page_dress.h"
+#include "desktop/dress/page_dress.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 
 namespace orm {
 namespace {

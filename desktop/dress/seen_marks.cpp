@@ -1,9 +1,9 @@
-#include "desktop/seen_marks.h"
+#include "desktop/dress/seen_marks.h"
 
 #include <QPainter>
 #include <QStyleOption>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 
 namespace orm {
 
