@@ -50,6 +50,7 @@ struct Arguments {
   bool json = false;
   std::string csv;     // "", "italiano" or "semplice"
   std::string daJson;  // a file
+  std::string spiega;  // "", "testo" or "json"
   std::string cartella = ".";
   orm::Date data = orm::SystemDate();
 };
@@ -67,6 +68,8 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
   auto* csv = app.add_flag("--csv{italiano}", a.csv)->excludes(tutti)->excludes(json);
   auto* daJson = app.add_option("--da-json", a.daJson);
   for (auto* other : {codice, euro, tutti, json, csv}) daJson->excludes(other);
+  app.add_flag("--spiega{testo}", a.spiega)->excludes(tutti)->excludes(json)->excludes(csv)->excludes(
+      daJson);
   app.add_option("--cartella", a.cartella);
   app.add_option("--data", data);
   std::string objection;
@@ -80,6 +83,8 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
     objection = "Occorre un codice, oppure --tutti o --da-json.";
   if (!a.csv.empty() && a.csv != "italiano" && a.csv != "semplice")
     objection = "Il CSV è --csv oppure --csv=semplice.";
+  if (!a.spiega.empty() && a.spiega != "testo" && a.spiega != "json")
+    objection = "Le spiegazioni sono --spiega oppure --spiega=json.";
   if (!a.codice.empty() && orm::FindFeeCase(a.codice) == nullptr)
     objection = "Codice sconosciuto: " + a.codice;
   if (!data.empty()) {
@@ -113,12 +118,12 @@ void TellWarning(orm::BatchPlayer& player, const orm::WorkFolder& folder) {
 }
 
 int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
-              bool lire) {
+              bool lire, orm::Spiegazioni* spiegazioni = nullptr) {
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
   return Guard(player, [&] {
     orm::LeggiCriteri(stato);
-    const bool done = orm::CalcoloParcella(stato);
+    const bool done = orm::CalcoloParcella(stato, spiegazioni);
     TellWarning(player, stato.folder);
     return done ? kDone : kEndedByMessage;
   });
@@ -147,6 +152,17 @@ int TakeBack(const Arguments& a, orm::BatchPlayer& player, const orm::WorkFolder
     TellWarning(player, folder);
     return kDone;
   });
+}
+
+// A note and how its figures came about.
+int Explain(const Arguments& a, orm::RunState& stato, orm::BatchPlayer& player) {
+  orm::Spiegazioni spiegazioni;
+  const int outcome = Calculate(stato, player, a.codice, !a.euro, &spiegazioni);
+  if (outcome == kDone)
+    Tell(a.spiega == "json" ? orm::JsonSpiegazioni(spiegazioni.Righe())
+                            : orm::TestoSpiegazioni(spiegazioni.Righe()),
+         STDOUT_FILENO);
+  return outcome;
 }
 
 // False for a folder that is not there, is none or is closed to the user. A disk that fails is told
@@ -198,6 +214,7 @@ int main(int count, char** words) {
          STDERR_FILENO);
   if (arguments.tutti) return CalculateAll(stato, player);
   if (!arguments.daJson.empty()) return TakeBack(arguments, player, stato.folder);
+  if (!arguments.spiega.empty()) return Explain(arguments, stato, player);
   const int outcome = Calculate(stato, player, arguments.codice, !arguments.euro);
   const bool asked = arguments.json || !arguments.csv.empty();
   return outcome == kDone && asked ? Hand(arguments, player, stato.folder) : outcome;

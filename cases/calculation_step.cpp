@@ -4,7 +4,7 @@
 
 namespace orm {
 
-Parcella NuovaParcella(const RunState& stato) {
+Parcella NuovaParcella(RunState& stato) {
   Parcella nota;
   nota.ModoLire = stato.ModoLire;
   nota.CasoDiParcella = stato.CasoDiParcella;
@@ -14,7 +14,7 @@ Parcella NuovaParcella(const RunState& stato) {
   nota.intestazione = LeggiIntestazione(stato.folder, stato.FileInt);
   nota.oggi = stato.player.Today();
   nota.scaglioni = ScaglioniCompensi(stato.folder);
-  if (stato.spiega) nota.spiegazioni.Attiva();
+  if (stato.memoria.The<SpiegazioniChieste>().si) nota.spiegazioni.Attiva();
   return nota;
 }
 

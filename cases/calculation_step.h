@@ -12,9 +12,14 @@
 
 namespace orm {
 
+// What a run keeps in its memory: whether notes record how their figures come about.
+struct SpiegazioniChieste {
+  bool si = false;
+};
+
 // Nothing printed yet: the currency, criteria and closing values of the run state, UTENTE.DAG,
 // FileInt and the day.
-Parcella NuovaParcella(const RunState& stato);
+Parcella NuovaParcella(RunState& stato);
 
 template <class Dati>
 Dati LeggiDati(RunState& stato) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "cases/calculation_step.h"
 #include "cases/fee_case.h"
 #include "dialogs/message_boxes.h"
 #include "shell/personal/form_criteria.h"
@@ -45,7 +46,7 @@ void InputDatiParcella(RunState& stato) {
   fee->input(stato);
 }
 
-bool CalcoloParcella(RunState& stato) {
+bool CalcoloParcella(RunState& stato, Spiegazioni* spiegazioni) {
   const std::string report = SetFileNames(stato);
   const FeeCase* fee = FindFeeCase(stato.CasoDiParcella);
   if (fee == nullptr) return false;
@@ -59,7 +60,10 @@ bool CalcoloParcella(RunState& stato) {
     FrmPerCriteri criteri(stato);
     stato.player.Show(criteri);
   }
-  fee->calcolo(stato).uscita.Save(stato.folder, report);
+  stato.memoria.The<SpiegazioniChieste>().si = spiegazioni != nullptr;
+  const Parcella nota = fee->calcolo(stato);
+  nota.uscita.Save(stato.folder, report);
+  if (spiegazioni != nullptr) *spiegazioni = nota.spiegazioni;
   stato.player.StartProgram(stato.editors.EditorTesti, report);
   return true;
 }

@@ -75,10 +75,10 @@ Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
   Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte.Testo(), f.parte.Valore()};
   Passaggio coefficiente{"Coefficiente del tipo di lavori", "", f.coefficiente};
   const std::string mostrato = CoefficienteInStringa(f.coefficiente);
-  if (mostrato != FormattaCopia(f.coefficiente, -2))
-    coefficiente.Annota("La riga mostra " + mostrato + ": quello dei dati non è nella lista");
+  if (mostrato == FormattaCopia(f.coefficiente, -2))
+    coefficiente = Mostrato(std::move(coefficiente), -2);
   else
-    coefficiente.cifra = mostrato;
+    coefficiente.Annota("La riga mostra " + mostrato + ": quello dei dati non è nella lista");
   Passaggio onorario{"Onorario della fascia, che entra nel totale con tutte le sue cifre",
                      f.onorario.Testo(), f.onorario.Valore()};
   return {Mostrato(std::move(aliquota), -5, "%"), std::move(coefficiente),

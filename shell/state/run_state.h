@@ -36,7 +36,6 @@ struct RunState {
     std::size_t conferme = 0;
   } input;
   Criteri criteri;
-  bool spiega = false;  // a note records how its figures came about
   Editors editors;
 
   // Dialogs that keep their last choices, counters of what was printed.

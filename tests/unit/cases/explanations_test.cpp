@@ -4,6 +4,7 @@
 #include <regex>
 #include <set>
 
+#include "cases/calculation_step.h"
 #include "tariff/closing/amount_in_words.h"
 #include "tests/unit/cases/random_files.h"
 #include "tests/unit/sums.h"
@@ -68,9 +69,9 @@ class Spiegate : public TutteLeNote {
     stato.ModoLire = criteri.Uno(2);
     CasoNote caso(seme, stato.ModoLire);
     Prepara(prova.codice, prova.bytes(caso));
-    stato.spiega = false;
+    stato.memoria.The<SpiegazioniChieste>().si = false;
     const std::string muta = Report(Calcola(prova.codice));
-    stato.spiega = true;
+    stato.memoria.The<SpiegazioniChieste>().si = true;
     const Parcella spiegata = Calcola(prova.codice);
     const std::string report = Report(spiegata);
     EXPECT_EQ(muta, report);
@@ -94,10 +95,10 @@ TEST_F(Spiegate, EveryFigureIsDoneAgainFromItsExplanation) {
   for (const Prova& prova : kProve) {
     const bool nonSpiegato = kNonSpiegati.contains(prova.codice);
     std::size_t difetti = 0;
-    for (unsigned seme = 0; seme < Note(); ++seme) {
+    for (unsigned seme = 0; seme < Note() && (nonSpiegato || difetti == 0); ++seme) {
       const auto trovati = Difetti(prova, seme);
       difetti += trovati.size();
-      ASSERT_TRUE(nonSpiegato || trovati.empty())
+      EXPECT_TRUE(nonSpiegato || trovati.empty())
           << prova.codice << ' ' << seme << ": " << trovati.front();
     }
     EXPECT_TRUE(!nonSpiegato || difetti > 0) << prova.codice << " is explained: take it out";
