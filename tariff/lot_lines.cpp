@@ -119,16 +119,23 @@ void Parcella::StampaDirezioneOnorari(std::string_view TipoParcella, double impo
                  importo, campo);
 }
 
-// The percentage is the figure of the line: its steps stand behind those of the base.
+// The percentage is the figure of the line: its steps stand behind those of the base, unless so
+// many digits send the base to a line of its own.
 void Parcella::StampaPercentuale(std::string_view voce, const Percentuale& percentuale,
                                  const Conto& base, int colonna, std::string_view regola) {
-  uscita.Text(voce).Text(percentuale.testo).Tab(colonna).Text(" su  ");
+  const auto spiegaPercentuale = [&] {
+    spiegazioni.Riga(uscita.Contents(), [&] {
+      return percentuale.catena.empty() ? Catena{{"Su un importo di 0 la percentuale è 0"}}
+                                        : percentuale.catena;
+    });
+  };
+  uscita.Text(voce).Text(percentuale.testo);
+  const bool aCapo = uscita.Column() > colonna;
+  if (aCapo) spiegaPercentuale();
+  uscita.Tab(colonna).Text(" su  ");
   StampaLavori(base);
   Spiega([&]() -> Catena { return {PassoImporto(std::string(regola), base)}; });
-  spiegazioni.Riga(uscita.Contents(), [&] {
-    return percentuale.catena.empty() ? Catena{{"Su un importo di 0 la percentuale è 0"}}
-                                      : percentuale.catena;
-  });
+  if (!aCapo) spiegaPercentuale();
 }
 
 double Parcella::StampaOnorario(const RigaFormula& f, double onorario) {

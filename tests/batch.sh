@@ -42,7 +42,7 @@ cmp "$work/OUT_PPE.DOC" "$scripts/ppe/lire.DOC" || broken=1
 grep -qF 'Numeri dei dati per i compensi fissi: 2 x 106.000 = 212.000 Lire' "$work/spiega" || broken=1
 "$calcolo" PPE --spiega=json --cartella "$work" | grep -q '"conto": "2 x 106.000"' || broken=1
 rm "$work/spiega"
-expects 3 '--spiega=json' "$calcolo" PPE --spiega=altro --cartella "$work"
+expects 3 'spiega=json' "$calcolo" PPE --spiega=altro --cartella "$work"
 cp "$scripts/ppe/euro_CRITERI.PER" "$work/CRITERI.PER"
 cp "$work/INT_PPE.DAP" "$work/INT_PPE_E.DAP"
 expects 0 '' "$calcolo" --tutti --cartella "$work" --data 15/03/2002

@@ -2,6 +2,7 @@
 #include "tariff/closing/final_account.h"
 
 #include "runtime/numbers.h"
+#include "tariff/explanations.h"
 #include "tariff/money.h"
 #include "tariff/report.h"
 
@@ -56,6 +57,11 @@ void ContoFinale::Riduci() {
   }
   if (patti.ApplicazioneRiduzione == 2) stampa.Text(" sugli Onorari");
   if (patti.ApplicazioneRiduzione == 3) stampa.Text(" sui Compensi");
+  // The longest words leave the amount no place in their line.
+  if (stampa.Column() > kColonnaImporto)
+    nota.spiegazioni.Riga(stampa.Contents(), [&]() -> Catena {
+      return {Mostrato(nota.PassoDato("Percentuale di Riduzione", patti.PercDiRiduzione), 2, "%")};
+    });
   const Conto prodotto = BaseRiduzione() * patti.PercDiRiduzione / 100;
   double Riduzione = prodotto;
   Importo(Riduzione);

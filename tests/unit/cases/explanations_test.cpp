@@ -38,7 +38,7 @@ bool Mostra(const Passaggio& passo) {
     attesa = FormattaCopia(passo.tagli.back().prima, passo.tagli.back().decimali);
   double inLettere = valore;
   std::string lettere;
-  if (passo.cifra[0] >= 'a' && passo.cifra[0] <= 'z') ImportoInLettere(lettere, inLettere);
+  if (passo.cifra.find('/') != std::string::npos) ImportoInLettere(lettere, inLettere);
   return passo.cifra == attesa || passo.cifra == attesa + "%" || passo.cifra == lettere;
 }
 
@@ -68,7 +68,11 @@ class Spiegate : public TutteLeNote {
     stato.criteri.QuotaFissaParere = criteri.Fino(9999) / 100.0;
     stato.ModoLire = criteri.Uno(2);
     CasoNote caso(seme, stato.ModoLire);
-    Prepara(prova.codice, prova.bytes(caso));
+    // Agreements take the place of those that the data end with.
+    std::string bytes = prova.bytes(caso);
+    bytes.resize(bytes.rfind("0,0,"));
+    bytes += criteri.Fra({"0,0,\"\",1\r\n", "20,1000,\"\",2\r\n", "7.55,0,\"CONCORDATA\",3\r\n"});
+    Prepara(prova.codice, bytes);
     stato.memoria.The<SpiegazioniChieste>().si = false;
     const std::string muta = Report(Calcola(prova.codice));
     stato.memoria.The<SpiegazioniChieste>().si = true;
