@@ -50,8 +50,8 @@ class Parcella {
   double Coefficiente = 1;
   std::string StringaCoefficiente;
   std::vector<ImportoStampato> stampati;  // in the order of the report
-  Catena CatenaCompensi;                 // how the coefficient came about, where that is asked
-  std::vector<RigaContabilita> contemp;  // works whose accounting is still to be reckoned
+  Catena CatenaCompensi;                  // how the coefficient came about, where that is asked
+  std::vector<RigaContabilita> contemp;   // works whose accounting is still to be reckoned
 
   // ---- explanations: beside each line with figures, how they came about (explanations.cpp)
   Spiegazioni spiegazioni;
@@ -63,6 +63,10 @@ class Parcella {
   }
   // A figure of the data, by the words of its form.
   Passaggio PassoDato(std::string_view campo, double valore) const;
+  // Explains the line just printed, which shows it bare.
+  void SpiegaDato(std::string_view campo, double valore);
+  // A rate of the law, in Lire, as the note has it.
+  Passaggio PassoTariffa(std::string regola, double lire) const;
   // A sum in the currency of the note; one that is a number already, and one that in Lire is cut to
   // its whole part.
   Passaggio PassoImporto(std::string regola, const Conto& conto) const;
@@ -133,8 +137,9 @@ class Parcella {
   // The same on a sum of works in the currency of the note, which `regola` words.
   void CompensiSuLavori(const Conto& importo, const char* regola);
   void CompensiSulMaggiore(const Conto& progetto, const Conto& direzione) {
-    CompensiSuLavori(std::max(progetto, direzione),
-                     "Importo dei lavori: la maggiore fra le somme di quelli di progetto e diretti");
+    CompensiSuLavori(
+        std::max(progetto, direzione),
+        "Importo dei lavori: la maggiore fra le somme di quelli di progetto e diretti");
   }
   // A fee without its compensations; where there is no coefficient nothing to divide: 0.
   double SenzaCompensi(double onorario) const;
@@ -213,12 +218,21 @@ class Parcella {
   template <class Fa>
   double StampaOnorario(const RigaFormula& formula, const Conto& onorario, Fa&& ragioni) {
     const double stampato = StampaOnorario(formula, onorario.Valore());
-    Spiega([&] { return CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi); });
+    Spiega([&] {
+      return CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi);
+    });
     return stampato;
   }
   // A fee under its number and title, and how it comes about on the next line. In Lire it is cut to
   // its whole part; the sum of the fees grows by it as printed.
   void StampaVoce(std::string_view titolo, std::string formula, double onorario);
+  // The same with its explanation, the steps that `catena()` gives.
+  template <class Fa>
+  void StampaVoce(std::string_view titolo, std::string formula, const Conto& onorario,
+                  Fa&& catena) {
+    StampaVoce(titolo, std::move(formula), onorario.Valore());
+    Spiega(catena);
+  }
 
   // ---- measuring and accounting (accounting_block.cpp)
   // Prints the bands and the totals of `contemp`, sorted by period and with the rows of one period
