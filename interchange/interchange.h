@@ -13,9 +13,9 @@
 namespace orm {
 
 // The note of a folder, reckoned with the criteria that are kept there. Nothing is written. A file
-// that is missing or damaged is a RuntimeFailure.
+// that is missing or damaged is a RuntimeFailure. `spiega`: it explains its figures too.
 Parcella CalcolaDaCartella(const WorkFolder& folder, const std::string& codice, bool lire,
-                           const Date& oggi = SystemDate());
+                           const Date& oggi = SystemDate(), bool spiega = false);
 
 // The note as JSON, in UTF-8. Failures as above.
 std::string ParcellaInJson(const WorkFolder& folder, const std::string& codice, bool lire,

@@ -23,7 +23,7 @@ std::vector<FileDiNota> FileDellaNota(const std::string& codice, bool lire) {
 }
 
 Parcella CalcolaDaCartella(const WorkFolder& folder, const std::string& codice, bool lire,
-                           const Date& oggi) {
+                           const Date& oggi, bool spiega) {
   const FeeCase* caso = FindFeeCase(codice);
   if (caso == nullptr) throw RuntimeFailure("Codice sconosciuto: " + codice);
   QuietPlayer nessuno(oggi);
@@ -31,6 +31,7 @@ Parcella CalcolaDaCartella(const WorkFolder& folder, const std::string& codice, 
   const NomiFile nomi = NomiDiCaso(codice, lire);
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
+  stato.spiega = spiega;
   stato.FileInt = nomi.FileInt;
   stato.FileInp = nomi.FileInp;
   LeggiCriteri(stato);
@@ -74,6 +75,8 @@ void AggiungiRighe(Json& nota, const Parcella& parcella) {
     voce["importo"] = importo;
     voce["valuta"] = CodiceValuta(riga.inEuro);
     voce["tipo"] = riga.tipo == TipoImporto::Lavori ? "lavori" : "onorari";
+    if (const Spiegazione* perche = parcella.spiegazioni.Della(riga.riga))
+      for (const Passaggio& passo : perche->passi) voce["regole"].push_back(passo.regola);
     if (riga.totale != nullptr) totali[riga.totale] = importo;
   }
   for (const std::string_view riga : RigheDellaRelazione(parcella)) relazione.push_back(riga);
@@ -94,7 +97,7 @@ std::string ComeScrittoDaNoi(const FileDiNota& file, const std::string& bytes) {
 
 std::string ParcellaInJson(const WorkFolder& folder, const std::string& codice, bool lire,
                            const Date& oggi) {
-  const Parcella parcella = CalcolaDaCartella(folder, codice, lire, oggi);
+  const Parcella parcella = CalcolaDaCartella(folder, codice, lire, oggi, true);
   Json nota;
   nota["formato"] = kFormatoJson;
   nota["versione"] = kVersioneJson;

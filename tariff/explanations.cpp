@@ -1,6 +1,7 @@
 // How the figures of a note came about: what all its lines share.
 #include "tariff/explanations.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "runtime/numbers.h"
@@ -38,6 +39,31 @@ Passaggio Mostrato(Passaggio passo, int decimali, const std::string& dopo) {
 
 Passaggio Parcella::PassoDato(std::string_view campo, double valore) const {
   return {"Dai dati della parcella, \"" + std::string(campo) + "\"", "", valore};
+}
+
+std::string CifraNuda(double valore) {
+  std::string cifra = NumberText(valore);
+  std::ranges::replace(cifra, '.', ',');
+  return cifra;
+}
+
+void Parcella::SpiegaDato(std::string_view campo, double valore) {
+  spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+    Passaggio passo = PassoDato(campo, valore);
+    passo.cifra = CifraNuda(valore);
+    return {std::move(passo)};
+  });
+}
+
+Passaggio Parcella::PassoTariffa(std::string regola, double lire) const {
+  Passaggio passo = PassoImporto(std::move(regola), InValuta(lire));
+  if (ModoLire) return passo;
+  const Conto cambio = Conto(lire) / kLirePerEuro;
+  passo.regola += ", dalle Lire al cambio di 1.936,27";
+  passo.conto = cambio.Testo();
+  passo.risultato = cambio.Valore();
+  passo.tagli = {{TipoTaglio::SullaCifra, 2, cambio.Valore(), InValuta(lire)}};
+  return passo;
 }
 
 Passaggio Parcella::PassoImporto(std::string regola, const Conto& conto) const {

@@ -14,4 +14,7 @@ Passaggio Mostrato(Passaggio passo, int decimali, const std::string& dopo = "");
 // Adds what a reader would not expect of a cut: a tail of nines, a tail that stays.
 void AnnotaTaglio(const Taglio& taglio, std::vector<std::string>& note);
 
+// A number that stands bare on its line, "120,5".
+std::string CifraNuda(double valore);
+
 }  // namespace orm

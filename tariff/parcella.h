@@ -63,6 +63,10 @@ class Parcella {
   }
   // A figure of the data, by the words of its form.
   Passaggio PassoDato(std::string_view campo, double valore) const;
+  // Explains the line just printed, which shows it bare.
+  void SpiegaDato(std::string_view campo, double valore);
+  // A rate of the law, in Lire, as the note has it.
+  Passaggio PassoTariffa(std::string regola, double lire) const;
   // A sum in the currency of the note; one that is a number already, and one that in Lire is cut to
   // its whole part.
   Passaggio PassoImporto(std::string regola, const Conto& conto) const;
@@ -222,6 +226,13 @@ class Parcella {
   // A fee under its number and title, and how it comes about on the next line. In Lire it is cut to
   // its whole part; the sum of the fees grows by it as printed.
   void StampaVoce(std::string_view titolo, std::string formula, double onorario);
+  // The same with its explanation, the steps that `catena()` gives.
+  template <class Fa>
+  void StampaVoce(std::string_view titolo, std::string formula, const Conto& onorario,
+                  Fa&& catena) {
+    StampaVoce(titolo, std::move(formula), onorario.Valore());
+    Spiega(catena);
+  }
 
   // ---- measuring and accounting (accounting_block.cpp)
   // Prints the bands and the totals of `contemp`, sorted by period and with the rows of one period

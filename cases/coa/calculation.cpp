@@ -4,6 +4,7 @@
 #include "cases/coa/data.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_a.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/table_hours.h"
@@ -28,25 +29,40 @@ class NotaCoa : public Parcella {
  private:
   void UnoScaglione();
   void DueScaglioni();
-  void StampaTabellaC(const Percentuale& P, double importo);
+  void StampaTabellaC(const Percentuale& P, const Conto& importo, double mostrato);
   void StampaTitoloOnorario();
-  double StampaScaglione(const Percentuale& P, double base, double onorario);
+  double StampaScaglione(const Percentuale& P, double base, const Conto& prodotto, bool intero);
+  Catena CatenaScaglione(const Percentuale& P, const Conto& prodotto, bool intero) const;
+  std::string TagliaBase();
 
   DatiCoa d;
   const double lire;  // the amount of the works
-  double OnorarioBase = 0, Maggiorazione = 0, Vacazione = 0;
+  Conto OnorarioBase;
+  double Maggiorazione = 0, Vacazione = 0;
 };
 
 void NotaCoa::StampaSpecifica() {
   uscita.Line(kRigaImporti);
-  StampaLavori(1, "IMPORTO TOTALE LAVORI   :", d.ImportoCollaudo);
+  StampaLavori(1, "IMPORTO TOTALE LAVORI   :", d.ImportoCollaudo, "IMPORTO DEI LAVORI COLLAUDATI");
   Coefficiente = 0;  // unless the criterion finds one
-  CompensiAccessori(lire);
+  CompensiSuLavori(d.ImportoCollaudo, "Importo dei lavori collaudati");
 }
 
-void NotaCoa::StampaTabellaC(const Percentuale& P, double importo) {
+// `mostrato`: what the line says in place of the amount.
+void NotaCoa::StampaTabellaC(const Percentuale& P, const Conto& importo, double mostrato) {
   const std::string cifre = P.testo.substr(0, P.testo.find('%'));
-  uscita.Line("Percentuale ( da Tabella C ) = " + cifre + "  su " + TestoImporto(importo));
+  uscita.Line("Percentuale ( da Tabella C ) = " + cifre + "  su " + TestoImporto(mostrato));
+  spiegazioni.Riga(uscita.Contents(), [&] {
+    const bool altro = mostrato != importo.Valore();
+    Catena catena{PassoImporto("Importo dei lavori", importo)};
+    if (altro) catena = Unite(std::move(catena), CatenaInLire(importo));
+    catena.back() = Mostrato(std::move(catena.back()), DecimaliValuta());
+    if (altro)
+      catena.back().Annota("In Euro la riga mostra qui la cifra moltiplicata per il cambio");
+    catena = Unite(Unite(std::move(catena), CatenaInLire(d.ImportoCollaudo)), P.catena);
+    catena.back().cifra = cifre;
+    return catena;
+  });
 }
 
 void NotaCoa::StampaTitoloOnorario() {
@@ -54,9 +70,25 @@ void NotaCoa::StampaTitoloOnorario() {
   uscita.Line(Numero() + " ONORARIO  (" + NomePeriodoTariffario(d.PeriodoCollaudo) + ") ");
 }
 
-double NotaCoa::StampaScaglione(const Percentuale& P, double base, double onorario) {
+// `intero`: the cut comes before the division by 100.
+double NotaCoa::StampaScaglione(const Percentuale& P, double base, const Conto& prodotto,
+                                bool intero) {
+  double onorario = intero ? Int(prodotto) / 100 : IntInLire(prodotto / 100);
   StampaRigaOnorario(1, P.testo + " x " + TestoImporto(base) + StringaCoefficiente + " ", onorario);
+  Spiega([&] { return CatenaScaglione(P, prodotto, intero); });
   return onorario;
+}
+
+Catena NotaCoa::CatenaScaglione(const Percentuale& P, const Conto& prodotto, bool intero) const {
+  constexpr const char* kOnorario =
+      "Onorario di collaudo, Tabella C: percentuale per importo, per il coefficiente dei compensi";
+  if (!intero) return CatenaOnorario(P, prodotto / 100, {kOnorario});
+  Catena catena = CatenaOnorario(P, prodotto, {kOnorario});
+  catena.back().tagli = {{TipoTaglio::ParteIntera, 0, prodotto.Valore(), Int(prodotto)}};
+  catena.push_back(PassoImporto("Onorario: il centesimo del prodotto", Conto(Int(prodotto)) / 100));
+  catena.back().Annota(
+      "Qui la parte intera si prende prima di dividere per 100, in Euro come in Lire");
+  return catena;
 }
 
 // Beyond the limit the decree of 1987 splits the amount.
@@ -71,37 +103,51 @@ void NotaCoa::CalcolaOnorario() {
 // The cut comes before the division by 100, in Euro too.
 void NotaCoa::UnoScaglione() {
   const Percentuale P = PercentualeDaTabellaC(d.PeriodoCollaudo, lire);
-  StampaTabellaC(P, d.ImportoCollaudo);
+  StampaTabellaC(P, d.ImportoCollaudo, d.ImportoCollaudo);
   StampaTitoloOnorario();
-  OnorarioBase =
-      StampaScaglione(P, d.ImportoCollaudo, Int(d.ImportoCollaudo * P.valore * Coefficiente) / 100);
+  OnorarioBase = StampaScaglione(P, d.ImportoCollaudo,
+                                 Conto(d.ImportoCollaudo) * P.valore * Coefficiente, true);
 }
 
 // Both figures behind the percentages are in Lire in a note in Euro as well, the limit even
 // multiplied by the exchange rate a second time. The two fees in Lire are cut at different places.
 void NotaCoa::DueScaglioni() {
   const double base1 = InValuta(kLimiteTabellaA);
-  const double base2 = d.ImportoCollaudo - base1;
+  const Conto base2 = Conto(d.ImportoCollaudo) - base1;
   const Percentuale P1 = PercentualeDaTabellaC(d.PeriodoCollaudo, kLimiteTabellaA);
   const Percentuale P2 = PercentualeDaTabellaC(d.PeriodoCollaudo, lire);
-  StampaTabellaC(P1, ImportoInLire(kLimiteTabellaA));
-  StampaTabellaC(P2, ImportoInLire(base2));
+  StampaTabellaC(P1, kLimiteTabellaA, ImportoInLire(kLimiteTabellaA));
+  StampaTabellaC(P2, base2, ImportoInLire(base2));
   StampaTitoloOnorario();
   if (!ModoLire) uscita.Line("ONORARIO  (" + NomePeriodoTariffario(d.PeriodoCollaudo) + ")  :");
-  OnorarioBase = StampaScaglione(P1, base1, IntInLire(P1.valore * base1 * Coefficiente / 100));
-  OnorarioBase += StampaScaglione(P2, base2,
-                                  ModoLire ? Int(base2 * P2.valore * Coefficiente) / 100
-                                           : base2 * P2.valore * Coefficiente / 100);
+  OnorarioBase = StampaScaglione(P1, base1, Conto(P1.valore) * base1 * Coefficiente, false);
+  OnorarioBase += StampaScaglione(P2, base2, base2 * P2.valore * Coefficiente, ModoLire);
+}
+
+// The text of the fee, which stays as it is printed.
+std::string NotaCoa::TagliaBase() {
+  double base = OnorarioBase;
+  std::string testo = FormattaNumero(base, DecimaliValuta());
+  if (base != OnorarioBase.Valore()) OnorarioBase = base;
+  return testo;
 }
 
 void NotaCoa::CalcolaMaggiorazione() {
   if (d.MaggiorazioneCollaudo <= 0) return;
+  const double percento = d.MaggiorazioneCollaudo;
   uscita.Line(Numero() + " Maggiorazione per collaudo in corso d'opera :  " +
               FormattaNumero(d.MaggiorazioneCollaudo, 2) + "%");
-  const std::string base = FormattaNumero(OnorarioBase, DecimaliValuta());
-  Maggiorazione = IntInLire(d.MaggiorazioneCollaudo * OnorarioBase / 100);
+  const std::string base = TagliaBase();
+  const Conto conto = d.MaggiorazioneCollaudo * OnorarioBase / 100;
+  Maggiorazione = IntInLire(conto);
   StampaFormula(FormattaCopia(d.MaggiorazioneCollaudo / 100, 4) + " x " + base + " =",
                 Maggiorazione);
+  Spiega([&]() -> Catena {
+    Passaggio dato = PassoDato("MAGGIORAZIONE PER COLLAUDO IN CORSO D'OPERA", percento);
+    dato.unita = "%";
+    dato.tagli = {{TipoTaglio::Decimali, 2, percento, d.MaggiorazioneCollaudo}};
+    return {std::move(dato), PassoOnorario("Maggiorazione in percento dell'onorario", conto)};
+  });
 }
 
 // By time, but never more than its part of the fee without compensations. The rate of an hour is in
@@ -109,23 +155,46 @@ void NotaCoa::CalcolaMaggiorazione() {
 void NotaCoa::CalcolaVacazione() {
   if (d.NumeroFacciate == 0) return;
   uscita.Line(Numero() + " Onorario a vacazione per revisione tecnico contabile");
-  Vacazione = IntInLire(d.NumeroFacciate * kVacazioneProfessionista * kOrePerFacciata);
+  Conto conto = Conto(d.NumeroFacciate) * kVacazioneProfessionista * kOrePerFacciata;
+  Vacazione = IntInLire(conto);
   std::string formula = "num. pagine " + NumberText(d.NumeroFacciate) + " x " +
                         TestoQuota(kOrePerFacciata) + NumberText(kVacazioneProfessionista);
-  const double massimo = SenzaCompensi(OnorarioBase) * kMassimoRevisioneContabile;
-  if (massimo < Vacazione) {
+  const Conto massimo =
+      (Coefficiente == 0 ? Conto(0) : OnorarioBase / Coefficiente) * kMassimoRevisioneContabile;
+  const bool ridotta = massimo < Vacazione;
+  if (ridotta) {
+    conto = massimo;
     Vacazione = massimo;
-    formula = TestoQuota(kMassimoRevisioneContabile) +
-              FormattaNumero(OnorarioBase, DecimaliValuta()) + " / " +
+    formula = TestoQuota(kMassimoRevisioneContabile) + TagliaBase() + " / " +
               Middle(StringaCoefficiente, 3);
   }
   StampaFormula(formula + " =", Vacazione);
+  Spiega([&]() -> Catena {
+    if (ridotta)
+      return {
+          PassoImporto("Revisione tecnico contabile: le ore darebbero di più, e si prende il "
+                       "massimo, 0,40 dell'onorario senza i compensi accessori",
+                       conto)};
+    Passaggio passo = PassoOnorario(
+        "Revisione tecnico contabile: facciate dei dati per la vacazione di un'ora (art. 4 L. "
+        "143/1949, D.M. 3-9-1997 n. 417) e per 0,25 ore a facciata",
+        conto);
+    if (!ModoLire) passo.Annota("La vacazione è in Lire e qui non è convertita in Euro");
+    return {PassoDato("NUMERO FACCIATE DEI DOCUMENTI CONTABILI REVISIONATI", d.NumeroFacciate),
+            std::move(passo)};
+  });
 }
 
 void NotaCoa::Chiudi() {
-  TotaleGenerale = Maggiorazione + OnorarioBase + Vacazione;
-  const double Onorari = SenzaCompensi(IntInLire(TotaleGenerale - Vacazione)) + Vacazione;
-  ChiudiParcella(Onorari, TotaleGenerale - Onorari);
+  TotaleGenerale = Conto(Maggiorazione) + OnorarioBase + Vacazione;
+  const Conto conCompensi = TotaleGenerale - Vacazione;
+  const double intero = IntInLire(conCompensi);
+  const Conto Onorari = (Coefficiente == 0 ? Conto(0) : Conto(intero) / Coefficiente) + Vacazione;
+  Catena prima;
+  if (spiegazioni.Attive())
+    prima = Unite(CatenaCompensi,
+                  {PassoOnorario("Somma degli onorari che contengono i compensi", conCompensi)});
+  ChiudiParcella(Onorari, TotaleGenerale - Onorari, prima);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "cases/cos/cos.h"
 #include "cases/cos/note.h"
 #include "runtime/failure.h"
+#include "tariff/explanations.h"
 #include "tariff/money.h"
 
 namespace orm {
@@ -20,8 +21,9 @@ std::string NotaCos::Uguale() const {
 
 void NotaCos::StampaSpecifica() {
   uscita.Line(kRigaImporti);
-  StampaLavori(1, "IMPORTO TOTALE OPERE COLLAUDATE ", d.ImportoTotaleCS);
-  CompensiAccessori(TotaleInLire);
+  StampaLavori(1, "IMPORTO TOTALE OPERE COLLAUDATE ", d.ImportoTotaleCS,
+               "IMPORTO TOTALE OPERE COLLAUDATE");
+  CompensiSuLavori(d.ImportoTotaleCS, "Importo totale delle opere collaudate");
 }
 
 void NotaCos::CalcolaPeriodi() {
@@ -37,52 +39,105 @@ void NotaCos::CalcolaPeriodo(std::size_t i) {
   const double importo = d.ImportoCS[i];
   const PeriodoCos periodo = tariffa.Periodo(i);
   uscita.Line(Numero() + " Periodo tariffario n. " + tariffa.testata.NomePeriodo[i]);
-  StampaLavori(1, " Importo Strutture Collaudate", importo);
+  StampaLavori(1, " Importo Strutture Collaudate", importo,
+               "IMPORTO SUDDIVISO NEI PERIODI TARIFFARI");
 
-  Conto conto;
+  OnorarioCos conto;
   if (periodo.ModoPeriodo == "ONORARIO") {
     conto = ConQuota(InValuta(periodo.OnorarioA(TotaleInLire)), importo);
+    if (spiegazioni.Attive()) conto.prima = CatenaOnorarioIntero(periodo);
   } else {
     const Percentuale P = PercentualeDaTabellaCS(periodo);
     const double minimo = InValuta(periodo.MinimoPeriodo);
-    conto = d.ImportoTotaleCS * P.valore / 100 < minimo ? ConQuota(minimo, importo)
-                                                        : ConPercentuale(periodo, P, importo);
+    const bool alMinimo = d.ImportoTotaleCS * P.valore / 100 < minimo;
+    conto = alMinimo ? ConQuota(minimo, importo) : ConPercentuale(periodo, P, importo);
+    if (alMinimo && spiegazioni.Attive())
+      conto.prima = {PassoTariffa("La percentuale darebbe meno: vale l'onorario minimo del periodo",
+                                  periodo.MinimoPeriodo)};
   }
-  double onorario = Arrotonda(IntInLire(conto.onorario));
+  double onorario = Arrotonda(IntInLire(conto.conto));
   uscita.Line(" Onorario Collaudo Statico");
   StampaFormula(conto.formula + Uguale(), onorario);
+  Spiega([&] {
+    return CatenaArrotondata(Unite(std::move(conto.prima), CatenaCompensi),
+                             "Onorario di collaudo statico del periodo", conto.conto);
+  });
   OnorarioBase += onorario;
 }
 
 // The period's share of a fee for the whole.
-NotaCos::Conto NotaCos::ConQuota(double onorarioIntero, double importo) const {
-  const double Quota = onorarioIntero * importo / d.ImportoTotaleCS;
+NotaCos::OnorarioCos NotaCos::ConQuota(double onorarioIntero, double importo) const {
+  const Conto Quota = Conto(onorarioIntero) * importo / d.ImportoTotaleCS;
   return {Coefficiente * Quota, TestoImporto(Quota) + StringaCoefficiente};
 }
 
+Catena NotaCos::CatenaOnorarioIntero(const PeriodoCos& periodo) const {
+  const Conto onorario = periodo.OnorarioA(TotaleInLire);
+  Catena catena = CatenaInLire(d.ImportoTotaleCS);
+  catena.push_back(
+      {"Onorario di tabella (" + CasoDiParcella +
+           ".CFG) per l'importo totale: fra due scaglioni si interpola in linea retta, "
+           "e non va sotto il minimo",
+       onorario.Semplice() ? "" : onorario.Testo(), onorario.Valore(), "Lire"});
+  return ModoLire ? catena : Unite(std::move(catena), CatenaInValuta(onorario));
+}
+
 Percentuale NotaCos::PercentualeDaTabellaCS(const PeriodoCos& periodo) const {
-  return PercentualeTagliata(TotaleInLire, periodo.ValoreA(TotaleInLire));
+  const Conto valore = periodo.ValoreA(TotaleInLire);
+  return PercentualeTagliata(TotaleInLire, valore, [&] {
+    return Unite(CatenaInLire(d.ImportoTotaleCS),
+                 {{"Percentuale di tabella (" + CasoDiParcella +
+                       ".CFG) per l'importo totale: fra due scaglioni si interpola in linea retta",
+                   valore.Semplice() ? "" : valore.Testo(), valore.Valore(), "%"}});
+  });
 }
 
 // The percentage of the whole on the period's amount; what this has beyond the last limit has a
 // percentage of its own.
-NotaCos::Conto NotaCos::ConPercentuale(const PeriodoCos& periodo, const Percentuale& P,
-                                       double importo) {
+NotaCos::OnorarioCos NotaCos::ConPercentuale(const PeriodoCos& periodo, const Percentuale& P,
+                                             double importo) {
   constexpr std::string_view voce = " % d'applicazione  = ";
   const double limite = InValuta(periodo.Limite.back());
   if (importo <= limite || periodo.PercOltre == 0) {
     StampaPercentuale(voce, P, importo);
-    return {P.valore * importo / 100 * Coefficiente,
-            P.testo + " x " + TestoImporto(importo) + StringaCoefficiente};
+    return {Conto(P.valore) * importo / 100 * Coefficiente,
+            P.testo + " x " + TestoImporto(importo) + StringaCoefficiente, P.catena};
   }
-  const Percentuale oltre = PercentualeTagliata(TotaleInLire, periodo.PercOltre);
+  const Percentuale oltre = PercentualeTagliata(TotaleInLire, periodo.PercOltre, [&]() -> Catena {
+    return {{"Percentuale oltre l'ultimo scaglione (" + CasoDiParcella + ".CFG)", "",
+             periodo.PercOltre, "%"}};
+  });
+  const Conto eccedenza = Conto(importo) - limite;
   StampaPercentuale(voce, P, limite);
-  StampaPercentuale(voce, oltre, importo - limite);
-  const double parteOltre = (importo - limite) * oltre.valore / 100;
-  const double parteEntro = P.valore * limite / 100;
-  return {(parteOltre + parteEntro) * Coefficiente, "( " + TestoImporto(parteEntro) + " + " +
-                                                        TestoImporto(parteOltre) + " )" +
-                                                        StringaCoefficiente};
+  StampaPercentuale(voce, oltre, eccedenza);
+  const Conto parteOltre = eccedenza * oltre.valore / 100;
+  const Conto parteEntro = Conto(P.valore) * limite / 100;
+  return {(parteOltre + parteEntro) * Coefficiente,
+          "( " + TestoImporto(parteEntro) + " + " + TestoImporto(parteOltre) + " )" +
+              StringaCoefficiente,
+          Unite(P.catena, oltre.catena)};
+}
+
+// A multiple of a unit is written as how many of them there are.
+Catena NotaCos::CatenaArrotondata(Catena catena, const std::string& regola,
+                                  const Conto& conto) const {
+  for (Passaggio& passo : catena) passo.cifra.clear();  // those of other lines
+  catena.push_back(PassoOnorario(regola, conto));
+  const double unita = tariffa.testata.UnitaArrotondamento;
+  if (unita == 0) return catena;
+  const double onorario = IntInLire(conto);
+  const Conto quante = Conto(ImportoInLire(onorario)) / unita;
+  const double intere = std::round(quante.Valore());
+  catena = Unite(std::move(catena), CatenaInLire(onorario));
+  catena.push_back({"Arrotondamento alla cifra più vicina: quante volte " + CifraEsatta(unita) +
+                        " Lire (" + CasoDiParcella + ".CFG)",
+                    quante.Testo(),
+                    quante.Valore(),
+                    "",
+                    {{TipoTaglio::Arrotonda, 0, quante.Valore(), intere}}});
+  const Conto arrotondato = Conto(intere) * unita;
+  catena.push_back({"Importo arrotondato", arrotondato.Testo(), arrotondato.Valore(), "Lire"});
+  return ModoLire ? catena : Unite(std::move(catena), CatenaInValuta(arrotondato));
 }
 
 void NotaCos::CalcolaVariazioni() {
@@ -92,10 +147,17 @@ void NotaCos::CalcolaVariazioni() {
     double Maggiorazione = d.Maggiorazione[i];
     if (Maggiorazione == 0) continue;
     uscita.Line(tariffa.testata.NomeVariazione[i] + " " + FormattaNumero(Maggiorazione, 5) + "%");
-    double variazione = Arrotonda(IntInLire(OnorarioBase * Maggiorazione / 100));
+    spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+      return {Mostrato(PassoDato("MAGGIORAZIONI E RIDUZIONI in %", d.Maggiorazione[i]), 5, "%")};
+    });
+    const Conto conto = OnorarioBase * Maggiorazione / 100;
+    double variazione = Arrotonda(IntInLire(conto));
     StampaRigaOnorario(
         1, FormattaCopia(Maggiorazione / 100, 7) + " x " + TestoImporto(OnorarioBase) + Uguale(),
         variazione);
+    Spiega([&] {
+      return CatenaArrotondata({}, "Variazione in percento dell'onorario dei periodi", conto);
+    });
     variazioni += variazione;
   }
 }

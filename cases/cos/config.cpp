@@ -67,14 +67,17 @@ PeriodoCos LeggiBlocco(LettoreCos& file) {
 
 }  // namespace
 
-double PeriodoCos::ValoreA(double lire) const {
+Conto PeriodoCos::ValoreA(double lire) const {
   const auto k = static_cast<std::size_t>(std::ranges::lower_bound(Limite, lire) - Limite.begin());
   if (k == 0) return Valore.front();
   if (k == Limite.size()) return Valore.back();
-  return Valore[k] - (Valore[k] - Valore[k - 1]) * (Limite[k] - lire) / (Limite[k] - Limite[k - 1]);
+  return Valore[k] - (Conto(Valore[k]) - Valore[k - 1]) * (Conto(Limite[k]) - lire) /
+                         (Conto(Limite[k]) - Limite[k - 1]);
 }
 
-double PeriodoCos::OnorarioA(double lire) const { return std::max(ValoreA(lire), MinimoPeriodo); }
+Conto PeriodoCos::OnorarioA(double lire) const {
+  return std::max(ValoreA(lire), Conto(MinimoPeriodo));
+}
 
 TestataCos LeggiTestataCos(const WorkFolder& folder, const std::string& codice) {
   LettoreCos file(folder, codice);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "cases/cos/data.h"
+#include "runtime/explanation/conto.h"
 #include "runtime/folder.h"
 
 namespace orm {
@@ -32,9 +33,9 @@ struct PeriodoCos {
   std::vector<double> Limite, Valore;
 
   // The value at an amount, interpolated between two limits; the first or the last value beyond.
-  double ValoreA(double lire) const;
+  Conto ValoreA(double lire) const;
   // The same as a fee, at least MinimoPeriodo.
-  double OnorarioA(double lire) const;
+  Conto OnorarioA(double lire) const;
 };
 
 // Both read the file of the case from its head. A file that is absent, short, or holds what cannot

@@ -28,20 +28,25 @@ class NotaCos : public Parcella {
 
  private:
   // A fee and how it comes about.
-  struct Conto {
-    double onorario;
+  struct OnorarioCos {
+    Conto conto;  // neither cut nor rounded
     std::string formula;
+    Catena prima = {};  // how its figures came about, where that is asked
   };
   void CalcolaPeriodo(std::size_t i);
-  Conto ConQuota(double onorarioIntero, double importo) const;
-  Conto ConPercentuale(const PeriodoCos& periodo, const Percentuale& P, double importo);
+  OnorarioCos ConQuota(double onorarioIntero, double importo) const;
+  OnorarioCos ConPercentuale(const PeriodoCos& periodo, const Percentuale& P, double importo);
   Percentuale PercentualeDaTabellaCS(const PeriodoCos& periodo) const;
   PercentualiTabellaA PercentualiRevisione(const RigaCos& riga, int periodo,
-                                           double SommaLotto) const;
+                                           const Conto& SommaLotto) const;
   void RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto);
-  void RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int periodo, double SommaLotto);
+  void RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int periodo,
+                     const Conto& SommaLotto);
 
   std::string Uguale() const;
+  Catena CatenaOnorarioIntero(const PeriodoCos& periodo) const;
+  // The last steps of a fee: its cut and its rounding, behind those that led to it.
+  Catena CatenaArrotondata(Catena catena, const std::string& regola, const Conto& conto) const;
   double Arrotonda(double onorario) const {
     return ArrotondaAlleCifreDi(*this, onorario, tariffa.testata.UnitaArrotondamento);
   }
@@ -49,7 +54,8 @@ class NotaCos : public Parcella {
   const DatiCos& d;
   const TariffaCos& tariffa;
   const double TotaleInLire;
-  double OnorarioBase = 0, variazioni = 0, revisione = 0;
+  Conto OnorarioBase;
+  double variazioni = 0, revisione = 0;
 };
 
 }  // namespace orm

@@ -20,7 +20,7 @@ void NotaCos::RevisioneCalcoliCos() {
 }
 
 void NotaCos::RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto) {
-  double SommaLotto = 0;
+  Conto SommaLotto;
   for (std::size_t j = 0; j < lotto.PeriodoDelLotto.size(); ++j)
     SommaLotto += d.Righe[primaRiga + j].ImportoVerificato;
   for (std::size_t j = 0; j < lotto.PeriodoDelLotto.size(); ++j)
@@ -29,31 +29,38 @@ void NotaCos::RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto) {
 
 // Of the whole lot, in each period's own table. The curve of 2001 knows no limit and no slices.
 PercentualiTabellaA NotaCos::PercentualiRevisione(const RigaCos& riga, int periodo,
-                                                  double SommaLotto) const {
+                                                  const Conto& SommaLotto) const {
   if (CasoDiParcella == "CS1")
     return PercentualiDellaBase(SommaLotto, periodo, riga.Classe, riga.Categoria);
   return {PercentualeDaTabellaNuova(SommaLotto, riga.Classe, riga.Categoria), {}};
 }
 
 void NotaCos::RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int periodo,
-                            double SommaLotto) {
+                            const Conto& SommaLotto) {
   const PercentualiTabellaA percentuali = PercentualiRevisione(riga, periodo, SommaLotto);
   uscita.Text(TitoloLotto(numeroRiga, riga.Classe, riga.Categoria));
   if (CasoDiParcella == "CS1") uscita.Tab(32).Text(NomePeriodoTariffario(periodo));
   uscita.EndLine();
-  StampaLavori(6, "  - Importo dei Lavori verificati", riga.ImportoVerificato);
+  StampaLavori(6, "  - Importo dei Lavori verificati", riga.ImportoVerificato,
+               "LAVORI VERIFICATI, Importo del Lotto");
   for (const auto& [importo, P] : QuoteDellImporto(percentuali, SommaLotto))
     StampaPercentuale(kVocePercentualeProgetto, P, importo);
   const double aliquota = AliquotaRevisione(CasoDiParcella, riga);
   const std::string inizio = TestoQuota(kRevisioneCalcoli);
+  const auto ragioni = [&]() -> Ragioni {
+    return {
+        "Art. 19-f, revisione dei calcoli di stabilità: importo dei lavori verificati per 0,20, "
+        "per percentuale e per aliquota, per il coefficiente dei compensi",
+        {{"Aliquota della classe per la revisione dei calcoli", "", aliquota}}};
+  };
   for (const auto& [importo, P] : QuoteDellImporto(percentuali, riga.ImportoVerificato))
-    revisione +=
-        StampaOnorario({.inizio = inizio,
-                        .aliquota = aliquota,
-                        .decimali = 3,
-                        .percentuale = P,
-                        .importo = TestoImporto(importo)},
-                       importo * kRevisioneCalcoli * P.valore * aliquota / 100 * Coefficiente);
+    revisione += StampaOnorario(
+        {.inizio = inizio,
+         .aliquota = aliquota,
+         .decimali = 3,
+         .percentuale = P,
+         .importo = TestoImporto(importo)},
+        importo * kRevisioneCalcoli * P.valore * aliquota / 100 * Coefficiente, ragioni);
 }
 
 }  // namespace orm

@@ -3,6 +3,8 @@
 #include "cases/inc/config.h"
 #include "cases/inc/data.h"
 #include "cases/inc/inc.h"
+#include "tariff/chains/compensation_chains.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
@@ -25,7 +27,7 @@ class NotaInc : public Parcella {
   void CalcolaCertificato();
 
  private:
-  void CalcolaLotto(const LottoInc& lotto, double aliquota);
+  void CalcolaLotto(const LottoInc& lotto, const Conto& aliquota);
   static bool Svolta(const LottoInc& lotto, char lettera) {
     return lotto.Prestazioni.find(lettera) != std::string::npos;
   }
@@ -33,7 +35,7 @@ class NotaInc : public Parcella {
   const DatiInc& d;
   const QuoteInc quote;
   const int periodo;
-  double somma = 0;
+  Conto somma;
 };
 
 // The tariff of the chief engineer allows no more than its own greatest percentage.
@@ -44,25 +46,33 @@ void NotaInc::CalcolaImporti() {
   Coefficiente = massimo;
   StringaCoefficiente = " x " + FormattaNumero(Coefficiente, 2);
   uscita.Text("ridotta al massimo del ").Bare(quote.massimoCompensi).Line("%");
+  spiegazioni.Riga(uscita.Contents(), [&] {
+    Passaggio limite{"Massimo dei compensi accessori dell'ingegnere capo (INC.CFG)", "",
+                     quote.massimoCompensi, "%"};
+    limite.cifra = CifraNuda(quote.massimoCompensi);
+    CatenaCompensi = {limite, PassoCoefficiente(quote.massimoCompensi, massimo)};
+    CatenaCompensi.back().tagli = {{TipoTaglio::Decimali, 2, massimo, Coefficiente}};
+    return Catena{std::move(limite)};
+  });
 }
 
 // A lot without services has no fee and no number.
 void NotaInc::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
   for (const LottoInc& lotto : d.Lotti) {
-    double aliquota = 0;
+    Conto aliquota = 0;
     bool svolta = false;
     for (const auto& [lettera, quota] :
          {std::pair{'g', quote.direzione}, {'i', quote.assistenza}, {'l', quote.liquidazione}}) {
       if (!Svolta(lotto, lettera)) continue;
       svolta = true;
-      aliquota += quota * AliquotaTabellaB(lotto.Classe, lotto.Categoria, lettera);
+      aliquota += Conto(quota) * AliquotaTabellaB(lotto.Classe, lotto.Categoria, lettera);
     }
     if (svolta) CalcolaLotto(lotto, aliquota);
   }
 }
 
-void NotaInc::CalcolaLotto(const LottoInc& lotto, double aliquota) {
+void NotaInc::CalcolaLotto(const LottoInc& lotto, const Conto& aliquota) {
   uscita.Line(TitoloLotto(++progressivo, lotto.Classe, lotto.Categoria) + " (" +
               NomePeriodoTariffario(periodo) + ")");
   uscita.Line("  Prestazioni : " + lotto.Prestazioni);
@@ -71,22 +81,41 @@ void NotaInc::CalcolaLotto(const LottoInc& lotto, double aliquota) {
   const auto quoteImporto = QuoteDellImporto(percentuali, lotto.Importo);
   for (const auto& [importo, P] : quoteImporto)
     StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
+  const auto ragioni = [&]() -> Ragioni {
+    return {
+        "Ingegnere capo: percentuale per importo dei lavori e per aliquota, per il coefficiente "
+        "dei compensi",
+        {{"Aliquota delle prestazioni " + lotto.Prestazioni +
+              ": per ciascuna la quota di INC.CFG per quella dell'art. 19, Tabella B (g "
+              "direzione dei lavori, i assistenza al collaudo, l liquidazione)",
+          aliquota.Testo(), aliquota.Valore()}}};
+  };
   for (const auto& [importo, P] : quoteImporto)
-    TotaleGenerale += StampaOnorario({.inizio = "",
-                                      .aliquota = aliquota,
-                                      .decimali = 4,
-                                      .percentuale = P,
-                                      .importo = TestoImporto(importo)},
-                                     P.valore * importo * aliquota / 100 * Coefficiente);
+    TotaleGenerale +=
+        StampaOnorario({.inizio = "",
+                        .aliquota = aliquota,
+                        .decimali = 4,
+                        .percentuale = P,
+                        .importo = TestoImporto(importo)},
+                       P.valore * importo * aliquota.Valore() / 100 * Coefficiente, ragioni);
 }
 
 void NotaInc::CalcolaCertificato() {
   if (d.CertificatoRegolareEsecuzione != "SI" || somma <= 0) return;
   const Percentuale P = PercentualeDaTabellaC(periodo, ImportoInLire(somma));
-  StampaVoce("CONFERMA CERTIFICATO DI REGOLARE ESECUZIONE",
-             FormattaCopia(quote.tabellaC, 2) + " x " + P.testo + " x " + TestoImporto(somma) +
-                 StringaCoefficiente + " =",
-             quote.tabellaC * P.valore * somma / 100 * Coefficiente);
+  const Conto onorario = Conto(quote.tabellaC) * P.valore * somma / 100 * Coefficiente;
+  StampaVoce(
+      "CONFERMA CERTIFICATO DI REGOLARE ESECUZIONE",
+      FormattaCopia(quote.tabellaC, 2) + " x " + P.testo + " x " + TestoImporto(somma) +
+          StringaCoefficiente + " =",
+      onorario, [&] {
+        return CatenaOnorario(
+            P, onorario,
+            {"Conferma del certificato di regolare esecuzione: quota di INC.CFG della "
+             "percentuale di Tabella C, per l'importo dei lavori e il coefficiente dei compensi",
+             Unite({{"Quota della Tabella C (INC.CFG)", "", quote.tabellaC}},
+                   CatenaInLire(somma))});
+      });
 }
 
 }  // namespace

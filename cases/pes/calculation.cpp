@@ -23,14 +23,14 @@ void NotaPes::StampaSpecifica() {
   uscita.Line(kRigaImporti);
   for (const BenePes& bene : d.Beni) {
     uscita.Line(Numero() + " " + bene.Descrizione);
-    StampaLavori(5, " - Valore stimato ", bene.Valore);
+    StampaLavori(5, " - Valore stimato ", bene.Valore, "VALORE STIMATO");
   }
 }
 
 void NotaPes::CalcolaCompensi() {
-  double somma = 0;
+  Conto somma;
   for (const BenePes& bene : d.Beni) somma += bene.Valore;
-  CompensiAccessori(ImportoInLire(somma));
+  CompensiSuLavori(somma, "Somma dei valori stimati");
 }
 
 void NotaPes::CalcolaOnorari() {
@@ -39,9 +39,18 @@ void NotaPes::CalcolaOnorari() {
   for (const BenePes& bene : d.Beni) {
     double P = bene.PercentualeTabellaF;
     const std::string percentuale = FormattaNumero(P, 5);
+    const Conto onorario = Conto(bene.Valore) * P / 100 * Coefficiente;
     StampaVoce(bene.Descrizione,
                percentuale + "% x " + TestoImporto(bene.Valore) + StringaCoefficiente + " =",
-               bene.Valore * P / 100 * Coefficiente);
+               onorario, [&] {
+                 Passaggio tabellaF =
+                     PassoDato("PERCENTUALE DELLA TABELLA F", bene.PercentualeTabellaF);
+                 tabellaF.unita = "%";
+                 tabellaF.tagli = {{TipoTaglio::Decimali, 5, bene.PercentualeTabellaF, P}};
+                 return CatenaOnorario({P, percentuale, {std::move(tabellaF)}}, onorario,
+                                       {"Perizia estimativa, Tabella F: valore stimato per "
+                                        "percentuale, per il coefficiente dei compensi"});
+               });
   }
 }
 

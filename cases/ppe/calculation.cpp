@@ -56,11 +56,7 @@ void NotaPpe::StampaDati() {
   const auto riga = [this](const char* etichetta, std::int16_t numero, const char* campo) {
     if (numero == 0) return;
     uscita.Text(etichetta).Bare(numero).EndLine();
-    spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
-      Passaggio passo = PassoDato(campo, numero);
-      passo.cifra = NumberText(numero);
-      return {std::move(passo)};
-    });
+    SpiegaDato(campo, numero);
   };
   uscita.Line(kRigaDatiParcella);
   riga("Numero Partite catastali    : ", d.NumPartite, "Numero PARTITE CATASTALI");
@@ -92,15 +88,9 @@ void NotaPpe::CalcolaQuantita(const char* titolo, std::int16_t numero, const Tar
 
 // In Euro most rates are those in Lire, brought over to the cent before anything is counted.
 Passaggio NotaPpe::PassoTariffa(const TariffaPpe& tariffa) const {
-  Passaggio passo = PassoImporto("Legge 143/1949, compenso fisso per " + std::string(tariffa.cosa),
-                                 Tariffa(tariffa));
-  if (ModoLire || tariffa.euro != 0) return passo;
-  const Conto cambio = Conto(tariffa.lire) / kLirePerEuro;
-  passo.regola += ", dalle Lire al cambio di 1.936,27";
-  passo.conto = cambio.Testo();
-  passo.risultato = cambio.Valore();
-  passo.tagli = {{TipoTaglio::SullaCifra, 2, cambio.Valore(), Tariffa(tariffa)}};
-  return passo;
+  std::string regola = "Legge 143/1949, compenso fisso per " + std::string(tariffa.cosa);
+  if (!ModoLire && tariffa.euro != 0) return PassoImporto(std::move(regola), tariffa.euro);
+  return Parcella::PassoTariffa(std::move(regola), tariffa.lire);
 }
 
 void NotaPpe::CalcolaVerbale() {

@@ -9,6 +9,14 @@
 namespace orm {
 namespace {
 
+// What the forms call them.
+const char* CampoQuantita(const ElaboratoRim& e) {
+  return e.Sezione() ? "VOLUME [mc]" : "SUPERFICIE [mq]";
+}
+const char* CampoNumero(const ElaboratoRim& e) {
+  return e.Pianta() ? "NUMERO DEI PIANI" : "NUMERO DEI PROSPETTI";
+}
+
 class NotaRim : public Parcella {
  public:
   NotaRim(Parcella parcella, const DatiRim& dati) : Parcella(std::move(parcella)), d(dati) {}
@@ -19,21 +27,23 @@ class NotaRim : public Parcella {
 
  private:
   void CalcolaElaborato(const ElaboratoRim& e);
+  Catena CatenaElaborato(const ElaboratoRim& e, const Conto& onorario) const;
 
   const DatiRim& d;
 };
 
 void NotaRim::StampaDati() {
-  const auto riga = [this](const char* etichetta, double quantita) {
+  const auto riga = [this](const char* etichetta, double quantita, const char* campo) {
     uscita.Tab(5).Text(etichetta).Tab(kColonnaLavori).Bare(quantita).EndLine();
+    SpiegaDato(campo, quantita);
   };
   uscita.Line(kRigaDatiParcella);
   for (const ElaboratoRim& e : d.Elaborati) {
     uscita.Text(Numero() + " " + e.Tipo().nome);
     if (e.Pianta()) uscita.Text(" ").Text(kScaleRim[e.PostoScala()]);
     uscita.EndLine();
-    riga(e.Sezione() ? " - Volume [mc] " : " - Superficie [mq] ", e.Quantita);
-    if (e.Numero > 1) riga(" - Numero ", e.Numero);
+    riga(e.Sezione() ? " - Volume [mc] " : " - Superficie [mq] ", e.Quantita, CampoQuantita(e));
+    if (e.Numero > 1) riga(" - Numero ", e.Numero, CampoNumero(e));
   }
 }
 
@@ -49,17 +59,36 @@ void NotaRim::CalcolaElaborato(const ElaboratoRim& e) {
   const double q = e.Quantita, n = e.Numero;
   const std::string primo = FormattaCopia(q, 5) + " x " + testoU;
   std::string formula = primo;
-  double onorario = q * u;
-  if (e.Pianta()) {
-    onorario += (n - 1) * kPianiOltreIlPrimo * q * u;
+  Conto onorario = Conto(q) * u;
+  if (e.Pianta() && n != 1) {
+    onorario += Conto(n - 1) * kPianiOltreIlPrimo * q * u;
     if (n > 1)
       formula += " + " + FormattaCopia(n - 1, 0) + " x " + TestoQuota(kPianiOltreIlPrimo) + primo;
   }
   if (f != 0) {
-    onorario += n * f;
+    onorario += Conto(n) * f;
     formula += " + " + FormattaCopia(n, 0) + " x " + testoF;
   }
-  StampaVoce(e.Tipo().nome, formula, onorario);
+  StampaVoce(e.Tipo().nome, formula, onorario, [&] { return CatenaElaborato(e, onorario); });
+}
+
+Catena NotaRim::CatenaElaborato(const ElaboratoRim& e, const Conto& onorario) const {
+  std::string voce = std::string("D.M. 4-4-2001, Tabella B3.2, ") + e.Tipo().nome;
+  if (e.Pianta()) voce += std::string(", scala ") + kScaleRim[e.PostoScala()];
+  Catena catena{PassoTariffa(
+      voce + (e.Sezione() ? ": tariffa a metro cubo" : ": tariffa a metro quadro"), e.Tariffa())};
+  if (e.QuotaFissa() != 0)
+    catena.push_back(PassoTariffa(
+        voce + (e.Pianta() ? ": quota fissa di ogni piano" : ": quota fissa di ogni prospetto"),
+        e.QuotaFissa()));
+  catena.push_back(PassoDato(CampoQuantita(e), e.Quantita));
+  if (!e.Sezione()) catena.push_back(PassoDato(CampoNumero(e), e.Numero));
+  catena.push_back(PassoOnorario(
+      e.Pianta() && e.Numero > 1
+          ? "Misura per tariffa; i piani oltre il primo ne danno 0,75 ciascuno, più le quote fisse"
+          : "Misura per tariffa, più le quote fisse che ci sono",
+      onorario));
+  return catena;
 }
 
 void NotaRim::CalcolaMaggiorazioni() {
@@ -69,8 +98,14 @@ void NotaRim::CalcolaMaggiorazioni() {
     if (*risposta == "SI") ++quante;
   if (quante == 0) return;
   const double quota = kMaggiorazioniRim[quante - 1];
-  StampaVoce("MAGGIORAZIONI", TestoQuota(quota) + TestoImporto(TotaleGenerale),
-             quota * TotaleGenerale);
+  const Conto maggiorazione = quota * TotaleGenerale;
+  StampaVoce("MAGGIORAZIONI", TestoQuota(quota) + TestoImporto(TotaleGenerale), maggiorazione,
+             [&]() -> Catena {
+               return {
+                   PassoOnorario("D.M. 4-4-2001, Tabella B3.2, maggiorazioni: 0,30 per ognuna "
+                                 "di quelle scelte, sommate, degli onorari sopra",
+                                 maggiorazione)};
+             });
 }
 
 }  // namespace
@@ -82,7 +117,7 @@ Parcella CalcoloRim(Parcella parcella, const DatiRim& dati, double& totale) {
   nota.CalcolaOnorari();
   nota.CalcolaMaggiorazioni();
   totale = nota.TotaleGenerale;
-  nota.ChiudiParcella(totale, 0);
+  nota.ChiudiParcella(nota.TotaleGenerale, 0);
   return nota;
 }
 

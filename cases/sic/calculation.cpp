@@ -48,13 +48,12 @@ void NotaSic::StampaSpecifica() {
     if (g.SommaProgetto == 0 && g.SommaEseguito == 0) continue;
     uscita.Line(TitoloLotto(i + 1, d.Lotti[k].Classe, d.Lotti[k].Categoria));
     StampaProgettoSpecifica(5, g.SommaProgetto, kCampoProgetto);
-    if (g.SommaEseguito > 0) StampaLavori(5, " - LAVORI ESEGUITI         ", g.SommaEseguito);
+    if (g.SommaEseguito > 0)
+      StampaLavori(5, " - LAVORI ESEGUITI         ", g.SommaEseguito, kCampoEseguito);
   }
 }
 
-void NotaSic::CalcolaCompensi() {
-  CompensiAccessori(ImportoInLire(std::max(TotaleProgetto, TotaleEseguito)));
-}
+void NotaSic::CalcolaCompensi() { CompensiSulMaggiore(TotaleProgetto, TotaleEseguito); }
 
 bool NotaSic::Impegnato(const Lotto& lotto, std::size_t p) const {
   return p < lotto.dati.StringaPrestazioni.size() && lotto.dati.StringaPrestazioni[p] == '1';

@@ -2,14 +2,29 @@
 // works have come.
 #include "cases/sic/note.h"
 #include "runtime/failure.h"
+#include "tariff/explanations.h"
 #include "tariff/money.h"
 
 namespace orm {
 
+namespace {
+
+constexpr const char* kMinimo =
+    "Sicurezza dei cantieri (D.Lgs 494/96): onorario minimo della prestazione";
+
+}  // namespace
+
 double NotaSic::StampaMinimo(const Fase& fase) {
   uscita.Line("  ONORARIO MINIMO  ");
-  double risultato = IntInLire(fase.Minimo * Coefficiente);
+  const Conto conto = Conto(fase.Minimo) * Coefficiente;
+  double risultato = IntInLire(conto);
   StampaRigaOnorario(1, TestoImporto(fase.Minimo) + StringaCoefficiente + " =", risultato);
+  Spiega([&] {
+    return CatenaOnorario({}, conto,
+                          {"Il conto a percentuale dà meno: vale l'onorario minimo, per il "
+                           "coefficiente dei compensi",
+                           {PassoTariffa(kMinimo, fase.prestazione.minimo)}});
+  });
   return risultato;
 }
 
@@ -19,16 +34,28 @@ double NotaSic::StampaMinimoInParte(const Fase& fase, bool ancora) {
     throw RuntimeFailure(
         "Divisione per zero: l'onorario minimo va in proporzione ai lavori di progetto, che sono "
         "0.");
-  double Rapporto = TotaleEseguito / TotaleProgetto;
+  const Conto divisione = TotaleEseguito / TotaleProgetto;
+  double Rapporto = divisione;
   const std::string testo = FormattaNumero(Rapporto, 2);
   uscita
       .Text(ModoLire && !ancora ? "  PERCENTUALE dei LAVORI già ESEGUITI sul Totale : "
                                 : "  Percentuale dei LAVORI già ESEGUITI sul Totale : ")
       .Line(testo);
+  spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
+    return {Mostrato(
+        {"Lavori eseguiti sui lavori di progetto", divisione.Testo(), divisione.Valore()}, 2)};
+  });
   uscita.Line("  ONORARIO MINIMO  ");
-  double risultato = IntInLire(Rapporto * fase.Minimo * Coefficiente);
+  const Conto conto = Conto(Rapporto) * fase.Minimo * Coefficiente;
+  double risultato = IntInLire(conto);
   StampaRigaOnorario(1, testo + " x " + TestoImporto(fase.Minimo) + StringaCoefficiente + " =",
                      risultato);
+  Spiega([&] {
+    return CatenaOnorario({}, conto,
+                          {"Il conto a percentuale dà meno: vale l'onorario minimo, per la parte "
+                           "dei lavori già eseguiti e per il coefficiente dei compensi",
+                           {PassoTariffa(kMinimo, fase.prestazione.minimo)}});
+  });
   return risultato;
 }
 
@@ -61,7 +88,8 @@ double NotaSic::OnorarioSuProgetto(const Fase& fase) const {
     if (lotto.ImportoBase <= 0) continue;
     const PercentualiTabellaA percentuali = PercentualeDiLotto(lotto, false);
     for (const QuotaImporto& quota : QuoteDellImporto(percentuali, lotto.ImportoBase))
-      risultato += Prodotto(quota, fase.prestazione.aliquota, f.maggiorazioni, f.incrementi);
+      risultato +=
+          IntInLire(Prodotto(quota, fase.prestazione.aliquota, f.maggiorazioni, f.incrementi));
   }
   return risultato;
 }

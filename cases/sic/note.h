@@ -9,6 +9,11 @@
 
 namespace orm {
 
+// Where the data have the amounts.
+inline constexpr std::string_view kCampoEseguito = "ESECUZIONE, IMPORTO LAVORI";
+inline constexpr std::string_view kCampoBase =
+    "IMPORTO LAVORI, il maggiore fra progetto ed eseguito";
+
 class NotaSic : public Parcella {
  public:
   NotaSic(Parcella parcella, const DatiSicurezza& dati);
@@ -27,7 +32,7 @@ class NotaSic : public Parcella {
     double ImportoBase;  // the larger of the two amounts
   };
   struct Gruppo {
-    double SommaProgetto = 0, SommaEseguito = 0;  // signed, as the list of amounts shows them
+    Conto SommaProgetto, SommaEseguito;  // signed, as the list of amounts shows them
     double ProgettoGruppo = 0, EseguitoGruppo = 0;
     double BaseProgetto = 0, BaseEsecuzione = 0;
   };
@@ -38,7 +43,7 @@ class NotaSic : public Parcella {
     double Minimo;  // in the currency of the note
   };
   // What a lot's fee in a phase is made of.
-  struct Conto {
+  struct ContoLotto {
     PercentualiTabellaA percentuali;
     double importo = 0;
     double FattoreMaggiorazioni = 1;
@@ -51,7 +56,7 @@ class NotaSic : public Parcella {
   // A fee is the sum of these, each cut by itself in Lire.
   struct Termine {
     QuotaImporto quota;
-    double onorario;
+    Conto onorario;  // not cut
   };
 
   void CalcolaBasi();
@@ -59,14 +64,17 @@ class NotaSic : public Parcella {
   PercentualiTabellaA PercentualeDiLotto(const Lotto& lotto, bool progetto) const;
   Fattori FattoriDi(const Lotto& lotto, std::size_t p) const;
   double OnorarioFase(const Fase& fase);
-  Conto ContoDi(const Fase& fase, const Lotto& lotto) const;
-  std::vector<Termine> Termini(const Fase& fase, const Conto& conto) const;
-  double Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
-                  double incrementi) const;
+  ContoLotto ContoDi(const Fase& fase, const Lotto& lotto) const;
+  std::vector<Termine> Termini(const Fase& fase, const ContoLotto& conto) const;
+  Conto Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
+                 double incrementi) const;
+  Passaggio PassoAliquota(const Fase& fase) const;
+  Ragioni RagioniDi(const Fase& fase, const ContoLotto& conto) const;
   double Conteggio(const Fase& fase) const;
   double StampaLotti(const Fase& fase);
   double StampaLotto(const Fase& fase, const Lotto& lotto);
-  void StampaPercentuali(const Lotto& lotto, const Conto& conto);
+  std::string StampaFattori(const Fase& fase, const ContoLotto& conto);
+  void StampaPercentuali(const Lotto& lotto, const ContoLotto& conto);
 
   // The least fee where it counts, printed; nothing where the reckoned fee stands.
   bool OnorarioMinimoFase(const Fase& fase, double& risultato);
@@ -79,7 +87,7 @@ class NotaSic : public Parcella {
   const VersioneSic& versione;
   std::vector<Lotto> lotti;
   std::vector<Gruppo> gruppi;
-  double TotaleProgetto = 0, TotaleEseguito = 0;
+  Conto TotaleProgetto, TotaleEseguito;
 };
 
 }  // namespace orm

@@ -1,6 +1,7 @@
 // The fee of one duty: reckoned over all lots, held against its least fee, then printed lot by lot.
 #include "cases/sic/note.h"
 #include "runtime/text.h"
+#include "tariff/explanations.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 
@@ -48,7 +49,7 @@ NotaSic::Fattori NotaSic::FattoriDi(const Lotto& lotto, std::size_t p) const {
 }
 
 // In the execution the increment is shown and left out of the fee.
-NotaSic::Conto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const {
+NotaSic::ContoLotto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const {
   const Fattori f = FattoriDi(lotto, fase.p);
   const bool progetto = fase.prestazione.progetto;
   return {.percentuali = PercentualeDiLotto(lotto, progetto),
@@ -58,15 +59,39 @@ NotaSic::Conto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const {
           .IncrementiContati = progetto ? f.incrementi : 1};
 }
 
-double NotaSic::Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
-                         double incrementi) const {
-  return IntInLire(quota.percentuale.valore * quota.importo * aliquota / 100 * Coefficiente *
-                   maggiorazioni * incrementi);
+Conto NotaSic::Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
+                        double incrementi) const {
+  return quota.percentuale.valore * quota.importo * aliquota / 100 * Coefficiente * maggiorazioni *
+         incrementi;
+}
+
+Passaggio NotaSic::PassoAliquota(const Fase& fase) const {
+  return {std::string("Sicurezza dei cantieri (D.Lgs 494/96), ") + fase.prestazione.didascalia +
+              ": aliquota" + (versione.SC2 ? " (D.M. 4-4-2001)" : " (versione C.N.I. e C.N.A.)"),
+          "", fase.prestazione.aliquota};
+}
+
+Parcella::Ragioni NotaSic::RagioniDi(const Fase& fase, const ContoLotto& conto) const {
+  Ragioni ragioni{
+      "Percentuale per importo e per aliquota, per il coefficiente dei compensi e per i fattori "
+      "di maggiorazione e di incremento",
+      {PassoAliquota(fase)}};
+  const auto fattore = [&](const char* quale, double valore) {
+    if (valore != 1)
+      ragioni.prima.push_back(
+          {std::string("Fattore ") + quale + " che i dati scelgono", "", valore});
+  };
+  fattore("delle maggiorazioni", conto.FattoreMaggiorazioni);
+  fattore("degli incrementi", conto.FattoreIncrementi);
+  if (conto.FattoreIncrementi != conto.IncrementiContati)
+    ragioni.note.emplace_back("Nell'esecuzione l'incremento è scritto e non entra nell'onorario");
+  if (conto.importo < 0) ragioni.note.emplace_back("Un importo negativo non dà onorario");
+  return ragioni;
 }
 
 // Works executed up to the limit take the first percentage alone; a design does not look at the
 // lot's amount, and the second slice may be less than nothing.
-std::vector<NotaSic::Termine> NotaSic::Termini(const Fase& fase, const Conto& conto) const {
+std::vector<NotaSic::Termine> NotaSic::Termini(const Fase& fase, const ContoLotto& conto) const {
   const bool unaFetta = !fase.prestazione.progetto && conto.importo <= LimiteTabellaA();
   const auto quote = unaFetta ? std::vector<QuotaImporto>{{conto.importo, conto.percentuali.entro}}
                               : QuoteDellImporto(conto.percentuali, conto.importo);
@@ -75,7 +100,7 @@ std::vector<NotaSic::Termine> NotaSic::Termini(const Fase& fase, const Conto& co
     termini.push_back({quota, conto.importo > 0
                                   ? Prodotto(quota, fase.prestazione.aliquota,
                                              conto.FattoreMaggiorazioni, conto.IncrementiContati)
-                                  : 0});
+                                  : Conto(0)});
   return termini;
 }
 
@@ -84,8 +109,8 @@ double NotaSic::Conteggio(const Fase& fase) const {
   double risultato = 0;
   for (const Lotto& lotto : lotti) {
     if (!Impegnato(lotto, fase.p)) continue;
-    const Conto conto = ContoDi(fase, lotto);
-    for (const Termine& termine : Termini(fase, conto)) risultato += termine.onorario;
+    const ContoLotto conto = ContoDi(fase, lotto);
+    for (const Termine& termine : Termini(fase, conto)) risultato += IntInLire(termine.onorario);
   }
   return risultato;
 }
@@ -106,7 +131,7 @@ double NotaSic::StampaLotti(const Fase& fase) {
 }
 
 // Behind the percentages stands what the group's design comes to, in the execution too.
-void NotaSic::StampaPercentuali(const Lotto& lotto, const Conto& conto) {
+void NotaSic::StampaPercentuali(const Lotto& lotto, const ContoLotto& conto) {
   constexpr int colonna = 38;
   const double base = gruppi[lotto.gruppo].ProgettoGruppo;
   const auto& [entro, oltre, divise] = conto.percentuali;
@@ -115,29 +140,20 @@ void NotaSic::StampaPercentuali(const Lotto& lotto, const Conto& conto) {
   } else {
     const double limite = LimiteTabellaA();
     StampaPercentuale("  - Percentuale Tab. A =  ", entro, limite, colonna);
-    StampaPercentuale("  - Percentuale Tab. A =  ", oltre, base - limite, colonna);
+    StampaPercentuale("  - Percentuale Tab. A =  ", oltre, Conto(base) - limite, colonna);
   }
 }
 
 double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
-  const Conto conto = ContoDi(fase, lotto);
+  const ContoLotto conto = ContoDi(fase, lotto);
   if (conto.importo == 0) return 0;
   const double aliquota = fase.prestazione.aliquota;
   uscita.Line("  " + TitoloLotto(lotto.numero, lotto.dati.Classe, lotto.dati.Categoria) + "      " +
               NomePeriodoTariffario(lotto.periodo));
-  StampaLavori(3, "- Lavori ", conto.importo);
+  StampaLavori(3, "- Lavori ", conto.importo,
+               fase.prestazione.progetto ? kCampoBase : kCampoEseguito);
   StampaPercentuali(lotto, conto);
-  uscita.Text("  - Aliquota = " + FormattaCopia(aliquota, 4));
-  std::string fattori;
-  const auto fattore = [&](int colonna, const char* voce, double valore) {
-    if (valore == 1) return;
-    uscita.Tab(colonna).Text(voce + FormattaCopia((valore - 1) * 100, 2) + "%");
-    fattori += " x " + FormattaCopia(valore, 2);
-  };
-  fattore(25, "Maggiorazione = ", conto.FattoreMaggiorazioni);
-  fattore(45, "Incremento = ", conto.FattoreIncrementi);
-  uscita.EndLine();
-
+  const std::string fattori = StampaFattori(fase, conto);
   const std::vector<Termine> termini = Termini(fase, conto);
   std::vector<std::string> importi;
   for (const Termine& termine : termini) importi.push_back(TestoImporto(termine.quota.importo));
@@ -151,8 +167,35 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
                                 .percentuale = termini[i].quota.percentuale,
                                 .importo = importi[i],
                                 .fattori = fattori},
-                               termini[i].onorario);
+                               termini[i].onorario, [&] { return RagioniDi(fase, conto); });
   return onorario;
+}
+
+// The line of the aliquot; the factors as the formula shows them come back.
+std::string NotaSic::StampaFattori(const Fase& fase, const ContoLotto& conto) {
+  uscita.Text("  - Aliquota = " + FormattaCopia(fase.prestazione.aliquota, 4));
+  std::string fattori;
+  const auto fattore = [&](int colonna, const char* voce, double valore) {
+    if (valore == 1) return;
+    uscita.Tab(colonna).Text(voce + FormattaCopia((valore - 1) * 100, 2) + "%");
+    fattori += " x " + FormattaCopia(valore, 2);
+  };
+  fattore(25, "Maggiorazione = ", conto.FattoreMaggiorazioni);
+  fattore(45, "Incremento = ", conto.FattoreIncrementi);
+  uscita.EndLine();
+  spiegazioni.Riga(uscita.Contents(), [&] {
+    Catena catena{Mostrato(PassoAliquota(fase), 4)};
+    for (const auto& [quale, valore] : {std::pair{"Maggiorazione", conto.FattoreMaggiorazioni},
+                                        std::pair{"Incremento", conto.FattoreIncrementi}}) {
+      if (valore == 1) continue;
+      const Conto percento = (Conto(valore) - 1) * 100;
+      catena.push_back(Mostrato({std::string(quale) + " scelta nei dati, in percento",
+                                 percento.Testo(), percento.Valore(), "%"},
+                                2, "%"));
+    }
+    return catena;
+  });
+  return fattori;
 }
 
 }  // namespace orm

@@ -34,14 +34,20 @@ void NotaSup::CalcolaLotto(const LottoSup& lotto) {
   StampaPercentuale(" % Supp. (Tab. A) = ", P, lotto.Importo);
   for (const AttivitaSup& attivita : d.Attivita) {
     uscita.Line(attivita.Attivita);
-    TotaleGenerale +=
-        StampaOnorario({.inizio = "",
-                        .percentualePrima = true,
-                        .aliquota = attivita.Aliquota,
-                        .decimali = 5,
-                        .percentuale = P,
-                        .importo = TestoImporto(lotto.Importo)},
-                       lotto.Importo * P.valore / 100 * attivita.Aliquota * Coefficiente);
+    TotaleGenerale += StampaOnorario(
+        {.inizio = "",
+         .percentualePrima = true,
+         .aliquota = attivita.Aliquota,
+         .decimali = 5,
+         .percentuale = P,
+         .importo = TestoImporto(lotto.Importo)},
+        Conto(lotto.Importo) * P.valore / 100 * attivita.Aliquota * Coefficiente, [&]() -> Ragioni {
+          return {
+              "Supporto al responsabile del procedimento, D.M. 4-4-2001, Tabella "
+              "B6: importo dei lavori per percentuale e per aliquota, per il "
+              "coefficiente dei compensi",
+              {PassoDato("ALIQUOTA DELLA TABELLA B6", attivita.Aliquota)}};
+        });
   }
 }
 

@@ -60,7 +60,7 @@ std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder) {
   return indici;
 }
 
-double IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
+Conto IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
   const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder_);
   if (anno < kAnnoBase || mese < 1 || mese > 12)
     throw RuntimeFailure("La rivalutazione parte da gennaio 1993: " + NumberText(mese) + "/" +
@@ -69,7 +69,7 @@ double IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
   const double base = Anno(indici, kAnnoBase).mesi.front();
   if (base == 0)
     throw RuntimeFailure("Manca l'indice di gennaio 1993.").AtFile(kFileIndici).AtField("indice");
-  return (IndicePubblicato(indici, mese, anno) / base - 1) * 100;
+  return (Conto(IndicePubblicato(indici, mese, anno)) / base - 1) * 100;
 }
 
 std::string IndiciFoi::Obiezione(int mese, int anno) const {

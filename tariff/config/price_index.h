@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "runtime/explanation/conto.h"
 #include "runtime/folder.h"
 
 namespace orm {
@@ -29,7 +30,7 @@ class IndiciFoi {
 
   // Percent by which prices rose from January 1993 to a month; beyond the last one published its
   // index counts. A month or year that the file cannot answer is a RuntimeFailure.
-  double PercentualeRivalutazione(int mese, int anno) const;
+  Conto PercentualeRivalutazione(int mese, int anno) const;
   // Why the percentage cannot be had, in Italian; empty when it can.
   std::string Obiezione(int mese, int anno) const;
 

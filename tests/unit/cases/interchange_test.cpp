@@ -155,6 +155,7 @@ TEST_F(Viaggio, LinesAndTotalsAreThoseOfTheReport) {
   }
   EXPECT_EQ(json["righe"][0]["descrizione"], "Onorario in funzione delle Partite");
   EXPECT_EQ(json["righe"].size(), 10U);
+  EXPECT_TRUE(json["righe"][0]["regole"][0].get<std::string>().starts_with("Legge 143/1949"));
   EXPECT_EQ(json["totali"].dump(),
             R"({"totale":2587000,"riduzione":517400,"totaleRidotto":2069600,"acconti":1000000,)"
             R"("competenze":1069600,"competenzeInEuro":552.4})");
