@@ -80,6 +80,7 @@ void FindBar::Open() {
   escape_->setEnabled(true);
   if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator))
     field_->setText(selected);
+  atBeyond_ = -1;
   MarkMatches();
   ShowCount();
   field_->setFocus();
@@ -93,32 +94,59 @@ void FindBar::Close() {
   text_->Widget().setFocus();
 }
 
+void FindBar::SeekAnew() {
+  if (!isVisible()) return;
+  atBeyond_ = -1;
+  MarkMatches();
+  ShowCount();
+}
+
 void FindBar::Typed() {
   QTextCursor cursor = text_->Cursor();
   cursor.setPosition(cursor.selectionStart());
   text_->SetCursor(cursor);
+  atBeyond_ = -1;
   MarkMatches();
   Step(false);
 }
 
 void FindBar::Step(bool backward) {
   if (!isVisible()) return Open();
-  if (field_->text().isEmpty() || matches_.isEmpty()) return ShowCount();
+  if (field_->text().isEmpty() || (matches_.isEmpty() && beyond_ == 0)) return ShowCount();
+  const bool wasBeyond = atBeyond_ >= 0;
+  if (wasBeyond && StepBeyond(backward)) return;
+  QTextCursor edge(&text_->Document());
+  if (backward) edge.movePosition(QTextCursor::End);
   QTextDocument::FindFlags flags;
   if (backward) flags |= QTextDocument::FindBackward;
   if (case_->isChecked()) flags |= QTextDocument::FindCaseSensitively;
+  const auto find = [&](const QTextCursor& from) {
+    return text_->Document().find(field_->text(), from, flags);
+  };
+  QTextCursor found = find(wasBeyond ? edge : text_->Cursor());
   QString remark;
-  QTextCursor found = text_->Document().find(field_->text(), text_->Cursor(), flags);
-  if (found.isNull()) {
-    QTextCursor edge(&text_->Document());
-    if (backward) edge.movePosition(QTextCursor::End);
-    found = text_->Document().find(field_->text(), edge, flags);
+  if (found.isNull() && StepBeyond(backward)) return;
+  if (found.isNull() || (wasBeyond && !backward)) {
+    found = find(edge);
     remark =
         backward ? QStringLiteral("ripreso dalla fine") : QStringLiteral("ripreso dall'inizio");
   }
   if (found.isNull()) return ShowCount();
   text_->SetCursor(found);
   ShowCount(remark);
+}
+
+// Shows the next match beyond the page; false when there is none, or the next is in the page again.
+bool FindBar::StepBeyond(bool backward) {
+  if (beyond_ == 0) return false;
+  const int edge = backward ? beyond_ - 1 : 0;
+  const int next = atBeyond_ < 0 ? edge : atBeyond_ + (backward ? -1 : 1);
+  const bool there = next >= 0 && next < beyond_;
+  atBeyond_ = there ? next : matches_.isEmpty() ? edge : -1;
+  if (atBeyond_ < 0) return false;
+  further_.show(atBeyond_);
+  ShowCount(further_.remark);
+  return true;
 }
 
 void FindBar::MarkMatches() {
@@ -137,24 +165,28 @@ void FindBar::MarkMatches() {
     marks += {found, mark};
   }
   text_->Mark(marks);
+  const auto letters = case_->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  beyond_ = further_.count ? further_.count(field_->text(), letters) : 0;
 }
 
 void FindBar::ShowCount(const QString& remark) {
-  const bool none = matches_.isEmpty() && !field_->text().isEmpty();
+  const auto all = matches_.size() + beyond_;
+  const bool none = all == 0 && !field_->text().isEmpty();
   QPalette colours;
   if (none) {
     const bool dark = colours.color(QPalette::Base).lightness() < 128;
     colours.setColor(QPalette::Base, dark ? QColor(92, 34, 34) : QColor(255, 221, 221));
   }
   field_->setPalette(colours);
-  const auto at = matches_.indexOf(text_->Cursor().selectionStart());
+  const auto at = atBeyond_ >= 0 ? matches_.size() + atBeyond_
+                                 : matches_.indexOf(text_->Cursor().selectionStart());
   QString text;
   if (none) {
     text = QStringLiteral("Nessun risultato");
-  } else if (!matches_.isEmpty()) {
-    text = at >= 0 && text_->Cursor().hasSelection()
-               ? QStringLiteral("%1 di %2").arg(at + 1).arg(matches_.size())
-               : QStringLiteral("%1 trovati").arg(matches_.size());
+  } else if (all > 0) {
+    text = atBeyond_ >= 0 || (at >= 0 && text_->Cursor().hasSelection())
+               ? QStringLiteral("%1 di %2").arg(at + 1).arg(all)
+               : QStringLiteral("%1 trovati").arg(all);
   }
   count_->setText(remark.isEmpty() ? text : text + QStringLiteral(", ") + remark);
 }

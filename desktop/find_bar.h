@@ -3,6 +3,7 @@
 
 #include <QTextEdit>
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 class QCheckBox;
@@ -39,6 +40,13 @@ class TextOf : public SoughtText {
   Edit& edit_;
 };
 
+// Texts behind the end of the one that is shown, in which a find bar seeks too.
+struct FurtherText {
+  std::function<int(const QString& words, Qt::CaseSensitivity letters)> count;
+  std::function<void(int match)> show;  // counted from 0, of those counted last
+  QString remark;                       // where they are: "nelle note"
+};
+
 class FindBar : public QWidget {
  public:
   template <class Edit>
@@ -49,6 +57,8 @@ class FindBar : public QWidget {
   void Close();  // and gives the keyboard back to the page
   void Next() { Step(false); }
   void Previous() { Step(true); }
+  void SeekAlsoIn(const FurtherText& further) { further_ = further; }
+  void SeekAnew();  // after the further texts have changed
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -57,6 +67,7 @@ class FindBar : public QWidget {
   FindBar(std::unique_ptr<SoughtText> text, QWidget* parent);
   void Typed();  // seeks anew from the start of the present match
   void Step(bool backward);
+  bool StepBeyond(bool backward);
   void MarkMatches();
   void ShowCount(const QString& remark = {});
 
@@ -66,6 +77,9 @@ class FindBar : public QWidget {
   QLabel* count_;
   QShortcut* escape_;   // on the text, while the bar is open
   QList<int> matches_;  // their positions, in order
+  FurtherText further_;
+  int beyond_ = 0;     // how many matches the further texts have
+  int atBeyond_ = -1;  // the one that is shown, if any
 };
 
 }  // namespace orm

@@ -11,12 +11,13 @@
 
 namespace orm {
 
-std::string CopyOf(CopyKind kind, const QString& text, const QString& title) {
-  if (kind == CopyKind::Pdf) return PdfOf(text, title);
+std::string CopyOf(CopyKind kind, const QString& text, const QString& title,
+                   const ReportNotes& notes) {
+  if (kind == CopyKind::Pdf) return PdfOf(text, title, notes);
   return kind == CopyKind::Odt ? OdtOf(text) : Utf8Of(text);
 }
 
-std::string PdfOf(const QString& text, const QString& title) {
+std::string PdfOf(const QString& text, const QString& title, const ReportNotes& notes) {
   // What stands in for a missing font says of every character that it has it, but has no table.
   if (QRawFont::fromFont(ReportFont(11)).fontTable("cmap").isEmpty())
     throw RuntimeFailure("Sul sistema non c'è alcun carattere con cui comporre il documento PDF.");
@@ -29,7 +30,7 @@ std::string PdfOf(const QString& text, const QString& title) {
     writer.setCreator(QStringLiteral("ORM2002"));
     writer.setResolution(600);
     ReportPages::PrepareA4(writer);
-    const ReportPages pages(text, writer);
+    const ReportPages pages(text, writer, notes);
     if (!PaintPages(pages, writer, 0, pages.Count() - 1))
       throw RuntimeFailure("Il documento PDF non può essere composto.");
   }

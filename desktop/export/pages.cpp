@@ -111,11 +111,11 @@ QStringList FoldedByWords(const QString& line, int columns) {
   return rows + QStringList{rest, QString(kFeeColumn, ' ') + found.captured(2)};
 }
 
-std::vector<QStringList> BreakIntoPages(const QStringList& lines, int linesPerPage) {
-  std::vector<QStringList> pages;
+std::vector<PageRange> BreakIntoPages(const QStringList& lines, int linesPerPage) {
+  std::vector<PageRange> pages;
   for (int first = 0; first < lines.size();) {
     const int end = EndOfPage(lines, first, std::max(linesPerPage, 1));
-    pages.push_back(lines.mid(first, end - first));
+    pages.push_back({first, end});
     first = end;
     while (first < lines.size() && IsEmpty(lines[first])) ++first;  // no page begins empty
   }
@@ -128,36 +128,58 @@ void ReportPages::PrepareA4(QPagedPaintDevice& device) {
                                    QPageLayout::Millimeter));
 }
 
-ReportPages::ReportPages(const QString& text, QPagedPaintDevice& device) {
+ReportPages::ReportPages(const QString& text, QPagedPaintDevice& device, const ReportNotes& notes) {
   const int dpi = device.logicalDpiX();
   area_ = device.pageLayout().paintRectPixels(dpi).size();
   const QStringList lines = VisibleLines(text);
-  const int columns = PaperColumns(lines);
-  QStringList rows;
-  for (const QString& line : lines) rows += FoldedByWords(line, columns);
+  columns_ = PaperColumns(lines);
 
   const qreal widthAtLargest =
-      QFontMetricsF(ReportFont(kLargestLetters), &device).horizontalAdvance('0') * columns;
+      QFontMetricsF(ReportFont(kLargestLetters), &device).horizontalAdvance('0') * columns_;
   font_ = ReportFont(kLargestLetters * std::min<qreal>(1, area_.width() / widthAtLargest));
   const QFontMetricsF metrics(font_, &device);
   lineHeight_ = metrics.lineSpacing();
-  left_ = std::max<qreal>(0, (area_.width() - metrics.horizontalAdvance('0') * columns) / 2);
-  const int linesPerPage = static_cast<int>(area_.height() / lineHeight_) - kFooterLines;
-  pages_ = BreakIntoPages(rows, linesPerPage);
+  const qreal width = metrics.horizontalAdvance('0') * columns_;
+  left_ = std::max<qreal>(0, (area_.width() - width) / 2);
+  right_ = left_ + width;
+  linesPerPage_ = static_cast<int>(area_.height() / lineHeight_) - kFooterLines;
+  Add(lines, notes.numbers);
+  if (!notes.text.isEmpty()) Add(VisibleLines(notes.text), {});
   if (pages_.empty()) pages_.push_back({});
 }
 
+// The lines on pages of their own, behind those that are there.
+void ReportPages::Add(const QStringList& lines, const std::map<int, int>& numbers) {
+  const auto before = static_cast<int>(rows_.size());
+  QStringList rows;
+  for (int i = 0; i < lines.size(); ++i) {
+    rows += FoldedByWords(lines[i], columns_);
+    // Beside the last row, in which the figure stands.
+    if (const auto note = numbers.find(i); note != numbers.end())
+      notes_[before + static_cast<int>(rows.size()) - 1] = note->second;
+  }
+  for (const PageRange page : BreakIntoPages(rows, linesPerPage_))
+    pages_.push_back({before + page.first, before + page.end});
+  rows_ += rows;
+}
+
 void ReportPages::Paint(QPainter& painter, int page) const {
-  painter.setFont(font_);
   painter.setPen(Qt::black);
   const qreal ascent = QFontMetricsF(font_, painter.device()).ascent();
-  qreal y = ascent;
-  for (const QString& line : pages_[static_cast<std::size_t>(page)]) {
-    if (!IsEmpty(line)) painter.drawText(QPointF(left_, y), line);
-    y += lineHeight_;
-  }
   QFont small = font_;
   small.setPointSizeF(font_.pointSizeF() * 0.85);
+  QFont raised = font_;
+  raised.setPointSizeF(font_.pointSizeF() * 0.6);
+  qreal y = ascent;
+  const PageRange range = pages_[static_cast<std::size_t>(page)];
+  for (int row = range.first; row < range.end; ++row, y += lineHeight_) {
+    painter.setFont(font_);
+    if (!IsEmpty(rows_[row])) painter.drawText(QPointF(left_, y), rows_[row]);
+    const auto note = notes_.find(row);
+    if (note == notes_.end()) continue;
+    painter.setFont(raised);  // in the margin, where it moves no column
+    painter.drawText(QPointF(right_ + ascent / 4, y - ascent / 3), QString::number(note->second));
+  }
   painter.setFont(small);
   const QRectF footer(0, area_.height() - lineHeight_, area_.width(), lineHeight_);
   painter.drawText(footer, Qt::AlignHCenter | Qt::AlignBottom,

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <vector>
 
+#include "desktop/export/report_notes.h"
+
 namespace orm {
 
 inline constexpr int kReportColumns = 72;
@@ -34,9 +36,14 @@ int PaperColumns(const QStringList& lines);
 // in its own column.
 QStringList FoldedByWords(const QString& line, int columns);
 
+// Lines of a page, from `first` up to the one before `end`.
+struct PageRange {
+  int first = 0, end = 0;
+};
+
 // Cuts the lines into pages of at most `linesPerPage`. A page does not end in the title of a
 // section, and ends before one or at an empty line where that leaves little room unused.
-std::vector<QStringList> BreakIntoPages(const QStringList& lines, int linesPerPage);
+std::vector<PageRange> BreakIntoPages(const QStringList& lines, int linesPerPage);
 
 class ReportPages {
  public:
@@ -44,16 +51,21 @@ class ReportPages {
   static void PrepareA4(QPagedPaintDevice& device);
 
   // Lays the text out for the paper that `device` has now.
-  ReportPages(const QString& text, QPagedPaintDevice& device);
+  ReportPages(const QString& text, QPagedPaintDevice& device, const ReportNotes& notes = {});
 
   int Count() const { return static_cast<int>(pages_.size()); }
   void Paint(QPainter& painter, int page) const;
 
  private:
+  void Add(const QStringList& lines, const std::map<int, int>& numbers);
+
   QFont font_;
   QSizeF area_;
-  qreal lineHeight_ = 0, left_ = 0;
-  std::vector<QStringList> pages_;
+  qreal lineHeight_ = 0, left_ = 0, right_ = 0;
+  QStringList rows_;
+  std::map<int, int> notes_;  // the numbers beside the rows
+  std::vector<PageRange> pages_;
+  int columns_ = kReportColumns, linesPerPage_ = 1;
 };
 
 // Paints the pages `first` to `last` (from 0) on the device, with its page breaks between them.

@@ -11,7 +11,7 @@
 
 #include "desktop/find_bar.h"
 #include "desktop/icons.h"
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
 
 namespace orm {
@@ -44,6 +44,8 @@ void CopyMenu(QMenu* file, ViewerWindow& window) {
   QMenu* copies = file->addMenu(QStringLiteral("Salva &copia come"));
   Command(copies, "copyPdf", QStringLiteral("&PDF..."), {},
           [&window] { window.AskCopy(CopyKind::Pdf); });
+  Command(copies, "copyExplained", QStringLiteral("PDF con le &spiegazioni..."), {},
+          [&window] { window.AskExplainedPdf(); });
   Command(copies, "copyOdt", QStringLiteral("&ODT (documento di testo)..."), {},
           [&window] { window.AskCopy(CopyKind::Odt); });
   Command(copies, "copyUtf8", QStringLiteral("&Testo UTF-8..."), {},
@@ -90,6 +92,8 @@ void FileMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
               {QKeySequence(QStringLiteral("Ctrl+Shift+P"))}, [&window] { window.Preview(); });
   QAction* print = Command(file, "print", QStringLiteral("S&tampa..."), {QKeySequence::Print},
                            [&window] { window.Print(); });
+  Command(file, "printExplained", QStringLiteral("Stampa con le spie&gazioni..."), {},
+          [&window] { window.Print(true); });
   QAction* pdf = Command(file, "exportPdf", QStringLiteral("Esporta P&DF..."),
                          {QKeySequence(QStringLiteral("Ctrl+E"))},
                          [&window] { window.AskCopy(CopyKind::Pdf); });
@@ -129,6 +133,8 @@ void EditMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
   commands.cut =
       Command(edit, "cut", QStringLiteral("&Taglia"), {QKeySequence::Cut}, [&page] { page.cut(); });
   Command(edit, "copy", QStringLiteral("&Copia"), {QKeySequence::Copy}, [&page] { page.copy(); });
+  Command(edit, "copyExplanation", QStringLiteral("Copia la spie&gazione"),
+          {QKeySequence(QStringLiteral("Ctrl+Shift+C"))}, [&window] { window.CopyExplanation(); });
   commands.paste = Command(edit, "paste", QStringLiteral("&Incolla"), {QKeySequence::Paste},
                            [&page] { page.paste(); });
   Command(edit, "selectAll", QStringLiteral("&Seleziona tutto"), {QKeySequence::SelectAll},
@@ -151,6 +157,10 @@ void FindMenu(QToolBar* bar, ViewerWindow& window) {
           {QKeySequence(QStringLiteral("Ctrl+PgDown"))}, [&window] { window.GoToSection(false); });
   Command(menu, "previousSection", QStringLiteral("Sezione p&recedente"),
           {QKeySequence(QStringLiteral("Ctrl+PgUp"))}, [&window] { window.GoToSection(true); });
+  Command(menu, "nextExplained", QStringLiteral("Cifra spiegata se&guente"),
+          {QKeySequence(QStringLiteral("Alt+Down"))}, [&window] { window.GoToExplained(false); });
+  Command(menu, "previousExplained", QStringLiteral("Cifra spiegata pre&cedente"),
+          {QKeySequence(QStringLiteral("Alt+Up"))}, [&window] { window.GoToExplained(true); });
   OnToolBar(bar, open, LineIcon::Find, QStringLiteral("Trova"), QStringLiteral("Cerca nel testo"));
 }
 
@@ -196,6 +206,11 @@ void ViewMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
   QObject::connect(commands.sections, &QAction::toggled, &window, [&window](bool on) {
     if (window.SectionsShown() != on) window.ShowSections(on);
   });
+  commands.explanations =
+      Command(view, "explain", QStringLiteral("S&piegazioni delle cifre"), {Qt::Key_F4}, [] {});
+  commands.explanations->setCheckable(true);
+  QObject::connect(commands.explanations, &QAction::toggled, &window,
+                   [&window](bool on) { window.ShowExplanations(on); });
   view->addSeparator();
   ThemeMenu(view, window);
   bar->addSeparator();

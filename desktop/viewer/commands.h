@@ -18,6 +18,7 @@ struct ViewerCommands {
   QAction* paste = nullptr;
   QAction* sections = nullptr;
   QAction* fit = nullptr;
+  QAction* explanations = nullptr;
 };
 
 // Builds menus and tool bar into the window, which lives at least as long.

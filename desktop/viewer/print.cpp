@@ -26,14 +26,14 @@ void Prepare(QPrinter& printer, const QString& title) {
 }
 
 // True when the pages have been printed.
-bool AskAndPrint(QPrinter& printer, const QString& text, QWidget* parent) {
+bool AskAndPrint(QPrinter& printer, const PrintedReport& report, QWidget* parent) {
   QPrintDialog dialog(&printer, parent);
   dialog.setWindowTitle(QStringLiteral("Stampa"));
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                     QAbstractPrintDialog::PrintCollateCopies);
-  dialog.setMinMax(1, ReportPages(text, printer).Count());
+  dialog.setMinMax(1, ReportPages(report.text, printer, report.notes).Count());
   if (dialog.exec() != QDialog::Accepted) return false;
-  const ReportPages pages(text, printer);
+  const ReportPages pages(report.text, printer, report.notes);
   const bool range = printer.printRange() == QPrinter::PageRange;
   const int first = range ? qBound(1, printer.fromPage(), pages.Count()) : 1;
   const int last = range ? qBound(first, printer.toPage(), pages.Count()) : pages.Count();
@@ -43,17 +43,17 @@ bool AskAndPrint(QPrinter& printer, const QString& text, QWidget* parent) {
 
 class PreviewDialog : public QDialog {
  public:
-  PreviewDialog(const QString& text, const QString& title, QWidget* parent)
+  PreviewDialog(const PrintedReport& report, QWidget* parent)
       : QDialog(parent),
-        text_(text),
+        report_(report),
         printer_(QPrinter::HighResolution),
         pages_(new QPrintPreviewWidget(&printer_, this)),
         number_(new QLabel(this)) {
-    setWindowTitle(QStringLiteral("Anteprima di stampa - ") + title);
+    setWindowTitle(QStringLiteral("Anteprima di stampa - ") + report.title);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    Prepare(printer_, title);
+    Prepare(printer_, report.title);
     connect(pages_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
-      const ReportPages pages(text_, *printer);
+      const ReportPages pages(report_.text, *printer, report_.notes);
       PaintPages(pages, *printer, 0, pages.Count() - 1);
     });
     connect(pages_, &QPrintPreviewWidget::previewChanged, this, [this] { ShowNumber(); });
@@ -97,7 +97,7 @@ class PreviewDialog : public QDialog {
     up->setShortcut(Qt::Key_PageUp);
     down->setShortcut(Qt::Key_PageDown);
     connect(print, &QToolButton::clicked, this, [this] {
-      if (AskAndPrint(printer_, text_, this)) accept();
+      if (AskAndPrint(printer_, report_, this)) accept();
     });
     connect(up, &QToolButton::clicked, this, [this] { GoTo(pages_->currentPage() - 1); });
     connect(down, &QToolButton::clicked, this, [this] { GoTo(pages_->currentPage() + 1); });
@@ -127,7 +127,7 @@ class PreviewDialog : public QDialog {
         QStringLiteral("Pagina %1 di %2").arg(pages_->currentPage()).arg(pages_->pageCount()));
   }
 
-  QString text_;
+  PrintedReport report_;
   QPrinter printer_;
   QPrintPreviewWidget* pages_;
   QLabel* number_;
@@ -135,14 +135,14 @@ class PreviewDialog : public QDialog {
 
 }  // namespace
 
-void PrintReport(const QString& text, const QString& title, QWidget* parent) {
+void PrintReport(const PrintedReport& report, QWidget* parent) {
   QPrinter printer(QPrinter::HighResolution);
-  Prepare(printer, title);
-  AskAndPrint(printer, text, parent);
+  Prepare(printer, report.title);
+  AskAndPrint(printer, report, parent);
 }
 
-void PreviewReport(const QString& text, const QString& title, QWidget* parent) {
-  PreviewDialog(text, title, parent).exec();
+void PreviewReport(const PrintedReport& report, QWidget* parent) {
+  PreviewDialog(report, parent).exec();
 }
 
 }  // namespace orm

@@ -3,7 +3,7 @@
 #include <QTextDocument>
 
 #include "desktop/viewer/messages.h"
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 
 namespace orm {
 

@@ -15,20 +15,18 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/export/subject.h"
 #include "desktop/find_bar.h"
 #include "desktop/viewer/messages.h"
-#include "desktop/viewer/page.h"
-#include "desktop/viewer/panels/notice.h"
-#include "desktop/viewer/panels/section_list.h"
-#include "desktop/viewer/print.h"
+#include "desktop/viewer/parts/notice.h"
+#include "desktop/viewer/parts/page.h"
+#include "desktop/viewer/parts/section_list.h"
 #include "runtime/text.h"
 
 namespace orm {
 namespace {
 
 constexpr int kRoomAround = 20;  // pixels that a new window leaves free
-constexpr int kPanelWidth = 220;
+constexpr int kSectionsWidth = 220, kExplanationsWidth = 340, kPageWidth = 780;
 constexpr int kEditPause = 300;     // milliseconds
 constexpr int kLeastReadable = 60;  // per cent: a sheet too wide for the screen shrinks no further
 
@@ -49,6 +47,7 @@ ViewerWindow::ViewerWindow()
       page_(new ViewerPage),
       find_(new FindBar(*page_)),
       sections_(new SectionList),
+      explanations_(new ExplanationPanel),
       side_(new QSplitter),
       edited_(new QTimer(this)),
       unsaved_(*page_),
@@ -60,9 +59,10 @@ ViewerWindow::ViewerWindow()
   column->addWidget(notice_);
   side_->addWidget(sections_);
   side_->addWidget(page_);
+  BuildExplanations();
   side_->setStretchFactor(1, 1);
   side_->setChildrenCollapsible(false);
-  side_->setSizes({kPanelWidth, kPanelWidth * 4});
+  side_->setSizes({kSectionsWidth, kPageWidth, kExplanationsWidth});
   column->addWidget(side_, 1);
   column->addWidget(find_);
   setCentralWidget(whole);
@@ -84,6 +84,7 @@ ViewerWindow::ViewerWindow()
   connect(edited_, &QTimer::timeout, this, [this] {
     sections_->Fill(page_->Visible());
     sections_->Follow(page_->textCursor().blockNumber());
+    Explain();
   });
   sections_->chosen = [this](int line) { GoToLine(line); };
   sections_->left = [this] { page_->setFocus(); };
@@ -99,14 +100,6 @@ void ViewerWindow::FitToSheet() {
   resize(std::min(page_->SheetWidth() + 100, room.width()), std::min(860, room.height() - 60));
 }
 
-void ViewerWindow::Print() {
-  PrintReport(page_->Visible(), DocumentTitle(page_->Visible(), Title()), this);
-}
-
-void ViewerWindow::Preview() {
-  PreviewReport(page_->Visible(), DocumentTitle(page_->Visible(), Title()), this);
-}
-
 void ViewerWindow::GoToLine(int line) {
   // Near the top of the window, wherever the line was.
   page_->verticalScrollBar()->setValue(std::max(0, line - 1));
@@ -114,7 +107,8 @@ void ViewerWindow::GoToLine(int line) {
 }
 
 void ViewerWindow::ShowBeside(QWidget& panel, bool on) {
-  const int width = std::max(panel.width(), kPanelWidth) + side_->handleWidth();
+  const int first = &panel == sections_ ? kSectionsWidth : kExplanationsWidth;
+  const int width = (on ? first : panel.width()) + side_->handleWidth();
   if (on == panel.isHidden() && !isMaximized() && !isFullScreen()) {
     // The page keeps its room as far as the screen goes.
     const int most = screen()->availableSize().width() - kRoomAround;
@@ -172,6 +166,8 @@ void ViewerWindow::ShowState() {
 
   commands_.sections->setChecked(SectionsShown());
   commands_.fit->setChecked(page_->Fits());
+  commands_.explanations->setChecked(ExplanationsShown());
+  explanations_->ShowLine(static_cast<std::size_t>(page_->LineOfCursor()));
 
   const QTextCursor cursor = page_->textCursor();
   sections_->Follow(cursor.blockNumber());

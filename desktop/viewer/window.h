@@ -7,10 +7,13 @@
 #include "desktop/viewer/commands.h"
 #include "desktop/viewer/file.h"
 #include "desktop/viewer/file_names.h"
+#include "desktop/viewer/parts/explanation_panel.h"
+#include "desktop/viewer/print.h"
 #include "desktop/viewer/recent.h"
 #include "desktop/viewer/theme.h"
 #include "desktop/viewer/unsaved.h"
 #include "desktop/viewer/watch.h"
+#include "shell/explained_report.h"
 
 class QLabel;
 class QSettings;
@@ -44,7 +47,8 @@ class ViewerWindow : public QMainWindow {
   // shown and the edits stay.
   bool Save();
   bool SaveAs(const std::string& path);
-  bool SaveCopy(CopyKind kind, const std::string& path);
+  // A PDF can have the explanations behind it.
+  bool SaveCopy(CopyKind kind, const std::string& path, bool explained = false);
 
   // The same after asking for the name, or for leave where edits would be lost.
   bool AskSaveAs();
@@ -54,7 +58,7 @@ class ViewerWindow : public QMainWindow {
   // Keeps what is not saved for a next window, should this one not end well.
   void KeepUnsaved() { unsaved_.Keep(); }
 
-  void Print();
+  void Print(bool explained = false);
   void Preview();
   void SetEditing(bool on);
   bool Editing() const;
@@ -65,6 +69,13 @@ class ViewerWindow : public QMainWindow {
   void ShowSections(bool on);
   bool SectionsShown() const;
   void GoToSection(bool backward);
+
+  // How the figures came about, beside the page: of the line of the cursor.
+  void ShowExplanations(bool on);
+  bool ExplanationsShown() const;
+  void GoToExplained(bool backward);
+  void CopyExplanation();
+  bool AskExplainedPdf();
 
   void ShowHelp();
 
@@ -89,6 +100,11 @@ class ViewerWindow : public QMainWindow {
   void FollowFile();
   void GoToLine(int line);
   void ShowBeside(QWidget& panel, bool on);
+  void BuildExplanations();
+  void Explain();
+  void ExplainEdits();  // those that still wait for their pause
+  bool HasExplanations();
+  PrintedReport Printed(bool explained) const;
   bool MayLeave();
   bool WriteTo(const FilePlace& place);
   bool RefusedForEncoding();
@@ -101,6 +117,13 @@ class ViewerWindow : public QMainWindow {
   ViewerPage* page_;
   FindBar* find_;
   SectionList* sections_;
+  ExplanationPanel* explanations_;
+  ReportSpiegato explained_;
+  struct {
+    QString words;
+    Qt::CaseSensitivity letters = Qt::CaseInsensitive;
+    std::vector<ExplanationPanel::Place> places;
+  } found_;  // by the find bar, in the explanations
   QSplitter* side_;
   QTimer* edited_;  // a moment after the last of a row of edits
   QLabel *placeLabel_, *modeLabel_, *formatLabel_, *zoomLabel_;

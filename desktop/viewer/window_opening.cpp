@@ -6,11 +6,12 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "desktop/viewer/messages.h"
-#include "desktop/viewer/page.h"
-#include "desktop/viewer/panels/notice.h"
-#include "desktop/viewer/panels/section_list.h"
+#include "desktop/viewer/parts/notice.h"
+#include "desktop/viewer/parts/page.h"
+#include "desktop/viewer/parts/section_list.h"
 #include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 
@@ -117,6 +118,7 @@ void ViewerWindow::AskReload() {
 void ViewerWindow::LookAtDisk() {
   try {
     const std::string now = place_.Read();
+    edited_->start();  // the data beside it may have changed too, and with them the explanations
     if (now == onDisk_ || now == asked_) return;
     DecodeText(now);
     if (!page_->document()->isModified()) {

@@ -4,8 +4,8 @@
 
 #include "desktop/export/subject.h"
 #include "desktop/viewer/messages.h"
-#include "desktop/viewer/page.h"
-#include "desktop/viewer/panels/notice.h"
+#include "desktop/viewer/parts/notice.h"
+#include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 
@@ -78,11 +78,12 @@ bool ViewerWindow::SaveAs(const std::string& path) {
   return true;
 }
 
-bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path) {
+bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path, bool explained) {
   try {
     const FilePlace copy = FilePlace::Of(path);
     RefuseSameFile(place_, copy);
-    copy.Replace(CopyOf(kind, page_->Visible(), DocumentTitle(page_->Visible(), Title())));
+    const PrintedReport report = Printed(explained);
+    copy.Replace(CopyOf(kind, report.text, report.title, report.notes));
   } catch (const RuntimeFailure& failure) {
     Tell(this, QMessageBox::Warning, QStringLiteral("La copia non è stata salvata."),
          QString::fromStdString(failure.Text()));

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "desktop/last_words.h"
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
 #include "shell/shell.h"
 #include "tests/desktop/test_player.h"

@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTextEdit>
 #include <random>
 
 #include "desktop/export/export.h"
@@ -21,7 +22,7 @@
 #include "desktop/find_bar.h"
 #include "desktop/italian_captions.h"
 #include "desktop/viewer/file.h"
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
 #include "runtime/failure.h"
 #include "tests/desktop/test_player.h"
@@ -337,9 +338,10 @@ TEST(ViewerPages, BreaksAtSectionsAndKeepsEveryLine) {
   for (int perPage = 1; perPage < 80; ++perPage) {
     QStringList all;
     const auto pages = BreakIntoPages(lines, perPage);
-    for (const QStringList& page : pages) {
+    for (const PageRange& range : pages) {
+      const QStringList page = lines.mid(range.first, range.end - range.first);
       EXPECT_LE(page.size(), perPage);
-      const bool mayEndInTitle = perPage <= 2 || &page == &pages.back();
+      const bool mayEndInTitle = perPage <= 2 || &range == &pages.back();
       EXPECT_TRUE(mayEndInTitle || !page.last().startsWith("=====")) << perPage;
       all += page;
     }
@@ -454,6 +456,53 @@ TEST_F(ViewerTest, OpensGoesAndFitsByKeys) {
   EXPECT_TRUE(person.Said().contains("orm2002-guida"));  // which is not beside the tests
 }
 
+// The chain of the line of the cursor, by keys alone; found, copied, and gone with Esc.
+TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
+  const WorkFolder sources(ORM_SOURCE_DIR);
+  for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
+    Write(name, sources.Read(std::string("data/sample/") + name));
+  Write("OUT_PPE.DOC", sources.Read("tests/scripts/ppe/lire.DOC"));
+  ViewerWindow window;
+  window.Open(PathOf("OUT_PPE.DOC"));
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto* panel = window.findChild<QWidget*>("explanations");
+  auto* heading = panel->findChild<QLabel*>("explanationHeading");
+  const auto key = [&window](Qt::Key pressed, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(&window.Page(), pressed, with);
+  };
+  key(Qt::Key_F4);
+  ASSERT_TRUE(panel->isVisible() && window.Page().hasFocus());
+  EXPECT_EQ(heading->text(), "Nessuna spiegazione");
+  key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(heading->text(), "Numero Partite catastali : 2");
+  while (!heading->text().startsWith("n° 2 x") && window.Page().LineOfCursor() < 30)
+    key(Qt::Key_Down);
+  EXPECT_EQ(heading->text(), "n° 2 x 106.0000 L. 212.000");
+  key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(QApplication::clipboard()->text().contains("2 x 106.000 = 212.000"))
+      << QApplication::clipboard()->text().toStdString();
+
+  // Words that stand in the explanations alone are found there, and lead to their line.
+  key(Qt::Key_F, Qt::ControlModifier);
+  auto* field = window.findChild<QLineEdit*>("findField");
+  QTest::keyClicks(field, "2 x 106.000 =");
+  EXPECT_EQ(window.findChild<QLabel*>("findCount")->text(), "1 di 1, nelle spiegazioni");
+  EXPECT_EQ(panel->findChild<QTextEdit*>()->textCursor().selectedText(), "2 x 106.000 =");
+  QTest::keyClick(field, Qt::Key_Escape);
+  key(Qt::Key_Escape);
+  EXPECT_FALSE(panel->isVisible());
+
+  Write("INP_PPE.DAP", "99,5,3,1,1\r\n20,1000000,\"\",1\r\n");
+  key(Qt::Key_F4);
+  const auto told = [panel] { return panel->findChild<QTextEdit*>()->toPlainText(); };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told().contains("I dati sono cambiati dopo"); }, 3000))
+      << told().toStdString();
+  Person person("Chiudi");
+  window.findChild<QAction*>("printExplained")->trigger();
+  EXPECT_TRUE(person.Said().contains("I dati sono cambiati dopo"));
+}
+
 TEST_F(ViewerTest, OpensADroppedFile) {
   Write("A.DOC", kReport);
   Write("B.txt", "uno\r\n");
@@ -475,26 +524,31 @@ TEST_F(ViewerTest, OpensADroppedFile) {
 TEST_F(ViewerTest, PdfKeepsTheColumns) {
   std::string text = DecodeText(kReport).text;
   for (int i = 0; i < 80; ++i) text += "riga\n";
+  // The number of a note stands behind the columns, the note itself on a page of its own.
+  const ReportNotes notes{{{4, 17}},
+                          "==== SPIEGAZIONE ====\n(17) " + QString("somma ").repeated(20)};
   WorkFolder(folder_.path().toStdString())
-      .Replace("a.pdf", PdfOf(QString::fromStdString(text), "A.DOC"));
+      .Replace("a.pdf", PdfOf(QString::fromStdString(text), "A.DOC", notes));
   QProcess reader;
   reader.start("pdftotext", {"-layout", QString::fromStdString(PathOf("a.pdf")), "-"});
   if (!reader.waitForFinished()) GTEST_SKIP() << "pdftotext is not installed";
   const QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split('\f');
-  ASSERT_EQ(pages.size(), 3);  // two, and what follows the last page's end
+  ASSERT_EQ(pages.size(), 4);  // three, and what follows the last page's end
   const QStringList lines = pages[0].split('\n');
   const auto find = [&lines](const QString& start) {
     for (const QString& line : lines)
       if (line.startsWith(start)) return line;
     return QString();
   };
-  EXPECT_EQ(find("TOTALE"),
+  EXPECT_EQ(find("TOTALE").left(72),
             "TOTALE (Onorari e Compensi)                            L.      2.587.000");
+  EXPECT_EQ(lines.filter("17").size(), 1);
+  EXPECT_TRUE(pages[2].startsWith("==== SPIEGAZIONE ====\n(17) somma"));
   EXPECT_EQ(find(" n°").size(), 72);
   EXPECT_EQ(find("Totale onere").indexOf("€"), 55);
   EXPECT_EQ(find("=====").size(), 72);
-  EXPECT_TRUE(pages[0].contains("Pagina 1 di 2"));
-  EXPECT_TRUE(pages[1].contains("Pagina 2 di 2"));
+  EXPECT_TRUE(pages[0].contains("Pagina 1 di 3"));
+  EXPECT_TRUE(pages[1].contains("Pagina 2 di 3"));
 }
 
 TEST(ViewerZip, ChecksumIsTheCommonOne) {

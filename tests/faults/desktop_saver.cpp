@@ -18,7 +18,7 @@
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/form_dialog.h"
 #include "desktop/print_whole.h"
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
 #include "shell/shell.h"
 #include "tests/faults/followed.h"

@@ -140,7 +140,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"batch", "desktop"},
     {"desktop/drawing"},
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},
-    {"desktop/viewer/panels"},
+    {"desktop/viewer/parts"},
     {"desktop/player", "desktop/viewer"},
     {"desktop/desk"},
     {"desktop/programs"},

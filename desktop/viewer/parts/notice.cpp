@@ -1,5 +1,5 @@
 // The notice bar.
-#include "desktop/viewer/panels/notice.h"
+#include "desktop/viewer/parts/notice.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "desktop/viewer/panels/section_list.h"
+#include "desktop/viewer/parts/section_list.h"
 
 #include <QKeyEvent>
 #include <QRegularExpression>

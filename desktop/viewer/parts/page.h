@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace orm {
 
@@ -25,6 +26,16 @@ class ViewerPage : public QPlainTextEdit {
   bool Fits() const { return fits_; }
   std::function<void()> zoomChanged;
 
+  // Lines that carry a mark in the margin, counted from 1 with those that a line feed alone ends.
+  // An edit hides the marks until they are set again. `markClicked` gets the line.
+  void SetMarks(const std::vector<int>& lines);
+  int LineOfCursor() const;
+  void GoToLine(int line);
+  // The marked line of the cursor stands out while this is on.
+  void ShowMarkedLine(bool on);
+  std::function<void(int line)> markClicked;
+  std::function<void()> escaped;  // by Esc
+
   // Width of the whole sheet at the present zoom, in pixels.
   int SheetWidth() const;
 
@@ -36,6 +47,9 @@ class ViewerPage : public QPlainTextEdit {
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void PlaceSheet();
@@ -43,10 +57,17 @@ class ViewerPage : public QPlainTextEdit {
   int SheetWidthAt(int percent) const;
   void FitToWidth();
   int Room() const;
+  QRectF PlaceOfLine(int line) const;
+  int MarkAt(QPoint point) const;
   void UpdateColours();
   int zoom_ = 100;
   bool fits_ = false;
   int columns_;
+  // Of the text at its revision, when the marks were set: where each line begins, and which have
+  // one.
+  std::vector<int> starts_, marked_;
+  int markedRevision_ = -1;
+  bool showMarked_ = false;
 };
 
 }  // namespace orm

@@ -1,5 +1,5 @@
 // The sheet on the screen: its place on the table, its letters and its zoom.
-#include "desktop/viewer/page.h"
+#include "desktop/viewer/parts/page.h"
 
 #include <QKeyEvent>
 #include <QLinearGradient>
@@ -167,6 +167,7 @@ void ViewerPage::wheelEvent(QWheelEvent* event) {
 }
 
 void ViewerPage::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && escaped) return escaped();
   if (!isReadOnly() && !event->text().isEmpty() && event->text()[0] >= QChar(' ') &&
       event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, WorkFolder::kLargestFile, this))
     return;
