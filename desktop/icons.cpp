@@ -117,6 +117,18 @@ QPainterPath PathOf(LineIcon shape) {
     case LineIcon::Down:
       Lines(path, {{5.5, 9}, {12, 15.5}, {18.5, 9}});
       break;
+    case LineIcon::NewFolder:
+      Lines(path, {{12, 10.5}, {12, 16.5}});
+      Lines(path, {{9, 13.5}, {15, 13.5}});
+      [[fallthrough]];
+    case LineIcon::Folder:
+      Lines(path, {{3.5, 19.5}, {3.5, 4.5}, {9.5, 4.5}, {12, 7.5}, {20.5, 7.5}, {20.5, 19.5},
+                   {3.5, 19.5}});
+      break;
+    case LineIcon::Clock:
+      path.addEllipse(QPointF(12, 12), 8.5, 8.5);
+      Lines(path, {{12, 6.5}, {12, 12}, {16, 14.5}});
+      break;
     case LineIcon::Close:
       Lines(path, {{6, 6}, {18, 18}});
       Lines(path, {{18, 6}, {6, 18}});

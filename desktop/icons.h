@@ -1,4 +1,4 @@
-// Small line drawings for the commands of the viewer and the memo, painted in the colour of the
+// Small line drawings for the commands of the windows, painted in the colour of the
 // text: they are sharp at every scale and follow the theme.
 #pragma once
 
@@ -26,7 +26,10 @@ enum class LineIcon {
   Right,
   Justified,
   Bullets,
-  Colour
+  Colour,
+  Folder,
+  NewFolder,
+  Clock
 };
 
 QIcon IconOf(LineIcon shape);

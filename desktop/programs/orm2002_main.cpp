@@ -4,6 +4,7 @@
 
 #include "desktop/desktop_app.h"
 #include "desktop/last_words.h"
+#include "desktop/meeting.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/qt_text.h"
@@ -58,6 +59,8 @@ int main(int argc, char** argv) {
   player.SetMainWindow(&window);
   window.ActivateOnceShown();
   window.show();
+  const orm::Meeting meeting(orm::MeetingPlaceOfFolder(QStringLiteral(".")),
+                             [&window](const QString&) { orm::BringForward(window); });
   const orm::LastWords lastWords([&shell] { shell.Bozze().Keep(); });
   const int result = QApplication::exec();
   shell.Bozze().Forget();

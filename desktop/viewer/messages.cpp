@@ -1,4 +1,4 @@
-// Message boxes of the viewer.
+// Message boxes of the viewer and the desk.
 #include "desktop/viewer/messages.h"
 
 #include <QAbstractButton>
@@ -16,16 +16,17 @@ void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
 
 }  // namespace
 
-void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail) {
-  QMessageBox box(icon, QString::fromLatin1(kViewerName), text, QMessageBox::NoButton, parent);
+void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail,
+          const char* program) {
+  QMessageBox box(icon, QString::fromLatin1(program), text, QMessageBox::NoButton, parent);
   ShowLetterForLetter(box, detail);
   box.setDefaultButton(box.addButton(QStringLiteral("&Chiudi"), QMessageBox::AcceptRole));
   box.exec();
 }
 
 int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
-           int byDefault) {
-  QMessageBox box(QMessageBox::Question, QString::fromLatin1(kViewerName), text,
+           int byDefault, const char* program) {
+  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), text,
                   QMessageBox::NoButton, parent);
   ShowLetterForLetter(box, detail);
   QList<QPushButton*> made;

@@ -1,4 +1,4 @@
-// Messages and questions of the viewer, with buttons that carry their own words.
+// Messages and questions of the viewer and the desk, with buttons that carry their own words.
 #pragma once
 
 #include <QMessageBox>
@@ -8,12 +8,13 @@ namespace orm {
 
 inline constexpr const char* kViewerName = "ORM2002 Visore";
 
-// Shows a message with one button.
-void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {});
+// Shows a message with one button. `program` is the title.
+void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {},
+          const char* program = kViewerName);
 
 // Shows a question and returns the index of the button pressed. Esc and the window's button give
 // the last one. Texts are shown letter for letter.
 int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
-           int byDefault = 0);
+           int byDefault = 0, const char* program = kViewerName);
 
 }  // namespace orm

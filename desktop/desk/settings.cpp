@@ -1,0 +1,36 @@
+#include "desktop/desk/settings.h"
+
+#include <QStandardPaths>
+
+namespace orm {
+namespace {
+const QString kRoot = QStringLiteral("cartella"), kModel = QStringLiteral("modello");
+}
+
+DeskSettings::DeskSettings() : kept_(QStringLiteral("ORM2002"), QStringLiteral("Lavori")) {}
+DeskSettings::DeskSettings(const QString& file) : kept_(file, QSettings::IniFormat) {}
+
+QString DeskSettings::Root() const {
+  const QString chosen = kept_.value(kRoot).toString();
+  if (!chosen.isEmpty()) return chosen;
+  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
+         QStringLiteral("/ORM2002");
+}
+
+void DeskSettings::SetRoot(const QString& folder) {
+  kept_.setValue(kRoot, folder);
+  SetModel({});
+}
+
+QString DeskSettings::Model() const { return kept_.value(kModel).toString(); }
+void DeskSettings::SetModel(const QString& job) { kept_.setValue(kModel, job); }
+
+QByteArray DeskSettings::State(const char* of) const {
+  return kept_.value(QLatin1String(of)).toByteArray();
+}
+
+void DeskSettings::KeepState(const char* of, const QByteArray& state) {
+  kept_.setValue(QLatin1String(of), state);
+}
+
+}  // namespace orm
