@@ -122,8 +122,9 @@ QPainterPath PathOf(LineIcon shape) {
       Lines(path, {{9, 13.5}, {15, 13.5}});
       [[fallthrough]];
     case LineIcon::Folder:
-      Lines(path, {{3.5, 19.5}, {3.5, 4.5}, {9.5, 4.5}, {12, 7.5}, {20.5, 7.5}, {20.5, 19.5},
-                   {3.5, 19.5}});
+      Lines(
+          path,
+          {{3.5, 19.5}, {3.5, 4.5}, {9.5, 4.5}, {12, 7.5}, {20.5, 7.5}, {20.5, 19.5}, {3.5, 19.5}});
       break;
     case LineIcon::Clock:
       path.addEllipse(QPointF(12, 12), 8.5, 8.5);

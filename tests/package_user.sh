@@ -29,6 +29,8 @@ works() {
   kill $started
   wait $started || true
   for file in "$files"/*.*; do cmp "$file" "$(basename "$file")"; done
+  "${as[@]}" QT_QPA_PLATFORM=offscreen:configfile=/tmp/screen.json \
+    timeout 5 "$programs/orm2002-lavori" .. || [ $? = 124 ] || fails "orm2002-lavori non resta aperto"
   "${as[@]}" cp /tmp/*.DAP /tmp/UTENTE.DAG .
   "${as[@]}" "$programs/orm2002-calcolo" PPE --data 15/03/2002
   cmp OUT_PPE.DOC /tmp/attesa.DOC

@@ -10,23 +10,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/desk/desk_view.h"
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/viewer/messages.h"
+#include "jobs/job_search.h"
 #include "runtime/failure.h"
-#include "runtime/text.h"
 
 namespace orm {
 namespace {
 
 constexpr int kNameWidth = 46;  // characters
-
-QLabel* PlainLabel(const QString& text) {
-  auto* label = new QLabel(text);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  return label;
-}
 
 // The buttons at the foot of a question, which they answer.
 QPushButton* AddButtons(QDialog& dialog, const QString& accept) {
@@ -40,6 +34,13 @@ QPushButton* AddButtons(QDialog& dialog, const QString& accept) {
   return button;
 }
 
+QStringList Chosen(QFileDialog& dialog) {
+  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
+  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Scegli"));
+  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
 }  // namespace
 
 std::optional<QString> AskName(QWidget* parent, const NameOfJob& question) {
@@ -51,8 +52,7 @@ std::optional<QString> AskName(QWidget* parent, const NameOfJob& question) {
   field->setObjectName(QStringLiteral("name"));
   field->setMinimumWidth(CharactersWide(*field, kNameWidth));
   label->setBuddy(field);
-  QLabel* refusal = PlainLabel({});
-  refusal->setObjectName(QStringLiteral("refusal"));
+  QLabel* refusal = DeskLabel("refusal");
   QPalette colours = refusal->palette();
   colours.setColor(QPalette::WindowText, WarningText(colours));
   refusal->setPalette(colours);
@@ -60,7 +60,10 @@ std::optional<QString> AskName(QWidget* parent, const NameOfJob& question) {
   column->addWidget(label);
   column->addWidget(field);
   column->addWidget(refusal);
-  if (!question.note.isEmpty()) column->addWidget(PlainLabel(question.note));
+  QLabel* note = DeskLabel("note");
+  note->setText(question.note);
+  note->setVisible(!question.note.isEmpty());
+  column->addWidget(note);
   QPushButton* button = AddButtons(dialog, question.button);
   const auto look = [&] {
     const QString name = field->text().trimmed();
@@ -94,11 +97,11 @@ std::optional<int> AskOneOf(QWidget* parent, const QString& title, const QString
   column->addWidget(list, 1);
   QPushButton* accept = AddButtons(dialog, button);
   const auto narrow = [&] {
-    const std::string part = PlainLetters(FromQt(sought->text()));
+    const std::string part = SenzaAccenti(FromQt(sought->text()));
     QListWidgetItem* first = nullptr;
     for (int i = 0; i < list->count(); ++i) {
       QListWidgetItem* item = list->item(i);
-      const bool found = PlainLetters(FromQt(item->text())).find(part) != std::string::npos;
+      const bool found = SenzaAccenti(FromQt(item->text())).find(part) != std::string::npos;
       item->setHidden(!found);
       if (found && first == nullptr) first = item;
     }
@@ -116,10 +119,14 @@ QString AskFolder(QWidget* parent, const QString& title, const QString& start) {
   QFileDialog dialog(parent, title, start);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Scegli"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  return dialog.selectedFiles().first();
+  return Chosen(dialog).value(0);
+}
+
+QStringList AskFilesOf(QWidget* parent, const QString& title, const QString& start,
+                       const QString& filter, bool several) {
+  QFileDialog dialog(parent, title, start, filter);
+  dialog.setFileMode(several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+  return Chosen(dialog);
 }
 
 bool Try(QWidget* parent, const QString& failed, const std::function<void()>& work) {

@@ -29,6 +29,10 @@ std::optional<int> AskOneOf(QWidget* parent, const QString& title, const QString
 // An existing folder, beginning at `start`; empty when none was chosen.
 QString AskFolder(QWidget* parent, const QString& title, const QString& start);
 
+// Files that are there, or one of them alone; empty when none was chosen.
+QStringList AskFilesOf(QWidget* parent, const QString& title, const QString& start,
+                       const QString& filter, bool several);
+
 // Does the work under the cursor of waiting. Of one that fails it tells `failed` with the reason,
 // and gives false.
 bool Try(QWidget* parent, const QString& failed, const std::function<void()>& work);

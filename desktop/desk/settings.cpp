@@ -4,13 +4,15 @@
 
 namespace orm {
 namespace {
-const QString kRoot = QStringLiteral("cartella"), kModel = QStringLiteral("modello");
+const QString kRoot = QStringLiteral("cartella"), kModel = QStringLiteral("modello"),
+              kFolder = QStringLiteral("file");
 }
 
 DeskSettings::DeskSettings() : kept_(QStringLiteral("ORM2002"), QStringLiteral("Lavori")) {}
 DeskSettings::DeskSettings(const QString& file) : kept_(file, QSettings::IniFormat) {}
 
 QString DeskSettings::Root() const {
+  if (!once_.isEmpty()) return once_;
   const QString chosen = kept_.value(kRoot).toString();
   if (!chosen.isEmpty()) return chosen;
   return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
@@ -18,12 +20,20 @@ QString DeskSettings::Root() const {
 }
 
 void DeskSettings::SetRoot(const QString& folder) {
+  once_.clear();
   kept_.setValue(kRoot, folder);
   SetModel({});
 }
 
 QString DeskSettings::Model() const { return kept_.value(kModel).toString(); }
 void DeskSettings::SetModel(const QString& job) { kept_.setValue(kModel, job); }
+
+QString DeskSettings::Folder() const {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return kept_.value(kFolder, documents).toString();
+}
+
+void DeskSettings::SetFolder(const QString& folder) { kept_.setValue(kFolder, folder); }
 
 QByteArray DeskSettings::State(const char* of) const {
   return kept_.value(QLatin1String(of)).toByteArray();

@@ -1,5 +1,4 @@
 // The desktop program. Works in the current folder; no arguments.
-#include <QDir>
 #include <cstdio>
 
 #include "desktop/desktop_app.h"
@@ -7,24 +6,11 @@
 #include "desktop/meeting.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/menu_window.h"
-#include "desktop/qt_text.h"
 #include "desktop/screen.h"
 #include "dialogs/message_boxes.h"
 #include "runtime/folder_lock.h"
 #include "shell/help/program_texts.h"
 #include "shell/shell.h"
-
-namespace {
-
-// Where the files lie that an installation brings: beside the folder of the programs, or in it
-// where they were built.
-std::string InstalledFiles() {
-  const QDir programs(QCoreApplication::applicationDirPath());
-  const bool built = programs.exists(QStringLiteral("share/orm2002"));
-  return orm::FromQt(programs.filePath(built ? "share/orm2002" : "../share/orm2002"));
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   if (orm::AnswersForItself("orm2002", argc, argv)) return 0;
@@ -47,6 +33,11 @@ int main(int argc, char** argv) {
                     "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
     return 1;
   }
+  // From now on, since the start may stop at a message.
+  const orm::Meeting meeting(orm::MeetingPlaceOfFolder(QStringLiteral(".")), [](const QString&) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible()) orm::BringForward(*window);
+  });
   if (!lock.Certain())
     player.Ask({orm::kAttenzione,
                 "LA CARTELLA DI LAVORO È SU UN DISCO DI RETE, O DI UN ALTRO SISTEMA :\n"
@@ -54,13 +45,11 @@ int main(int argc, char** argv) {
                 orm::MessageBox::Icon::Information, orm::MessageBox::Buttons::Ok});
   orm::Shell shell(player, folder);
   if (!shell.Load()) return 0;
-  shell.PreparaCartella(InstalledFiles());
+  shell.PreparaCartella(orm::InstalledFiles());
   orm::MenuWindow window(shell);
   player.SetMainWindow(&window);
   window.ActivateOnceShown();
   window.show();
-  const orm::Meeting meeting(orm::MeetingPlaceOfFolder(QStringLiteral(".")),
-                             [&window](const QString&) { orm::BringForward(window); });
   const orm::LastWords lastWords([&shell] { shell.Bozze().Keep(); });
   const int result = QApplication::exec();
   shell.Bozze().Forget();

@@ -26,8 +26,8 @@ void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QS
 
 int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
            int byDefault, const char* program) {
-  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), text,
-                  QMessageBox::NoButton, parent);
+  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), text, QMessageBox::NoButton,
+                  parent);
   ShowLetterForLetter(box, detail);
   QList<QPushButton*> made;
   for (const QString& caption : buttons) {

@@ -136,6 +136,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"desktop/drawing"},
     {"desktop/controls", "desktop/export", "desktop/guide", "desktop/notes"},
     {"desktop/player", "desktop/viewer"},
+    {"desktop/desk"},
     {"desktop/programs"},
 };
 
