@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include "desktop/desk/programs.h"
 #include "desktop/desk/questions.h"
@@ -160,7 +161,13 @@ void TrashJob(DeskWindow& window) {
     return;
   Try(&window, QStringLiteral("Il lavoro non è stato spostato nel cestino."), [&] {
     EsigiNonInUso(folder);
-    if (!QFile::moveToTrash(ToQt(folder)))
+    // Where this folder is not there the trash would be the current folder.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    QString where;
+    const bool gone = QFile::moveToTrash(ToQt(folder), &where);
+    const bool inTrash = gone && QDir::isAbsolutePath(where) && where.contains("Trash");
+    if (gone && !inTrash) QDir().rename(where, ToQt(folder));
+    if (!inTrash)
       throw RuntimeFailure("Su questo disco il cestino non si può usare. Il lavoro resta dov'è.");
   });
   window.Look();

@@ -33,6 +33,11 @@ int main(int argc, char** argv) {
                     "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
     return 1;
   }
+  // From now on, since the start may stop at a message.
+  const orm::Meeting meeting(orm::MeetingPlaceOfFolder(QStringLiteral(".")), [](const QString&) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible()) orm::BringForward(*window);
+  });
   if (!lock.Certain())
     player.Ask({orm::kAttenzione,
                 "LA CARTELLA DI LAVORO È SU UN DISCO DI RETE, O DI UN ALTRO SISTEMA :\n"

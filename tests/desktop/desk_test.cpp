@@ -26,7 +26,7 @@ const WorkFolder kSample(QT_TESTCASE_SOURCEDIR "/../../data/sample"),
 class Desk : public testing::Test {
  protected:
   Desk() : settings(home.filePath("desk.ini")) {
-    for (const char* name : {"uscita", "dati"}) QDir(home.path()).mkdir(name);
+    QDir(home.path()).mkdir("uscita");
     settings.SetRoot(home.filePath("lavori"));
     settings.SetFolder(Out());
     Open();
@@ -184,6 +184,7 @@ TEST_F(Desk, CommandsOnJobs) {
     EXPECT_TRUE(person.Said().startsWith("Spostare nel cestino il lavoro \"Uno\"?"));
   }
   EXPECT_FALSE(Names().contains("Uno"));
+  EXPECT_TRUE(QFileInfo::exists(home.filePath("dati/Trash/files/Uno/INP_PPE.DAP")));
 }
 
 TEST_F(Desk, FilesDroppedBecomeAJob) {
