@@ -73,6 +73,18 @@ void FormValues::PutInto(Form& form) const {
 Drafts::Subject::Subject(Drafts& drafts, const std::string& what)
     : drafts_(drafts), length_(drafts.about_.size()) {
   drafts.about_ += what + "/";
+  drafts.begins_.push_back(drafts.left_.size());
+}
+
+Drafts::Subject::~Subject() {
+  drafts_.about_.resize(length_);
+  drafts_.begins_.pop_back();
+  if (drafts_.begins_.empty()) drafts_.left_.clear();
+}
+
+void Drafts::SubjectDropped(bool stored) {
+  for (std::size_t i = begins_.back(); i < left_.size(); ++i)
+    if (stored || left_[i].changed) kept_[left_[i].key] = left_[i].values;
 }
 
 Drafts::Showing::Showing(Drafts& drafts, Form& form)
@@ -94,14 +106,13 @@ Drafts::Showing::Showing(Drafts& drafts, Form& form)
 
 Drafts::Showing::~Showing() {
   drafts_.open_.pop_back();
+  FormValues left(form_);
+  const bool changed = left != given_;
+  if (!drafts_.begins_.empty()) drafts_.left_.push_back({key_, left, changed});
   if (form_.Confermato())
     drafts_.kept_.erase(key_);
-  else
-    Keep();
-}
-
-void Drafts::Showing::Keep() const {
-  if (FormValues left(form_); left != given_) drafts_.kept_[key_] = std::move(left);
+  else if (changed)
+    drafts_.kept_[key_] = std::move(left);
 }
 
 Drafts::All Drafts::WithOpenForms() const {

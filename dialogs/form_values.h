@@ -47,12 +47,17 @@ class Drafts {
     Subject(Drafts& drafts, const std::string& what);
     Subject(const Subject&) = delete;
     Subject& operator=(const Subject&) = delete;
-    ~Subject() { drafts_.about_.resize(length_); }
+    ~Subject();
 
    private:
     Drafts& drafts_;
     const std::size_t length_;
   };
+
+  // The row of a list that the innermost subject stands for is dropped: what its forms were left
+  // with becomes their drafts, even what was confirmed, and where the row had been stored all of
+  // it.
+  void SubjectDropped(bool stored);
 
   // A form on the screen, from its opening to its leaving, however that comes about.
   class Showing {
@@ -64,7 +69,6 @@ class Drafts {
 
    private:
     friend class Drafts;
-    void Keep() const;  // if the form holds something else than it came up with
     void KeepPresent() const;
     Drafts& drafts_;
     Form& form_;
@@ -81,8 +85,15 @@ class Drafts {
   void KeepPresent(const Form& form);
 
  private:
+  struct Left {
+    std::string key;
+    FormValues values;
+    bool changed;
+  };
   std::string about_;
   All kept_;
+  std::vector<Left> left_;           // the forms of the outermost subject, in their order
+  std::vector<std::size_t> begins_;  // where in these each subject begins
   std::vector<const Showing*> open_;
 };
 

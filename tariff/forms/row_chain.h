@@ -41,6 +41,8 @@ class CatenaRighe {
           if (!ChiediTestata(posto, modello)) return false;
           const PartOfWay qui(stato.player.place, Dove(posto, modello));
           ChiediPeriodi(posto, modello, sue);
+          // A lot without rows is none.
+          if (sue.empty()) stato.player.DraftsOfRun().SubjectDropped(!posto.Nuova());
           return true;
         });
   }

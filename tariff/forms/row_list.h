@@ -58,7 +58,8 @@ void ChiediElenco(RunState& stato, std::vector<Riga>& righe, Rifiuto&& rifiuto, 
     if (!posto.Nuova()) altre.erase(qui);
     const Drafts::Subject parla(stato.player.DraftsOfRun(),
                                 NumberText(static_cast<double>(posto.numero)));
-    if (!chiedi(posto, riga, std::as_const(altre))) return;
+    if (!chiedi(posto, riga, std::as_const(altre)))
+      return stato.player.DraftsOfRun().SubjectDropped(!posto.Nuova());
     altre.insert(altre.begin() + static_cast<std::ptrdiff_t>(righe.size()), riga);
     righe.push_back(std::move(riga));
   }

@@ -12,6 +12,7 @@ struct Options {
   bool desktop = false;
   bool keys = false;
   bool hasty = false;
+  int rehearsed = 0;
   bool update = false;
   bool drawings = false, whole = false, dark = false;
   std::string pictures;
@@ -26,16 +27,19 @@ QSize QSizeOf(const std::string& text) {
 
 int PlayAll(const Options& options) {
   std::set<std::string> faults;
+  std::set<std::pair<std::string, bool>> rehearsed;
   const orm::Hand hand = options.hasty  ? orm::Hand::Hasty
                          : options.keys ? orm::Hand::Keys
                                         : orm::Hand::Mouse;
   const orm::StageBuilder build =
-      options.desktop
-          ? orm::DesktopStage({options.pictures, &faults, hand, options.drawings, options.whole})
-          : orm::BuildPlainStage;
+      options.desktop ? orm::DesktopStage({options.pictures, &faults, hand, options.drawings,
+                                           options.whole, options.hasty ? &rehearsed : nullptr})
+                      : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;
+  if (options.hasty) std::cout << rehearsed.size() << " parcelle con sviste\n";
+  if (static_cast<int>(rehearsed.size()) < options.rehearsed) return 1;
   return faults.empty() ? failed : 1;
 }
 
@@ -49,6 +53,7 @@ int main(int argc, char** argv) {
   app.add_flag("--tasti", options.keys, "con la sola tastiera")->needs(desktop);
   app.add_flag("--sviste", options.hasty, "con la sola tastiera e con sviste, subito corrette")
       ->needs(desktop);
+  app.add_option("--ripetute", options.rehearsed, "quante parcelle almeno si ripetono con sviste");
   app.add_flag("--aggiorna", options.update, "riscrive i file attesi, da rileggere");
   app.add_option("--immagini", options.pictures, "cartella delle immagini chieste dai copioni");
   app.add_flag("--disegni", options.drawings, "con le immagini, ogni disegno come file e stampato");

@@ -7,22 +7,25 @@
 #include <QScreen>
 #include <QTemporaryFile>
 #include <QTest>
+#include <algorithm>
 
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/menu_window.h"
 #include "desktop/player/message_window.h"
 #include "desktop/qt_text.h"
-#include "tests/stage/key_hand.h"
+#include "script/statement.h"
+#include "tests/stage/rehearsal.h"
 
 namespace orm {
 namespace {
 
-std::unique_ptr<WidgetHand> HandOn(FormDialog& dialog, const DesktopStageOptions& options) {
+std::unique_ptr<WidgetHand> HandOn(FormDialog& dialog, const DesktopStageOptions& options,
+                                   PlayedChain& chain) {
   switch (options.hand) {
     case Hand::Keys:
       return std::make_unique<KeyHand>(dialog, options);
     case Hand::Hasty:
-      return std::make_unique<HastyHand>(dialog, options);
+      return std::make_unique<NotingHand>(dialog, options, chain);
     case Hand::Mouse:
       break;
   }
@@ -39,10 +42,11 @@ class ScriptedPlayer : public DesktopPlayer {
         options_(std::move(options)) {}
 
   std::optional<std::string> ChooseFile(const FileChoice& choice) override {
+    if (rehearsal != nullptr) return std::nullopt;
     return actor_.MeetFileChoice(choice);
   }
   void StartProgram(const std::string& program, const std::string& argument) override {
-    actor_.MeetProgramStart(program, argument);
+    if (rehearsal == nullptr) actor_.MeetProgramStart(program, argument);
   }
   bool ProgramExists(const std::string& path) override {
     return ScriptProgramExists(path, folder_);
@@ -51,10 +55,8 @@ class ScriptedPlayer : public DesktopPlayer {
   ScreenSize Screen() override { return actor_.Screen(); }
   Date Today() override { return actor_.Today(); }
 
-  // What a hasty person does with the header of a note before the script goes on: it is left in its
-  // middle, which ends the command and must change no file, and found again by the same command.
-  enum class Header { AsScripted, Leave, Left, TakeUp };
-  Header header = Header::AsScripted;
+  PlayedChain chain;               // of the command that a hasty person has chosen
+  Rehearsal* rehearsal = nullptr;  // acts in the script's place
 
  protected:
   void Run(FormDialog& dialog) override {
@@ -64,17 +66,11 @@ class ScriptedPlayer : public DesktopPlayer {
       dialog.move(0, 0);
     }
     QCoreApplication::processEvents();
-    if (dialog.Model().Name() == "frmGEN_Intestazione" && header != Header::AsScripted) {
-      HastyHand hand(dialog, options_);
-      if (header == Header::TakeUp) hand.TakeUpAgain();
-      if (header == Header::Leave) {
-        hand.TypeAndLeave();
-        header = Header::Left;
-        return dialog.hide();
-      }
-      header = Header::AsScripted;
+    if (rehearsal != nullptr) {
+      rehearsal->Meet(dialog);
+      return dialog.hide();
     }
-    const std::unique_ptr<WidgetHand> hand = HandOn(dialog, options_);
+    const std::unique_ptr<WidgetHand> hand = HandOn(dialog, options_, chain);
     hand->Look();
     actor_.MeetForm(dialog.Model(), *hand);
     dialog.hide();
@@ -82,7 +78,10 @@ class ScriptedPlayer : public DesktopPlayer {
   void Run(QMessageBox& shown, const MessageBox& box) override {
     shown.open();
     QCoreApplication::processEvents();
-    QAbstractButton* button = ButtonOf(shown, actor_.MeetMessage(box));
+    const orm::Answer answer =
+        rehearsal != nullptr ? rehearsal->Meet(box) : actor_.MeetMessage(box);
+    if (rehearsal == nullptr) chain.messages.emplace_back(box.text, answer);
+    QAbstractButton* button = ButtonOf(shown, answer);
     if (options_.hand == Hand::Mouse)
       QTest::mouseClick(button, Qt::LeftButton);
     else
@@ -95,6 +94,8 @@ class ScriptedPlayer : public DesktopPlayer {
   DesktopStageOptions options_;
 };
 
+using Files = std::map<std::string, std::string>;
+
 void ClickIn(QMenu& menu, QAction* action) {
   QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
 }
@@ -103,7 +104,7 @@ class WidgetStage : public Stage {
  public:
   WidgetStage(Actor& actor, const WorkFolder& folder, DesktopStageOptions options)
       : keys_(options.hand != Hand::Mouse),
-        hasty_(options.hand == Hand::Hasty),
+        options_(options),
         folder_(folder),
         player_(actor, folder, std::move(options)) {}
 
@@ -118,15 +119,42 @@ class WidgetStage : public Stage {
   }
 
   std::string Choose(MainWindow&, std::string_view command) override {
-    using Header = ScriptedPlayer::Header;
-    if (!hasty_ || !command.ends_with("_ID")) return ChooseOnce(command);
+    if (options_.rehearsed == nullptr || !command.ends_with("_ID")) return ChooseOnce(command);
     const auto before = Contents();
-    player_.header = Header::Leave;
-    const std::string objection = ChooseOnce(command);
-    const bool left = player_.header == Header::Left;
-    player_.header = left ? Header::TakeUp : Header::AsScripted;
-    if (!left || !objection.empty()) return objection;
-    return Contents() == before ? ChooseOnce(command) : "la testata lasciata ha cambiato un file";
+    player_.chain = {};
+    std::string objection = ChooseOnce(command);
+    if (objection.empty() && player_.chain.WholeNote() &&
+        options_.rehearsed->emplace(std::string(command), player_.chain.Changes()).second)
+      objection = Rehearse(command, before);
+    return objection;
+  }
+  // The note is typed in again from the files that there were before, with a slip in every window.
+  std::string Rehearse(std::string_view command, const Files& before) {
+    const auto after = Contents();
+    PutBack(before);
+    const Drafts::All drafts = std::exchange(player_.DraftsOfRun().Kept(), {});
+    Rehearsal rehearsal(player_.chain);
+    player_.rehearsal = &rehearsal;
+    std::string objection;
+    while (objection.empty() && !rehearsal.Ended()) {
+      const auto stored = Contents();
+      rehearsal.Begin();
+      objection = ChooseOnce(command);
+      if (objection.empty()) objection = rehearsal.Fault();
+      if (objection.empty() && rehearsal.LeftAtTheStart() && Contents() != stored)
+        objection = "chi rinuncia all'inizio cambia un file";
+      if (objection.empty() && rehearsal.LeftStoredRow() && Contents() != stored) {
+        objection = BringBack(stored);
+        rehearsal.BroughtBack();
+      }
+    }
+    for (const auto& [name, text] : Contents())
+      if (objection.empty() && (!after.contains(name) || after.at(name) != text))
+        objection = "dopo le sviste " + name + " è " + Quoted(text);
+    player_.rehearsal = nullptr;
+    player_.DraftsOfRun().Kept() = drafts;
+    PutBack(after);
+    return objection;
   }
   std::string ChooseOnce(std::string_view command) {
     const std::vector<QMenu*> path = shown_->PathTo(std::string(command));
@@ -153,13 +181,31 @@ class WidgetStage : public Stage {
   }
 
  private:
-  std::map<std::string, std::string> Contents() const {
-    std::map<std::string, std::string> contents;
+  Files Contents() const {
+    Files contents;
     for (const std::string& name : folder_.Names()) contents[name] = folder_.Read(name);
     return contents;
   }
+  // As the manual tells: what a file held stands in `storico`.
+  std::string BringBack(const Files& files) const {
+    const WorkFolder kept(folder_.PathOf("storico"));
+    for (const auto& [name, text] : files) {
+      const auto holds = [&](const std::string& old) { return kept.Read(old) == text; };
+      if (folder_.Read(name) != text && std::ranges::none_of(kept.Names(), holds))
+        return name + " com'era non è in storico";
+    }
+    PutBack(files);
+    return {};
+  }
+  void PutBack(const Files& files) const {
+    for (const std::string& name : folder_.Names())
+      if (!files.contains(name)) folder_.Remove(name);
+    for (const auto& [name, text] : files)
+      if (!folder_.Exists(name) || folder_.Read(name) != text) folder_.Replace(name, text);
+  }
 
-  bool keys_, hasty_;
+  bool keys_;
+  DesktopStageOptions options_;
   const WorkFolder& folder_;
   ScriptedPlayer player_;
   std::unique_ptr<MenuWindow> shown_;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "script/stage.h"
 
@@ -12,11 +13,15 @@ namespace orm {
 enum class Hand { Mouse, Keys, Hasty };  // how the person of a script acts
 
 struct DesktopStageOptions {
-  std::string pictures;           // folder for the pictures that scripts ask for; empty: none
-  std::set<std::string>* faults;  // of forms against the rules of form_lint.h; nullptr: not sought
+  std::string pictures = {};  // folder for the pictures that scripts ask for; empty: none
+  std::set<std::string>* faults =
+      nullptr;  // of forms against the rules of form_lint.h; nullptr: not sought
   Hand hand = Hand::Mouse;
   bool drawings = false;     // the files and the sheet of a drawing beside its form's picture
   bool wholeScreen = false;  // forms that grow fill the screen
+  // The commands of which a note, a new one (false) or a change, has been typed in again with a
+  // slip in every window; nullptr: none shall be.
+  std::set<std::pair<std::string, bool>>* rehearsed = nullptr;
 };
 StageBuilder DesktopStage(DesktopStageOptions options);
 

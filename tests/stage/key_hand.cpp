@@ -138,26 +138,6 @@ void HastyHand::MustStay(const Control& control, const QString& slip) {
   throw RuntimeFailure(control.Name() + " : \"" + FromQt(slip) + "\" è stato preso.");
 }
 
-const char* const kBegun = "Lasciato a metà";
-
-void HastyHand::TypeAndLeave() {
-  QWidget* field = FocusIn(dialog_);
-  Retype(field, kBegun);
-  Key(Qt::Key_Escape);
-  QCoreApplication::processEvents();
-  if (dialog_.Model().IsOpen()) throw RuntimeFailure("Esc non ha chiuso la finestra.");
-}
-
-void HastyHand::TakeUpAgain() {
-  Control* first = dialog_.Model().FirstFocus();
-  const std::string stored = first->ShownText();
-  for (const std::string& due : {std::string(kBegun), stored}) {
-    Push(*dialog_.findChild<QPushButton*>("cmdRIPRENDI"));
-    if (first->ShownText() != due)
-      throw RuntimeFailure("La bozza è \"" + first->ShownText() + "\".");
-  }
-}
-
 void HastyHand::SlipInNumber(NumberBox& box, QWidget& field, const QString& text) {
   Retype(&field, text + "k");  // a letter leaves the digits, and is told
   if (dialog_.ViewOf(box).TakeRefusal().empty()) throw RuntimeFailure(box.Name() + " : tace.");

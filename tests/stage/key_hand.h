@@ -28,10 +28,6 @@ class KeyHand : public WidgetHand {
 class HastyHand : public KeyHand {
  public:
   using KeyHand::KeyHand;
-  // Types into the first field and leaves the form by Escape; and finds it again, in a form that
-  // has come up anew, and puts back what was there.
-  void TypeAndLeave();
-  void TakeUpAgain();
 
  protected:
   void Turn(QAbstractButton& mark) override;
