@@ -4,6 +4,7 @@
 
 #include "desktop/italian_captions.h"
 #include "desktop/pictures.h"
+#include "desktop/seen_marks.h"
 
 namespace orm {
 
@@ -11,6 +12,7 @@ void DressApplication(QApplication& application) {
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   QGuiApplication::setApplicationDisplayName({});
   QGuiApplication::setDesktopFileName("orm2002");
+  QApplication::setStyle(new SeenMarks);
   QApplication::setWindowIcon(ProgramIcon());
   QCoreApplication::installTranslator(new ItalianCaptions(&application));
 }

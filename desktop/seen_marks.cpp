@@ -1,0 +1,32 @@
+#include "desktop/seen_marks.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include "desktop/look.h"
+
+namespace orm {
+
+void SeenMarks::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const bool round = element == PE_IndicatorRadioButton;
+  const bool field = element == PE_FrameLineEdit;
+  if (!round && !field && element != PE_IndicatorCheckBox) return;
+  // The field with the focus has an edge of its own.
+  if (!IsDark(option->palette) || (field && (option->state & State_HasFocus))) return;
+  QColor edge = NoteText(option->palette);
+  if (field || !(option->state & State_Enabled)) edge.setAlphaF(0.55F);
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(edge);
+  painter->setBrush(Qt::NoBrush);
+  const QRectF around = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if (round)
+    painter->drawEllipse(around.adjusted(0.5, 0.5, -0.5, -0.5));
+  else
+    painter->drawRoundedRect(around, field ? 2 : 1, field ? 2 : 1);
+  painter->restore();
+}
+
+}  // namespace orm
