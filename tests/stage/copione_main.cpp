@@ -12,7 +12,7 @@ struct Options {
   bool desktop = false;
   bool keys = false;
   bool hasty = false;
-  int rehearsed = 0;
+  std::size_t rehearsed = 0;
   bool update = false;
   bool drawings = false, whole = false, dark = false;
   std::string pictures;
@@ -31,15 +31,18 @@ int PlayAll(const Options& options) {
   const orm::Hand hand = options.hasty  ? orm::Hand::Hasty
                          : options.keys ? orm::Hand::Keys
                                         : orm::Hand::Mouse;
+  // The keyboard's hands meet the same windows in the same states, where the mouse's has looked.
+  const bool looks = hand == orm::Hand::Mouse;
   const orm::StageBuilder build =
-      options.desktop ? orm::DesktopStage({options.pictures, &faults, hand, options.drawings,
-                                           options.whole, options.hasty ? &rehearsed : nullptr})
-                      : orm::BuildPlainStage;
+      options.desktop
+          ? orm::DesktopStage({options.pictures, looks ? &faults : nullptr, hand, options.drawings,
+                               options.whole, options.hasty ? &rehearsed : nullptr})
+          : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;
-  if (options.hasty) std::cout << rehearsed.size() << " parcelle con sviste\n";
-  if (static_cast<int>(rehearsed.size()) < options.rehearsed) return 1;
+  if (options.hasty) std::cout << rehearsed.size() << " parcelle ripetute con sviste" << std::endl;
+  if (rehearsed.size() < options.rehearsed) return 1;
   return faults.empty() ? failed : 1;
 }
 

@@ -57,8 +57,8 @@ class Rehearsal {
   bool Ended() const { return !leaving_ && at_ == chain_.forms.size(); }
   // The slip ended the command before any form of the case.
   bool LeftAtTheStart() const;
-  // The slip was a button in a form about stored data, which it may have taken away. Who brings them
-  // back from `storico` loses what this run has confirmed.
+  // The slip was a button in a form about stored data, which it may have taken away. Who brings
+  // them back from `storico` loses what this run has confirmed.
   bool LeftStoredRow() const;
   void BroughtBack();
   const std::string& Fault() const { return fault_; }  // the first; empty for none
