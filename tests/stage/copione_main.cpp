@@ -31,10 +31,13 @@ int PlayAll(const Options& options) {
   const orm::Hand hand = options.hasty  ? orm::Hand::Hasty
                          : options.keys ? orm::Hand::Keys
                                         : orm::Hand::Mouse;
+  // The keyboard's hands meet the same windows in the same states, where the mouse's has looked.
+  const bool looks = hand == orm::Hand::Mouse;
   const orm::StageBuilder build =
-      options.desktop ? orm::DesktopStage({options.pictures, &faults, hand, options.drawings,
-                                           options.whole, options.hasty ? &rehearsed : nullptr})
-                      : orm::BuildPlainStage;
+      options.desktop
+          ? orm::DesktopStage({options.pictures, looks ? &faults : nullptr, hand, options.drawings,
+                               options.whole, options.hasty ? &rehearsed : nullptr})
+          : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
   for (const std::string& fault : faults) std::cerr << fault << std::endl;

@@ -152,7 +152,11 @@ void Rehearsal::Fill(const Entries& entries, FormDialog& dialog, KeyHand& hand) 
       Control* control = dialog.Model().Find(name);
       if (!IsEntry(*control) || hand.Shown(*control) == text) continue;
       if (text == "off" && control->GetKind() == Control::Kind::Option) continue;
-      const std::string objection = hand.Set(*control, text);
+      std::string objection = hand.Set(*control, text);
+      // As in the script's run, a mark is set twice: some events leave a trace of a mark taken
+      // away.
+      if (control->GetKind() == Control::Kind::Check && text == "on")
+        for (const char* mark : {"off", "on"}) objection += hand.Set(*control, mark);
       if (!objection.empty()) return Tell(dialog, name + " : " + objection);
     }
   if (const Entries filled = EntriesOf(dialog, hand); filled != entries)
