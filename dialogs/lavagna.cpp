@@ -104,8 +104,9 @@ void Lavagna::SetStroke(DrawOperation::Stroke stroke) { pen_.stroke = stroke; }
 void Lavagna::SetWidth(int pixels) { pen_.width = pixels; }
 void Lavagna::SetFont(int size, bool bold) { pen_.fontSize = size, pen_.bold = bold; }
 
-void Lavagna::SetHalo(bool halo) { pen_.halo = halo; }
+bool Lavagna::SetHalo(bool halo) { return std::exchange(pen_.halo, halo); }
 void Lavagna::SetHatching(bool hatching) { pen_.hatching = hatching; }
+bool Lavagna::SetMeasure(bool measure) { return std::exchange(pen_.measure, measure); }
 
 void Lavagna::BeginView(const DrawView& view) {
   pen_.view = static_cast<int>(views_.size());

@@ -40,6 +40,7 @@ struct DrawOperation {
   bool bold = false;
   bool filled = false;    // a polygon or a whole circle painted inside
   bool hatching = false;  // a line that fills something, on a layer of its own in a CAD file
+  bool measure = false;   // of a dimension line, on a layer of its own too
   bool verdict = false;   // a text that says whether what is drawn holds
   int view = -1;          // the view to scale that it belongs to, -1 for none
 };
@@ -65,8 +66,9 @@ class Lavagna : public Control {
   void SetStroke(DrawOperation::Stroke stroke);
   void SetWidth(int pixels);
   void SetFont(int size, bool bold = false);
-  void SetHalo(bool halo);
+  bool SetHalo(bool halo);  // as it was before
   void SetHatching(bool hatching);
+  bool SetMeasure(bool measure);  // likewise
   // What follows is drawn to scale in a view of its own.
   void BeginView(const DrawView& view);
   void EndView();

@@ -10,6 +10,19 @@ using Anchor = DrawOperation::Anchor;
 constexpr Colour kBlack{0, 0, 0}, kThin{70, 90, 130};
 constexpr double kGap = 0.5, kBeyond = 0.8;  // of witness lines, in ticks
 
+// What is drawn while it lives belongs to the measures.
+class Misura {
+ public:
+  explicit Misura(Lavagna& lavagna) : lavagna_(lavagna), before_(lavagna.SetMeasure(true)) {}
+  ~Misura() { lavagna_.SetMeasure(before_); }
+  Misura(const Misura&) = delete;
+  Misura& operator=(const Misura&) = delete;
+
+ private:
+  Lavagna& lavagna_;
+  bool before_;
+};
+
 }  // namespace
 
 void Quote::Penna() const {
@@ -19,6 +32,7 @@ void Quote::Penna() const {
 }
 
 void Quote::Riga(Point da, Point a) const {
+  const Misura misura(lavagna_);
   Penna();
   lavagna_.DrawLine(da.x, da.y, a.x, a.y);
   for (const Point& p : {da, a})
@@ -30,9 +44,18 @@ void Quote::Richiamo(Point oggetto, Point quota) const {
   if (length <= kGap * tacca_) return;
   const double dx = (quota.x - oggetto.x) / length * tacca_;
   const double dy = (quota.y - oggetto.y) / length * tacca_;
+  const Misura misura(lavagna_);
   Penna();
   lavagna_.DrawLine(oggetto.x + kGap * dx, oggetto.y + kGap * dy, quota.x + kBeyond * dx,
                     quota.y + kBeyond * dy);
+}
+
+void Quote::Nome(double x, double y, const std::string& testo, Anchor anchor, bool upright) const {
+  const Misura misura(lavagna_);
+  lavagna_.SetColour(kBlack);
+  const bool halo = lavagna_.SetHalo(true);  // lines of other measures may pass here
+  lavagna_.DrawText(x, y, testo, anchor, upright);
+  lavagna_.SetHalo(halo);
 }
 
 void Quote::Freccia(double x1, double y1, double x2, double y2) const {
@@ -52,9 +75,8 @@ void Quote::Orizzontale(double x1, double x2, double y, const std::string& nome,
   if (daY)
     for (const double x : {x1, x2}) Richiamo({x, *daY}, {x, y});
   const bool below = daY && *daY > y;
-  lavagna_.SetColour(kBlack);
-  lavagna_.DrawText((x1 + x2) / 2, below ? y - tacca_ / 2 : y + tacca_ / 2, nome,
-                    below ? Anchor::Below : Anchor::Above);
+  Nome((x1 + x2) / 2, below ? y - tacca_ / 2 : y + tacca_ / 2, nome,
+       below ? Anchor::Below : Anchor::Above);
 }
 
 void Quote::Verticale(double x, double y1, double y2, const std::string& nome,
@@ -63,9 +85,8 @@ void Quote::Verticale(double x, double y1, double y2, const std::string& nome,
   if (daX)
     for (const double y : {y1, y2}) Richiamo({*daX, y}, {x, y});
   const bool left = daX && *daX > x;
-  lavagna_.SetColour(kBlack);
-  lavagna_.DrawText(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, (y1 + y2) / 2, nome,
-                    left ? Anchor::Right : Anchor::Left);
+  Nome(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, (y1 + y2) / 2, nome,
+       left ? Anchor::Right : Anchor::Left);
 }
 
 }  // namespace orm

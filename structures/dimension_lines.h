@@ -25,6 +25,9 @@ class Quote {
   // The line alone, with its ticks and witness lines.
   void Riga(Point da, Point a) const;
   void Richiamo(Point oggetto, Point quota) const;
+  // The name alone, where the drawing has found a place for it.
+  void Nome(double x, double y, const std::string& testo, DrawOperation::Anchor anchor,
+            bool upright = false) const;
   // A thin line from a name to its thing.
   void Freccia(double x1, double y1, double x2, double y2) const;
   // A text with its middle at the point.

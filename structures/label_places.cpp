@@ -31,20 +31,24 @@ void PostiEtichette::Scansa(Riquadro& r) const {
   }
 }
 
-Riquadro PostiEtichette::Posto(double x, double y, double larghezza, double altezza) {
-  Riquadro best{x, x + larghezza, y - altezza / 2, y + altezza / 2};
+Riquadro PostiEtichette::Posto(std::initializer_list<double> inizi, double y, double larghezza,
+                               double altezza) {
+  const double first = *inizi.begin();
+  Riquadro best{first, first + larghezza, y - altezza / 2, y + altezza / 2};
   double least = std::numeric_limits<double>::infinity();
   for (int step = 0; step <= 2 * kSteps; ++step) {
     const double up = (step % 2 == 0 ? -1 : 1) * std::ceil(step / 2.0) * kStep;
     const double middle = y + up;
     if (step > 0 && (middle < minimo_ || middle > massimo_)) continue;
-    Riquadro r{x, x + larghezza, middle - altezza / 2, middle + altezza / 2};
-    Scansa(r);
-    if (SuUnaRiga(r)) continue;
-    const double cost = std::fabs(up) + kRightward * (r.x1 - x);
-    if (cost >= least) continue;
-    least = cost;
-    best = r;
+    for (const double x : inizi) {
+      Riquadro r{x, x + larghezza, middle - altezza / 2, middle + altezza / 2};
+      Scansa(r);
+      if (SuUnaRiga(r) || r.x2 > destra_) continue;
+      const double cost = std::fabs(up) + kRightward * std::fabs(r.x1 - first);
+      if (cost >= least) continue;
+      least = cost;
+      best = r;
+    }
   }
   Occupa(best);
   return best;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 namespace orm {
@@ -17,17 +18,19 @@ struct Riquadro {
 
 class PostiEtichette {
  public:
-  // `bordi` gives the x at which outlines cross a height.
-  PostiEtichette(double minimo, double massimo, std::function<std::vector<double>(double)> bordi)
-      : minimo_(minimo), massimo_(massimo), bordi_(std::move(bordi)) {}
+  // `bordi` gives the x at which outlines cross a height; no label steps beyond `destra`.
+  PostiEtichette(double minimo, double massimo, double destra,
+                 std::function<std::vector<double>(double)> bordi)
+      : minimo_(minimo), massimo_(massimo), destra_(destra), bordi_(std::move(bordi)) {}
 
   // A line along x, which labels pass above or below.
   void Riga(double x1, double x2, double y) { righe_.push_back({x1, x2, y, y}); }
   void Occupa(const Riquadro& riquadro) { occupati_.push_back(riquadro); }
 
-  // A label of that size whose left edge and middle belong at (x, y): its place, which is taken
-  // from then on. It steps to the right of an outline, up or down beside a line.
-  Riquadro Posto(double x, double y, double larghezza, double altezza);
+  // A label of that size whose left edge and middle belong at (x, y), x the first of `inizi` or
+  // else another one: its place, which is taken from then on. It steps to the right of an outline,
+  // up or down beside a line.
+  Riquadro Posto(std::initializer_list<double> inizi, double y, double larghezza, double altezza);
 
  private:
   bool SuUnaRiga(const Riquadro& r) const;
@@ -35,6 +38,7 @@ class PostiEtichette {
   void Scansa(Riquadro& r) const;
 
   double minimo_, massimo_;  // of the middle of a label
+  double destra_;
   std::function<std::vector<double>(double)> bordi_;
   std::vector<Riquadro> righe_, occupati_;
 };

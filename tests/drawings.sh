@@ -41,6 +41,8 @@ def holds(there, *wanted):
 t = drawing("t")
 holds(list(sizes(t)), (100, 80))
 holds(texts(t), "B 100", "H 80", "s 15", "b 30", "c 3", "6,03 cmq.")
+measures = {text.dxf.text for text in t.query('TEXT[layer=="QUOTE"]')}
+assert measures == {"B 100", "H 80", "s 15", "b 30", "c 3"}, measures
 ring = drawing("anulare")
 radii = [round(circle.dxf.radius, 3) for circle in ring.query("CIRCLE")]
 holds(radii, 30, 20)

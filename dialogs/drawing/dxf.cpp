@@ -17,6 +17,13 @@ using Stroke = DrawOperation::Stroke;
 constexpr const char* kLines = "DISEGNO";
 constexpr const char* kTexts = "TESTI";
 constexpr const char* kHatching = "CAMPITURE";
+constexpr const char* kMeasures = "QUOTE";
+
+const char* LayerOf(const DrawOperation& op) {
+  if (op.measure) return kMeasures;
+  if (op.hatching) return kHatching;
+  return op.kind == Kind::Text ? kTexts : kLines;
+}
 
 // The numbered colours that all programs show alike; 7 is black on a white sheet.
 struct Numbered {
@@ -180,8 +187,8 @@ class Sheet {
     LineType("DASHED", "tratteggiata", {8, -5});
     LineType("DOT", "punteggiata", {2, -4});
     Pair(0, "ENDTAB");
-    table("LAYER", 3);
-    for (const char* layer : {kLines, kTexts, kHatching}) {
+    table("LAYER", 4);
+    for (const char* layer : {kLines, kTexts, kHatching, kMeasures}) {
       Pair(0, "LAYER");
       Pair(2, layer);
       Pair(70, 0);
@@ -202,7 +209,7 @@ class Sheet {
   void Entity(const DrawOperation& op) {
     switch (op.kind) {
       case Kind::Line:
-        Begin("LINE", op.hatching ? kHatching : kLines, op);
+        Begin("LINE", LayerOf(op), op);
         At(10, Place(op, op.points[0]));
         return At(11, Place(op, op.points[1]));
       case Kind::Arc:
@@ -249,7 +256,7 @@ class Sheet {
     constexpr double kCapital = 0.72 * 96 / 72;  // pixels of a point of the font
     const Point at = Place(op, op.points[0]);
     const auto [sideways, upward] = JustifiedBy(op.anchor);
-    Begin("TEXT", kTexts, op);
+    Begin("TEXT", LayerOf(op), op);
     At(10, at);
     Pair(40, kCapital * op.fontSize * Pixel() * Unit(op));
     Pair(1, Letters(lavagna_.SeenText(op)));

@@ -244,7 +244,9 @@ void Disegno::Pianta() {
     quote_.Orizzontale(x(f_.Ls + f_.Lm), x(fronte), sotto, "Ls", fine);
   }
   quote_.Orizzontale(x(f_.Ls), x(f_.Ls + f_.Lm), sotto, f_.SuMensole() ? "Lm" : "L", fine);
-  quote_.Verticale(x(fronte) + 1.8, fine, kFace, "La", x(fronte));
+  // Beside a bracket at the end of the slab, which is wider than the slab there.
+  const double bordo = f_.SuMensole() ? std::max(fronte, f_.Ls + f_.Lm + f_.Ba / 2) : fronte;
+  quote_.Verticale(x(bordo) + 1.8, fine, kFace, "La", x(fronte));
   lavagna_.EndView();
 }
 

@@ -67,10 +67,7 @@ void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni
     const double y = Y(t.profondita), end = kBase + (t.valore < 0 ? -reach.units : reach.units);
     reach.over ? OverLimit(lavagna_) : WithinLimit(lavagna_);
     lavagna_.DrawLine(kBase, y, end, y);
-    if (t.cls) {
-      lavagna_.SetColour(kBlack);
-      lavagna_.DrawText(end - 0.3, y, "cls", Anchor::Right);
-    }
+    posti_.Riga(std::min(kBase, end), std::max(kBase, end), y);
   }
   // Labels give way from the axis outward, so that none reaches a line of the other sign.
   const bool upperCompressed = std::any_of(tensioni.begin(), tensioni.end(), [&](const auto& t) {
@@ -78,6 +75,16 @@ void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni
   });
   ScriviTensioni(tensioni, ammesse, true, upperCompressed);
   ScriviTensioni(tensioni, ammesse, false, !upperCompressed);
+}
+
+void DisegnoFlessione::ScriviCls(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse,
+                                 double y) {
+  const double end = kBase - ReachOf(t, ammesse).units, half = lavagna_.LineHeight() / 2;
+  if (std::fabs(y - Y(t.profondita)) > 0.01) Leader(lavagna_, end, Y(t.profondita), end - 0.25, y);
+  lavagna_.SetColour(kBlack);
+  lavagna_.SetFont(kSmall);
+  lavagna_.DrawText(end - 0.3, y, "cls", Anchor::Right);
+  posti_.Occupa({end - 0.3 - lavagna_.TextWidth("cls"), end, y - half, y + half});
 }
 
 void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
@@ -90,7 +97,17 @@ void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tens
     shown.push_back(t);
     heights.push_back(Y(t.profondita));
   }
-  const auto labels = QuoteEtichette(heights, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.9);
+  // On the side of the tensions stands "cls", at the end of its line.
+  std::vector<double> places = heights;
+  const auto edge = std::ranges::find_if(tensioni, &TensioneDisegnata::cls);
+  const bool besideCls = !compresse && edge != tensioni.end();
+  if (besideCls) places.insert(versoAlto ? places.end() : places.begin(), Y(edge->profondita));
+  auto labels = QuoteEtichette(places, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.9);
+  if (besideCls) {
+    const auto own = versoAlto ? labels.end() - 1 : labels.begin();
+    ScriviCls(*edge, ammesse, *own);
+    labels.erase(own);
+  }
   lavagna_.SetHalo(true);
   for (std::size_t i = 0; i < shown.size(); ++i) {
     const double side = compresse ? 1 : -1;

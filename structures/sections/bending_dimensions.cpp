@@ -21,10 +21,19 @@ std::string Scritta(const QuotaSezione& quota) {
 
 }  // namespace
 
+// Where the name of a measure on a vertical line stands: in its middle, or, where that has no room
+// for it, beyond the edge of the section, so that no witness line goes through it.
+double DisegnoFlessione::QuotaNome(const QuotaSezione& quota) const {
+  const double line = lavagna_.LineHeight(), middle = Y((quota.da + quota.a) / 2);
+  if ((quota.a - quota.da) / Sc_ >= line) return middle;
+  if (quota.da == 0) return Y(0) + line / 2;
+  return quota.a == H_ ? Y(H_) - line / 2 : middle;
+}
+
 // Measures one below the other on a line; small ones have their names stepping aside.
 void DisegnoFlessione::Catena(double x, const std::vector<QuotaSezione>& quote) {
   std::vector<double> middles;
-  for (const QuotaSezione& quota : quote) middles.push_back(Y((quota.da + quota.a) / 2));
+  for (const QuotaSezione& quota : quote) middles.push_back(QuotaNome(quota));
   const auto names = QuoteEtichette(middles, lavagna_.LineHeight(), false, 0, 9);
   for (std::size_t i = 0; i < quote.size(); ++i) {
     for (const double depth : {quote[i].da, quote[i].a}) {
@@ -33,9 +42,8 @@ void DisegnoFlessione::Catena(double x, const std::vector<QuotaSezione>& quote) 
     }
     quote_.Riga({x, Y(quote[i].da)}, {x, Y(quote[i].a)});
   }
-  lavagna_.SetColour(kBlack);
   for (std::size_t i = 0; i < quote.size(); ++i)
-    lavagna_.DrawText(x - 0.4, names[i], Scritta(quote[i]), Anchor::Right);
+    quote_.Nome(x - 0.4, names[i], Scritta(quote[i]), Anchor::Right);
 }
 
 void DisegnoFlessione::QuoteVerticali(const QuotaSezione& altezza,
@@ -50,10 +58,9 @@ void DisegnoFlessione::QuoteVerticali(const QuotaSezione& altezza,
   Catena(kThicknesses, spessori);
   Catena(kCovers, copriferri);
   lavagna_.SetHalo(false);
-  lavagna_.SetColour(kBlack);
   const double middle = Y((altezza.da + altezza.a) / 2);
-  lavagna_.DrawText(x - 0.1, std::max(middle, 1 + lavagna_.TextWidth(Scritta(altezza)) / 2 - 1),
-                    Scritta(altezza), Anchor::Above, true);
+  quote_.Nome(x - 0.1, std::max(middle, 1 + lavagna_.TextWidth(Scritta(altezza)) / 2 - 1),
+              Scritta(altezza), Anchor::Above, true);
 }
 
 void DisegnoFlessione::QuotaLarghezza(const QuotaSezione& larghezza, double profondita) {
@@ -72,8 +79,7 @@ void DisegnoFlessione::QuotaAnima(const QuotaSezione& larghezza, double profondi
   lavagna_.SetFont(kSmall);
   const double y = Y(profondita), x = X(larghezza.a) + 0.3, height = lavagna_.LineHeight() / 2;
   quote_.Riga({X(larghezza.da), y}, {X(larghezza.a), y});
-  lavagna_.SetColour(kBlack);
-  lavagna_.DrawText(x, y, Scritta(larghezza), Anchor::Left);
+  quote_.Nome(x, y, Scritta(larghezza), Anchor::Left);
   posti_.Occupa({x, x + lavagna_.TextWidth(Scritta(larghezza)), y - height, y + height});
 }
 

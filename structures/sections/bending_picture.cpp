@@ -51,7 +51,7 @@ DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool sp
       Sc_(ScalaDisegno(H, W)),
       sinistra_(spessori ? kLeftOfFlanges : kLeft),
       tratti_(std::move(tratti)),
-      posti_(0.5, 9,
+      posti_(0.5, 9, 22.9,  // where the stresses begin
              [this](double y) {
                std::vector<double> edges;
                const double depth = H_ - (y - 1) * Sc_;
@@ -115,27 +115,32 @@ void DisegnoFlessione::Tratteggia(double bordo, double asse) {
 }
 
 void DisegnoFlessione::AsseNeutro(double profondita) {
+  asse_ = profondita;
   const double y = Y(profondita);
-  const std::string name = "asse neutro";
-  lavagna_.SetFont(kSmall);
-  const double width = lavagna_.TextWidth(name);
-  double x = 13;
-  // Its height is fixed; it steps out of a wide section.
-  for (const Tratto& tratto : tratti_(std::max(0.0, profondita - 0.4 * Sc_)))
-    if (X(tratto.a) > x && X(tratto.a) < x + width) x = X(tratto.a) + 0.3;
   lavagna_.SetColour(kBlue);
-  lavagna_.SetHalo(true);
-  lavagna_.DrawText(x, y + 0.8, name);
-  lavagna_.SetHalo(false);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
   lavagna_.DrawLine(0.4, y, 15.6, y);
   posti_.Riga(0.4, 15.6, y);
-  posti_.Occupa({x, x + width, y + 0.8 - lavagna_.LineHeight(), y + 0.8});
+}
+
+// Above the line at 13; where a wide section or a stress stands there, the nearest free place, in
+// the section or out of it.
+void DisegnoFlessione::NomeAsse() {
+  const std::string name = "asse neutro";
+  lavagna_.SetFont(kSmall);
+  lavagna_.SetColour(kBlue);
+  const double width = lavagna_.TextWidth(name), within = X(W_) - width - 0.3;
+  const Riquadro posto =
+      posti_.Posto({13, within}, Y(asse_) + 0.8, width, 0.9 * lavagna_.LineHeight());
+  lavagna_.SetHalo(true);
+  lavagna_.DrawText(posto.x1, (posto.y1 + posto.y2) / 2, name, Anchor::Left);
+  lavagna_.SetHalo(false);
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,
                                 const std::function<double(double)>& larghezza) {
+  NomeAsse();
   OrdinaArray(profondita, aree, 0, static_cast<int>(aree.size()) - 1);
   const double centre = X(W_ / 2);
   struct Strato {
@@ -161,7 +166,7 @@ void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<doub
   for (const Strato& strato : strati) {
     const std::string text = FormatPattern(strato.area, "####.00") + " cmq.";
     const Riquadro posto =
-        posti_.Posto(strato.x, strato.y, lavagna_.TextWidth(text), 0.9 * lavagna_.LineHeight());
+        posti_.Posto({strato.x}, strato.y, lavagna_.TextWidth(text), 0.9 * lavagna_.LineHeight());
     Leader(lavagna_, centre + strato.half, strato.y, posto.x1 - 0.05, (posto.y1 + posto.y2) / 2);
     scritte.push_back({posto, text});
   }

@@ -54,7 +54,7 @@ class DisegnoFlessione {
 
   // The steps of the drawing, in this order; the outline comes after the hatching.
   void Tratteggia(double bordo, double asse);
-  void AsseNeutro(double profondita);
+  void AsseNeutro(double profondita);  // the line; its name comes with the labels that give way
   // A horizontal edge of the outline, which labels do not stand on.
   void Spigolo(double da, double a, double profondita) { posti_.Riga(X(da), X(a), Y(profondita)); }
   // The height, covers and thicknesses left of the section; a width below or above it.
@@ -75,12 +75,16 @@ class DisegnoFlessione {
 
  private:
   void Legenda(bool verificata);
+  void ScriviCls(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse, double y);
+  double QuotaNome(const QuotaSezione& quota) const;
+  void NomeAsse();
   void Catena(double x, const std::vector<QuotaSezione>& quote);
   void ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
                       const TensioniAmmissibili& ammesse, bool compresse, bool versoAlto);
 
   Lavagna& lavagna_;
   double H_, W_, Sc_, sinistra_;
+  double asse_ = 0;  // depth of the neutral axis
   Tratti tratti_;
   PostiEtichette posti_;
   Quote quote_;

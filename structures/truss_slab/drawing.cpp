@@ -110,16 +110,14 @@ void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   for (const double x : {x1, x2}) quote.Richiamo({x, kSlabTop}, {x, kLongStubs});
   for (const double x : {x1, x2}) quote.Richiamo({x, kSlabBottom - 0.9}, {x, kSpanLine});
   quote.Riga({x1, kSpanLine}, {x2, kSpanLine});
-  lavagna.SetColour(kBlack);
-  lavagna.DrawText(kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota, Anchor::Above);
+  quote.Nome(kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota, Anchor::Above);
   if (figura.zonaPiena == 0 || figura.quotaZona.empty()) return;
   const double zona = scala.X(figura.zonaPiena) - x1;
   for (const auto& [da, a] : {std::pair{x1, x1 + zona}, std::pair{x2 - zona, x2}})
     quote.Riga({da, kSpanLine}, {a, kSpanLine});
-  lavagna.SetColour(kBlack);
   const double below = kSpanLine - 0.3 - lavagna.LineHeight() / 2;
-  lavagna.DrawText(x1, below, figura.quotaZona, Anchor::Left);
-  lavagna.DrawText(x2, below, figura.quotaZona, Anchor::Right);
+  quote.Nome(x1, below, figura.quotaZona, Anchor::Left);
+  quote.Nome(x2, below, figura.quotaZona, Anchor::Right);
 }
 
 void Disegna(Lavagna& lavagna, const Figura& figura, const Scala& scala) {

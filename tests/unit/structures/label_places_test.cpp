@@ -13,21 +13,21 @@ namespace {
 
 // A web from 2 to 4 with an edge at height 5 between 0 and 8.
 TEST(LabelPlaces, StepAsideForOutlinesLinesAndEachOther) {
-  PostiEtichette posti(0.5, 9, [](double) { return std::vector<double>{2, 4}; });
+  PostiEtichette posti(0.5, 9, 30, [](double) { return std::vector<double>{2, 4}; });
   posti.Riga(0, 8, 5);
   std::vector<Riquadro> all;
   for (const double y : {8.0, 7.9, 5.1, 5.0, 4.9, 0.7, 0.6, 0.5}) {
-    const Riquadro r = posti.Posto(3, y, 2.5, 0.8);
+    const Riquadro r = posti.Posto({3}, y, 2.5, 0.8);
     EXPECT_TRUE(r.x1 > 4 && (r.y1 >= 5 || r.y2 <= 5)) << y;
     EXPECT_LT(std::fabs((r.y1 + r.y2) / 2 - y), 1.5) << y;
     for (const Riquadro& before : all) EXPECT_FALSE(r.Tocca(before)) << y;
     all.push_back(r);
   }
-  EXPECT_DOUBLE_EQ(posti.Posto(12, 3, 1, 1).x1, 12);  // nothing there: where it belongs
+  EXPECT_DOUBLE_EQ(posti.Posto({12}, 3, 1, 1).x1, 12);  // nothing there: where it belongs
 }
 
-// Areas and stresses of every shape, of sections in use and of odd ones: no letter on the outline,
-// none on another text.
+// Areas, stresses and the axis of every shape, of sections in use and of odd ones: no letter on the
+// outline, none on another text.
 TEST(LabelPlaces, TextsOfASectionStandFree) {
   Form form("frm", "");
   Lavagna lavagna(form, "Lavagna", 30, 10, 504);
@@ -48,15 +48,20 @@ TEST(LabelPlaces, TextsOfASectionStandFree) {
           const DrawOperation* outline = nullptr;
           for (const DrawOperation& op : lavagna.Operations()) {
             if (op.kind == DrawOperation::Kind::Polygon && op.width == 2) outline = &op;
-            if (op.text.ends_with(" cmq.")) {
+            if (op.text.ends_with("cmq.") || op.text == "asse neutro" || op.text == "cls") {
               const auto [x, y] = op.points[0];
-              areas.push_back({x, x + 0.9 * lavagna.TextWidth(op.text), y - 0.3, y + 0.3});
+              const double width = 0.9 * lavagna.TextWidth(op.text);
+              const double x1 = op.anchor == DrawOperation::Anchor::Right ? x - width : x;
+              areas.push_back({x1, x1 + width, y - 0.3, y + 0.3});
             }
           }
-          ASSERT_TRUE(outline != nullptr && areas.size() == 3);
+          ASSERT_TRUE(outline != nullptr && areas.size() == 9);
+          const double axis = 1 + (H - risultati.asse) / ScalaDisegno(H, std::max(B, b));
+          areas.push_back({0.4, 15.6, axis, axis});
           for (std::size_t i = 0; i < areas.size(); ++i, ++seen) {
             for (std::size_t j = 0; j < i; ++j)
-              EXPECT_FALSE(areas[i].Tocca(areas[j])) << H << b << B;
+              EXPECT_FALSE(areas[i].Tocca(areas[j])) << H << b << B << M << i << j;
+            if (i == areas.size() - 1) continue;
             for (std::size_t k = 0; k < outline->points.size(); ++k) {
               const Point &p = outline->points[k],
                           &q = outline->points[(k + 1) % outline->points.size()];
@@ -66,7 +71,7 @@ TEST(LabelPlaces, TextsOfASectionStandFree) {
             }
           }
         }
-  EXPECT_EQ(seen, 4 * 3 * 3 * 2 * 3);
+  EXPECT_EQ(seen, 4 * 3 * 3 * 2 * 10);
 }
 
 }  // namespace
