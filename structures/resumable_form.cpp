@@ -18,7 +18,7 @@ struct UltimiNomi {
 }  // namespace
 
 FormRiprendibile::FormRiprendibile(std::string nome, std::string titolo, RunState& stato)
-    : FormDiCalcolo(std::move(nome), std::move(titolo)), stato_(stato) {
+    : FormDiCalcolo(std::move(nome), std::move(titolo), stato.player), stato_(stato) {
   cmdSALVA.SetHint("Tiene i dati sotto un nome, nella cartella di lavoro.");
   cmdAPRI.SetHint("Riporta dei dati salvati; quelli di ora tornano con RIPRENDI I DATI.");
   cmdSALVA.onPress = [this] { TryAndStay(stato_.player, [this] { Salva(); }); };

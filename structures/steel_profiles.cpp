@@ -37,10 +37,10 @@ std::vector<std::string> NomiGradiAcciaio() {
   return nomi;
 }
 
-Tensioni TensioniNelProfilo(std::string_view h, double momento, double taglio) {
+ContiAcciaio TensioniNelProfilo(std::string_view h, double momento, double taglio) {
   const Profilo profilo = ProfiloNP(h);
-  const double anima = AltezzaProfilo(h) - 2 * profilo.tf;
-  return {momento * 100 / profilo.W, taglio * 100 / (anima * profilo.tw)};
+  const Conto anima = Conto(AltezzaProfilo(h)) - Conto(2) * profilo.tf;
+  return {Conto(momento) * 100 / profilo.W, Conto(taglio) * 100 / (anima * profilo.tw)};
 }
 
 }  // namespace orm

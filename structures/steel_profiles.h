@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "runtime/explanation/conto.h"
+
 namespace orm {
 
 struct Profilo {
@@ -82,8 +84,12 @@ inline constexpr std::array<GradoAcciaio, 3> kGradiAcciaio = {{
 Tensioni TensioniAcciaio(std::string_view grado);
 std::vector<std::string> NomiGradiAcciaio();
 
+struct ContiAcciaio {
+  Conto sigma, tau;
+};
+
 // Stresses (kg/cmq) in the profile of that height under a moment (kg x m) and a shear force (kg),
 // which the web alone takes.
-Tensioni TensioniNelProfilo(std::string_view h, double momento, double taglio);
+ContiAcciaio TensioniNelProfilo(std::string_view h, double momento, double taglio);
 
 }  // namespace orm

@@ -7,21 +7,18 @@
 #include "tariff/money.h"
 
 namespace orm {
-namespace {
 
-double LireIntere(double euro) { return RoundOnText(euro * kLirePerEuro, 0); }
-
-}  // namespace
+double LireDiTabella(double euro) { return RoundOnText(euro * kLirePerEuro, 0); }
 
 void PercentualeTabellaADaEuro(double importo, int periodo, std::string_view classe,
                                std::string_view categoria, double& percentuale) {
-  double lire = LireIntere(importo);
+  double lire = LireDiTabella(importo);
   PercentualeTabellaA(lire, periodo, classe, categoria, percentuale);
 }
 
 void PercentualeTabellaNuovaDaEuro(double importo, std::string_view classe,
                                    std::string_view categoria, double& percentuale) {
-  double lire = LireIntere(importo);
+  double lire = LireDiTabella(importo);
   PercentualeTabellaNuova(lire, classe, categoria, percentuale);
 }
 

@@ -12,8 +12,11 @@
 
 namespace orm {
 
-// Table A and the curve of 2001 for an amount in Euro, which goes to the table as whole Lire
-// (rounded to the nearest).
+// Whole Lire as which an amount in Euro goes to Table A and to the curve of 2001, rounded to the
+// nearest.
+double LireDiTabella(double euro);
+
+// Both tables for an amount in Euro.
 void PercentualeTabellaADaEuro(double importo, int periodo, std::string_view classe,
                                std::string_view categoria, double& percentuale);
 void PercentualeTabellaNuovaDaEuro(double importo, std::string_view classe,

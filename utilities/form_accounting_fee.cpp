@@ -4,8 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <utility>
 
+#include "runtime/numbers.h"
 #include "tariff/accounting_block.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_e.h"
 #include "tariff/law/tariff_tables.h"
 
@@ -25,7 +28,8 @@ constexpr auto kCoefficienti = [] {
 
 FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
     : Form("frmUTI_CONTABILITA", "ONORARI A VIDEO - CONTABILITÀ LAVORI ( tab. E )"),
-      lavori(*this, stato) {
+      lavori(*this, stato),
+      cmdSPIEGA(*this, stato.player) {
   std::vector<std::string> coefficienti;
   for (const double coefficiente : kCoefficienti)
     coefficienti.push_back(CoefficienteInStringa(coefficiente));
@@ -42,7 +46,7 @@ FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
   SetContent(
       Column({Group(lavori.fraValuta, {Row({lavori.optValuta1, lavori.optValuta2})}),
               Fields({lavori.ciImporto, lavori.cdImporto, lavori.comPeriodo, comCoefficiente}),
-              Fields({Text1, Text2}), Buttons({cmdCALCOLA, cmdESCI})}));
+              Fields({Text1, Text2}), Buttons({cmdCALCOLA, cmdSPIEGA, cmdESCI})}));
 }
 
 void FrmUtiContabilita::ScegliValuta() {
@@ -53,6 +57,7 @@ void FrmUtiContabilita::ScegliValuta() {
 void FrmUtiContabilita::SvuotaRisultati() {
   Text1.SetText("");
   Text2.SetText("");
+  cmdSPIEGA.Nessuna();
 }
 
 void FrmUtiContabilita::Calcola() {
@@ -62,10 +67,18 @@ void FrmUtiContabilita::Calcola() {
                              lavori.Importo()};
   const OnorarioContabilita esito = CalcoloOnorarioContabilita({riga}, lire);
   std::string testo;
-  for (const FasciaContabilita& fascia : esito.fasce)
+  std::vector<Spiegazione> perche;
+  for (const FasciaContabilita& fascia : esito.fasce) {
     testo += (testo.empty() ? "" : "\n") + TestoFasciaContabilita(fascia, lire);
+    perche.push_back(Risultato("Scaglione " + NumberText(static_cast<double>(perche.size() + 1)),
+                               CatenaFascia(fascia, lire)));
+  }
+  Passaggio somma{"Somma degli onorari degli scaglioni", esito.onorario.Testo(),
+                  esito.onorario.Valore(), lire ? "Lire" : "Euro"};
+  perche.push_back(Risultato(Text2.Caption(), {Mostrato(std::move(somma), lire ? 0 : -2)}));
   Text1.SetText(testo);
   Text2.SetText((lire ? "L. " : "€ ") + NumeroContabilita(esito.onorario, lire));
+  cmdSPIEGA.Di(std::move(perche));
 }
 
 }  // namespace orm

@@ -1,7 +1,7 @@
 // The accounting fee on screen: Table E for an amount of works.
 #pragma once
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/explanations.h"
 #include "shell/state/run_state.h"
 #include "utilities/works_questions.h"
 
@@ -19,6 +19,7 @@ class FrmUtiContabilita : public Form {
                  {.longest = 2000, .lines = 8, .readOnly = true, .width = 68, .columns = true}};
   TestoBox Text2{*this, "Text2", "ONORARIO", {.readOnly = true, .width = 20, .figure = true}};
   Button cmdCALCOLA{*this, "cmdCALCOLA", "&CALCOLA", Button::Role::Default};
+  PulsanteSpiega cmdSPIEGA;
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Close};
 
  private:

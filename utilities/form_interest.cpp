@@ -24,11 +24,11 @@ void MostraInteressiMora(RunState& stato) {
 
 FrmUtiIntereMora::FrmUtiIntereMora(RunState& stato, TabellaTus tabella)
     : Form("frmUTI_INTEREMORA", " INTERESSI DI MORA PER RITARDATO PAGAMENTO PARCELLA"),
+      stato_(stato),
       DTPicker1(*this, "DTPicker1", "DATA INIZIO MORA", tabella.front().InizioPeriodo,
                 kUltimoGiorno),
       DTPicker2(*this, "DTPicker2", "DATA FINE MORA", Dopo(tabella.front().InizioPeriodo, 1),
                 kUltimoGiorno),
-      stato_(stato),
       tabella_(std::move(tabella)) {
   Option1.SetValue(true);
   DTPicker1.SetValue(Dopo(stato_.player.Today(), -kGiorniProposti));
@@ -42,11 +42,12 @@ FrmUtiIntereMora::FrmUtiIntereMora(RunState& stato, TabellaTus tabella)
 
   SetContent(Column({Fields({casellainteri1, DTPicker1, DTPicker2}),
                      Group(fraInteresse, {Row({Option1, Option2})}), Fields({Text3, Text4, Text5}),
-                     Buttons({Command1, Command2})}));
+                     Buttons({Command1, cmdSPIEGA, Command2})}));
 }
 
 void FrmUtiIntereMora::SvuotaRisultati() {
   for (TestoBox* risultato : {&Text3, &Text4, &Text5}) risultato->SetText("");
+  cmdSPIEGA.Nessuna();
 }
 
 void FrmUtiIntereMora::Calcola() {
@@ -60,8 +61,9 @@ void FrmUtiIntereMora::Calcola() {
       CalcolaInteressiMora(tabella_, casellainteri1.Value(), DTPicker1.Value(), DTPicker2.Value(),
                            Option1.Value() ? TipoInteresse::Semplice : TipoInteresse::Composto);
   Text3.SetText((esito.Giorni < 0 ? "" : " ") + NumberText(esito.Giorni));
-  Text4.SetText(FormatPattern(esito.TassoMedio, "##0.000000000"));
-  Text5.SetText(FormatPattern(esito.Interessi, "###,###,###,###,###"));
+  Text4.SetText(FormatPattern(esito.TassoMedio, kModelloTasso));
+  Text5.SetText(FormatPattern(esito.Interessi, kModelloInteressi));
+  cmdSPIEGA.Di(SpiegaInteressiMora(esito));
 }
 
 }  // namespace orm

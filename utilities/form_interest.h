@@ -1,7 +1,7 @@
 // The dialog of interest on late payment.
 #pragma once
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/explanations.h"
 #include "shell/state/run_state.h"
 #include "utilities/interest_rates.h"
 
@@ -11,6 +11,8 @@ namespace orm {
 void MostraInteressiMora(RunState& stato);
 
 class FrmUtiIntereMora : public Form {
+  RunState& stato_;  // before the button that needs it
+
  public:
   FrmUtiIntereMora(RunState& stato, TabellaTus tabella);
 
@@ -28,13 +30,13 @@ class FrmUtiIntereMora : public Form {
   TestoBox Text5{
       *this, "Text5", "INTERESSI DI MORA", {.readOnly = true, .width = 20, .figure = true}};
   Button Command1{*this, "Command1", "&CALCOLA", Button::Role::Default};
+  PulsanteSpiega cmdSPIEGA{*this, stato_.player};
   Button Command2{*this, "Command2", "&ESCI", Button::Role::Close};
 
  private:
   void Calcola();
   void SvuotaRisultati();
 
-  RunState& stato_;
   TabellaTus tabella_;
 };
 

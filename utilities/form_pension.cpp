@@ -20,7 +20,8 @@ void FrmInaInPensione::Righe() {
 }
 
 FrmInaInPensione::FrmInaInPensione(RunState& stato)
-    : FormDiCalcolo("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001"),
+    : FormDiCalcolo("frmINA_INPENSIONE", "CALCOLO PENSIONE INARCASSA MATURATA NELL'ANNO 2001",
+                    stato.player),
       stato_(stato) {
   lblPensioneMinima.SetStyle(Label::Style::Warning);
   lblPensioneMinima.SetVisible(false);
@@ -48,7 +49,7 @@ Layout FrmInaInPensione::Disposizione() {
                  Row({Column({Fields(std::move(prime))}), Column({Fields(std::move(ultime))})}),
                  Group(fraAnzianita, {Row({Label6, ciAnni, Label7, ciGiorni})}),
                  Row({Label4, ciPensioneAnnuale, lblPensioneMinima}), lblEsito,
-                 Buttons({cmdCALCOLOPENSIONE, cmdARCHIVIA})});
+                 Buttons({cmdCALCOLOPENSIONE, cmdSPIEGA, cmdARCHIVIA})});
 }
 
 RedditiAnnui FrmInaInPensione::Redditi() const {
@@ -107,12 +108,19 @@ void FrmInaInPensione::CalcolaPensione() {
                        MessageBox::Icon::Information});
     return;
   }
-  PensioneDelReddito(RedditoMedio(Redditi(), Anni), Anni, static_cast<int>(ciGiorni.Value()),
-                     Pensione_);
+  Catena passi;
+  PensioneDelReddito(RedditoMedio(Redditi(), Anni, &passi), Anni,
+                     static_cast<int>(ciGiorni.Value()), Pensione_, &passi);
   const bool minima = !(Pensione_ > kPensioneMinima);
   ciPensioneAnnuale.SetValue(minima ? kPensioneMinima : Pensione_);
   lblPensioneMinima.SetVisible(minima);
-  Calcolato("PENSIONE CALCOLATA");
+  if (minima)
+    passi.push_back({.regola = "La pensione non supera la minima, che la sostituisce",
+                     .conto = "",
+                     .risultato = kPensioneMinima,
+                     .unita = "Lire"});
+  passi.back().cifra = ciPensioneAnnuale.ShownText();
+  Calcolato("PENSIONE CALCOLATA", true, {Risultato(Label4.Text(), std::move(passi))});
 }
 
 }  // namespace orm

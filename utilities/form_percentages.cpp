@@ -9,7 +9,7 @@
 namespace orm {
 
 FrmUtiPercentuali::FrmUtiPercentuali(RunState& stato)
-    : Form("frmUTI_PERCENTUALI", "PERCENTUALI A VIDEO"), lavori(*this, stato), stato_(stato) {
+    : Form("frmUTI_PERCENTUALI", "PERCENTUALI A VIDEO"), stato_(stato), lavori(*this, stato) {
   std::vector<std::string> classi;
   for (const NomiClasse& classe : kNomiClassi) classi.emplace_back(classe.nome);
   comClasse.SetItems(std::move(classi));
@@ -30,7 +30,7 @@ Layout FrmUtiPercentuali::Disposizione() {
                  Row({Group(lavori.fraValuta, {Row({lavori.optValuta1, lavori.optValuta2})}),
                       Fields({lavori.ciImporto, lavori.cdImporto})}),
                  Row({Fields({Text1}), Fields({Text2}), Fields({Text3})}), picCurva,
-                 Buttons({cmdESCI})});
+                 Buttons({cmdSPIEGA, cmdESCI})});
 }
 
 void FrmUtiPercentuali::MostraCategorie() {
@@ -62,6 +62,7 @@ void FrmUtiPercentuali::Aggiorna() {
   Text1.SetText(percentuali.tabellaA);
   Text2.SetText(percentuali.tabellaC);
   Text3.SetText(percentuali.nuova);
+  cmdSPIEGA.Di(percentuali.perche);
   DisegnaCurva(picCurva, r, r.lire ? r.importo : EuroInLire(r.importo));
 }
 

@@ -11,6 +11,8 @@
 namespace orm {
 
 class FrmUtiPercentuali : public Form {
+  RunState& stato_;  // before the button that needs it
+
  public:
   explicit FrmUtiPercentuali(RunState& stato);
 
@@ -21,6 +23,7 @@ class FrmUtiPercentuali : public Form {
   TestoBox Text2{*this, "Text2", "Tabella C", {.readOnly = true, .width = 16, .figure = true}};
   TestoBox Text3{*this, "Text3", "D.M. 4-4-2001", {.readOnly = true, .width = 16, .figure = true}};
   Lavagna picCurva{*this, "picCurva", kLarghezzaCurva, kAltezzaCurva};
+  PulsanteSpiega cmdSPIEGA{*this, stato_.player};
   Button cmdESCI{*this, "cmdESCI", "&ESCI", Button::Role::Default};
 
  private:
@@ -28,8 +31,6 @@ class FrmUtiPercentuali : public Form {
   void MostraCategorie();
   void Aggiorna();
   Layout Disposizione();
-
-  RunState& stato_;
 };
 
 }  // namespace orm

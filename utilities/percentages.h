@@ -3,6 +3,9 @@
 
 #include <string>
 
+#include <vector>
+
+#include "dialogs/data_forms/explanations.h"
 #include "shell/state/run_state.h"
 
 namespace orm {
@@ -20,6 +23,7 @@ struct Percentuali {
   std::string tabellaA;  // periods 1 to 5
   std::string tabellaC;  // periods 1 to 5
   std::string nuova;     // D.M. 4-4-2001, period 6
+  std::vector<Spiegazione> perche;
 };
 
 Percentuali CalcolaPercentuali(const RichiestaPercentuali& richiesta, const Criteri& criteri);

@@ -7,6 +7,7 @@
 
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
+#include "dialogs/data_forms/explanations.h"
 
 namespace orm {
 namespace {
@@ -19,6 +20,12 @@ void SetCaptionText(QLabel& label, const QString& text) {
   const bool wraps = label.fontMetrics().horizontalAdvance(text) > limit;
   label.setWordWrap(wraps);
   label.setMinimumWidth(wraps ? limit : 0);
+}
+
+// As the buttons name it.
+std::string KeyOf(const QKeyEvent& event) {
+  return event.key() == Qt::Key_F4 && event.modifiers() == Qt::NoModifier ? kTastoF4
+                                                                          : FromQt(event.text());
 }
 
 // The nearest text around a control that has no caption of its own.
@@ -90,7 +97,7 @@ void ControlView::Refresh() {
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
   if (watched == field_ && event->type() == QEvent::KeyPress)
-    if (Button* button = host_.ButtonOfKey(FromQt(static_cast<QKeyEvent*>(event)->text()))) {
+    if (Button* button = host_.ButtonOfKey(KeyOf(*static_cast<QKeyEvent*>(event)))) {
       host_.Press(*button);
       return true;
     }

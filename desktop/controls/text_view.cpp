@@ -99,7 +99,8 @@ class TextArea : public QPlainTextEdit {
     const QString typed = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
                               ? QStringLiteral("\n")
                               : event->text();
-    const bool writes = !typed.isEmpty() && (typed[0].isPrint() || typed == "\n") &&
+    const bool writes = !isReadOnly() && !typed.isEmpty() &&
+                        (typed[0].isPrint() || typed == "\n") &&
                         !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (writes && !Admits(typed)) return event->accept();
     QPlainTextEdit::keyPressEvent(event);
@@ -158,6 +159,8 @@ class TextAreaView : public ControlView {
   void Refresh() override {
     ControlView::Refresh();
     area_->setReadOnly(box_.Options().readOnly);
+    if (box_.Options().readOnly)  // arrows and pages go through it too
+      area_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     area_->setFocusPolicy(box_.Options().readOnly ? Qt::ClickFocus : Qt::StrongFocus);
     if (taking_ || ToQt(box_.Text()) == area_->toPlainText()) return;
     taking_ = true;

@@ -1,5 +1,6 @@
 #include "desktop/player/desktop_player.h"
 
+#include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -19,6 +20,10 @@
 namespace orm {
 
 DesktopPlayer::DesktopPlayer(std::string folder) : folder_(std::move(folder)) {}
+
+void DesktopPlayer::CopyText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(ToQt(text));
+}
 
 void DesktopPlayer::Present(Form& form) {
   FormDialog dialog(form, Front());

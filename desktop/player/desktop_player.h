@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/data_forms/explanations.h"
 #include "dialogs/player.h"
 
 class QMessageBox;
@@ -13,13 +14,14 @@ namespace orm {
 
 class FormDialog;
 
-class DesktopPlayer : public Player {
+class DesktopPlayer : public Player, public Appunti {
  public:
   // `folder`: the working folder, where programs outside are started.
   explicit DesktopPlayer(std::string folder);
 
   Answer Ask(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileChoice& choice) override;
+  void CopyText(const std::string& text) override;
   void StartProgram(const std::string& program, const std::string& argument) override;
   bool ProgramExists(const std::string& path) override;
   OutsidePrograms DefaultPrograms() override;

@@ -4,14 +4,16 @@
 
 namespace orm {
 
-FormDiCalcolo::FormDiCalcolo(std::string nome, std::string titolo)
-    : Form(std::move(nome), std::move(titolo)) {}
+FormDiCalcolo::FormDiCalcolo(std::string nome, std::string titolo, Player& player)
+    : Form(std::move(nome), std::move(titolo)), cmdSPIEGA(*this, player) {}
 
 void FormDiCalcolo::OnDataChanged(Control& control) {
   if (calcolato_ && EDato(control)) SegnaCambiati();
 }
 
-void FormDiCalcolo::Calcolato(const std::string& verdetto, bool regge) {
+void FormDiCalcolo::Calcolato(const std::string& verdetto, bool regge,
+                              std::vector<Spiegazione> perche) {
+  cmdSPIEGA.Di(std::move(perche));
   calcolato_ = true;
   lblEsito.SetStyle(regge ? Label::Style::Strong : Label::Style::Warning);
   lblEsito.SetText(verdetto);
@@ -19,12 +21,14 @@ void FormDiCalcolo::Calcolato(const std::string& verdetto, bool regge) {
 
 void FormDiCalcolo::SenzaRisultati() {
   calcolato_ = false;
+  cmdSPIEGA.Nessuna();
   lblEsito.SetStyle(Label::Style::Note);
   lblEsito.SetText(kDaCalcolare);
 }
 
 void FormDiCalcolo::SegnaCambiati() {
   if (!std::exchange(calcolato_, false)) return;
+  cmdSPIEGA.Nessuna();
   lblEsito.SetStyle(Label::Style::Warning);
   lblEsito.SetText(kDatiCambiati);
   ADatiCambiati();

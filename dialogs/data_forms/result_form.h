@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/explanations.h"
 
 namespace orm {
 
@@ -13,14 +13,16 @@ class FormDiCalcolo : public Form {
   static constexpr const char* kDatiCambiati = "dati cambiati: ricalcolare";
   static constexpr const char* kDaCalcolare = "risultati da calcolare";
 
-  FormDiCalcolo(std::string nome, std::string titolo);
+  FormDiCalcolo(std::string nome, std::string titolo, Player& player);
   void OnDataChanged(Control& control) override;
 
   Label lblEsito{*this, "lblEsito", kDaCalcolare, Label::Style::Note};  // in every layout
+  PulsanteSpiega cmdSPIEGA;                                             // likewise
 
  protected:
-  // The results that are shown are those of the data; `regge`: none is beyond its limit.
-  void Calcolato(const std::string& verdetto, bool regge = true);
+  // The results that are shown are those of the data; `regge`: none is beyond its limit;
+  // `perche`: how each came about.
+  void Calcolato(const std::string& verdetto, bool regge, std::vector<Spiegazione> perche);
   void SenzaRisultati();
   // Data of the results have changed, in this form or elsewhere.
   void SegnaCambiati();

@@ -58,8 +58,11 @@ std::string TestoPasso(const Passaggio& passo) {
 }  // namespace
 
 std::string TestoSpiegazione(const Spiegazione& spiegazione) {
-  std::string testo = "Riga " + CifraEsatta(static_cast<double>(spiegazione.riga)) + ": " +
-                      spiegazione.testo + "\n";
+  // Line 0: a result on the screen, which stands in no report.
+  std::string testo = spiegazione.riga == 0
+                          ? ""
+                          : "Riga " + CifraEsatta(static_cast<double>(spiegazione.riga)) + ": ";
+  testo += spiegazione.testo + "\n";
   int numero = 0;
   for (const Passaggio& passo : spiegazione.passi)
     testo += "  " + CifraEsatta(++numero) + ". " + TestoPasso(passo) + "\n";

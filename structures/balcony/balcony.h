@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 
+#include "runtime/explanation/explanation.h"
 #include "structures/loads/seismic_factors.h"
 
 namespace orm {
@@ -52,6 +53,9 @@ enum ElementoBalcone : std::size_t {
   NumeroElementiBalcone
 };
 using RisultatiBalcone = std::array<double, NumeroElementiBalcone>;
+using CateneBalcone = std::array<Catena, NumeroElementiBalcone>;  // how each came about
+
+inline constexpr const char* kModelloBalcone = "###0.0";
 
 // Which way the slab might overturn.
 enum class Ribaltamento { SbalziLaterali, SportoSuMensole };
@@ -62,13 +66,19 @@ using ProsegueInstabile = std::function<bool(Ribaltamento)>;
 // A slab on beams or brackets is asked about for each way in which it might overturn; the first no
 // ends the check with outcome -1 and every other element 0. The wall alone holds a slab without
 // brackets, which is not asked about. The measures must have passed `DifettoBalcone`.
-RisultatiBalcone VerificaBalcone(const DatiBalcone& dati, const ProsegueInstabile& prosegue);
+RisultatiBalcone VerificaBalcone(const DatiBalcone& dati, const ProsegueInstabile& prosegue,
+                                 CateneBalcone* perche = nullptr);
 
 // Shear (kg) and moment (kg x m) as the check counts them.
 struct Sforzi {
   double V = 0, M = 0;
 };
-Sforzi SforziLastra(const DatiBalcone& dati);  // the greatest in a slab on beams or brackets
-Sforzi SforziAlMuro(const DatiBalcone& dati);  // of one beam, of one bracket, of the slab alone
+struct SforziSpiegati : Sforzi {
+  Catena passiV, passiM;  // how they came about
+};
+SforziSpiegati SforziLastra(
+    const DatiBalcone& dati);  // the greatest in a slab on beams or brackets
+SforziSpiegati SforziAlMuro(
+    const DatiBalcone& dati);  // of one beam, of one bracket, of the slab alone
 
 }  // namespace orm

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "runtime/numbers.h"
 #include "structures/balcony/defects.h"
@@ -30,7 +31,7 @@ FrmVerBalcone::FrmVerBalcone(RunState& stato)
   SetContent(Column(
       {Row({ingressi.Contents(), Column({tensioni.Materiali(), tensioni.Risultati(lblEsito),
                                          ingressi.lblModuli, Label_NOTA, lblStatica, Lavagna})}),
-       Buttons({ComCalcola, cmdSALVA, cmdAPRI, ComEsci})}));
+       Buttons({ComCalcola, cmdSPIEGA, cmdSALVA, cmdAPRI, ComEsci})}));
   const auto cambiati = [this] {
     SegnaCambiati();
     Azzera();
@@ -63,8 +64,9 @@ void FrmVerBalcone::Calcola() {
     stato_.player.Ask(AvvisoVerifica(difetto));
     return;
   }
-  const RisultatiBalcone risultati =
-      VerificaBalcone(dati, [this](Ribaltamento come) { return Prosegue(come); });
+  CateneBalcone perche;
+  const RisultatiBalcone risultati = VerificaBalcone(
+      dati, [this](Ribaltamento come) { return Prosegue(come); }, &perche);
   if (risultati[EsitoBalcone] == -1) {
     stato_.player.Ask(AvvisoVerifica(
         "LA LASTRA POTREBBE ESSERE INSTABILE !\n           VERIFICARE I DATI         "));
@@ -72,7 +74,8 @@ void FrmVerBalcone::Calcola() {
   }
   tensioni.Mostra(risultati);
   const bool entro = !tensioni.Supera(risultati);
-  Calcolato(entro ? "TENSIONI ENTRO LE AMMISSIBILI" : "TENSIONI OLTRE LE AMMISSIBILI", entro);
+  Calcolato(entro ? "TENSIONI ENTRO LE AMMISSIBILI" : "TENSIONI OLTRE LE AMMISSIBILI", entro,
+            tensioni.Spiegate(risultati, std::move(perche)));
   if (!entro) Label_NOTA.SetText("IL BALCONE NON RISULTA SICURO.");
   ConfrontaConStatica(dati, risultati);
 }

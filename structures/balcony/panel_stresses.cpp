@@ -70,9 +70,29 @@ void PannelloTensioniBalcone::Mostra(const RisultatiBalcone& risultati) {
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {
     const double valore = risultati[kMostrati[i]];
     cdOUT[i].SetValue(valore);
-    cdOUT[i].SetShown(FormatPattern(valore, "###0.0"));
+    cdOUT[i].SetShown(FormatPattern(valore, kModelloBalcone));
     cdOUT[i].SetWarning(Supera(risultati, i));
   }
+}
+
+std::vector<Spiegazione> PannelloTensioniBalcone::Spiegate(const RisultatiBalcone& risultati,
+                                                           CateneBalcone perche) const {
+  std::vector<Spiegazione> spiegate;
+  for (std::size_t i = 0; i < kMostrati.size(); ++i) {
+    Catena& catena = perche[kMostrati[i]];
+    if (catena.empty()) continue;
+    const bool muro = kMostrati[i] == IncrementoMuratura;
+    if (!muro) {
+      const auto& ammesse = i % 2 == 0 ? cdMaterialiS : cdMaterialiT;
+      catena.back().note.push_back(std::string(Supera(risultati, i)
+                                                   ? "SUPERA la tensione ammissibile, "
+                                                   : "Non supera la tensione ammissibile, ") +
+                                   CifraEsatta(ammesse[i / 2].Value()) + " Kg/cmq");
+    }
+    const char* quale = muro ? "" : i % 2 == 0 ? ", σ" : ", τ";
+    spiegate.push_back(Risultato(cdOUT[i].Caption() + quale, std::move(catena)));
+  }
+  return spiegate;
 }
 
 // The wall, shown last, is held against nothing.

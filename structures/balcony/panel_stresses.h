@@ -2,8 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/explanations.h"
 #include "shell/state/run_state.h"
 #include "structures/balcony/balcony.h"
 #include "structures/numbered_controls.h"
@@ -26,6 +27,8 @@ class PannelloTensioniBalcone {
   void Azzera();
   // Shows the results and marks those beyond what is allowed.
   void Mostra(const RisultatiBalcone& risultati);
+  // Of the results that the kind has, each with what it is held against.
+  std::vector<Spiegazione> Spiegate(const RisultatiBalcone& risultati, CateneBalcone perche) const;
   // Whether a stress of the results is beyond what is allowed.
   bool Supera(const RisultatiBalcone& risultati) const;
 

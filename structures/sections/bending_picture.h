@@ -10,12 +10,9 @@
 #include "dialogs/lavagna.h"
 #include "structures/dimension_lines.h"
 #include "structures/label_places.h"
+#include "structures/section_statement.h"
 
 namespace orm {
-
-struct TensioniAmmissibili {
-  double acciaio = 0, cls = 0;  // kg/cmq
-};
 
 // A part of a horizontal line, from the left edge of the section's box, cm.
 struct Tratto {

@@ -72,7 +72,7 @@ void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> a
                            Group(fraRisultati, {Fields({cdOUT.begin(), cdOUT.end()}), lblEsito})}),
                    Column({Group(fraArmature, std::move(armature)), Group(fraNote, {Label_NOTA}),
                            Lavagna})}),
-              Buttons({ComCalcola, cmdSALVA, cmdAPRI, ComEsci})}));
+              Buttons({ComCalcola, cmdSPIEGA, cmdSALVA, cmdAPRI, ComEsci})}));
 }
 
 void FormFlessione::Avvisa(const std::string& testo) { stato_.player.Ask(AvvisoVerifica(testo)); }
@@ -90,19 +90,20 @@ void FormFlessione::ScriviEsempio(double momento) {
 }
 
 // The two fields of steel show its extreme stresses, whatever their captions say.
-void FormFlessione::Mostra(const RisultatiFlessione& risultati, bool verificata) {
-  const auto& [asse, clsSup, clsInf, massimo, minimo] = risultati;
+void FormFlessione::Mostra(const RisultatiFlessione& r, bool verificata, CateneFlessione perche) {
   const bool positivo = Momento() > 0;
-  const std::array valori = {asse, clsSup, clsInf, positivo ? minimo : massimo,
-                             positivo ? massimo : minimo};
+  const std::array valori = {r.asse, r.clsSup, r.clsInf, positivo ? r.minimo : r.massimo,
+                             positivo ? r.massimo : r.minimo};
+  std::vector<Spiegazione> spiegazioni;
   for (std::size_t i = 0; i < cdOUT.size(); ++i) {
     cdOUT[i].SetValue(valori[i]);
-    cdOUT[i].SetShown(FormatPattern(valori[i], i == 0 ? "###0.00" : "###0.0"));
+    cdOUT[i].SetShown(FormatPattern(valori[i], i == 0 ? kModelloAsse : kModelloTensione));
+    spiegazioni.push_back(Risultato(cdOUT[i].Caption(), std::move(perche[i])));
     const bool provato = i != 0 && i != NonProvato();
     cdOUT[i].SetWarning(provato && std::fabs(valori[i]) >= Ammesso(i));
   }
   MostraLimiti();
-  Calcolato(verificata ? kVerificata : kNonVerificata, verificata);
+  Calcolato(verificata ? kVerificata : kNonVerificata, verificata, std::move(spiegazioni));
   Label_NOTA.SetText(std::string(note_.segni) + (verificata ? "" : note_.nonVerificata));
 }
 

@@ -87,7 +87,7 @@ class FormFlessione : public FormRiprendibile {
   bool SenzaMomento();
   TensioniAmmissibili Ammesse() const { return {CD_12.Value(), CD_13.Value()}; }
   void ScriviEsempio(double momento);
-  void Mostra(const RisultatiFlessione& risultati, bool verificata);
+  void Mostra(const RisultatiFlessione& risultati, bool verificata, CateneFlessione perche);
   void Azzera();
 
  private:

@@ -112,7 +112,7 @@ void FrmVerFlessC1::Calcola() {
                           std::fabs(tensioni_.clsInf) < ammesse.cls &&
                           std::fabs(tensioni_.massimo) < ammesse.acciaio &&
                           std::fabs(tensioni_.minimo) < ammesse.acciaio;
-  Mostra(tensioni_, verificata);
+  Mostra(tensioni_, verificata, SpiegaSezioneC(dati, tensioni_, ammesse));
   const auto ferri = [this](std::size_t i) { return BarGroups(anelli.CasellaFerri[i].Text()); };
   DisegnaSezioneC(Lavagna, dati, tensioni_, {ferri(0), ferri(1)}, ammesse, verificata);
 }

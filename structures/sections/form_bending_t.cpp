@@ -99,7 +99,7 @@ void FrmVerFlessT1::Calcola() {
   const bool verificata = std::fabs(tensioni_.clsSup) < ammesse.cls &&
                           std::fabs(tensioni_.clsInf) < ammesse.cls &&
                           std::fabs(tensioni_.massimo) < ammesse.acciaio;
-  Mostra(tensioni_, verificata);
+  Mostra(tensioni_, verificata, SpiegaSezioneT(dati, tensioni_, ammesse));
   DisegnaSezioneT(Lavagna, dati, tensioni_, ammesse, verificata);
 }
 

@@ -162,6 +162,8 @@ void VerificaSezioneCircolare(const DatiCircolare& dati, RisultatiCircolare& ris
   const double g1 = stress(z.Ac1, z.d1), g2 = stress(z.Ac2, z.d2);
 
   RisultatiCircolare r = risultati;
+  r.x = x;
+  r.inerzia = I;
   r.asse = turned ? z.D - x : x;
   r.clsSup = turned ? 0 : -sc;
   r.clsInf = turned ? -sc : 0;

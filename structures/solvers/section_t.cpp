@@ -112,6 +112,8 @@ void VerificaSezioneT(const DatiSezione& dati, RisultatiSezione& risultati) {
     return;
   }
   risultati.acciaio = steel;
+  risultati.x = x;
+  risultati.inerzia = I;
   int position = 0;
   MassimoMinimoVettore(steel, risultati.massimo, risultati.minimo, position, position);
   risultati.asse = turned ? z.H - x : x;

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "runtime/explanation/steps.h"
 #include "structures/loads/loads.h"
 #include "structures/steel_profiles.h"
 
@@ -38,19 +39,26 @@ double SpazioRiempimento(const DatiPutrelle& dati);
 // The height at disposal for the filling, cm: what the tile leaves of the beam.
 double AltezzaRiempimento(const DatiPutrelle& dati);
 
-// Loads on a beam, kg/ml.
+// Loads on a beam, kg/ml; `passi` takes how they came about.
 struct CarichiPutrella {
   double qa = 0;  // service load
   double qp = 0;  // permanent loads of the floor
   double d = 0;   // on the beam itself
 };
-CarichiPutrella CarichiSullaPutrella(const DatiPutrelle& dati);
+CarichiPutrella CarichiSullaPutrella(const DatiPutrelle& dati, Catena& passi);
 
 // What a check of a beam ends with: forces in kg and kg x m, stresses in kg/cmq.
 struct VerificaPutrella {
   double taglio = 0, momento = 0;
   Tensioni calcolate, ammesse;
+  Catena sigma, tau;  // how they came about
 };
-VerificaPutrella VerificaTensioni(const DatiPutrelle& dati, double taglio, double momento);
+// Of sums of the loads that `passi` tells.
+VerificaPutrella VerificaTensioni(const DatiPutrelle& dati, const Catena& passi,
+                                  const Conto& taglio, const Conto& momento);
+
+// A value as the dialog shows it, and whether it is within what is allowed.
+Passaggio PassoVerificato(std::string regola, const Conto& conto, std::string unita,
+                          double ammesso);
 
 }  // namespace orm

@@ -5,19 +5,31 @@ namespace orm {
 VerificaPutrella VerificaSbalzoP(const DatiSbalzoP& dati) {
   const double L = dati.lunghezza, i = Interasse(dati);
   const auto& [kv, s] = dati.sisma;
-  const CarichiPutrella carichi = CarichiSullaPutrella(dati);
+  Catena passi;
+  const CarichiPutrella carichi = CarichiSullaPutrella(dati, passi);
+  const auto annota = [&passi](const char* regola, const Conto& conto, const char* unita) {
+    return Annota(passi, regola, conto, unita);
+  };
 
-  const double e1 = (s * carichi.qa + carichi.qp) * kv;
-  const double q1 = carichi.qp + carichi.qa + e1;
-  const double d = carichi.d + kv * carichi.d;
-  const double q = q1 + d;
-  const double Pe = dati.caricoEstremo * i / 100;
-  const double PeSismico = kv * Pe;
-  const double C = dati.coppiaEstrema * i / 100;
+  if (kv != 0)
+    passi.push_back(
+        PassoDiParole("Zona sismica: I x 0,4 = " + CifraEsatta(kv) + ", s = " + CifraEsatta(s)));
+  const double e1 = annota("Azione sismica verticale sui carichi ripartiti, (s qa + qp) I 0,4, e",
+                           (Conto(s) * carichi.qa + carichi.qp) * kv, "Kg/ml");
+  const double q1 =
+      annota("Carichi ripartiti, qp + qa + e, q1", Conto(carichi.qp) + carichi.qa + e1, "Kg/ml");
+  const double d = annota("Carichi sulla putrella con l'azione sismica, d + I 0,4 d, d1",
+                          Conto(carichi.d) + Conto(kv) * carichi.d, "Kg/ml");
+  const double q = annota("Carico sulla putrella, q1 + d1, q", Conto(q1) + d, "Kg/ml");
+  const double Pe =
+      annota("Carico di estremità sulla putrella, P", Conto(dati.caricoEstremo) * i / 100, "Kg");
+  const double PeSismico = annota("Sua azione sismica, I 0,4 P, Ps", Conto(kv) * Pe, "Kg");
+  const double C = annota("Coppia di estremità sulla putrella, C",
+                          Conto(dati.coppiaEstrema) * i / 100, "Kg x m");
 
-  const double V = L * q + Pe + PeSismico;
-  const double M = L * (Pe + PeSismico) + L * L * (q * 0.5) + C;
-  return VerificaTensioni(dati, V, M);
+  const Conto V = Conto(L) * q + Pe + PeSismico;
+  const Conto M = Conto(L) * (Conto(Pe) + PeSismico) + Conto(L) * L * (Conto(q) * 0.5) + C;
+  return VerificaTensioni(dati, passi, V, M);
 }
 
 }  // namespace orm

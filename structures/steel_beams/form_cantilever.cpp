@@ -15,7 +15,7 @@ FrmVerSbalziP::FrmVerSbalziP(RunState& stato)
                                   Group(fraZona, {Row({Option1, Option2, cmdCAR_SISMICHE})})}),
                           Column({ingressi.Carichi()})}),
                      risultati.Contents(lblEsito),
-                     Buttons({comCalcola, cmdSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
+                     Buttons({comCalcola, cmdSTAMPA, cmdSPIEGA, cmdSALVA, cmdAPRI, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option2.SetValue(true);
   TieEvents();
@@ -71,7 +71,8 @@ void FrmVerSbalziP::Calcola() {
   verifica_ = VerificaSbalzoP(dati);
   const bool entro = risultati.Mostra({{verifica_.ammesse.sigma, verifica_.calcolate.sigma},
                                        {verifica_.ammesse.tau, verifica_.calcolate.tau}});
-  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro);
+  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro,
+            risultati.Spiegate({verifica_.sigma, verifica_.tau}));
   cmdSTAMPA.SetEnabled(true);
 }
 

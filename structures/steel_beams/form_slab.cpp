@@ -17,7 +17,7 @@ FrmVerSolaioP::FrmVerSolaioP(RunState& stato)
                            Group(fraCoefficienti, {Fields({cdMezzeria, cdIncastro}), lblFreccia})}),
                    Column({ingressi.Carichi()})}),
               risultati.Contents(lblEsito),
-              Buttons({ComCalcola, cmdSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
+              Buttons({ComCalcola, cmdSTAMPA, cmdSPIEGA, cmdSALVA, cmdAPRI, ComEsci})}));
   SetFirstFocus(ingressi.cdLunghezza);
   Option1.SetValue(true);
   cdMezzeria.SetValue(kAppoggio);
@@ -77,7 +77,9 @@ void FrmVerSolaioP::Calcola() {
                         {verifica_.ammesse.tau, verifica_.calcolate.tau},
                         {verifica_.permanente.accettata, verifica_.permanente.calcolata},
                         {verifica_.totale.accettata, verifica_.totale.calcolata}});
-  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro);
+  Calcolato(entro ? kEntroLimiti : kOltreLimiti, entro,
+            risultati.Spiegate({verifica_.sigma, verifica_.tau, verifica_.permanente.passi,
+                                verifica_.totale.passi}));
   cmdSTAMPA.SetEnabled(true);
 }
 

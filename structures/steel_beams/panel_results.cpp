@@ -39,4 +39,12 @@ bool PannelloRisultatiPutrelle::Mostra(std::initializer_list<ValoreVerificato> v
   return entro;
 }
 
+std::vector<Spiegazione> PannelloRisultatiPutrelle::Spiegate(
+    std::initializer_list<Catena> catene) const {
+  std::vector<Spiegazione> spiegate;
+  for (const Catena& catena : catene)
+    spiegate.push_back(Risultato(cdRisultati[spiegate.size()].Caption(), catena));
+  return spiegate;
+}
+
 }  // namespace orm

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/form.h"
+#include "dialogs/data_forms/explanations.h"
 #include "structures/numbered_controls.h"
 
 namespace orm {
@@ -28,6 +28,8 @@ class PannelloRisultatiPutrelle {
   void Azzera();
   // One value for each row; those beyond what is allowed warn. True when none is.
   bool Mostra(std::initializer_list<ValoreVerificato> valori);
+  // One for each row, under its caption.
+  std::vector<Spiegazione> Spiegate(std::initializer_list<Catena> catene) const;
 
   static constexpr double kMassimo = 99999999.99;
   Frame fraRisultati{form_, "fraRisultati", "RISULTATI"};

@@ -16,6 +16,7 @@ struct DatiSolaioP : DatiPutrelle {
 
 struct Freccia {
   double calcolata = 0, accettata = 0;  // cm
+  Catena passi;                         // how it came about
 };
 
 struct RisultatiSolaioP : VerificaPutrella {
@@ -26,11 +27,11 @@ struct RisultatiSolaioP : VerificaPutrella {
 bool AltezzaSolaioInsufficiente(double luce, double altezza);
 
 // The larger of the moments q L^2 / c, kg x m; coefficients of 0 are left out.
-double MomentoSolaioP(double luce, double q, double cMezzeria, double cIncastro);
+Conto MomentoSolaioP(double luce, double q, double cMezzeria, double cIncastro);
 
-// Moment of inertia of beam and slab, cm4: the concrete, as wide as the beams are apart and as
-// thick as the section is higher than the beam, counts a fifteenth.
-double InerziaComposta(const DatiSolaioP& dati);
+// Moment of inertia of beam and slab, cm4, whose steps `passi` takes: the concrete, as wide as the
+// beams are apart and as thick as the section is higher than the beam, counts a fifteenth.
+double InerziaComposta(const DatiSolaioP& dati, Catena& passi);
 
 // A coefficient of the support that is more than building in can do: the deflection comes out too
 // small, below 0 under 9.6.
@@ -38,7 +39,7 @@ bool IncastroEccessivo(double cIncastro);
 
 // Deflection of a span in cm for 1 kg/cm over 1 cm4. k is 43 for a hinged beam and 47 for a
 // built-in one.
-double FrecciaUnitaria(double luce, double cIncastro);
+Conto FrecciaUnitaria(double luce, double cIncastro);
 
 RisultatiSolaioP VerificaSolaioP(const DatiSolaioP& dati);
 

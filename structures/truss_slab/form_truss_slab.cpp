@@ -56,7 +56,7 @@ FrmVerSolaioTralic::FrmVerSolaioTralic(RunState& stato)
     : FormRiprendibile("frmVER_SOLAIO_TRALIC",
                        "PROGETTO SOLAI MONOCAMPATA A TRALICCIO E LATERIZIO MONOBLOCCO", stato) {
   SetContent(Column({ingressi.Contents(), viste.Contents(lblEsito),
-                     Buttons({comCalcola, comSTAMPA, cmdSALVA, cmdAPRI, ComEsci})}));
+                     Buttons({comCalcola, comSTAMPA, cmdSPIEGA, cmdSALVA, cmdAPRI, ComEsci})}));
   ingressi.TieEvents([this] { Azzera(); });
   SetFirstFocus(ingressi.cdLuce);
   comCalcola.onPress = [this] { Calcola(); };
@@ -92,7 +92,7 @@ void FrmVerSolaioTralic::Calcola() {
   }
   ingressi.ScriviFerri(risultati);
   viste.Mostra({dati, risultati});
-  Calcolato("SOLAIO VERIFICATO");
+  Calcolato("SOLAIO VERIFICATO", true, viste.Spiegate());
   comSTAMPA.SetEnabled(true);
 }
 

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <tuple>
 #include <utility>
 
 #include "dialogs/data_forms/result_form.h"
 #include "runtime/numbers.h"
+#include "structures/section_statement.h"
 #include "structures/structural_report.h"
 
 namespace orm {
@@ -133,6 +135,41 @@ void PannelloVisteSolaio::Mostra(const ProgettoSolaioT& progetto) {
   ScriviFerri(r);
   optVisualizza[Disegno].SetValue(true);
   ScegliVista();
+}
+
+std::vector<Spiegazione> PannelloVisteSolaio::Spiegate() const {
+  const RisultatiSolaioT& r = progetto_->risultati;
+  const TensioniAmmissibili ammesse{r.ammissibili.acciaio, r.ammissibili.cls};
+  std::vector<Spiegazione> spiegate;
+  const auto di = [&](const Control& campo, Catena passi) {
+    spiegate.push_back(Risultato(campo.Caption(), std::move(passi)));
+  };
+  di(cdSollecitazioni[0], r.passiTaglio);
+  di(cdSollecitazioni[1], r.sinistra.passiMomento);
+  di(cdSollecitazioni[2], r.destra.passiMomento);
+  di(cdSollecitazioni[3], r.passiMezzeria);
+  // The stresses of a section: those of its compressed concrete and of its stretched steel.
+  const auto sezione = [&](const SezioneVerificata& s, const Catena& passi, Valore cls,
+                           Valore acciaio) {
+    const CateneFlessione catene = SpiegaSezioneT(s.dati, s.risultati, ammesse, kDueDecimali);
+    const bool sotto = s.dati.M < 0;
+    for (const auto& [valore, quale] :
+         {std::pair{cls, sotto ? 2 : 1}, std::pair{acciaio, sotto ? 3 : 4}}) {
+      Catena catena = passi;
+      for (const std::size_t parte : {std::size_t{0}, static_cast<std::size_t>(quale)})
+        catena.insert(catena.end(), catene[parte].begin(), catene[parte].end());
+      di(cdTensioni[valore - SinClsPiena], std::move(catena));
+    }
+  };
+  sezione(r.mezzeria, r.passiMezzeria, MezzeriaCls, MezzeriaAcciaio);
+  for (const auto& [a, clsP, acciaioP, clsT, acciaioT] :
+       {std::tuple{&r.sinistra, SinClsPiena, SinAcciaioPiena, SinClsTravetto, SinAcciaioTravetto},
+        std::tuple{&r.destra, DexClsPiena, DexAcciaioPiena, DexClsTravetto, DexAcciaioTravetto}}) {
+    sezione(a->piena, a->passiMomento, clsP, acciaioP);
+    sezione(a->nervata, a->passiNervata, clsT, acciaioT);
+  }
+  di(cdTensioni[Tangenziale - SinClsPiena], r.passiTau);
+  return spiegate;
 }
 
 }  // namespace orm

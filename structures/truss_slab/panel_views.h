@@ -32,6 +32,8 @@ class PannelloVisteSolaio {
   void Azzera();
   // The design that was shown is one of other data.
   void SegnaCambiati();
+  // Shear, moments and stresses of the design, each under its caption.
+  std::vector<Spiegazione> Spiegate() const;
   // The control only chooses the view.
   bool EScelta(const Control& control) const;
   // A design, with its drawing in front.

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <string>
+#include <utility>
 
+#include "runtime/explanation/steps.h"
 #include "runtime/numbers.h"
-#include "structures/solvers/section_t.h"
 #include "tariff/money.h"
 
 namespace orm {
@@ -47,16 +49,37 @@ class Progetto {
   }
 
   void Sollecitazioni() {
-    Lc_ = d_.luce * kRapportoLuci;
-    r_.q = (d_.permanente + d_.accidentale + d_.pesoProprio) * (d_.modulo.b / 100);
-    r_.taglio = Lc_ * r_.q * 0.5;
-    r_.sinistra.momento = Square(Lc_) * r_.q / d_.cSin;
-    r_.destra.momento = Square(Lc_) * r_.q / d_.cDex;
-    r_.momentoMezzeria = Square(Lc_) * r_.q / d_.cMez;
-    // What is shown is what is reckoned with from here on.
-    for (double* valore :
-         {&r_.taglio, &r_.sinistra.momento, &r_.destra.momento, &r_.momentoMezzeria})
-      FormattaNumero(*valore, 2);
+    const Conto luce = Conto(d_.luce) * kRapportoLuci;
+    Lc_ = luce;
+    Annota(r_.carico, "Luce di calcolo, L = 1,05 x luce netta", luce, "m");
+    r_.q = Annota(
+        r_.carico, "Carico di un modulo, permanente + accidentale + peso proprio, q",
+        (Conto(d_.permanente) + d_.accidentale + d_.pesoProprio) * (Conto(d_.modulo.b) / 100),
+        "Kg/ml");
+    r_.taglio =
+        Tagliato(r_.passiTaglio, "Taglio massimo, V = L q / 2", Conto(Lc_) * r_.q * 0.5, "Kg");
+    r_.sinistra.momento = Momento(r_.sinistra.passiMomento, "all'incastro sinistro", d_.cSin);
+    r_.destra.momento = Momento(r_.destra.passiMomento, "all'incastro destro", d_.cDex);
+    r_.momentoMezzeria = Momento(r_.passiMezzeria, "in mezzeria", d_.cMez);
+  }
+
+  double Momento(Catena& passi, const char* dove, double c) const {
+    return Tagliato(passi, std::string("Momento ") + dove + ", M = L² q / " + CifraEsatta(c),
+                    (Conto(Lc_) * Lc_) * r_.q / c, "Kg x m");
+  }
+
+  // What is shown is what is reckoned with from here on.
+  double Tagliato(Catena& passi, std::string regola, const Conto& conto, const char* unita) const {
+    double valore = conto;
+    const std::string cifra = FormattaNumero(valore, 2);
+    passi = r_.carico;
+    passi.push_back({.regola = std::move(regola),
+                     .conto = conto.Testo(),
+                     .risultato = conto,
+                     .unita = unita,
+                     .tagli = {{TipoTaglio::Decimali, 2, conto, valore}},
+                     .cifra = cifra});
+    return valore;
   }
 
   // ------------------------------------------------------------ sections
@@ -69,7 +92,7 @@ class Progetto {
 
   // A section with the lower bars that are kept, and `superiore` above; M in kg x cm. Ribs under
   // the upper slab, or solid over the whole module.
-  RisultatiSezione Sezione(bool nervata, double superiore, double M) const {
+  SezioneVerificata Sezione(bool nervata, double superiore, double M) const {
     const double anima = nervata ? d_.modulo.b0 : d_.modulo.b;
     const DatiSezione s{.B = d_.modulo.b,
                         .b = anima,
@@ -80,9 +103,9 @@ class Progetto {
                                     {Strato2(), d_.H() - kDistanzaSecondoStrato},
                                     {Strato1(), d_.H() - kCopriferroInferiore}}},
                         .M = M};
-    RisultatiSezione risultati;
-    VerificaSezioneT(s, risultati);
-    return risultati;
+    SezioneVerificata verificata{s, {}};
+    VerificaSezioneT(s, verificata.risultati);
+    return verificata;
   }
 
   // ------------------------------------------------------------ span
@@ -92,9 +115,9 @@ class Progetto {
       campata_ = {AreaFerro(kFerroAggiuntivo, d_.ferri[0], k),
                   AreaFerro(kFerroIntegrativo1, d_.ferri[1], k),
                   AreaFerro(kFerroIntegrativo2, d_.ferri[2], k)};
-      const RisultatiSezione sezione = Sezione(true, 0, r_.momentoMezzeria * 100);
-      r_.clsMezzeria = std::fabs(sezione.clsSup);
-      r_.acciaioMezzeria = sezione.massimo;
+      r_.mezzeria = Sezione(true, 0, r_.momentoMezzeria * 100);
+      r_.clsMezzeria = std::fabs(r_.mezzeria.risultati.clsSup);
+      r_.acciaioMezzeria = r_.mezzeria.risultati.massimo;
       if (r_.clsMezzeria <= r_.ammissibili.cls && r_.acciaioMezzeria <= r_.ammissibili.acciaio) {
         for (std::size_t i = 0; i < campata_.size(); ++i)
           r_.campata[i].diametro = DiametroDaArea(campata_[i]);
@@ -141,15 +164,22 @@ class Progetto {
   double Monconi() const { return d_.modulo.n * (lungo_ + corto_); }
 
   void VerificaPiena(Appoggio& appoggio) const {
-    const RisultatiSezione piena = Sezione(false, Monconi(), -appoggio.momento * 100);
-    appoggio.clsPiena = std::fabs(piena.clsInf);
-    appoggio.acciaioPiena = piena.massimo;
+    appoggio.piena = Sezione(false, Monconi(), -appoggio.momento * 100);
+    appoggio.clsPiena = std::fabs(appoggio.piena.risultati.clsInf);
+    appoggio.acciaioPiena = appoggio.piena.risultati.massimo;
   }
 
   void VerificaNervata(Appoggio& appoggio) const {
     const double z = r_.zonaPiena * 100;
-    const double M = (-appoggio.momento * 100) - Square(z) * (r_.q / 100 * 0.5) + z * r_.taglio;
-    const RisultatiSezione nervata = Sezione(true, Monconi(), M);
+    const Conto M = Conto(-appoggio.momento) * 100 - (Conto(z) * z) * (Conto(r_.q) / 100 * 0.5) +
+                    Conto(z) * r_.taglio;
+    appoggio.passiNervata = appoggio.passiMomento;
+    Annota(appoggio.passiNervata,
+           "Momento dei travetti in fondo alla zona piena, lunga z = " + CifraEsatta(z) +
+               " cm: M' = - 100 M - z² q / 200 + z V",
+           M, "Kg x cm");
+    appoggio.nervata = Sezione(true, Monconi(), M);
+    const RisultatiSezione& nervata = appoggio.nervata.risultati;
     appoggio.clsNervata = std::fabs(nervata.clsInf);
     appoggio.acciaioNervata = nervata.massimo;
     appoggio.asse = nervata.asse;
@@ -201,23 +231,30 @@ class Progetto {
     return regge ? Esito::Verificato : Esito::ZonePieneMomenti;
   }
 
-  double Tau(const Appoggio& appoggio) const {
+  Conto Tau(const Appoggio& appoggio) const {
     const double x = appoggio.asse;
-    return (r_.taglio - r_.q * r_.zonaPiena / 2) /
-           ((2 * (d_.H() - x) / 3 + (x - kCopriferroSuperiore)) * d_.modulo.b0);
+    return (Conto(r_.taglio) - Conto(r_.q) * r_.zonaPiena / 2) /
+           ((2 * (Conto(d_.H()) - x) / 3 + (Conto(x) - kCopriferroSuperiore)) * d_.modulo.b0);
   }
 
   Esito VerificaTaglio() {
+    Conto tau;
     for (;;) {
       for (Appoggio* appoggio : {&r_.sinistra, &r_.destra}) {
         VerificaPiena(*appoggio);
         VerificaNervata(*appoggio);
       }
-      r_.tau = std::max(Tau(r_.sinistra), Tau(r_.destra));
+      tau = std::max(Tau(r_.sinistra), Tau(r_.destra));
+      r_.tau = tau;
       if (r_.tau <= r_.ammissibili.taglio) break;
       if (!AllungaZonePiene()) return Esito::ZonePieneTaglio;
     }
-    FormattaNumero(r_.tau, 2);  // compared whole, shown cut
+    // Compared whole, shown cut.
+    r_.tau = Tagliato(
+        r_.passiTau,
+        "Tensione tangenziale in fondo alla zona piena, τ = (V - q z / 2) / ((2 (H - x) / 3 "
+        "+ x - 2) b0)",
+        tau, "Kg/cmq");
     return Esito::Verificato;
   }
 

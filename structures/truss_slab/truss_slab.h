@@ -6,6 +6,8 @@
 #include <array>
 #include <string>
 
+#include "runtime/explanation/explanation.h"
+#include "structures/solvers/section_t.h"
 #include "structures/truss_slab/bars.h"
 #include "structures/truss_slab/lookup.h"
 
@@ -52,12 +54,20 @@ struct Moncone {
   double Lunghezza() const { return incastro + campata; }
 };
 
+// A section as it was verified last.
+struct SezioneVerificata {
+  DatiSezione dati;
+  RisultatiSezione risultati;
+};
+
 struct Appoggio {
   double momento = 0;                         // kg x m
+  Catena passiMomento, passiNervata;          // of it, and of the moment of the ribs
   double clsPiena = 0, acciaioPiena = 0;      // solid section; concrete at the lower edge, |value|
   double clsNervata = 0, acciaioNervata = 0;  // ribs at the end of the solid zone
   double asse = 0;                            // neutral axis of the ribs from the upper edge, cm
   Moncone lungo, corto;
+  SezioneVerificata piena, nervata;
 };
 
 // Bars stand for one joist, shear and moments for a module.
@@ -70,7 +80,10 @@ struct RisultatiSolaioT {
   double clsMezzeria = 0, acciaioMezzeria = 0;
   std::array<Barra, 3> campata;  // as in the data
   Appoggio sinistra, destra;
-  double tau = 0;        // kg/cmq, cut to 2 decimals
+  double tau = 0;  // kg/cmq, cut to 2 decimals
+  SezioneVerificata mezzeria;
+  // How loads, shear and moments, and the shear stress came about.
+  Catena carico, passiTaglio, passiMezzeria, passiTau;
   double zonaPiena = 0;  // m, the same on both sides
 };
 

@@ -1,9 +1,12 @@
 // The verifications under real keys: what they say of their results, their loads, their windows.
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <random>
 
 #include "desktop/player/message_window.h"
@@ -150,6 +153,7 @@ class Keys {
       const bool verdict =
           says != FormDiCalcolo::kDatiCambiati && says != FormDiCalcolo::kDaCalcolare;
       EXPECT_TRUE(!verdict || DataOf(form) == reckoned) << form.Name() << ": " << says;
+      EXPECT_EQ(result->cmdSPIEGA.OwnEnabled(), verdict) << form.Name();
       const auto* drawing = dynamic_cast<const Lavagna*>(form.Find("Lavagna"));
       const bool judged = drawing != nullptr && drawing->HasVerdict();
       EXPECT_TRUE(!judged || drawing->Notice().empty() == verdict) << form.Name();
@@ -221,6 +225,31 @@ TEST_F(Checks, NothingSizesTheWindowAtACalculationOrAnotherView) {
       }
       EXPECT_EQ(dialog.isMaximized(), maximised);
     });
+}
+
+// From wherever the focus is, also from a list, which opens with that key otherwise.
+TEST_F(Checks, F4TellsHowResultsCameAboutAsATextToCopy) {
+  int told = 0;
+  Show("VER_SOLAIO_T", [&](FormDialog& dialog) {
+    if (dialog.Model().Name() == "frmGEN_Spiega") {
+      ++told;
+      auto* text = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+      ASSERT_NE(text, nullptr);
+      QTest::keyClick(text, Qt::Key_PageDown);
+      EXPECT_GT(text->verticalScrollBar()->value(), 0);
+      Press(dialog, "cmdCOPIA");
+      EXPECT_EQ(QApplication::clipboard()->text(), text->toPlainText());
+      QTest::keyClick(text, Qt::Key_Return);
+      EXPECT_FALSE(dialog.Model().IsOpen());
+      return;
+    }
+    DesignSlab(dialog);
+    QWidget* list = FieldOf(dialog, "cmbTipoDiCls");
+    list->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(list, Qt::Key_F4);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  });
 }
 
 // Compressed steel of these sections is held against nothing.
