@@ -68,8 +68,11 @@ std::optional<int> Read(int count, char** words, Arguments& a) {
   auto* csv = app.add_flag("--csv{italiano}", a.csv)->excludes(tutti)->excludes(json);
   auto* daJson = app.add_option("--da-json", a.daJson);
   for (auto* other : {codice, euro, tutti, json, csv}) daJson->excludes(other);
-  app.add_flag("--spiega{testo}", a.spiega)->excludes(tutti)->excludes(json)->excludes(csv)->excludes(
-      daJson);
+  app.add_flag("--spiega{testo}", a.spiega)
+      ->excludes(tutti)
+      ->excludes(json)
+      ->excludes(csv)
+      ->excludes(daJson);
   app.add_option("--cartella", a.cartella);
   app.add_option("--data", data);
   std::string objection;
@@ -117,8 +120,8 @@ void TellWarning(orm::BatchPlayer& player, const orm::WorkFolder& folder) {
     player.Ask(orm::AvvisoVersioneNonConservata(why));
 }
 
-int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice,
-              bool lire, orm::Spiegazioni* spiegazioni = nullptr) {
+int Calculate(orm::RunState& stato, orm::BatchPlayer& player, const std::string& codice, bool lire,
+              orm::Spiegazioni* spiegazioni = nullptr) {
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
   return Guard(player, [&] {

@@ -1,4 +1,5 @@
 // From the files of a note to its JSON.
+#include "cases/calculation_step.h"
 #include "cases/fee_case.h"
 #include "interchange/interchange.h"
 #include "interchange/note_files.h"
@@ -31,7 +32,7 @@ Parcella CalcolaDaCartella(const WorkFolder& folder, const std::string& codice, 
   const NomiFile nomi = NomiDiCaso(codice, lire);
   stato.CasoDiParcella = codice;
   stato.ModoLire = lire;
-  stato.spiega = spiega;
+  stato.memoria.The<SpiegazioniChieste>().si = spiega;
   stato.FileInt = nomi.FileInt;
   stato.FileInp = nomi.FileInp;
   LeggiCriteri(stato);

@@ -50,8 +50,6 @@ int main(int argc, char** argv) {
   player.SetMainWindow(&window);
   window.ActivateOnceShown();
   window.show();
-  const orm::Meeting meeting(orm::MeetingPlaceOfFolder(QStringLiteral(".")),
-                             [&window](const QString&) { orm::BringForward(window); });
   const orm::LastWords lastWords([&shell] { shell.Bozze().Keep(); });
   const int result = QApplication::exec();
   shell.Bozze().Forget();

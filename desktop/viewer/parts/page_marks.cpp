@@ -5,7 +5,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/dress/look.h"
 #include "desktop/viewer/parts/page.h"
 
 namespace orm {
