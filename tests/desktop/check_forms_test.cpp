@@ -239,6 +239,7 @@ TEST_F(Checks, F4TellsHowResultsCameAboutAsATextToCopy) {
       EXPECT_GT(text->verticalScrollBar()->value(), 0);
       Press(dialog, "cmdCOPIA");
       EXPECT_EQ(QApplication::clipboard()->text(), text->toPlainText());
+      text->setFocus(Qt::TabFocusReason);
       QTest::keyClick(text, Qt::Key_Return);
       EXPECT_FALSE(dialog.Model().IsOpen());
       return;
