@@ -48,7 +48,7 @@ void NotaPdl::StampaSpecifica() {
 void NotaPdl::CalcolaCompensi() {
   Conto SommaProgetto;
   for (const RigaPdl& r : d.Righe) {
-    SommaProgetto += Addendi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
+    SommaProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
   }
   CompensiSulMaggiore(SommaProgetto, SommaDirezione);

@@ -64,7 +64,7 @@ Conto NotaPdl::OnorarioProgetto(const RigaInCorso& conto) {
       .Line(riga.TipoPrestazione == "T"
                 ? "complete"
                 : TestoPrestazioni(conto.fatti, GruppoServiziPdl::Progetto));
-  Conto ImportoFee = Addendi(riga.ImportoProgetto, riga.ImportoEspropri);
+  Conto ImportoFee = SommaDi(riga.ImportoProgetto, riga.ImportoEspropri);
   if (conto.basi.EccedenzaLavori != 0) ImportoFee += conto.basi.EccedenzaLavori;
   const auto quote = QuoteDellImporto(conto.progetto, ImportoFee);
   const Voce voce{
@@ -93,7 +93,7 @@ Conto NotaPdl::OnorarioPerizie(const RigaInCorso& conto) {
 Conto NotaPdl::OnorarioPerizia(const RigaInCorso& conto, const PeriziaPdl& perizia) {
   uscita.Line(perizia.TipoPerizia.starts_with("1") ? "PERIZIA DI VARIANTE"
                                                    : "PERIZIA DI ASSESTAMENTO");
-  const Conto ImportoPerizia = Addendi(perizia.LavoriSuppletivi, perizia.EsproPerizia);
+  const Conto ImportoPerizia = SommaDi(perizia.LavoriSuppletivi, perizia.EsproPerizia);
   const auto percentuali =
       PercentualiDellaBase(ImportoPerizia + perizia.LavoriVariati, conto.Periodo, conto.riga.Classe,
                            conto.riga.Categoria);

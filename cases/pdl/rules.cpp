@@ -21,7 +21,7 @@ std::size_t IndiceServizio(char lettera, const char* campo) {
 
 }  // namespace
 
-Conto Addendi(double a, double b) {
+Conto SommaDi(double a, double b) {
   Conto somma;
   for (const double addendo : {a, b})
     if (addendo != 0) somma += addendo;
@@ -32,8 +32,8 @@ BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParc
   BasiLotto basi;
   Conto SommaEspropri, SommaSuppletivi, SommaDirezione;
   for (const RigaPdl& r : righe) {
-    basi.BaseProgetto += Addendi(std::fabs(r.ImportoProgetto), r.ImportoEspropri);
-    basi.BaseDirezione += Addendi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
+    basi.BaseProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoEspropri);
+    basi.BaseDirezione += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
     if (r.ImportoEspropri != 0) SommaEspropri += r.ImportoEspropri;
     if (r.ImportoSuppletivi != 0) SommaSuppletivi += r.ImportoSuppletivi;
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;

@@ -17,7 +17,7 @@ struct BasiLotto {
   Conto BaseProgetto, BaseDirezione, EccedenzaLavori;
 };
 // Two amounts of a row, without one of 0.
-Conto Addendi(double a, double b);
+Conto SommaDi(double a, double b);
 BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella);
 
 // 1 for each service done, a to l: all of them with "T". Letters stand at every second character

@@ -4,14 +4,12 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "desktop/desk/jobs_model.h"
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
 
 namespace orm {
 namespace {
-
-constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
-
 QString NoteText(const ParcellaDelLavoro& note, int column) {
   switch (column) {
     case ContentsModel::Case:

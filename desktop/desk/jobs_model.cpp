@@ -6,10 +6,6 @@
 #include "desktop/qt_text.h"
 
 namespace orm {
-namespace {
-constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
-}
-
 JobsModel::JobsModel(const std::string& root) : jobs_(root) {}
 
 bool JobsModel::Look() {

@@ -1,6 +1,8 @@
 // The jobs as the list on the left shows them: newest first, narrowed to what is sought.
 #pragma once
 
+#include <cstdint>
+
 #include <QAbstractTableModel>
 #include <chrono>
 #include <memory>
@@ -11,6 +13,9 @@
 #include "jobs/job_search.h"
 
 namespace orm {
+
+// Times of files are in nanoseconds, those of Qt in milliseconds.
+inline constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
 
 class JobsModel : public QAbstractTableModel {
  public:

@@ -79,19 +79,19 @@ class Conto {
 
 // The number types are templates, so that 2 * conto is no number before it is a sum.
 template <class T>
-concept Numero = std::is_arithmetic_v<T>;
+concept UnNumero = std::is_arithmetic_v<T>;
 
 inline Conto operator+(Conto a, const Conto& b) { return a += b; }
 inline Conto operator-(Conto a, const Conto& b) { return a -= b; }
 inline Conto operator*(Conto a, const Conto& b) { return a *= b; }
 inline Conto operator/(Conto a, const Conto& b) { return a /= b; }
-inline Conto operator+(Conto a, Numero auto b) { return a += static_cast<double>(b); }
-inline Conto operator-(Conto a, Numero auto b) { return a -= static_cast<double>(b); }
-inline Conto operator*(Conto a, Numero auto b) { return a *= static_cast<double>(b); }
-inline Conto operator/(Conto a, Numero auto b) { return a /= static_cast<double>(b); }
-inline Conto operator+(Numero auto a, const Conto& b) { return Conto(a) += b; }
-inline Conto operator-(Numero auto a, const Conto& b) { return Conto(a) -= b; }
-inline Conto operator*(Numero auto a, const Conto& b) { return Conto(a) *= b; }
-inline Conto operator/(Numero auto a, const Conto& b) { return Conto(a) /= b; }
+inline Conto operator+(Conto a, UnNumero auto b) { return a += static_cast<double>(b); }
+inline Conto operator-(Conto a, UnNumero auto b) { return a -= static_cast<double>(b); }
+inline Conto operator*(Conto a, UnNumero auto b) { return a *= static_cast<double>(b); }
+inline Conto operator/(Conto a, UnNumero auto b) { return a /= static_cast<double>(b); }
+inline Conto operator+(UnNumero auto a, const Conto& b) { return Conto(a) += b; }
+inline Conto operator-(UnNumero auto a, const Conto& b) { return Conto(a) -= b; }
+inline Conto operator*(UnNumero auto a, const Conto& b) { return Conto(a) *= b; }
+inline Conto operator/(UnNumero auto a, const Conto& b) { return Conto(a) /= b; }
 
 }  // namespace orm
