@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "runtime/explanation/explanation.h"
+#include "runtime/numbers.h"
 
 namespace orm {
 namespace {
@@ -32,8 +33,16 @@ std::string FraseTaglio(const Taglio& taglio) {
   }
 }
 
+// To be read, a number has the 15 digits of every report: 0,35 and not 0,35000000000000003. Where
+// they would hide why its whole part is what it is, it has all of them.
+double DaLeggere(double valore) {
+  const double letto = ParseNumber(NumberText(valore)).value_or(valore);
+  return std::floor(letto) == std::floor(valore) ? letto : valore;
+}
+
 // A cut that found nothing to take is not told.
-std::string TestoTaglio(const Taglio& taglio) {
+std::string TestoTaglio(Taglio taglio) {
+  taglio.prima = DaLeggere(taglio.prima);
   if (taglio.prima == taglio.dopo) return "";
   const std::string scarto = CadeNelTaglio(taglio);
   return " " + FraseTaglio(taglio) + ": " + Tagliata(taglio) +
@@ -46,7 +55,7 @@ std::string TestoPasso(const Passaggio& passo) {
   if (passo.risultato) {
     testo += ": ";
     if (!passo.conto.empty()) testo += passo.conto + " = ";
-    testo += CifraEsatta(*passo.risultato);
+    testo += CifraEsatta(DaLeggere(*passo.risultato));
     if (!passo.unita.empty()) testo += " " + passo.unita;
   }
   testo += ".";
