@@ -45,7 +45,7 @@ void Make(DeskWindow& window, const QString& failed, const QString& name,
 
 // The model chosen, as long as there is that job; else the newest job.
 QString ModelOf(DeskWindow& window) {
-  const QString model = window.Settings().Model();
+  QString model = window.Settings().Model();
   for (const VoceLavoro& job : window.Jobs().Voci())
     if (ToQt(job.nome) == model) return model;
   return {};

@@ -13,7 +13,7 @@ DeskSettings::DeskSettings(const QString& file) : kept_(file, QSettings::IniForm
 
 QString DeskSettings::Root() const {
   if (!once_.isEmpty()) return once_;
-  const QString chosen = kept_.value(kRoot).toString();
+  QString chosen = kept_.value(kRoot).toString();
   if (!chosen.isEmpty()) return chosen;
   return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
          QStringLiteral("/ORM2002");

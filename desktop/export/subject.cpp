@@ -40,7 +40,7 @@ QString DocumentTitle(const QString& text, const QString& fileName) {
 
 QString NameBySubject(const QString& text, const QString& fileName) {
   static const QRegularExpression unfit(QStringLiteral("[\"<>|*?\\\\\\x00-\\x1F\\x7F]"));
-  const QString report = QFileInfo(fileName).completeBaseName();
+  QString report = QFileInfo(fileName).completeBaseName();
   QString name = SubjectOf(text).remove(unfit).replace('/', '-').replace(':', '-').simplified();
   name = Cut(name, kLongestName);
   // A point at its end would be lost on some systems, one before it would hide the file.

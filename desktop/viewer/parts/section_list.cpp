@@ -48,7 +48,8 @@ void SectionList::Fill(const QString& text) {
   clear();
   sections_ = std::move(sections);
   for (const Section& section : sections_) {
-    auto* item = new QListWidgetItem(QString(section.depth * 3, ' ') + section.title, this);
+    auto* item =
+        new QListWidgetItem(QString(qsizetype{3} * section.depth, ' ') + section.title, this);
     item->setToolTip(section.title);
     QFont font = item->font();
     font.setBold(section.depth == 0);
