@@ -1,7 +1,7 @@
 // The player of the program without a screen: message boxes go to standard error.
 #pragma once
 
-#include "interchange/quiet_player.h"
+#include "dialogs/quiet_player.h"
 
 namespace orm {
 

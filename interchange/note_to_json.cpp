@@ -1,10 +1,10 @@
 // From the files of a note to its JSON.
 #include "cases/calculation_step.h"
 #include "cases/fee_case.h"
+#include "dialogs/quiet_player.h"
 #include "interchange/interchange.h"
 #include "interchange/note_files.h"
 #include "interchange/note_lines.h"
-#include "interchange/quiet_player.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"

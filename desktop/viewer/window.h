@@ -13,7 +13,7 @@
 #include "desktop/viewer/theme.h"
 #include "desktop/viewer/unsaved.h"
 #include "desktop/viewer/watch.h"
-#include "shell/explained_report.h"
+#include "interchange/explained_report.h"
 
 class QLabel;
 class QSettings;

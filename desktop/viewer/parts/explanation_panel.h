@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "shell/explained_report.h"
+#include "interchange/explained_report.h"
 
 class QLabel;
 class QPushButton;

@@ -1,6 +1,6 @@
 // A report is explained as it lies in its folder: whole, changed by hand, or no longer that of its
 // data.
-#include "shell/explained_report.h"
+#include "interchange/explained_report.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,12 @@
-#include "shell/explained_report.h"
+#include "interchange/explained_report.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <optional>
 #include <utility>
 
-#include "cases/calculation_step.h"
 #include "cases/fee_case.h"
-#include "dialogs/form.h"
+#include "interchange/interchange.h"
+#include "runtime/failure.h"
 #include "runtime/text.h"
 #include "shell/personal/settings.h"
 #include "tariff/files/case_files.h"
@@ -16,21 +15,6 @@
 
 namespace orm {
 namespace {
-
-// Nobody is there: a calculation asks nothing but the day.
-class NessunoDavanti : public Player {
- public:
-  Answer Ask(const MessageBox&) override { return Answer::Cancel; }
-  std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
-  void StartProgram(const std::string&, const std::string&) override {}
-  bool ProgramExists(const std::string&) override { return true; }
-  OutsidePrograms DefaultPrograms() override { return {}; }
-  ScreenSize Screen() override { return {}; }
-  Date Today() override { return SystemDate(); }
-
- private:
-  void Present(Form& form) override { form.OnWindowClose(); }
-};
 
 // The lines of a text, one blank between their words.
 std::vector<std::string> RigheDi(std::string_view testo) {
@@ -52,37 +36,38 @@ std::vector<std::string> RigheDi(std::string_view testo) {
 // Beyond this the lines between are no longer weighed against each other.
 constexpr std::size_t kConfrontiMassimi = 4'000'000;
 
-// Case and currency of a report by its name, whose files then stand in the run state.
-const FeeCase* CasoDelReport(RunState& stato, const std::string& nome) {
+// The note that a report is of, by its name.
+struct NotaDelReport {
+  const FeeCase* caso = nullptr;
+  bool lire = true;
+  NomiFile nomi;
+};
+
+NotaDelReport NotaDi(const std::string& nome) {
   for (const FeeCase& fee : FeeCases())
     for (const bool lire : {true, false}) {
       const NomiFile nomi = NomiDiCaso(fee.code, lire);
-      if (Capitals(nomi.Report) != Capitals(nome)) continue;
-      stato.CasoDiParcella = fee.code;
-      stato.ModoLire = lire;
-      stato.FileInt = nomi.FileInt;
-      stato.FileInp = nomi.FileInp;
-      return &fee;
+      if (Capitals(nomi.Report) == Capitals(nome)) return {&fee, lire, nomi};
     }
-  return nullptr;
+  return {};
 }
 
-bool CiSonoIDati(const RunState& stato) {
-  for (const std::string& file : {std::string(kFileUtente), stato.FileInt, stato.FileInp})
-    if (!stato.folder.Exists(file)) return false;
+bool CiSonoIDati(const WorkFolder& folder, const NomiFile& nomi) {
+  for (const std::string& file : {std::string(kFileUtente), nomi.FileInt, nomi.FileInp})
+    if (!folder.Exists(file)) return false;
   return true;
 }
 
 // Whether something that the calculation reads was written after the report.
-bool DatiPiuRecenti(const RunState& stato, const std::string& report) {
+bool DatiPiuRecenti(const WorkFolder& folder, const std::string& report, const NomiFile& nomi) {
   std::error_code errore;
   const auto quando = [&](const std::string& nome) {
-    return std::filesystem::last_write_time(stato.folder.PathOf(nome), errore);
+    return std::filesystem::last_write_time(folder.PathOf(nome), errore);
   };
   const auto delReport = quando(report);
   if (errore) return false;
-  for (const std::string& nome : stato.folder.Names()) {
-    const bool letto = nome == stato.FileInt || nome == stato.FileInp || nome == kFileUtente ||
+  for (const std::string& nome : folder.Names()) {
+    const bool letto = nome == nomi.FileInt || nome == nomi.FileInp || nome == kFileUtente ||
                        nome == kFileCriteri || nome.ends_with(".CFG");
     if (letto && quando(nome) > delReport && !errore) return true;
   }
@@ -139,14 +124,10 @@ ReportSpiegato SpiegaReport(const WorkFolder& folder, const std::string& nome,
                             std::string_view mostrato) {
   using Esito = ReportSpiegato::Esito;
   ReportSpiegato esito;
-  NessunoDavanti nessuno;
-  RunState stato(nessuno, folder);
   try {
-    const FeeCase* fee = CasoDelReport(stato, nome);
-    if (fee == nullptr || !CiSonoIDati(stato)) return esito;
-    LeggiCriteri(stato);
-    stato.memoria.The<SpiegazioniChieste>().si = true;
-    const Parcella nota = fee->calcolo(stato);
+    const NotaDelReport di = NotaDi(nome);
+    if (di.caso == nullptr || !CiSonoIDati(folder, di.nomi)) return esito;
+    const Parcella nota = CalcolaDaCartella(folder, di.caso->code, di.lire, SystemDate(), true);
     const std::vector<Spiegazione>& spiegazioni = nota.spiegazioni.Righe();
     Abbina(esito, spiegazioni, RigheDi(mostrato), RigheDi(nota.uscita.Contents()));
     if (spiegazioni.empty()) {
@@ -156,7 +137,7 @@ ReportSpiegato SpiegaReport(const WorkFolder& folder, const std::string& nome,
     const std::size_t trovate = esito.righe.size();
     esito.esito = trovate == spiegazioni.size() ? Esito::Spiegato : Esito::InParte;
     if (trovate < spiegazioni.size() &&
-        (DatiPiuRecenti(stato, nome) || trovate * 2 < spiegazioni.size())) {
+        (DatiPiuRecenti(folder, nome, di.nomi) || trovate * 2 < spiegazioni.size())) {
       esito.esito = Esito::DatiCambiati;
       esito.righe.clear();
     }
