@@ -26,7 +26,9 @@ TEST(Calculator, ReckonsByKeysAlone) {
                {"1+2+3=", "6"},    {"1.500+1=", "2,5"}};
   for (const Qt::KeyboardModifiers pad :
        {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::KeypadModifier)})
-    for (const auto& [keys, shown] : cases) {
+    for (const auto& example : cases) {
+      const auto& keys = example.keys;
+      const auto& shown = example.shown;
       TestPlayer player;
       RunState stato(player, WorkFolder("."));
       FrmUtiCalcolatrice form(stato);

@@ -104,7 +104,7 @@ class Keys {
     const bool panel = name.starts_with("Commando("), clears = name.starts_with("cmdAzzera");
     if (!reckons && !panel && !clears) return;
     own_[&button] = button.onPress;
-    button.onPress = [&, this, reckons, panel, own = button.onPress] {
+    button.onPress = [&, reckons, panel, own = button.onPress] {
       own();
       if (reckons) reckoned = DataOf(button.Owner());
       if (!reckons) confirmed.clear();
@@ -191,7 +191,7 @@ constexpr std::array kCommands = {
 
 TEST_F(Checks, NoKeyLeavesAStaleVerdictALostLoadOrAWindowOffTheScreen) {
   for (const char* command : kCommands)
-    for (unsigned seed = 1; seed <= 6 && !HasFailure(); ++seed) {
+    for (unsigned seed = 1; seed <= ORM_RANDOM_HANDS && !HasFailure(); ++seed) {
       SCOPED_TRACE(std::string(command) + " " + std::to_string(seed));
       Keys keys(seed, player_);
       RunCommand(stato_, command);

@@ -122,7 +122,7 @@ TEST_F(Desk, AFirstDayOfWork) {
                     data = Job("Ponte").Read("INP_PPE_E.DAP");
   Job("Ponte").Replace("INT_PPE_E.DAP", kSample.Read("INT_PPE.DAP"));  // "NUOVA PARCELLA"
   Job("Ponte").Replace("INP_PPE_E.DAP", kSample.Read("INP_PPE.DAP"));
-  QTimer::singleShot(100, &here, [this] {
+  QTimer::singleShot(100, &here, [] {
     QWidget* versions = QApplication::activeModalWidget();
     QTest::qWait(50);
     EXPECT_GT(versions->findChild<QTableView*>("differences")->model()->rowCount(), 0);

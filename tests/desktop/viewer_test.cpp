@@ -509,7 +509,7 @@ TEST_F(ViewerTest, OpensADroppedFile) {
   window.SetEditing(true);
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(folder_.filePath("B.txt"))});
-  const auto send = [&dragged](QWidget* to, auto event) {
+  const auto send = [](QWidget* to, auto event) {
     QApplication::sendEvent(to, &event);
     return event.isAccepted();
   };

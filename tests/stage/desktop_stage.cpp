@@ -190,7 +190,9 @@ class WidgetStage : public Stage {
   std::string BringBack(const Files& files) const {
     const WorkFolder kept(folder_.PathOf("storico"));
     for (const auto& [name, text] : files) {
-      const auto holds = [&](const std::string& old) { return kept.Read(old) == text; };
+      const auto holds = [&, &held = text](const std::string& old) {
+        return kept.Read(old) == held;
+      };
       if (folder_.Read(name) != text && std::ranges::none_of(kept.Names(), holds))
         return name + " com'era non è in storico";
     }

@@ -64,9 +64,10 @@ TEST_F(ArchiveTest, HostileArchivesAreRefusedWithAWord) {
   };
   ASSERT_EQ(LeggiZip(good).files.size(), 1U);
   EXPECT_TRUE(LeggiZip(FaiZip("Job", {{".orm2002-bozze.bozza", "x", 0}})).files.empty());
-  for (const auto& [bytes, word] : cases)
-    EXPECT_NE(ReasonOf([&] { LeggiZip(bytes); }).find(word), std::string::npos)
-        << word << " : " << ReasonOf([&] { LeggiZip(bytes); });
+  for (const auto& [bytes, word] : cases) {
+    const std::string reason = ReasonOf([&archive = bytes] { LeggiZip(archive); });
+    EXPECT_NE(reason.find(word), std::string::npos) << word << " : " << reason;
+  }
   for (std::size_t length = 0; length < good.size(); ++length)
     EXPECT_NE(ReasonOf([&] { LeggiZip(good.substr(0, length)); }), "") << length;
   // What goes wrong on the way leaves nothing.

@@ -193,7 +193,8 @@ TEST_F(JobsTest, DroppedFilesBecomeAJob) {
       {{floppy.PathOf("manca.DAP")}, "non esiste"},
       {{}, "nessun file"}};
   for (const auto& [paths, word] : refused)
-    EXPECT_NE(ReasonOf([&] { LavoroDaFile(root_, "No", paths); }).find(word), std::string::npos);
+    EXPECT_NE(ReasonOf([&, &dropped = paths] { LavoroDaFile(root_, "No", dropped); }).find(word),
+              std::string::npos);
   EXPECT_FALSE(fs::exists(PathOf("No")));
 }
 

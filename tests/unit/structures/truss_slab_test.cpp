@@ -109,7 +109,7 @@ struct PlainSearch {
       holds = true;
       for (const double m : M) {
         const Stress solid = Solve(d, false, steel, -m * 100);
-        holds = Holds(solid.lower, limits.cls) & Holds(solid.steel, limits.acciaio) && holds;
+        holds = Holds(solid.lower, limits.cls) && Holds(solid.steel, limits.acciaio) && holds;
       }
     }
     // Zones: the least one of the grid that serves a support, then the other, then shear.
@@ -127,7 +127,7 @@ struct PlainSearch {
       for (;; zone += 0.125) {
         if (zone >= 0.5) return Esito::ZonePieneMomenti;
         const Stress stress = ribs(M[side]);
-        if (Holds(stress.lower, limits.cls) & Holds(stress.steel, limits.acciaio)) break;
+        if (Holds(stress.lower, limits.cls) && Holds(stress.steel, limits.acciaio)) break;
       }
     }
     for (;; zone += 0.125) {
