@@ -2,6 +2,7 @@
 # first time, the second time... until the call is no longer reached. After a kill each file is the old
 # one or the new one, whole, and the same command then works. After an error there is the message with
 # its reason, the file that it names is the old one, and nothing is left beside.
+[ ! -d /dev/shm ] || export TMPDIR=/dev/shm  # thousands of folders
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 command -v strace >/dev/null || skip "manca strace"
 strace -o /dev/null true 2>/dev/null || skip "non è permesso seguire un processo (ptrace)"
@@ -12,30 +13,56 @@ errors="ENOSPC EIO EROFS"
 # killed at one leaves what it leaves when killed at the next one that changes something.
 readonly looks="read|pread64|lseek|close|.*stat.*|f?access.*|getdents64|fcntl|flock|ioctl"
 
-# File by file: old, new, or another whole state that the command may leave. In a folder of jobs a job
-# that was not there is not there, or whole.
-check_whole() {
-  local file state named
-  for file in $(cd "$new" && find . -mindepth 1 -type d -not -path '*/storico*'); do
-    if [ ! -d "$old/$file" ] && [ -d "$at/$file" ]; then
-      same_files "$new/$file" "$at/$file" || breaks "$1: $file non è intero"
-    fi
+# Each file of a folder with the sum of its contents.
+sums() { (cd "$1" && find . -type f -not -path '*/.orm2002-*' -exec cksum {} +); }
+
+# What a command may leave, from the folders of before, of after, and of whole states between.
+declare -A may_hold may_lack kept_before ever
+new_folders=""
+learn_states() {
+  local state sum size file
+  may_hold=() may_lack=() kept_before=() ever=()
+  for state in "$old" "$new" "$work"/state-*; do
+    [ -d "$state" ] || continue
+    while read -r sum size file; do
+      may_hold["$file $sum $size"]=1
+      [ "$state" != "$old" ] || [[ $file != */storico/* ]] || kept_before["${file##*/} $sum $size"]=1
+    done < <(sums "$state")
   done
-  for file in $(for state in "$old" "$new" "$at"; do (cd "$state" && find . -type f); done |
-    grep -v -e '/storico/' -e '/\.orm2002-' | sort -u); do
+  for file in $(for state in "$old" "$new" "$work"/state-*; do
+    if [ -d "$state" ]; then (cd "$state" && find . -type f -not -path '*/storico/*'); fi
+  done | sort -u); do
     for state in "$old" "$new" "$work"/state-*; do
-      if [ ! -e "$state/$file" ] && [ ! -e "$at/$file" ]; then continue 2; fi
-      cmp -s "$state/$file" "$at/$file" 2>/dev/null && continue 2
+      if [ -d "$state" ] && [ ! -e "$state/$file" ]; then may_lack[$file]=1; fi
     done
-    breaks "$1: $file non è intero"
+    ever["$file"]=1
   done
-  # A generation is what some file of its name held, whole.
-  for file in $(cd "$at" && find . -path '*/storico/*' -type f -not -path '*/.orm2002-*'); do
-    named=$(echo "${file/storico\//}" | sed 's/\.[-0-9_]*\(\.[A-Z]*\)$/\1/')
-    file=$at/$file
-    cmp -s "$(find "$old" -path "*/storico/${file##*/}" | head -1)" "$file" && continue
-    for state in "$old" "$new" "$work"/state-*; do cmp -s "$state/$named" "$file" && continue 2; done
+  new_folders=$(cd "$new" && find . -mindepth 1 -type d -not -path '*/storico*' | while read -r file; do
+    [ -d "$old/$file" ] || echo "$file"
+  done)
+}
+
+# File by file: old, new, or another whole state that the command may leave. In a folder of jobs a job
+# that was not there is not there, or whole. A generation is what some file of its name held, whole.
+check_whole() {
+  local file sum size named
+  declare -A present=()
+  for file in $new_folders; do
+    [ ! -d "$at/$file" ] || same_files "$new/$file" "$at/$file" || breaks "$1: $file non è intero"
+  done
+  while read -r sum size file; do
+    present[$file]=1
+    [ -z "${may_hold["$file $sum $size"]:-}" ] || continue
+    if [[ $file == */storico/* ]]; then
+      [ -z "${kept_before["${file##*/} $sum $size"]:-}" ] || continue
+      named=${file/storico\//}
+      [[ $named =~ ^(.*)\.[-0-9_]+(\.[A-Z]*)$ ]] && named=${BASH_REMATCH[1]}${BASH_REMATCH[2]}
+      [ -z "${may_hold["$named $sum $size"]:-}" ] || continue
+    fi
     breaks "$1: $file non è intero"
+  done < <(sums "$at")
+  for file in "${!ever[@]}"; do
+    [ -n "${present[$file]:-}" ] || [ -n "${may_lack[$file]:-}" ] || breaks "$1: $file manca"
   done
 }
 
@@ -99,6 +126,7 @@ loop() {
   options=(-o "$work/trace" -e trace=%file,%desc,flock,fsync,fdatasync,fchmod)
   traced "${run[@]}" || breaks "$title: senza guasti esce con $?: $(cat "$work/told")"
   rm -rf "$new" && cp -a "$at" "$new"
+  learn_states
   local calls
   calls=$(grep -o '^[0-9]* *[a-z0-9_]*(' "$work/trace" | grep -o '[a-z_][a-z0-9_]*' | sort -u |
     grep -v -x -e execve -e mmap -e munmap -e mprotect -e readlink -e readlinkat -e poll -e ppoll)

@@ -58,8 +58,8 @@ Qt::Key ArrowTowards(const QWidget& goal, const QWidget& from) {
   return way.x() > 0 ? Qt::Key_Right : Qt::Key_Left;
 }
 
-// A button pressed by its letter goes up again a tenth of a second later: for whoever has to wait for
-// that thousands of times it comes at once.
+// A button pressed by its letter goes up again a tenth of a second later: for whoever would wait
+// for that thousands of times it comes at once.
 void LetTimePass(QPushButton& button) {
   for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(&button)) {
     QTimerEvent passed(timer.timerId);
