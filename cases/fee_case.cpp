@@ -34,7 +34,9 @@
 #include "cases/stc/stc.h"
 #include "cases/sup/data.h"
 #include "cases/sup/sup.h"
+#include "runtime/text.h"
 #include "tariff/config/price_index.h"
+#include "tariff/files/case_files.h"
 #include "tariff/files/conversion.h"
 
 namespace orm {
@@ -77,6 +79,14 @@ const FeeCase* FindFeeCase(std::string_view code) {
   const auto found =
       std::find_if(cases.begin(), cases.end(), [&](const FeeCase& c) { return code == c.code; });
   return found == cases.end() ? nullptr : &*found;
+}
+
+std::optional<NotaDiCaso> NotaDelReport(std::string_view nome) {
+  for (const FeeCase& fee : FeeCases())
+    for (const bool lire : {true, false})
+      if (Capitals(NomiDiCaso(fee.code, lire).Report) == Capitals(nome))
+        return NotaDiCaso{fee.code, lire};
+  return std::nullopt;
 }
 
 }  // namespace orm

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,5 +48,13 @@ struct FeeCase {
 // In the order of the menus.
 const std::vector<FeeCase>& FeeCases();
 const FeeCase* FindFeeCase(std::string_view code);
+
+// The note of a case in one currency.
+struct NotaDiCaso {
+  std::string codice;
+  bool lire = false;
+};
+// The note whose report has this file name, in capitals or not; nothing where it is none.
+std::optional<NotaDiCaso> NotaDelReport(std::string_view nome);
 
 }  // namespace orm

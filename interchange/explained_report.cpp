@@ -7,7 +7,6 @@
 #include "cases/fee_case.h"
 #include "interchange/interchange.h"
 #include "runtime/failure.h"
-#include "runtime/text.h"
 #include "shell/personal/settings.h"
 #include "tariff/files/case_files.h"
 #include "tariff/files/user_files.h"
@@ -35,22 +34,6 @@ std::vector<std::string> RigheDi(std::string_view testo) {
 
 // Beyond this the lines between are no longer weighed against each other.
 constexpr std::size_t kConfrontiMassimi = 4'000'000;
-
-// The note that a report is of, by its name.
-struct NotaDelReport {
-  const FeeCase* caso = nullptr;
-  bool lire = true;
-  NomiFile nomi;
-};
-
-NotaDelReport NotaDi(const std::string& nome) {
-  for (const FeeCase& fee : FeeCases())
-    for (const bool lire : {true, false}) {
-      const NomiFile nomi = NomiDiCaso(fee.code, lire);
-      if (Capitals(nomi.Report) == Capitals(nome)) return {&fee, lire, nomi};
-    }
-  return {};
-}
 
 bool CiSonoIDati(const WorkFolder& folder, const NomiFile& nomi) {
   for (const std::string& file : {std::string(kFileUtente), nomi.FileInt, nomi.FileInp})
@@ -125,9 +108,11 @@ ReportSpiegato SpiegaReport(const WorkFolder& folder, const std::string& nome,
   using Esito = ReportSpiegato::Esito;
   ReportSpiegato esito;
   try {
-    const NotaDelReport di = NotaDi(nome);
-    if (di.caso == nullptr || !CiSonoIDati(folder, di.nomi)) return esito;
-    const Parcella nota = CalcolaDaCartella(folder, di.caso->code, di.lire, SystemDate(), true);
+    const auto di = NotaDelReport(nome);
+    if (!di) return esito;
+    const NomiFile nomi = NomiDiCaso(di->codice, di->lire);
+    if (!CiSonoIDati(folder, nomi)) return esito;
+    const Parcella nota = CalcolaDaCartella(folder, di->codice, di->lire, SystemDate(), true);
     const std::vector<Spiegazione>& spiegazioni = nota.spiegazioni.Righe();
     Abbina(esito, spiegazioni, RigheDi(mostrato), RigheDi(nota.uscita.Contents()));
     if (spiegazioni.empty()) {
@@ -137,7 +122,7 @@ ReportSpiegato SpiegaReport(const WorkFolder& folder, const std::string& nome,
     const std::size_t trovate = esito.righe.size();
     esito.esito = trovate == spiegazioni.size() ? Esito::Spiegato : Esito::InParte;
     if (trovate < spiegazioni.size() &&
-        (DatiPiuRecenti(folder, nome, di.nomi) || trovate * 2 < spiegazioni.size())) {
+        (DatiPiuRecenti(folder, nome, nomi) || trovate * 2 < spiegazioni.size())) {
       esito.esito = Esito::DatiCambiati;
       esito.righe.clear();
     }

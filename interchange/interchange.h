@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cases/fee_case.h"
 #include "runtime/dates.h"
 #include "runtime/folder.h"
 #include "tariff/parcella.h"
@@ -31,9 +32,20 @@ enum class MarchiCsv {
 std::string ParcellaInCsv(const WorkFolder& folder, const std::string& codice, bool lire,
                           MarchiCsv marchi, const Date& oggi = SystemDate());
 
-// Makes the files of a note from its JSON and gives their names: header and data, and those of the
-// professional and of the criteria where the JSON has them. All of it is read before anything is
-// written; whatever is wrong is a RuntimeFailure with its place in `nomeJson`. What is replaced
+// The files of a note as its JSON has them: header and data, and those of the professional and of
+// the criteria where it has them.
+struct FileDaJson {
+  std::string nome, bytes;
+  bool dellaNota = false;  // header or data; the others are of all notes of a folder
+};
+struct NotaDaJson {
+  NotaDiCaso nota;
+  std::vector<FileDaJson> files;
+};
+// Whatever is wrong is a RuntimeFailure with its place in `nomeJson`.
+NotaDaJson LeggiNotaDaJson(const std::string& nomeJson, std::string_view json);
+
+// Makes those files and gives their names. All is read before anything is written. What is replaced
 // stays among the generations, a file that holds the same already is not touched.
 std::vector<std::string> ScriviDaJson(const WorkFolder& folder, const std::string& nomeJson,
                                       std::string_view json);

@@ -77,39 +77,37 @@ std::string ComeEra(const Json& nota, const FileDiNota& file, const std::string&
   }
 }
 
-struct FileDaScrivere {
-  std::string nome, bytes;
-};
-
-std::vector<FileDaScrivere> FileDelJson(std::string_view json) {
+NotaDaJson NotaDelJson(std::string_view json) {
   const Json nota = LeggiJson(json);
   EsigiFormato(nota);
   const std::string codice = CasoDi(nota);
-  std::vector<FileDaScrivere> tutti;
-  for (const FileDiNota& file : FileDellaNota(codice, InLire(nota))) {
+  NotaDaJson letta{{codice, InLire(nota)}, {}};
+  for (const FileDiNota& file : FileDellaNota(codice, letta.nota.lire)) {
     const auto valore = nota.find(file.chiave);
     if (valore == nota.end() && !file.sempre) continue;
     if (valore == nota.end()) throw RuntimeFailure("Manca questo campo.").AtField(file.chiave);
     const std::string bytes = ComeEra(nota, file, DaiCampi(file, *valore));
     if (bytes.size() > WorkFolder::kLargestFile)
       throw RuntimeFailure("I dati sono troppi per un file.").AtField(file.chiave);
-    tutti.push_back({file.nome, bytes});
+    letta.files.push_back({file.nome, bytes, file.sempre});
   }
-  return tutti;
+  return letta;
 }
 
 }  // namespace
 
-std::vector<std::string> ScriviDaJson(const WorkFolder& folder, const std::string& nomeJson,
-                                      std::string_view json) {
-  std::vector<FileDaScrivere> tutti;
+NotaDaJson LeggiNotaDaJson(const std::string& nomeJson, std::string_view json) {
   try {
-    tutti = FileDelJson(json);
+    return NotaDelJson(json);
   } catch (RuntimeFailure& failure) {
     throw failure.AtFile(nomeJson);
   }
+}
+
+std::vector<std::string> ScriviDaJson(const WorkFolder& folder, const std::string& nomeJson,
+                                      std::string_view json) {
   std::vector<std::string> nomi;
-  for (const FileDaScrivere& file : tutti) {
+  for (const FileDaJson& file : LeggiNotaDaJson(nomeJson, json).files) {
     if (!folder.Exists(file.nome) || folder.Read(file.nome) != file.bytes)
       folder.Replace(file.nome, file.bytes);
     nomi.push_back(file.nome);

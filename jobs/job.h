@@ -4,21 +4,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "interchange/report_facts.h"
 #include "runtime/dates.h"
 #include "runtime/folder.h"
 #include "tariff/files/case_files.h"
 
 namespace orm {
-
-// The net amount of a note, in its currency.
-struct Netto {
-  double importo = 0;
-  std::string testo;  // with its currency, as reports print it: "L. 1.000.000", "€ 516,46"
-  std::optional<double> euro;  // of a note in Lire
-};
 
 struct ParcellaDelLavoro {
   std::string codice;  // "PPE"
@@ -55,12 +48,6 @@ struct Lavoro {
 // Reads a job. A folder that cannot be listed is a RuntimeFailure; a file that cannot be read is
 // told in `danno`, or leaves what it would tell empty.
 Lavoro LeggiLavoro(const std::string& radice, const std::string& nome);
-
-// The net amount that a report states (bytes as they are in the file), nothing where it states
-// none. `lire`: in which currency the note is.
-std::optional<Netto> NettoDellaRelazione(std::string_view bytes, bool lire);
-// The day at the end of the final account, which a report without the professional's city lacks.
-std::optional<Date> GiornoDellaRelazione(std::string_view bytes);
 
 // True while a program works in the folder.
 bool InUso(const std::string& cartella);

@@ -4,7 +4,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
+#include "desktop/desk/note_arrival_work.h"
 #include "desktop/desk/programs.h"
 #include "desktop/desk/questions.h"
 #include "desktop/desk/window.h"
@@ -35,12 +37,13 @@ QString FreeName(DeskWindow& window, const QString& name) {
   return ToQt(NomeLibero(window.Jobs().Radice(), FromQt(name)));
 }
 
-// Does the work and shows the job that came of it.
-void Make(DeskWindow& window, const QString& failed, const QString& name,
+// Does the work and shows the job that came of it; false when it failed.
+bool Make(DeskWindow& window, const QString& failed, const QString& name,
           const std::function<void()>& work) {
-  if (!Try(&window, failed, work)) return window.Look();
+  const bool made = Try(&window, failed, work);
   window.Look();
-  window.GoTo(name);
+  if (made) window.GoTo(name);
+  return made;
 }
 
 // The model chosen, as long as there is that job; else the newest job.
@@ -53,7 +56,9 @@ QString ModelOf(DeskWindow& window) {
 
 }  // namespace
 
-void NewJob(DeskWindow& window) {
+void NewJob(DeskWindow& window) { MakeNewJob(window, {}); }
+
+bool MakeNewJob(DeskWindow& window, const QString& proposed) {
   const QString model = ModelOf(window);
   const QString from = model.isEmpty() ? QStringLiteral("dell'ultimo lavoro che li ha")
                                        : QStringLiteral("del lavoro \"%1\"").arg(model);
@@ -61,13 +66,13 @@ void NewJob(DeskWindow& window) {
       AskJobName(window, {QStringLiteral("Nuovo lavoro"),
                           {},
                           QStringLiteral("&Fai il lavoro"),
-                          {},
+                          proposed.isEmpty() ? QString() : FreeName(window, proposed),
                           window.Jobs().Voci().empty()
                               ? QString()
                               : QStringLiteral("Dati del professionista e criteri: %1.").arg(from),
                           {}});
-  if (!name) return;
-  Make(window, QStringLiteral("Il lavoro non è stato fatto."), *name, [&] {
+  if (!name) return false;
+  return Make(window, QStringLiteral("Il lavoro non è stato fatto."), *name, [&] {
     NuovoLavoro(window.Jobs().Radice(), FromQt(*name), FromQt(model), WorkFolder(InstalledFiles()));
   });
 }
@@ -196,6 +201,10 @@ void AskFiles(DeskWindow& window) {
 
 void TakeFiles(DeskWindow& window, const QStringList& paths) {
   const QFileInfo first(paths.first());
+  if (std::ranges::all_of(paths, [](const QString& path) {
+        return path.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive);
+      }))
+    return TakeNotes(window, paths);
   const bool zip = paths.size() == 1 && first.suffix().compare("zip", Qt::CaseInsensitive) == 0;
   const QString failed = zip ? QStringLiteral("L'archivio non è stato ripreso.")
                              : QStringLiteral("Il lavoro non è stato fatto.");

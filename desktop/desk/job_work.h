@@ -8,6 +8,8 @@ namespace orm {
 class DeskWindow;
 
 void NewJob(DeskWindow& window);
+// The same with a name to begin with; false when none was made.
+bool MakeNewJob(DeskWindow& window, const QString& proposed);
 void OpenJob(DeskWindow& window);
 void DuplicateJob(DeskWindow& window);
 void RenameJob(DeskWindow& window);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desktop/qt_text.h"
+#include "runtime/failure.h"
 
 namespace orm {
 JobsModel::JobsModel(const std::string& root) : jobs_(root) {}
@@ -80,19 +81,31 @@ int JobsModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : Columns;
 }
 
+// Its notes; of a folder that cannot be read nothing is known.
+QString JobsModel::HowMany(const VoceLavoro& job) const {
+  try {
+    return QString::number(jobs_.DettagliGiaVisti(job.nome).parcelle.size());
+  } catch (const RuntimeFailure&) {
+    return {};
+  }
+}
+
 QVariant JobsModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const VoceLavoro& job = jobs_.Voci()[rows_[static_cast<std::size_t>(index.row())]];
   if (role == Qt::ToolTipRole) return ToQt(jobs_.CartellaDi(job.nome));
+  if (role == Qt::TextAlignmentRole && index.column() == Notes) return Qt::AlignCenter;
   if (role != Qt::DisplayRole) return {};
   if (index.column() == Name) return ToQt(job.nome);
+  if (index.column() == Notes) return HowMany(job);
   return QDateTime::fromMSecsSinceEpoch(job.cambiato / kNanosecondsInMillisecond)
       .toString(QStringLiteral("dd/MM/yyyy"));
 }
 
 QVariant JobsModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return section == Name ? QStringLiteral("Lavoro") : QStringLiteral("Ultima modifica");
+  const QString captions[] = {"Lavoro", "Parcelle", "Ultima modifica"};
+  return captions[section];
 }
 
 }  // namespace orm

@@ -19,7 +19,7 @@ inline constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
 
 class JobsModel : public QAbstractTableModel {
  public:
-  enum Column { Name, Day, Columns };
+  enum Column { Name, Notes, Day, Columns };
 
   explicit JobsModel(const std::string& root);
 
@@ -49,8 +49,9 @@ class JobsModel : public QAbstractTableModel {
  private:
   void Fill();
   void Add(const std::string& name);
+  QString HowMany(const VoceLavoro& job) const;
 
-  Lavori jobs_;
+  mutable Lavori jobs_;  // reads a job when one of its cells is shown
   QString words_;
   std::vector<std::size_t> rows_;  // places among the jobs, in their order
   std::unique_ptr<Ricerca> search_;

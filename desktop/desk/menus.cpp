@@ -7,6 +7,7 @@
 #include <QToolBar>
 
 #include "desktop/desk/job_work.h"
+#include "desktop/desk/note_arrival_work.h"
 #include "desktop/desk/note_work.h"
 #include "desktop/desk/window.h"
 #include "desktop/icons.h"
@@ -45,12 +46,21 @@ const Row kJobRows[] = {
 
 const Row kNoteRows[] = {
     {"show", "&Mostra la relazione", "Ctrl+L", ShowReport, &DeskMenus::ofReport},
-    {"pdf", "&PDF...", "Ctrl+E", PdfOfOne, &DeskMenus::ofReport},
+    {"pdf", "&PDF...", "Ctrl+E", [](DeskWindow& window) { SaveCopy(window, CopyKind::Pdf); },
+     &DeskMenus::ofReport},
     {"allPdf", "PDF di &tutte...", "Ctrl+Shift+E", PdfOfAll},
     {nullptr},
     {"copy", "&Copia la parcella in un altro lavoro...", "Ctrl+Shift+C", CopyNote,
      &DeskMenus::ofNote},
-    {"versions", "&Versioni...", "Ctrl+Shift+V", ShowVersions, &DeskMenus::ofNote}};
+    {"versions", "&Versioni...", "Ctrl+Shift+V", ShowVersions, &DeskMenus::ofNote},
+    {nullptr},
+    {"json", "&JSON (per altri programmi)...", "Ctrl+J",
+     [](DeskWindow& window) { SaveCopy(window, CopyKind::Json); }, &DeskMenus::ofNote},
+    {"csv", "C&SV (tabella degli importi)...", "Ctrl+K",
+     [](DeskWindow& window) { SaveCopy(window, CopyKind::Csv); }, &DeskMenus::ofNote},
+    {"plainCsv", "CSV con vi&rgole e punto decimale...", "Ctrl+Shift+K",
+     [](DeskWindow& window) { SaveCopy(window, CopyKind::PlainCsv); }, &DeskMenus::ofNote},
+    {"fromJson", "Pre&ndi una parcella da JSON...", "Ctrl+Shift+J", AskNote}};
 
 const Row kFindRows[] = {
     {"find", "&Cerca in tutti i lavori", "Ctrl+F", [](DeskWindow& window) { window.Seek(); }},

@@ -18,21 +18,26 @@
 namespace orm {
 namespace {
 
-const QString kNotWritten = QStringLiteral("Il PDF non è stato scritto.");
-
 // The name tells the job, so that the notes of many lie in one folder.
-QString NameOfPdf(DeskWindow& window, int row) {
-  return QStringLiteral("%1 - %2.pdf").arg(window.Job(), ToQt(window.Contents().NameOf(row)));
+QString CopyName(DeskWindow& window, int row) {
+  return QStringLiteral("%1 - %2").arg(window.Job(), ToQt(window.Contents().NameOf(row)));
 }
 
-void WritePdf(DeskWindow& window, int row, const QString& path) {
+std::string CopyOfRow(DeskWindow& window, int row, CopyKind kind) {
+  const WorkFolder folder(window.Folder());
   const std::string file = window.Contents().FileAt(row);
   const ParcellaDelLavoro* note = window.Contents().NoteAt(row);
-  const FilePlace place = FilePlace::Of(WorkFolder(window.Folder()).PathOf(file));
-  const FilePlace copy = FilePlace::Of(FromQt(path));
-  RefuseSameFile(place, copy);
+  const std::string report = file.empty() ? std::string() : folder.Read(file);
+  if (IsOfTheNote(kind)) return CopyOfNote(kind, folder, {note->codice, note->lire}, report);
   const std::string title = note == nullptr || note->oggetto.empty() ? file : note->oggetto;
-  copy.Replace(CopyOf(CopyKind::Pdf, ToQt(DecodeText(place.Read()).text), ToQt(title)));
+  return CopyOf(kind, ToQt(DecodeText(report).text), ToQt(title));
+}
+
+void WriteCopy(DeskWindow& window, int row, CopyKind kind, const QString& path) {
+  const std::string file = window.Contents().FileAt(row);
+  const FilePlace copy = FilePlace::Of(FromQt(path));
+  RefuseSameFile(FilePlace::Of(WorkFolder(window.Folder()).PathOf(file)), copy);
+  copy.Replace(CopyOfRow(window, row, kind));
 }
 
 }  // namespace
@@ -50,15 +55,15 @@ void ShowReport(DeskWindow& window) {
          QStringLiteral("Il programma orm2002-visore non è accanto a orm2002-lavori."), kDeskName);
 }
 
-void PdfOfOne(DeskWindow& window) {
+void SaveCopy(DeskWindow& window, CopyKind kind) {
   const int row = window.Row();
-  NameQuestion question = NameOfCopy(CopyKind::Pdf, {});
-  question.name = NameOfPdf(window, row);
-  const QString path = AskFileName(&window, window.Settings().Folder(), question);
+  const QString path =
+      AskFileName(&window, window.Settings().Folder(), NameOfCopy(kind, CopyName(window, row)));
   if (path.isEmpty()) return;
   window.Settings().SetFolder(QFileInfo(path).absolutePath());
-  if (Try(&window, kNotWritten, [&] { WritePdf(window, row, path); }))
-    window.Say(QStringLiteral("PDF scritto: %1").arg(path));
+  if (Try(&window, QStringLiteral("Il file non è stato scritto."),
+          [&] { WriteCopy(window, row, kind, path); }))
+    window.Say(QStringLiteral("Scritto: %1").arg(path));
 }
 
 void PdfOfAll(DeskWindow& window) {
@@ -71,7 +76,7 @@ void PdfOfAll(DeskWindow& window) {
   for (int row = 0; row < window.Contents().rowCount(); ++row) {
     if (window.Contents().NoteAt(row) == nullptr || window.Contents().FileAt(row).empty()) continue;
     rows.push_back(row);
-    const QString name = NameOfPdf(window, row);
+    const QString name = CopyName(window, row) + ".pdf";
     if (QFileInfo::exists(folder + '/' + name)) there += name;
   }
   if (!there.isEmpty() &&
@@ -79,8 +84,9 @@ void PdfOfAll(DeskWindow& window) {
              there.join('\n'), {QStringLiteral("&Sostituisci"), QStringLiteral("&Annulla")}, 1,
              kDeskName) != 0)
     return;
-  const bool written = Try(&window, kNotWritten, [&] {
-    for (const int row : rows) WritePdf(window, row, folder + '/' + NameOfPdf(window, row));
+  const bool written = Try(&window, QStringLiteral("I PDF non sono stati scritti."), [&] {
+    for (const int row : rows)
+      WriteCopy(window, row, CopyKind::Pdf, folder + '/' + CopyName(window, row) + ".pdf");
   });
   if (written)
     window.Say((rows.size() == 1 ? QStringLiteral("Scritto %1 PDF in %2")

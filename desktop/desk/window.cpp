@@ -144,6 +144,7 @@ void DeskWindow::ShowModel() {
   jobsView_->setModel(jobs_.get());
   QHeaderView* header = jobsView_->horizontalHeader();
   header->setSectionResizeMode(JobsModel::Name, QHeaderView::Stretch);
+  header->resizeSection(JobsModel::Notes, CharactersWide(*jobsView_, 9));
   header->resizeSection(JobsModel::Day, CharactersWide(*jobsView_, 14));
   connect(jobsView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { ChooseRow(); });

@@ -1,4 +1,4 @@
-// PDF, ODT and UTF-8 copies of a report.
+// PDF, ODT and UTF-8 copies of a report, and its note for other programs.
 #include "desktop/export/export.h"
 
 #include <QBuffer>
@@ -7,6 +7,8 @@
 
 #include "desktop/export/odt.h"
 #include "desktop/export/pages.h"
+#include "interchange/interchange.h"
+#include "interchange/report_facts.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -14,7 +16,17 @@ namespace orm {
 std::string CopyOf(CopyKind kind, const QString& text, const QString& title,
                    const ReportNotes& notes) {
   if (kind == CopyKind::Pdf) return PdfOf(text, title, notes);
-  return kind == CopyKind::Odt ? OdtOf(text) : Utf8Of(text);
+  return kind == CopyKind::Odt ? OdtOf(text, title) : Utf8Of(text);
+}
+
+bool IsOfTheNote(CopyKind kind) { return kind >= CopyKind::Json; }
+
+std::string CopyOfNote(CopyKind kind, const WorkFolder& folder, const NotaDiCaso& note,
+                       std::string_view report) {
+  const Date day = GiornoDellaRelazione(report).value_or(SystemDate());
+  if (kind == CopyKind::Json) return ParcellaInJson(folder, note.codice, note.lire, day);
+  const MarchiCsv marks = kind == CopyKind::Csv ? MarchiCsv::Italiani : MarchiCsv::Semplici;
+  return ParcellaInCsv(folder, note.codice, note.lire, marks, day);
 }
 
 std::string PdfOf(const QString& text, const QString& title, const ReportNotes& notes) {
@@ -28,6 +40,7 @@ std::string PdfOf(const QString& text, const QString& title, const ReportNotes& 
     QPdfWriter writer(&buffer);
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("ORM2002"));
+    writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
     writer.setResolution(600);
     ReportPages::PrepareA4(writer);
     const ReportPages pages(text, writer, notes);
@@ -37,8 +50,8 @@ std::string PdfOf(const QString& text, const QString& title, const ReportNotes& 
   return bytes.toStdString();
 }
 
-std::string OdtOf(const QString& text) {
-  return OdtOf(VisibleLines(text), ReportFont(11).family());
+std::string OdtOf(const QString& text, const QString& title) {
+  return OdtOf(VisibleLines(text), title, ReportFont(11).family());
 }
 
 std::string Utf8Of(const QString& text) {

@@ -1,6 +1,7 @@
 // The parts of a text document: its text, its page and its list of contents.
 #include "desktop/export/odt.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "desktop/export/pages.h"
@@ -29,12 +30,18 @@ constexpr const char* kManifest =
     " manifest:media-type=\"application/vnd.oasis.opendocument.text\"/>"
     "<manifest:file-entry manifest:full-path=\"content.xml\" manifest:media-type=\"text/xml\"/>"
     "<manifest:file-entry manifest:full-path=\"styles.xml\" manifest:media-type=\"text/xml\"/>"
+    "<manifest:file-entry manifest:full-path=\"meta.xml\" manifest:media-type=\"text/xml\"/>"
     "</manifest:manifest>\n";
 
-// A paragraph swallows blanks at its start and behind another blank: those are counted in an
-// element.
+// A line is a paragraph; a section's title is a heading, by which programs that read aloud and
+// lists of contents find their way. A paragraph swallows blanks at its start and behind another
+// blank: those are counted in an element.
 QString Paragraph(const QString& line) {
-  QString out = QStringLiteral("<text:p text:style-name=\"Standard\">");
+  static const QRegularExpression title(QStringLiteral("^=+ .*[^ =].* =+$"));
+  const bool heading = title.match(line).hasMatch();
+  QString out = heading
+                    ? QStringLiteral("<text:h text:style-name=\"Title\" text:outline-level=\"1\">")
+                    : QStringLiteral("<text:p text:style-name=\"Standard\">");
   for (qsizetype i = 0; i < line.size();) {
     qsizetype blanks = 0;
     while (i < line.size() && line[i] == ' ') ++blanks, ++i;
@@ -42,7 +49,7 @@ QString Paragraph(const QString& line) {
     if (blanks > 0) out += QStringLiteral("<text:s text:c=\"%1\"/>").arg(blanks);
     if (i < line.size()) out += QString(line[i++]).toHtmlEscaped();
   }
-  return out + QStringLiteral("</text:p>\n");
+  return out + (heading ? QStringLiteral("</text:h>\n") : QStringLiteral("</text:p>\n"));
 }
 
 QString Content(const QStringList& lines) {
@@ -70,6 +77,9 @@ QString Styles(int columns, const QString& fontFamily) {
              " style:class=\"text\"><style:paragraph-properties fo:margin-top=\"0mm\""
              " fo:margin-bottom=\"0mm\"/><style:text-properties style:font-name=\"Report\""
              " fo:font-size=\"%3pt\" fo:language=\"it\" fo:country=\"IT\"/></style:style>"
+             "<style:style style:name=\"Title\" style:family=\"paragraph\""
+             " style:parent-style-name=\"Standard\" style:default-outline-level=\"1\">"
+             "<style:paragraph-properties fo:keep-with-next=\"always\"/></style:style>"
              "</office:styles><office:automatic-styles><style:page-layout style:name=\"A4\">"
              "<style:page-layout-properties fo:page-width=\"210mm\" fo:page-height=\"297mm\""
              " style:print-orientation=\"portrait\" fo:margin-top=\"18mm\""
@@ -80,13 +90,22 @@ QString Styles(int columns, const QString& fontFamily) {
       .arg(QString::fromLatin1(kNamespaces), fontFamily.toHtmlEscaped(), PointSize(columns));
 }
 
+QString Meta(const QString& title) {
+  return QStringLiteral(
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<office:document-meta"
+             " xmlns:dc=\"http://purl.org/dc/elements/1.1/\"%1><office:meta><dc:title>%2</dc:title>"
+             "<dc:language>it-IT</dc:language></office:meta></office:document-meta>\n")
+      .arg(QString::fromLatin1(kNamespaces), title.toHtmlEscaped());
+}
+
 }  // namespace
 
-std::string OdtOf(const QStringList& lines, const QString& fontFamily) {
+std::string OdtOf(const QStringList& lines, const QString& title, const QString& fontFamily) {
   ZipArchive archive;
   archive.Add("mimetype", kMimeType);  // first, as readers look for it there
   archive.Add("content.xml", Content(lines).toStdString());
   archive.Add("styles.xml", Styles(PaperColumns(lines), fontFamily).toStdString());
+  archive.Add("meta.xml", Meta(title).toStdString());
   archive.Add("META-INF/manifest.xml", kManifest);
   return archive.Finish();
 }

@@ -6,7 +6,8 @@
 
 namespace orm {
 
-// The bytes of the document; one paragraph for each line, its blanks kept.
-std::string OdtOf(const QStringList& lines, const QString& fontFamily);
+// The bytes of the document; one paragraph for each line, its blanks kept, a heading for each title
+// of a section.
+std::string OdtOf(const QStringList& lines, const QString& title, const QString& fontFamily);
 
 }  // namespace orm

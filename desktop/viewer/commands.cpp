@@ -40,7 +40,7 @@ void OnToolBar(QToolBar* bar, QAction* action, LineIcon icon, const QString& cap
   bar->addAction(action);
 }
 
-void CopyMenu(QMenu* file, ViewerWindow& window) {
+void CopyMenu(QMenu* file, ViewerWindow& window, ViewerCommands& commands) {
   QMenu* copies = file->addMenu(QStringLiteral("Salva &copia come"));
   Command(copies, "copyPdf", QStringLiteral("&PDF..."), {},
           [&window] { window.AskCopy(CopyKind::Pdf); });
@@ -50,6 +50,14 @@ void CopyMenu(QMenu* file, ViewerWindow& window) {
           [&window] { window.AskCopy(CopyKind::Odt); });
   Command(copies, "copyUtf8", QStringLiteral("&Testo UTF-8..."), {},
           [&window] { window.AskCopy(CopyKind::Utf8); });
+  copies->addSeparator();
+  commands.ofNote = {
+      Command(copies, "copyJson", QStringLiteral("&JSON (la parcella per altri programmi)..."), {},
+              [&window] { window.AskCopy(CopyKind::Json); }),
+      Command(copies, "copyCsv", QStringLiteral("&CSV (tabella degli importi)..."), {},
+              [&window] { window.AskCopy(CopyKind::Csv); }),
+      Command(copies, "copyPlainCsv", QStringLiteral("CS&V con virgole e punto decimale..."), {},
+              [&window] { window.AskCopy(CopyKind::PlainCsv); })};
 }
 
 void RecentMenu(QMenu* file, ViewerWindow& window) {
@@ -83,7 +91,7 @@ void FileMenu(QToolBar* bar, ViewerWindow& window, ViewerCommands& commands) {
                           [&window] { window.Save(); });
   Command(file, "saveAs", QStringLiteral("Salva con &nome..."),
           {QKeySequence(QStringLiteral("Ctrl+Shift+S"))}, [&window] { window.AskSaveAs(); });
-  CopyMenu(file, window);
+  CopyMenu(file, window, commands);
   QAction* reload = Command(file, "reload", QStringLiteral("&Ricarica"), {Qt::Key_F5},
                             [&window] { window.AskReload(); });
   file->addSeparator();

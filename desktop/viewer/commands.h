@@ -1,6 +1,8 @@
 // The commands of the viewer: menus, tool bar and keys over the methods of its window.
 #pragma once
 
+#include <vector>
+
 class QAction;
 class QMenu;
 
@@ -19,6 +21,7 @@ struct ViewerCommands {
   QAction* sections = nullptr;
   QAction* fit = nullptr;
   QAction* explanations = nullptr;
+  std::vector<QAction*> ofNote;  // there for the report of a note alone
 };
 
 // Builds menus and tool bar into the window, which lives at least as long.

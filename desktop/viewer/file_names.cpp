@@ -2,6 +2,7 @@
 #include "desktop/viewer/file_names.h"
 
 #include <QFileDialog>
+#include <map>
 
 namespace orm {
 
@@ -37,27 +38,15 @@ QString AskFileToOpen(QWidget* parent, const QString& folder) {
 }
 
 NameQuestion NameOfCopy(CopyKind kind, const QString& name) {
-  NameQuestion question;
-  switch (kind) {
-    case CopyKind::Pdf:
-      question = {QStringLiteral("Esporta PDF"),
-                  QStringLiteral("Documento PDF (*.pdf)"),
-                  QStringLiteral("pdf"),
-                  {}};
-      break;
-    case CopyKind::Odt:
-      question = {QStringLiteral("Salva copia ODT"),
-                  QStringLiteral("Documento di testo ODT (*.odt)"),
-                  QStringLiteral("odt"),
-                  {}};
-      break;
-    case CopyKind::Utf8:
-      question = {QStringLiteral("Salva copia UTF-8"),
-                  QStringLiteral("Testo (*.txt)"),
-                  QStringLiteral("txt"),
-                  {}};
-      break;
-  }
+  static const std::map<CopyKind, NameQuestion> questions = {
+      {CopyKind::Pdf, {"Esporta PDF", "Documento PDF (*.pdf)", "pdf", {}}},
+      {CopyKind::Odt, {"Salva copia ODT", "Documento di testo ODT (*.odt)", "odt", {}}},
+      {CopyKind::Utf8, {"Salva copia UTF-8", "Testo (*.txt)", "txt", {}}},
+      {CopyKind::Json, {"Salva la parcella in JSON", "Parcella in JSON (*.json)", "json", {}}},
+      {CopyKind::Csv, {"Salva gli importi in CSV", "Tabella CSV (*.csv)", "csv", {}}},
+      {CopyKind::PlainCsv,
+       {"Salva gli importi in CSV semplice", "Tabella CSV (*.csv)", "csv", {}}}};
+  NameQuestion question = questions.at(kind);
   question.name = name + '.' + question.suffix;
   return question;
 }

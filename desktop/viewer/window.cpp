@@ -158,6 +158,8 @@ void ViewerWindow::ShowState() {
   setWindowModified(modified);
   commands_.save->setEnabled(modified);
   commands_.edit->setEnabled(editable_);
+  for (QAction* command : commands_.ofNote)
+    command->setEnabled(NotaDelReport(place_.name).has_value());
   commands_.edit->setChecked(Editing());
   commands_.cut->setEnabled(Editing());
   commands_.paste->setEnabled(Editing());

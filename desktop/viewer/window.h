@@ -108,6 +108,7 @@ class ViewerWindow : public QMainWindow {
   bool MayLeave();
   bool WriteTo(const FilePlace& place);
   bool RefusedForEncoding();
+  void TellHowCopyDiffers();
   void LookAtDisk();
   void ShowState();
   QString Title() const { return QString::fromStdString(place_.name); }

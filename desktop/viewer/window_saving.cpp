@@ -3,6 +3,7 @@
 #include <QStatusBar>
 
 #include "desktop/export/subject.h"
+#include "desktop/qt_text.h"
 #include "desktop/viewer/messages.h"
 #include "desktop/viewer/parts/notice.h"
 #include "desktop/viewer/parts/page.h"
@@ -82,8 +83,13 @@ bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path, bool explain
   try {
     const FilePlace copy = FilePlace::Of(path);
     RefuseSameFile(place_, copy);
-    const PrintedReport report = Printed(explained);
-    copy.Replace(CopyOf(kind, report.text, report.title, report.notes));
+    if (IsOfTheNote(kind)) {
+      copy.Replace(CopyOfNote(kind, place_.folder, NotaDelReport(place_.name).value(),
+                              FromQt(page_->Visible())));
+    } else {
+      const PrintedReport report = Printed(explained);
+      copy.Replace(CopyOf(kind, report.text, report.title, report.notes));
+    }
   } catch (const RuntimeFailure& failure) {
     Tell(this, QMessageBox::Warning, QStringLiteral("La copia non è stata salvata."),
          QString::fromStdString(failure.Text()));
@@ -91,7 +97,20 @@ bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path, bool explain
   }
   statusBar()->showMessage(QStringLiteral("Copia salvata: ") + QString::fromStdString(path),
                            kStatusMilliseconds);
+  if (IsOfTheNote(kind)) TellHowCopyDiffers();
   return true;
+}
+
+// A copy of the note comes from its data, not from the page.
+void ViewerWindow::TellHowCopyDiffers() {
+  ExplainEdits();
+  const bool changed = explained_.esito == ReportSpiegato::Esito::DatiCambiati;
+  if (changed || explained_.esito == ReportSpiegato::Esito::InParte)
+    Tell(this, QMessageBox::Information, QStringLiteral("La copia non è uguale alla pagina."),
+         changed ? QStringLiteral("Viene dai dati della parcella, che sono cambiati dopo questo "
+                                  "calcolo.")
+                 : QStringLiteral("Viene dai dati della parcella: le correzioni fatte a mano nella "
+                                  "pagina non vi sono."));
 }
 
 bool ViewerWindow::AskSaveAs() {

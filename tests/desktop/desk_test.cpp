@@ -13,8 +13,11 @@
 #include "desktop/desk/window.h"
 #include "desktop/meeting.h"
 #include "desktop/qt_text.h"
+#include "interchange/interchange.h"
 #include "runtime/folder_lock.h"
+#include "script/script_player.h"
 #include "tests/desktop/test_player.h"
+#include "tests/stage/desktop_stage.h"
 
 namespace orm {
 namespace {
@@ -66,6 +69,14 @@ class Desk : public testing::Test {
     Key(key, with);
   }
   void NewJob(const QString& name) { KeyAndName(Qt::Key_N, kCtrl, name); }
+  // What is done in orm2002's own windows with the keyboard alone, in the folder of a job.
+  void Work(const QString& job, const char* script) {
+    DesktopStageOptions keys;
+    keys.hand = Hand::Keys;
+    ScriptPlayer person(ParseScript(script), kReports, Job(job), {});
+    const auto fault = person.Play(DesktopStage(keys));
+    EXPECT_FALSE(fault) << fault->line << ": " << fault->text;
+  }
   // A note as the forms write it, with its report.
   void WriteNote(const QString& job, const std::string& ending = "") {
     const std::string of = "PPE" + ending + ".DAP";
@@ -101,27 +112,52 @@ class Desk : public testing::Test {
   QObject here;
 };
 
-// Two jobs, a note in each; one is spoiled and brought back, the other found by its client, and
-// both go as PDF into one folder.
+constexpr const char* kRoad = R"(
+menu PERS_UTENTE dialog frmPER_Utente set casellatesto1 "Mario Rossi"
+  set Casellatesto2 "Via Indipendenza 7" casellatesto3 88100 casellatesto4 "Catanzaro "
+  set casellatesto5 CZ casellatesto6 "0961 1" casellatesto7 "0961 2"
+  set casellatesto8 rossi@posta.example casellatesto9 RSSMRA60A01C352X
+  set casellatesto10 01234567890 casellatesto11 Catanzaro casellatesto12 1234
+  set casellatesto13 01/02/1990 press Command1
+menu PARCELLE_PPE_ID dialog frmGEN_Intestazione set txtCommittente "Provincia di Catanzaro"
+  set txtIncarico "Strada \"Serre\", tronco 2°\nlotto unico"
+  set txtDocumenti "Delibera n. 7 del 2001" press Command1
+dialog frmPPE_Dati set ciPP(0) 2 ciPP(1) 5 ciVC(0) 3 ciVC(1) 1 ciFrazionamenti 1 press cmdESCI
+dialog frmGEN_Acconti set ciAccontiRicevuti 1.000.000 cdPercentualeRiduzione 20 press OK
+menu PARCELLE_PPE_VS dialog frmPER_Criteri press btnOK
+compare UTENTE.DAG INT_PPE.DAP INP_PPE.DAP OUT_PPE.DOC with lire.DOC
+starts orm2002-visore OUT_PPE.DOC)";
+constexpr const char* kBridge = R"(
+copy euro_CRITERI.PER as CRITERI.PER
+menu PARCELLE_PPE_E_ID dialog frmGEN_Intestazione set txtCommittente "Società Ponti"
+  set txtNote "Importi in €" press Command1
+dialog frmPPE_Dati set ciPP(0) 2 ciPP(1) 3 ciVC(1) 1 press cmdESCI
+dialog frmGEN_Acconti set cdAccontiRicevuti 100,50 optRiduzione1 on cdPercentualeRiduzione 7,5
+  set optApplicazione(2) on press OK)";
+constexpr const char* kBridgeReport = R"(
+menu PARCELLE_PPE_E_VS dialog frmPER_Criteri press btnOK
+compare OUT_PPE_E.DOC with euro.DOC starts orm2002-visore OUT_PPE_E.DOC)";
+constexpr const char* kSpoiled = R"(
+menu PARCELLE_PPE_E_ID dialog frmGEN_Intestazione set txtCommittente "Altri" press Command1
+dialog frmGEN_NuovoCaso press cmdNuova dialog frmPPE_Dati set ciPP(0) 9 press cmdESCI
+dialog frmGEN_Acconti press OK)";
+
+// Two jobs, a note entered and calculated in each; one is spoiled and brought back, the other found
+// by its client, and both go as PDF into one folder.
 TEST_F(Desk, AFirstDayOfWork) {
   ASSERT_EQ(window->focusWidget()->objectName(), "firstJob");
-  KeyAndName(Qt::Key_Space, {}, "Scuola Rossi");
-  EXPECT_TRUE(Job("Scuola Rossi").Exists("TUS.CFG"));
-  Job("Scuola Rossi").Replace("UTENTE.DAG", kSample.Read("UTENTE.DAG"));
+  KeyAndName(Qt::Key_Space, {}, "Strada");
+  EXPECT_TRUE(Job("Strada").Exists("TUS.CFG"));
+  Work("Strada", kRoad);
   NewJob("Ponte");
-  EXPECT_EQ(Job("Ponte").Read("UTENTE.DAG"), kSample.Read("UTENTE.DAG"));
-  WriteNote("Scuola Rossi");
-  WriteNote("Ponte", "_E");
+  EXPECT_EQ(Job("Ponte").Read("UTENTE.DAG"), Job("Strada").Read("UTENTE.DAG"));
+  Work("Ponte", kBridge);
+  Work("Ponte", kBridgeReport);
   EXPECT_EQ(window->Job(), "Ponte");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(0, 1) == "€"; }));  // the watch has seen it
-  EXPECT_EQ(Cell(0, 2), "Società Ponti S.p.A.");
-  EXPECT_EQ(Cell(0, 5), "15/03/2002");
-  EXPECT_EQ(Cell(0, 6), "€ 195,69");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(0, 4) == "dati, relazione"; }));  // it watches
+  EXPECT_EQ(Cell(0, 1) + Cell(0, 2) + Cell(0, 5) + Cell(0, 6), "€Società Ponti15/03/2002€ 195,69");
 
-  const std::string header = Job("Ponte").Read("INT_PPE_E.DAP"),
-                    data = Job("Ponte").Read("INP_PPE_E.DAP");
-  Job("Ponte").Replace("INT_PPE_E.DAP", kSample.Read("INT_PPE.DAP"));  // "NUOVA PARCELLA"
-  Job("Ponte").Replace("INP_PPE_E.DAP", kSample.Read("INP_PPE.DAP"));
+  Work("Ponte", kSpoiled);
   QTimer::singleShot(100, &here, [] {
     QWidget* versions = QApplication::activeModalWidget();
     QTest::qWait(50);
@@ -134,10 +170,10 @@ TEST_F(Desk, AFirstDayOfWork) {
     QTest::keyClick(versions, Qt::Key_Escape);
   });
   Key(Qt::Key_V, kBoth);
-  EXPECT_EQ(Job("Ponte").Read("INT_PPE_E.DAP"), header);
-  EXPECT_EQ(Job("Ponte").Read("INP_PPE_E.DAP"), data);
+  EXPECT_EQ(Cell(0, 2) + Cell(0, 4), "Società Pontidati, relazione vecchia");
+  Work("Ponte", kBridgeReport);
 
-  for (const char* words : {"provincia catanzaro", "s.p.a. ponti"}) {
+  for (const char* words : {"provincia catanzaro", "ponti societa"}) {
     Key(Qt::Key_F, kCtrl);
     QTest::keyClicks(window->focusWidget(), words);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Names().size() == 1; }));
@@ -146,7 +182,7 @@ TEST_F(Desk, AFirstDayOfWork) {
     Key(Qt::Key_E, kBoth);
   }
   EXPECT_EQ(QDir(Out()).entryList(QDir::Files).join(", "),
-            "Ponte - PPE Euro.pdf, Scuola Rossi - PPE.pdf");
+            "Ponte - PPE Euro.pdf, Strada - PPE.pdf");
 }
 
 TEST_F(Desk, CommandsOnJobs) {
@@ -193,6 +229,56 @@ TEST_F(Desk, FilesDroppedBecomeAJob) {
         QUrl::fromLocalFile(ToQt(kSample.PathOf("INP_PPE.DAP")))});
   EXPECT_TRUE(QTest::qWaitFor([&] { return window->Job() == "Vecchi dati"; }));
   EXPECT_EQ(Cell(0, 4), "dati");
+}
+
+// A note for other programs, and back: dropped on an empty desk, on a job without it, on one that
+// has another. The job keeps its own data of the professional unless it is told otherwise.
+TEST_F(Desk, NotesGoToOtherProgramsAndComeBack) {
+  const WorkFolder out(FromQt(Out()));
+  const std::string json = ParcellaInJson(kSample, "PPE", true, {2026, 11, 22}),
+                    own = kSample.Read("UTENTE.DAG"), data = kSample.Read("INP_PPE.DAP");
+  out.Replace("Strada.json", json);
+  const QList<QUrl> dropped = {QUrl::fromLocalFile(Out() + "/Strada.json")};
+  Answer("");  // the name that it proposes
+  Drop(dropped);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window->Job() == "Strada" && Cell(0, 4) == "dati"; }));
+  EXPECT_EQ(Job("Strada").Read("INP_PPE.DAP") + Job("Strada").Read("UTENTE.DAG"), data + own);
+
+  WriteNote("Strada");  // its report is of 15/03/2002
+  window->Look();
+  const std::tuple<int, Qt::KeyboardModifiers, const char*, const char*> copies[] = {
+      {Qt::Key_J, kCtrl, "/a.json", "\"data\": \"2002-03-15\""},
+      {Qt::Key_K, kCtrl, "/a.csv", ";2587000;ITL;"},
+      {Qt::Key_K, kBoth, "/b.csv", ",2587000,ITL,"}};
+  for (const auto& [key, with, name, text] : copies) {
+    Person person(0, Out() + name);
+    Key(key, with);
+    EXPECT_NE(out.Read(name + 1).find(text), std::string::npos) << name;
+  }
+
+  NewJob("Altro");
+  Job("Altro").Replace("UTENTE.DAG", "\"Altri\"\r\n" + own.substr(own.find('\n') + 1));
+  const std::string others = Job("Altro").Read("UTENTE.DAG");
+  const auto take = [&](const QString& button) {
+    Person person{button};
+    Drop(dropped);
+    QTest::qWait(150);
+  };
+  take("");  // here, and the job's own professional
+  EXPECT_EQ(Job("Altro").Read("INP_PPE.DAP") + Job("Altro").Read("UTENTE.DAG"), data + others);
+  Job("Altro").Replace("INP_PPE.DAP", "altro");
+  take("");  // nothing is replaced unasked
+  EXPECT_EQ(Job("Altro").Read("INP_PPE.DAP"), "altro");
+  Job("Altro").Replace("UTENTE.DAG", own);
+  {
+    Person chooser(0, Out() + "/a.json", "Sostituisci");
+    Key(Qt::Key_J, kBoth);
+  }
+  EXPECT_EQ(Job("Altro").Read("INP_PPE.DAP"), data);
+  out.Replace("Strada.json", "{}");
+  Person person{"Chiudi"};
+  Drop(dropped);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return person.Said().contains("Strada.json"); }));
 }
 
 // What others do in the folders is seen, and the choice stays.

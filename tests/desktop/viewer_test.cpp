@@ -554,10 +554,14 @@ TEST(ViewerZip, ChecksumIsTheCommonOne) {
 }
 
 TEST_F(ViewerTest, OdtHoldsEveryLineWithItsBlanks) {
-  const std::string odt = OdtOf(QString("  a   b <c> & d\n\nfine"));
+  const std::string odt =
+      OdtOf(QString("  a   b <c> & d\n=== A B ===\n======\nfine"), "Strada & C.");
   EXPECT_EQ(odt.substr(30, 8), "mimetype");
   EXPECT_NE(odt.find("<text:s text:c=\"2\"/>a <text:s text:c=\"2\"/>b &lt;c&gt; &amp; d<"),
             std::string::npos);
+  EXPECT_NE(odt.find("outline-level=\"1\">=== A B ===</text:h>"), std::string::npos);
+  EXPECT_NE(odt.find("\"Standard\">======</text:p>"), std::string::npos);
+  EXPECT_NE(odt.find("<dc:title>Strada &amp; C.</dc:title>"), std::string::npos);
   EXPECT_NE(odt.find("fo:page-width=\"210mm\""), std::string::npos);
   WorkFolder(folder_.path().toStdString()).Replace("a.odt", odt);
   QProcess unzip;

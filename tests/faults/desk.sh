@@ -11,8 +11,16 @@ for name in INT INP; do
   sed 's/[12]/3/' "$old/Uno/${name}_PPE.DAP" >"$old/Uno/storico/${name}_PPE.2001-01-01_080000.DAP"
   sed 's/[12]/4/' "$old/Uno/${name}_PPE.DAP" >"$old/Due/${name}_PPE.DAP"
 done
-for what in nuovo copia riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
+for what in nuovo copia json riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
 "$desk" "$old" archivia
 loop "lavori, riprende" "$desk" "$at" riprende
+
+# The same in the window of the desk, of each call the first.
+if [ -n "$desktop" ]; then
+  most=1
+  "$calcolo" PPE --cartella "$old/Uno" --data 15/03/2002 >/dev/null
+  "$calcolo" PPE --json --cartella "$old/Due" >"$old/Uno.json"
+  for what in nuovo prende versione json; do loop "scrivania, $what" "$desktop" "$at" $what; done
+fi
 
 finish_loops

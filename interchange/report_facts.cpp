@@ -1,8 +1,8 @@
-// What a report states of its note, read from its text: the line of the net amount and the day.
+#include "interchange/report_facts.h"
+
 #include <algorithm>
 #include <cstdint>
 
-#include "jobs/job.h"
 #include "runtime/numbers.h"
 #include "tariff/report.h"
 
