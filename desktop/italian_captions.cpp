@@ -15,9 +15,10 @@ struct Caption {
   std::string_view english, italian;
 };
 
-// What Qt's own Italian lacks: captions of the print dialog.
+// What Qt's own Italian lacks: captions of the print dialog and of the choice of files.
 constexpr auto kCaptions = std::to_array<Caption>({
     {"Advanced", "Avanzate"},
+    {"Folder", "Cartella"},
     {"Double Sided Printing", "Stampa fronte e retro"},
     {"Off", "No"},
     {"Long side binding", "Rilegatura sul lato lungo"},

@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "desktop/desk/note_arrival_work.h"
-#include "desktop/desk/programs.h"
 #include "desktop/desk/questions.h"
 #include "desktop/desk/window.h"
 #include "desktop/desktop_app.h"
@@ -79,7 +78,7 @@ bool MakeNewJob(DeskWindow& window, const QString& proposed) {
 
 void OpenJob(DeskWindow& window) {
   if (window.Job().isEmpty()) return;
-  switch (OpenIn(ToQt(window.Folder()))) {
+  switch (OpenIn(ToQt(window.Folder()), window.start)) {
     case Opened::Started:
       return window.Say(QStringLiteral("Apro ORM2002 in \"%1\"...").arg(window.Job()));
     case Opened::BroughtForward:
@@ -185,7 +184,7 @@ void AskRoot(DeskWindow& window) {
 }
 
 void ShowHelp(DeskWindow& window) {
-  if (!StartProgram(QStringLiteral("orm2002-guida"), {QStringLiteral("manuale/lavori.md")}, {}))
+  if (!window.start(QStringLiteral("orm2002-guida"), {QStringLiteral("manuale/lavori.md")}, {}))
     window.Say(
         QStringLiteral("La guida non si può aprire: orm2002-guida non è accanto al programma."));
 }

@@ -3,7 +3,6 @@
 #include <QFileInfo>
 
 #include "desktop/desk/contents_model.h"
-#include "desktop/desk/programs.h"
 #include "desktop/desk/questions.h"
 #include "desktop/desk/versions_window.h"
 #include "desktop/desk/window.h"
@@ -40,6 +39,17 @@ void WriteCopy(DeskWindow& window, int row, CopyKind kind, const QString& path) 
   copy.Replace(CopyOfRow(window, row, kind));
 }
 
+// What the person should know who gives these PDFs away; empty where they are up to date.
+QString OldOnes(DeskWindow& window, const std::vector<int>& rows) {
+  QStringList old;
+  for (const int row : rows) {
+    const ParcellaDelLavoro* note = window.Contents().NoteAt(row);
+    if (note != nullptr && note->vecchia) old += ToQt(window.Contents().NameOf(row));
+  }
+  return old.isEmpty() ? QString()
+                       : QStringLiteral(". Prima dell'ultima modifica dei dati: ") + old.join(", ");
+}
+
 }  // namespace
 
 void ShowReport(DeskWindow& window) {
@@ -50,7 +60,7 @@ void ShowReport(DeskWindow& window) {
     return window.Say(QStringLiteral(
         "Di questa parcella non c'è ancora la relazione: la scrive \"Calcolo\" in ORM2002."));
   const QString folder = ToQt(window.Folder());
-  if (!StartProgram(QStringLiteral("orm2002-visore"), {folder + '/' + ToQt(file)}, folder))
+  if (!window.start(QStringLiteral("orm2002-visore"), {folder + '/' + ToQt(file)}, folder))
     Tell(&window, QMessageBox::Warning, QStringLiteral("Il visore non si può far partire."),
          QStringLiteral("Il programma orm2002-visore non è accanto a orm2002-lavori."), kDeskName);
 }
@@ -63,7 +73,8 @@ void SaveCopy(DeskWindow& window, CopyKind kind) {
   window.Settings().SetFolder(QFileInfo(path).absolutePath());
   if (Try(&window, QStringLiteral("Il file non è stato scritto."),
           [&] { WriteCopy(window, row, kind, path); }))
-    window.Say(QStringLiteral("Scritto: %1").arg(path));
+    window.Say(QStringLiteral("Scritto: %1").arg(path) +
+               (kind == CopyKind::Pdf ? OldOnes(window, {row}) : QString()));
 }
 
 void PdfOfAll(DeskWindow& window) {
@@ -92,7 +103,8 @@ void PdfOfAll(DeskWindow& window) {
     window.Say((rows.size() == 1 ? QStringLiteral("Scritto %1 PDF in %2")
                                  : QStringLiteral("Scritti %1 PDF in %2"))
                    .arg(rows.size())
-                   .arg(folder));
+                   .arg(folder) +
+               OldOnes(window, rows));
 }
 
 void CopyNote(DeskWindow& window) {

@@ -14,10 +14,10 @@ bool StartProgram(const QString& name, const QStringList& arguments, const QStri
                                  folder);
 }
 
-Opened OpenIn(const QString& folder) {
+Opened OpenIn(const QString& folder, const ProgramStart& start) {
   if (InUso(FromQt(folder)))
     return HandOver(MeetingPlaceOfFolder(folder)) ? Opened::BroughtForward : Opened::InUse;
-  return StartProgram(QStringLiteral("orm2002"), {}, folder) ? Opened::Started : Opened::Failed;
+  return start(QStringLiteral("orm2002"), {}, folder) ? Opened::Started : Opened::Failed;
 }
 
 }  // namespace orm

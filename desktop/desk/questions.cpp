@@ -13,6 +13,7 @@
 #include "desktop/desk/desk_view.h"
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
+#include "desktop/viewer/file_names.h"
 #include "desktop/viewer/messages.h"
 #include "jobs/job_search.h"
 #include "runtime/failure.h"
@@ -32,13 +33,6 @@ QPushButton* AddButtons(QDialog& dialog, const QString& accept) {
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
   dialog.layout()->addWidget(buttons);
   return button;
-}
-
-QStringList Chosen(QFileDialog& dialog) {
-  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Scegli"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
 }  // namespace
@@ -119,14 +113,14 @@ QString AskFolder(QWidget* parent, const QString& title, const QString& start) {
   QFileDialog dialog(parent, title, start);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  return Chosen(dialog).value(0);
+  return ChosenIn(dialog, QStringLiteral("&Scegli")).value(0);
 }
 
 QStringList AskFilesOf(QWidget* parent, const QString& title, const QString& start,
                        const QString& filter, bool several) {
   QFileDialog dialog(parent, title, start, filter);
   dialog.setFileMode(several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-  return Chosen(dialog);
+  return ChosenIn(dialog, QStringLiteral("&Scegli"));
 }
 
 bool Try(QWidget* parent, const QString& failed, const std::function<void()>& work) {

@@ -98,11 +98,13 @@ QWidget* DeskWindow::ContentsSide() {
   DressDeskTable(*contentsView_, "contents", QStringLiteral("Parcelle e testi del lavoro"));
   contentsView_->setModel(contents_);
   QHeaderView* header = contentsView_->horizontalHeader();
-  header->setSectionResizeMode(ContentsModel::Subject, QHeaderView::Stretch);
   header->setMinimumSectionSize(CharactersWide(*contentsView_, 6));
-  const int widths[] = {24, 7, 18, 0, 17, 11, 14};  // characters
+  const int widths[] = {0, 7, 0, 0, 20, 11, 14};  // characters; 0: a share of what is left
   for (int i = 0; i < ContentsModel::Columns; ++i)
-    if (widths[i] > 0) header->resizeSection(i, CharactersWide(*contentsView_, widths[i]));
+    if (widths[i] > 0)
+      header->resizeSection(i, CharactersWide(*contentsView_, widths[i]));
+    else
+      header->setSectionResizeMode(i, QHeaderView::Stretch);
   QFont bold = jobTitle_->font();
   bold.setBold(true);
   bold.setPointSizeF(bold.pointSizeF() * 1.2);
@@ -196,9 +198,9 @@ void DeskWindow::SearchOn() {
   const bool ended = jobs_->GoOn(kSlice);
   const int shown = jobs_->rowCount();
   const auto all = Jobs().Voci().size();
-  QString text = sought_->text().trimmed().isEmpty()
-                     ? QStringLiteral("%1 lavori").arg(all)
-                     : QStringLiteral("Trovati %1 lavori su %2").arg(shown).arg(all);
+  QString text = sought_->text().trimmed().isEmpty() ? QStringLiteral("%1 lavori").arg(all)
+                 : shown == 1 ? QStringLiteral("Trovato 1 lavoro su %1").arg(all)
+                              : QStringLiteral("Trovati %1 lavori su %2").arg(shown).arg(all);
   if (all == 1 && sought_->text().trimmed().isEmpty()) text = QStringLiteral("1 lavoro");
   if (!ended) text += QStringLiteral(" - cerco ancora...");
   found_->setText(text);
@@ -262,7 +264,7 @@ void DeskWindow::ShowPages() {
           ? QStringLiteral(
                 "Qui staranno i lavori, ciascuno in una cartella con le sue parcelle.\n\n"
                 "Il primo si fa con il pulsante, oppure trascinando qui i file di "
-                "ORM2002 o un archivio ZIP.\n\nCartella dei lavori: %1")
+                "ORM2002, un archivio ZIP o una parcella in JSON.\n\nCartella dei lavori: %1")
                 .arg(settings_.Root())
           : QStringLiteral("La cartella dei lavori non si può leggere.\n\n") + unreadable_);
   const bool was = pages_->currentIndex() == 1;

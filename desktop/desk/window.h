@@ -4,10 +4,12 @@
 #include <QFileSystemWatcher>
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "desktop/desk/menus.h"
+#include "desktop/desk/programs.h"
 #include "desktop/desk/settings.h"
 
 class QLabel;
@@ -36,6 +38,9 @@ class DeskWindow : public QMainWindow {
   QString Job() const { return job_; }
   std::string Folder() const;
   int Row() const;  // of the contents; -1: none
+
+  // Starts the programs beside this one.
+  ProgramStart start = StartProgram;
 
   // Shows another root.
   void SetRoot(const QString& folder);

@@ -31,6 +31,7 @@ int main(int argc, char** argv) {
     player.Ask(
         orm::Avviso("ORM2002 È GIÀ IN USO IN QUESTA CARTELLA DI LAVORO\n"
                     "CHIUDERE PRIMA L'ALTRO PROGRAMMA"));
+    orm::HandOver(orm::MeetingPlaceOfFolder(QStringLiteral(".")));  // it comes forward
     return 1;
   }
   // From now on, since the start may stop at a message.

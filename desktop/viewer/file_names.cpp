@@ -2,31 +2,31 @@
 #include "desktop/viewer/file_names.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QTreeView>
 #include <map>
 
 namespace orm {
 
-namespace {
-
-// The path that the person gives in the dialog, whose captions become Italian.
-QString PathFrom(QFileDialog& dialog, const QString& accept) {
+QStringList ChosenIn(QFileDialog& dialog, const QString& accept) {
   dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
-  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome del file:"));
+  if (dialog.fileMode() != QFileDialog::Directory)
+    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome del file:"));
   dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
   dialog.setLabelText(QFileDialog::Accept, accept);
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  return dialog.selectedFiles().first();
+  if (const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
+    for (const int column : {1, 2})
+      files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
-
-}  // namespace
 
 QString AskFileName(QWidget* parent, const QString& folder, const NameQuestion& question) {
   QFileDialog dialog(parent, question.title, folder, question.filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(question.suffix);
   dialog.selectFile(question.name);
-  return PathFrom(dialog, QStringLiteral("&Salva"));
+  return ChosenIn(dialog, QStringLiteral("&Salva")).value(0);
 }
 
 QString AskFileToOpen(QWidget* parent, const QString& folder) {
@@ -34,7 +34,7 @@ QString AskFileToOpen(QWidget* parent, const QString& folder) {
                      QStringLiteral("Parcelle e testi (*.DOC *.doc *.TXT *.txt *.RTF *.rtf);;"
                                     "Tutti i file (*)"));
   dialog.setFileMode(QFileDialog::ExistingFile);
-  return PathFrom(dialog, QStringLiteral("&Apri"));
+  return ChosenIn(dialog, QStringLiteral("&Apri")).value(0);
 }
 
 NameQuestion NameOfCopy(CopyKind kind, const QString& name) {

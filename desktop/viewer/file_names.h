@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include "desktop/export/export.h"
+
+class QFileDialog;
 
 namespace orm {
 
@@ -14,6 +17,9 @@ struct NameQuestion {
   QString suffix;  // of a name that is given without one
   QString name;    // proposed
 };
+
+// What the person chooses in the dialog, whose captions become Italian; empty when nothing.
+QStringList ChosenIn(QFileDialog& dialog, const QString& accept);
 
 // The path that the person gives, beginning in `folder`; empty when there is none.
 QString AskFileName(QWidget* parent, const QString& folder, const NameQuestion& question);

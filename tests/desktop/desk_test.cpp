@@ -18,6 +18,7 @@
 #include "script/script_player.h"
 #include "tests/desktop/test_player.h"
 #include "tests/stage/desktop_stage.h"
+#include "tests/stage/form_lint.h"
 
 namespace orm {
 namespace {
@@ -53,6 +54,9 @@ class Desk : public testing::Test {
                     static_cast<Qt::Key>(key), with);
     Pass();
   }
+  static void MustHold(const QWidget& window) {
+    for (const std::string& fault : LintWindow(window)) ADD_FAILURE() << fault;
+  }
   // Types the name that the next question asks, over the one that it proposes.
   void Answer(const QString& name) {
     QTimer::singleShot(10, &here, [this, name] {
@@ -60,6 +64,8 @@ class Desk : public testing::Test {
       if (front == nullptr) return Answer(name);
       auto* field = front->findChild<QLineEdit*>("name");
       if (field == nullptr) field = front->findChild<QLineEdit*>("sought");
+      if (field == nullptr) return Answer(name);  // a question before it
+      MustHold(*front);
       QTest::keyClicks(field, name);
       QTest::keyClick(field, Qt::Key_Return);
     });
@@ -161,6 +167,7 @@ TEST_F(Desk, AFirstDayOfWork) {
   QTimer::singleShot(100, &here, [] {
     QWidget* versions = QApplication::activeModalWidget();
     QTest::qWait(50);
+    MustHold(*versions);
     EXPECT_GT(versions->findChild<QTableView*>("differences")->model()->rowCount(), 0);
     versions->resize(1000, 420);
     const QString pictures = qEnvironmentVariable("ORM_PICTURES");
@@ -221,6 +228,39 @@ TEST_F(Desk, CommandsOnJobs) {
   }
   EXPECT_FALSE(Names().contains("Uno"));
   EXPECT_TRUE(QFileInfo::exists(home.filePath("dati/Trash/files/Uno/INP_PPE.DAP")));
+}
+
+// What comes from a choice of files or goes to one, and the programs that it starts.
+TEST_F(Desk, FilesAndFoldersChosen) {
+  QStringList started;
+  window->start = [&](const QString& name, const QStringList& with, const QString& in) {
+    started += name + ' ' + QFileInfo(with.value(0)).fileName() + ' ' + QFileInfo(in).fileName();
+    return true;
+  };
+  NewJob("Uno");
+  WriteNote("Uno");
+  window->Look();
+  for (const int key : {Qt::Key_L, Qt::Key_O}) Key(key, kCtrl);
+  Key(Qt::Key_F1);
+  EXPECT_EQ(started.join(", "),
+            "orm2002-visore OUT_PPE.DOC Uno, orm2002  Uno, orm2002-guida lavori.md ");
+  const auto choose = [&](int key, Qt::KeyboardModifiers with, const QString& path) {
+    Person person(0, path);
+    Key(key, with);
+  };
+  choose(Qt::Key_E, kCtrl, Out() + "/uno.pdf");
+  EXPECT_TRUE(WorkFolder(FromQt(Out())).Read("uno.pdf").starts_with("%PDF"));
+  choose(Qt::Key_S, kCtrl, Out() + "/uno.zip");
+  Answer("Dallo ZIP");
+  choose(Qt::Key_R, kCtrl, Out() + "/uno.zip");
+  EXPECT_EQ(window->Job(), "Dallo ZIP");
+  EXPECT_EQ(Table("jobs").model()->index(0, 1).data(), "1");  // its notes
+  Answer("Da file");
+  choose(Qt::Key_N, kBoth, ToQt(kSample.PathOf("INP_COA.DAP")));
+  EXPECT_EQ(Job("Da file").Read("INP_COA.DAP"), kSample.Read("INP_COA.DAP"));
+  choose(Qt::Key_O, kBoth, Out());
+  EXPECT_EQ(settings.Root(), Out());
+  EXPECT_TRUE(window->Job().isEmpty());
 }
 
 TEST_F(Desk, FilesDroppedBecomeAJob) {

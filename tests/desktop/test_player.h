@@ -16,6 +16,7 @@
 
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/form_dialog.h"
+#include "tests/stage/form_lint.h"
 
 namespace orm {
 
@@ -67,6 +68,7 @@ class Person {
       QTest::keyClick(menu, Qt::Key_Return);
     } else if (auto* box = qobject_cast<QMessageBox*>(front)) {
       said_ = box->text() + '\n' + box->informativeText();
+      for (const std::string& fault : LintWindow(*box)) ADD_FAILURE() << fault;
       if (button_.isEmpty()) return QTest::keyClick(box, Qt::Key_Return);
       for (QAbstractButton* button : box->buttons())
         if (button->text().remove('&') == button_) return button->click();

@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <set>
 
 #include "desktop/player/form_dialog.h"
 #include "desktop/player/heading_line.h"
@@ -110,7 +112,62 @@ void LintRoom(const FormDialog& dialog, Faults& faults) {
                      FromQt(QString("%1x%2").arg(whole.width()).arg(whole.height())));
 }
 
+bool HasName(const QWidget& field, const QWidget& window) {
+  if (const auto* button = dynamic_cast<const QAbstractButton*>(&field))
+    return !button->text().isEmpty() || !button->accessibleName().isEmpty();
+  for (const QLabel* label : window.findChildren<QLabel*>())
+    if (label->buddy() == &field) return true;
+  return !field.accessibleName().isEmpty();
+}
+
+bool IsReached(const QWidget& widget, const QWidget& window) {
+  return widget.isVisible() && widget.window() == &window && widget.isEnabled() &&
+         (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+QString CaptionOf(const QWidget& widget) {
+  if (const auto* button = dynamic_cast<const QAbstractButton*>(&widget)) return button->text();
+  const auto* label = dynamic_cast<const QLabel*>(&widget);
+  return label != nullptr && label->buddy() != nullptr ? label->text() : QString();
+}
+
+void LintTabs(const QWidget& window, Faults& faults) {
+  const QWidget* before = nullptr;
+  for (const QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
+    if (!IsReached(*at, window)) continue;
+    if (!HasName(*at, window)) faults.push_back(FromQt(at->objectName()) + ": senza nome");
+    if (before != nullptr) {
+      const QRect a = PlaceOf(*before, window), b = PlaceOf(*at, window);
+      if (b.top() < a.bottom() - 2 && b.left() <= a.right())
+        faults.push_back(FromQt(at->objectName() + CaptionOf(*at)) + ": non sta dopo " +
+                         FromQt(before->objectName() + CaptionOf(*before)));
+    }
+    before = at;
+  }
+}
+
 }  // namespace
+
+std::vector<std::string> LintWindow(const QWidget& window) {
+  Faults faults;
+  std::set<QString> letters;
+  int defaults = 0;
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->window() != &window) continue;
+    const auto* button = dynamic_cast<const QPushButton*>(widget);
+    defaults += button != nullptr && button->isDefault() ? 1 : 0;
+    const QString letter = QKeySequence::mnemonic(CaptionOf(*widget)).toString();
+    if (!letter.isEmpty() && !letters.insert(letter).second)
+      faults.push_back(FromQt(letter) + ": due volte");
+    const bool text = button != nullptr || dynamic_cast<const QLabel*>(widget) != nullptr;
+    const QSize needed = text ? Needed(*widget) : QSize();
+    if (widget->width() < needed.width() || widget->height() < needed.height())
+      faults.push_back(FromQt(widget->objectName() + CaptionOf(*widget)) + ": tagliato");
+  }
+  if (defaults > 1) faults.emplace_back("più di un pulsante predefinito");
+  LintTabs(window, faults);
+  return faults;
+}
 
 std::vector<std::string> LintForm(const FormDialog& dialog) {
   Faults faults = FormRules::Broken(dialog.Model());

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+class QWidget;
+
 namespace orm {
 
 class FormDialog;
@@ -12,5 +14,9 @@ class FormDialog;
 // none: the rules of its model, every field named for a screen reader, the Tab key in the order on
 // the screen, nothing cut off, and the whole no greater than the least screen.
 std::vector<std::string> LintForm(const FormDialog& dialog);
+
+// The same of a window without a model: texts cut off, letters of two captions alike, fields
+// without a name, more than one default button, the Tab key against the order on the screen.
+std::vector<std::string> LintWindow(const QWidget& window);
 
 }  // namespace orm
