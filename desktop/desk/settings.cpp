@@ -1,5 +1,7 @@
 #include "desktop/desk/settings.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace orm {
@@ -30,7 +32,8 @@ void DeskSettings::SetModel(const QString& job) { kept_.setValue(kModel, job); }
 
 QString DeskSettings::Folder() const {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return kept_.value(kFolder, documents).toString();
+  const QString folder = kept_.value(kFolder, documents).toString();
+  return QFileInfo::exists(folder) ? folder : QDir::homePath();
 }
 
 void DeskSettings::SetFolder(const QString& folder) { kept_.setValue(kFolder, folder); }

@@ -89,7 +89,7 @@ void DeskWindow::TakeHabits() {
   if (!restoreGeometry(settings_.State("finestra")))
     resize(QSize(CharactersWide(*this, 160), 680).boundedTo(room * 0.9));
   if (!splitter_->restoreState(settings_.State("divisione")))
-    splitter_->setSizes({CharactersWide(*this, 38), width() - CharactersWide(*this, 38)});
+    splitter_->setSizes({CharactersWide(*this, 42), width() - CharactersWide(*this, 42)});
 }
 
 void DeskWindow::KeepHabits() {

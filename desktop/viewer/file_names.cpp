@@ -16,7 +16,7 @@ QStringList ChosenIn(QFileDialog& dialog, const QString& accept) {
   dialog.setLabelText(QFileDialog::Accept, accept);
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
   if (const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
-    for (const int column : {1, 2})
+    for (const int column : {1, 2, 3})
       files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }

@@ -1,15 +1,14 @@
 // The desk's commands on the jobs of a folder, for the fault loops:
 //
-//   orm_desk ROOT nuovo|copia|riporta|rinomina|archivia|riprende|json
+//   orm_desk ROOT nuovo|copia|riporta|rinomina|archivia|riprende
 //
 // a job "Nuovo" after the model of "Uno"; the note of "Uno" to "Due"; the oldest version of the
-// note of "Uno"; "Uno" as "Nuovo", as "Uno.zip", and out of it as "Nuovo"; the note of "Uno", as
-// JSON, into "Due". Done twice each is done once. Exit codes as those of orm_saver.
+// note of "Uno"; "Uno" as "Nuovo", as "Uno.zip", and out of it as "Nuovo". Done twice each is done
+// once. Exit codes as those of orm_saver.
 #include <iostream>
 
 #include "jobs/job_commands.h"
 #include "jobs/job_zip.h"
-#include "jobs/note_arrival.h"
 #include "jobs/note_versions.h"
 #include "runtime/failure.h"
 #include "tests/faults/followed.h"
@@ -20,9 +19,6 @@ int main(int count, char** words) {
   if (orm::WorkFolder(root).Exists("Nuovo")) return 0;
   const auto note = orm::LeggiLavoro(root, "Uno").parcelle.at(0);
   const auto versions = orm::VersioniDi(one, note);
-  orm::NotaDaJson json;
-  if (what == "json")
-    json = orm::LeggiNotaDaJson("nota", orm::ParcellaInJson(orm::WorkFolder(one), "PPE", true));
   BeFollowed();
   try {
     if (what == "nuovo") orm::NuovoLavoro(root, "Nuovo", "Uno", orm::WorkFolder(root));
@@ -30,7 +26,6 @@ int main(int count, char** words) {
     if (what == "riporta") orm::RiportaVersione(one, note, versions.back());
     if (what == "rinomina") orm::RinominaLavoro(root, "Uno", "Nuovo");
     if (what == "archivia") orm::ArchiviaLavoro(one, zip);
-    if (what == "json") orm::PrendiNota(root + "/Due", json, true);
     if (what == "riprende") orm::RiprendiLavoro(zip, root, "Nuovo");
   } catch (const orm::RuntimeFailure& failure) {
     std::cerr << failure.Text() << std::endl;

@@ -11,7 +11,7 @@ for name in INT INP; do
   sed 's/[12]/3/' "$old/Uno/${name}_PPE.DAP" >"$old/Uno/storico/${name}_PPE.2001-01-01_080000.DAP"
   sed 's/[12]/4/' "$old/Uno/${name}_PPE.DAP" >"$old/Due/${name}_PPE.DAP"
 done
-for what in nuovo copia json riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
+for what in nuovo copia riporta rinomina archivia; do loop "lavori, $what" "$desk" "$at" $what; done
 "$desk" "$old" archivia
 loop "lavori, riprende" "$desk" "$at" riprende
 
@@ -19,8 +19,9 @@ loop "lavori, riprende" "$desk" "$at" riprende
 if [ -n "$desktop" ]; then
   most=1
   "$calcolo" PPE --cartella "$old/Uno" --data 15/03/2002 >/dev/null
+  cp "$old/Uno/UTENTE.DAG" "$old/Due"
   "$calcolo" PPE --json --cartella "$old/Due" >"$old/Uno.json"
-  for what in nuovo prende versione json; do loop "scrivania, $what" "$desktop" "$at" $what; done
+  for what in nuovo prende versione; do loop "scrivania, $what" "$desktop" "$at" $what; done
 fi
 
 finish_loops

@@ -1,12 +1,11 @@
 // The windows' own saves, for the fault loops:
 //
-//   orm_desktop_saver FOLDER utente|visore|copia|stampa|nuovo|prende|versione|json
+//   orm_desktop_saver FOLDER utente|visore|copia|stampa|nuovo|prende|versione
 //
 // the form of the professional's data, a report changed in the viewer, its copy as text, a page
 // printed to a file; on the desk of the jobs in FOLDER, by keys: a job "Nuovo", Uno.json into
-// "Uno", the oldest version of its note, that note as Nuovo.json. Exit codes as those of orm_saver.
-// It is followed (followed.h) from when everything is on the screen: Qt's own start is no part of a
-// save.
+// "Uno", the oldest version of its note. Exit codes as those of orm_saver. It is followed
+// (followed.h) from when everything is on the screen: Qt's own start is no part of a save.
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -93,9 +92,8 @@ void Work(const std::string& folder, const std::string& what) {
   const QString root = QString::fromStdString(folder);
   const std::map<std::string, QKeySequence> keys = {{"nuovo", QKeySequence("Ctrl+N")},
                                                     {"prende", QKeySequence("Ctrl+Shift+J")},
-                                                    {"versione", QKeySequence("Ctrl+Shift+V")},
-                                                    {"json", QKeySequence("Ctrl+J")}};
-  if (QFileInfo::exists(root + "/Nuovo") || QFileInfo::exists(root + "/Nuovo.json")) return;
+                                                    {"versione", QKeySequence("Ctrl+Shift+V")}};
+  if (QFileInfo::exists(root + "/Nuovo")) return;
   QTemporaryDir home;
   orm::DeskSettings settings(home.filePath("desk.ini"));
   settings.SetRoot(root);
@@ -109,7 +107,7 @@ void Work(const std::string& folder, const std::string& what) {
     QWidget* front = QApplication::activeModalWidget();
     auto* field = front == nullptr ? nullptr : front->findChild<QLineEdit*>();
     if (auto* files = qobject_cast<QFileDialog*>(front)) {
-      files->selectFile(root + (what == "json" ? "/Nuovo.json" : "/Uno.json"));
+      files->selectFile(root + "/Uno.json");
       QTest::keyClick(field, Qt::Key_Return);
     } else if (field != nullptr) {
       field->setText("Nuovo");
