@@ -11,6 +11,7 @@
 #include "tariff/explanations.h"
 #include "tariff/law/table_e.h"
 #include "tariff/law/tariff_tables.h"
+#include "tariff/money.h"
 
 namespace orm {
 namespace {
@@ -77,7 +78,7 @@ void FrmUtiContabilita::Calcola() {
                   esito.onorario.Valore(), lire ? "Lire" : "Euro"};
   perche.push_back(Risultato(Text2.Caption(), {Mostrato(std::move(somma), lire ? 0 : -2)}));
   Text1.SetText(testo);
-  Text2.SetText((lire ? "L. " : "€ ") + NumeroContabilita(esito.onorario, lire));
+  Text2.SetText((lire ? "L. " : "€ ") + FormattaCopia(esito.onorario, lire ? 0 : -2));
   cmdSPIEGA.Di(std::move(perche));
 }
 

@@ -30,7 +30,7 @@ class FrmInaInPensione : public FormDiCalcolo {
   Label Label7{*this, "Label7", "Giorni"};
   InterBox ciGiorni{*this, "ciGiorni", "", {.most = 366}};
   Label Label4{*this, "Label4", "  IMPORTO ANNUALE PENSIONE  "};
-  InterBox ciPensioneAnnuale{*this, "ciPensioneAnnuale", ""};
+  InterBox ciPensioneAnnuale{*this, "ciPensioneAnnuale", "", {.currency = "L."}};
   Label lblPensioneMinima{*this, "lblPensioneMinima", "    PENSIONE MINIMA    "};
   Button cmdCALCOLOPENSIONE{*this, "cmdCALCOLOPENSIONE", "&CALCOLA PENSIONE",
                             Button::Role::Default};

@@ -48,12 +48,12 @@ FrmSicPrestazioni::Riga::Riga(Form& form, std::size_t i)
     : Check(form, "Check" + Numero(i + 1), kPrestazioniSic[i].didascalia),
       cmd_Maggiorazioni(form, "cmd_Maggiorazioni_" + Numero(i + 1), "Maggiorazioni"),
       Txt_Maggiorazioni(form, "Txt_Maggiorazioni" + Numero(i + 1), "",
-                        {.readOnly = true, .width = 4, .unit = "%"}) {
+                        {.readOnly = true, .width = 4, .unit = "%", .figure = true}) {
   if (i < kCoordinatoreProgetto) return;
   const std::string n = Numero(i + 1 - kCoordinatoreProgetto);
   cmd_Incrementi.emplace(form, "cmd_Incrementi_" + n, "Incrementi");
   Txt_Incrementi.emplace(form, "Txt_Incrementi" + n, "",
-                         TextOptions{.readOnly = true, .width = 4, .unit = "%"});
+                         TextOptions{.readOnly = true, .width = 4, .unit = "%", .figure = true});
 }
 
 FrmSicPrestazioni::FrmSicPrestazioni(Player& player, const VersioneSic& versione, LottoSic& lotto)

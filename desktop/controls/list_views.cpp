@@ -18,7 +18,7 @@ namespace {
 constexpr int kWidest = 46;  // characters shown of an item; a longer one is seen whole as a tip
 constexpr int kOpened = 90;  // characters of the widest open list
 constexpr int kLeast = 8;    // letters
-constexpr int kMostRows = 8;
+constexpr int kLeastRows = 5, kMostRows = 8, kNarrowest = 24;  // of an open list
 
 int Characters(const std::vector<std::string>& items) {
   qsizetype longest = kLeast;
@@ -97,10 +97,17 @@ class ComboView : public ControlView {
     }
     // Lists that are refilled keep the greatest width, so that nothing jumps.
     const int letter = box_->fontMetrics().horizontalAdvance('X');  // by which a combo measures
-    const int shown = std::min(LongestItem(), CharactersWide(*box_, kWidest));
+    const int longest = LongestItem(), shown = std::min(longest, CharactersWide(*box_, kWidest));
     box_->setMinimumContentsLength(
         std::max({kLeast, box_->minimumContentsLength(), (shown + letter - 1) / letter}));
+    if (longest > shown) UseMoreRoom(longest);
     WidenPopup();
+  }
+  // A window that is wider for other reasons shows more of items that are too long.
+  void UseMoreRoom(int longest) {
+    const int around = box_->sizeHint().width() - CharactersWide(*box_, kWidest);
+    box_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    box_->setMaximumWidth(longest + around);
   }
   int LongestItem() const {
     int longest = 0;
@@ -175,12 +182,12 @@ class ListView : public ControlView {
       auto* row = new QListWidgetItem(ToQt(item), box_);
       if (row->text().size() > kWidest) row->setToolTip(row->text());
     }
-    const int rows = std::clamp(static_cast<int>(items_.size()), 3, kMostRows);
+    const int rows = std::clamp(static_cast<int>(items_.size()), kLeastRows, kMostRows);
     const int rowHeight = std::max(box_->sizeHintForRow(0), box_->fontMetrics().height());
     box_->setMinimumHeight(
         std::max(box_->minimumHeight(), rows * (rowHeight + 2) + 2 * box_->frameWidth()));
-    box_->setMinimumWidth(
-        std::max(box_->minimumWidth(), CharactersWide(*box_, Characters(items_)) + 30));
+    const int letters = std::max(kNarrowest, Characters(items_));
+    box_->setMinimumWidth(std::max(box_->minimumWidth(), CharactersWide(*box_, letters) + 30));
   }
   ListBox& list_;
   QListWidget* box_;

@@ -13,7 +13,7 @@ namespace {
 
 // Widths come in few steps, so that fields below each other look like columns.
 int SteppedWidth(std::size_t characters) {
-  for (const int step : {4, 7, 11, 15, 19})
+  for (const int step : {4, 7, 11, 16, 19})
     if (characters <= static_cast<std::size_t>(step)) return step;
   return 24;
 }

@@ -11,6 +11,7 @@ namespace orm {
 namespace {
 
 constexpr int kLongestLine = 84;  // characters of a caption before it wraps
+constexpr int kSparesALine = 96;  // where that spares a line
 
 // Buttons of one group exclude each other, wherever in the form they stand.
 QButtonGroup* GroupOf(const OptionGroup& group, QWidget* window) {
@@ -31,6 +32,18 @@ QString SecondColumn(const std::string& caption) {
   return ToQt(caption).section("    ", 1).trimmed();
 }
 
+// No line that holds a word or two: the lines that it takes are as even as its words let them be.
+QString Folded(const QString& caption) {
+  if (caption.size() <= kSparesALine) return caption;
+  QString even = Wrapped(caption, kLongestLine);
+  const auto lines = even.count('\n');
+  for (int longest = kLongestLine - 1;; --longest) {
+    const QString narrower = Wrapped(caption, longest);
+    if (narrower.count('\n') > lines) return even;
+    even = narrower;
+  }
+}
+
 template <class Switch, class Widget>
 class SwitchView : public ControlView {
  public:
@@ -43,7 +56,7 @@ class SwitchView : public ControlView {
   }
   void Refresh() override {
     ControlView::Refresh();
-    widget_->setText(Wrapped(ToQt(model_.Caption()).trimmed().replace('&', "&&"), kLongestLine));
+    widget_->setText(Folded(ToQt(model_.Caption()).trimmed().replace('&', "&&")));
     if (widget_->isChecked() == model_.Value()) return;
     refreshing_ = true;
     // An exclusive group keeps one chosen; the form may want none.

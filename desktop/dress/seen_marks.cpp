@@ -1,17 +1,32 @@
 #include "desktop/dress/seen_marks.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/dress/look.h"
 
 namespace orm {
+namespace {
+
+constexpr int kBesideWords = 16;  // pixels of a button, both sides together
+
+}  // namespace
+
+QSize SeenMarks::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                  const QSize& contents, const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  if (type == CT_PushButton) size.setWidth(std::max(size.width(), contents.width() + kBesideWords));
+  return size;
+}
 
 void SeenMarks::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   const bool round = element == PE_IndicatorRadioButton;
-  const bool field = element == PE_FrameLineEdit;
+  const bool several = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget);
+  const bool field = element == PE_FrameLineEdit || several;
   if (!round && !field && element != PE_IndicatorCheckBox) return;
   // The field with the focus has an edge of its own.
   if (!IsDark(option->palette) || (field && (option->state & State_HasFocus))) return;

@@ -19,8 +19,8 @@ class FormBuilder {
   // The parts below each other in `into`.
   void AddColumn(const std::vector<Layout>& parts, QBoxLayout* into);
   void AddPart(const Layout& part, QBoxLayout* into);
-  // Labels of groups that stand below each other begin and end on the same lines. To be called
-  // when everything is in its place.
+  // Labels of groups that stand below each other begin and end on the same lines, and so does what
+  // stands beside their boxes. To be called when everything is in its place.
   void AlignLabels();
   // Something in it uses more room, so that a person may want the window greater.
   bool Grows(const Layout& part) const;
@@ -37,12 +37,13 @@ class FormBuilder {
 
   struct Grid {
     QGridLayout* grid;
-    int stack;  // grids of one stack stand below each other
-    int depth;  // frames around it
+    int stack;    // grids of one stack stand below each other
+    int depth;    // frames around it
+    bool beside;  // in a row with others
   };
   ViewOf viewOf_;
   std::vector<Grid> grids_;
-  int stack_ = 0, stacks_ = 0, depth_ = 0;
+  int stack_ = 0, stacks_ = 0, depth_ = 0, rows_ = 0;
 };
 
 }  // namespace orm
