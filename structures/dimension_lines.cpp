@@ -80,12 +80,12 @@ void Quote::Orizzontale(double x1, double x2, double y, const std::string& nome,
 }
 
 void Quote::Verticale(double x, double y1, double y2, const std::string& nome,
-                      std::optional<double> daX) const {
+                      std::optional<double> daX, std::optional<double> nomeY) const {
   Riga({x, y1}, {x, y2});
   if (daX)
     for (const double y : {y1, y2}) Richiamo({*daX, y}, {x, y});
   const bool left = daX && *daX > x;
-  Nome(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, (y1 + y2) / 2, nome,
+  Nome(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, nomeY.value_or((y1 + y2) / 2), nome,
        left ? Anchor::Right : Anchor::Left);
 }
 

@@ -19,9 +19,10 @@ class Quote {
   // stands on the far side.
   void Orizzontale(double x1, double x2, double y, const std::string& nome,
                    std::optional<double> daY = {}) const;
-  // The name stands right of the line, or on the side away from `daX`.
+  // The name stands right of the line, or on the side away from `daX`, with its middle at that of
+  // the line or at `nomeY`.
   void Verticale(double x, double y1, double y2, const std::string& nome,
-                 std::optional<double> daX = {}) const;
+                 std::optional<double> daX = {}, std::optional<double> nomeY = {}) const;
   // The line alone, with its ticks and witness lines.
   void Riga(Point da, Point a) const;
   void Richiamo(Point oggetto, Point quota) const;

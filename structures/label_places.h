@@ -4,7 +4,10 @@
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <vector>
+
+#include "dialogs/lavagna.h"
 
 namespace orm {
 
@@ -23,17 +26,26 @@ class PostiEtichette {
                  std::function<std::vector<double>(double)> bordi)
       : minimo_(minimo), massimo_(massimo), destra_(destra), bordi_(std::move(bordi)) {}
 
-  // A line along x, which labels pass above or below.
-  void Riga(double x1, double x2, double y) { righe_.push_back({x1, x2, y, y}); }
+  // A line along x, which labels pass above or below at so much distance: their rim must not break
+  // an outline.
+  void Riga(double x1, double x2, double y, double distanza = 0.2) {
+    righe_.push_back({x1, x2, y - distanza, y + distanza});
+  }
   void Occupa(const Riquadro& riquadro) { occupati_.push_back(riquadro); }
 
   // A label of that size whose left edge and middle belong at (x, y), x the first of `inizi` or
   // else another one: its place, which is taken from then on. It steps to the right of an outline,
-  // up or down beside a line.
-  Riquadro Posto(std::initializer_list<double> inizi, double y, double larghezza, double altezza);
+  // up or down beside a line. The line from `segno`, what the label tells, to its left edge crosses
+  // no earlier one and no label, if that can be.
+  Riquadro Posto(std::initializer_list<double> inizi, double y, double larghezza, double altezza,
+                 std::optional<Point> segno = {});
 
  private:
+  struct Filo {
+    Point da, a;
+  };
   bool SuUnaRiga(const Riquadro& r) const;
+  int Incroci(const Filo& filo, const Riquadro& etichetta) const;
   // Moves `r` to the right until nothing stands in it.
   void Scansa(Riquadro& r) const;
 
@@ -41,6 +53,7 @@ class PostiEtichette {
   double destra_;
   std::function<std::vector<double>(double)> bordi_;
   std::vector<Riquadro> righe_, occupati_;
+  std::vector<Filo> fili_;
 };
 
 }  // namespace orm

@@ -191,7 +191,9 @@ void Disegno::QuoteSezione(double sopra, double sotto) {
     quote_.Richiamo({X(f_.Bm), end}, {X(f_.Bm), kBelow});
     quote_.Verticale(fuori + 6.6, sopra, kSlabTop, "s", X(f_.La));
     quote_.Verticale(left, sotto, sopra, "Hi", X(-f_.Pm));
-    quote_.Verticale(X(f_.Bm) + 1.8, end, sopra, "He", X(f_.Bm));
+    // Below the witness line of the slab's thickness, where the end is thin.
+    const double nome = std::min((end + sopra) / 2, sopra - 0.6 * lavagna_.LineHeight());
+    quote_.Verticale(X(f_.Bm) + 1.8, end, sopra, "He", X(f_.Bm), nome);
   } else {
     quote_.Verticale(left, sopra, kSlabTop, "Hi", X(-f_.Pm));
     quote_.Verticale(fuori + 1.8, kSlabTop - f_.se * scala_, kSlabTop, "He", fuori);
@@ -222,7 +224,7 @@ void Disegno::Pianta() {
       quote_.Orizzontale(x(destra - f_.Ba / 2), x(destra + f_.Ba / 2), kFace + spessore + 1.2, "Ba",
                          kFace + spessore);
     const char* nome = putrelle ? "Putrella" : "Mensole";
-    const double meta = lavagna_.TextWidth(nome) / 2;
+    const double meta = lavagna_.TextWidth(nome) / 2 + 0.5;  // and clear of the line
     // In a narrow slab the two names stand beside each other.
     const bool stretta = kFace - fine < 4 * lavagna_.LineHeight();
     const double y = stretta ? lastra : std::max(basso, kFace - f_.Bm * scala_ / 2);

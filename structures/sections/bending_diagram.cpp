@@ -102,7 +102,7 @@ void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tens
   const auto edge = std::ranges::find_if(tensioni, &TensioneDisegnata::cls);
   const bool besideCls = !compresse && edge != tensioni.end();
   if (besideCls) places.insert(versoAlto ? places.end() : places.begin(), Y(edge->profondita));
-  auto labels = QuoteEtichette(places, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.9);
+  auto labels = QuoteEtichette(places, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.7);
   if (besideCls) {
     const auto own = versoAlto ? labels.end() - 1 : labels.begin();
     ScriviCls(*edge, ammesse, *own);

@@ -70,7 +70,7 @@ void DisegnoFlessione::QuotaLarghezza(const QuotaSezione& larghezza, double prof
   quote_.Orizzontale(X(larghezza.da), X(larghezza.a), line, Scritta(larghezza), edge);
   const double half = lavagna_.TextWidth(Scritta(larghezza)) / 2;
   const double middle = X((larghezza.da + larghezza.a) / 2), over = lavagna_.LineHeight();
-  posti_.Riga(X(larghezza.da) - 0.3, X(larghezza.a) + 0.3, line);
+  posti_.Riga(X(larghezza.da) - 0.3, X(larghezza.a) + 0.3, line, 0.1);
   posti_.Occupa({middle - half, middle + half, std::min(line, line + side * over),
                  std::max(line, line + side * over)});
 }

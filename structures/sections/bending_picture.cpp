@@ -165,9 +165,10 @@ void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<doub
   std::vector<Scritta> scritte;
   for (const Strato& strato : strati) {
     const std::string text = FormatPattern(strato.area, "####.00") + " cmq.";
-    const Riquadro posto =
-        posti_.Posto({strato.x}, strato.y, lavagna_.TextWidth(text), 0.9 * lavagna_.LineHeight());
-    Leader(lavagna_, centre + strato.half, strato.y, posto.x1 - 0.05, (posto.y1 + posto.y2) / 2);
+    const Point mark{centre + strato.half, strato.y};
+    const Riquadro posto = posti_.Posto({strato.x}, strato.y, lavagna_.TextWidth(text),
+                                        0.9 * lavagna_.LineHeight(), mark);
+    Leader(lavagna_, mark.x, mark.y, posto.x1 - 0.05, (posto.y1 + posto.y2) / 2);
     scritte.push_back({posto, text});
   }
   // After the leaders, as some pass under a label.

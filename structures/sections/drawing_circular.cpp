@@ -74,14 +74,14 @@ void DisegnaSchemaC(Lavagna& lavagna, bool anulare) {
   lavagna.SetFont(8);
   lavagna.SetColour(kBlue);
   lavagna.DrawArc(5, 5, 4, -176, 176);
-  lavagna.DrawText(1.9, 5.85, "Re");
+  lavagna.DrawText(2.05, 5.8, "Re", Anchor::Centre);
   lavagna.DrawText(11, 8, "Re   raggio esterno sezione");
   if (anulare) {
     OpenCircle(lavagna, 1.5, 14, "Ri");
     lavagna.DrawText(11, 7, "Ri   raggio interno sezione");
   }
   lavagna.SetWidth(1);
-  lavagna.DrawLine(1.1, 5.6, 1.85, 5.6);
+  lavagna.DrawLine(1.1, 5.8, 1.5, 5.8);
   lavagna.SetColour(kRed);
   lavagna.SetStroke(Stroke::Dashed);
   lavagna.SetWidth(2);

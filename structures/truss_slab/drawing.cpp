@@ -15,8 +15,8 @@ using Anchor = DrawOperation::Anchor;
 
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kConcrete{200, 200, 200},
     kSteel{160, 30, 30};
-constexpr double kMargin = 3;      // units left and right of the longest bar
-constexpr double kAboveBar = 0.2;  // from a bar up to its label
+constexpr double kMargin = 3;       // units left and right of the longest bar
+constexpr double kAboveBar = 0.45;  // from a bar up to its label
 constexpr double kSlabTop = 21, kSlabBottom = 17.8;
 constexpr double kLongStubs = 25, kShortStubs = 22.2;
 constexpr double kSpanBars = 14.2, kBarStep = 2.5, kSpanLine = 3.4;
@@ -73,37 +73,40 @@ void DisegnaSolaio(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
     lavagna.DrawLine(scala.X(zona), kSlabBottom, scala.X(zona), kSlabTop);
 }
 
+void DisegnaFerro(Lavagna& lavagna, double x1, double x2, double y) {
+  lavagna.SetWidth(3);
+  lavagna.SetColour(kSteel);
+  lavagna.DrawLine(x1, y, x2, y);
+}
+
 // From the bend in the support to the end in the span, `verso` outward; `nome` stands at the
-// margin.
+// margin. The bar comes after its name, whose rim would nick it.
 void DisegnaMoncone(Lavagna& lavagna, const BarraDisegnata& moncone, double faccia, int verso,
                     double y, const Scala& scala) {
   if (moncone.campata == 0) return;
   const double piega = scala.X(faccia + verso * moncone.incastro);
-  lavagna.SetWidth(3);
-  lavagna.SetColour(kSteel);
-  lavagna.DrawLine(piega, y, scala.X(faccia - verso * moncone.campata), y);
-  lavagna.DrawLine(piega, y, piega, y - 0.8);
-  lavagna.SetColour(kBlack);
   const double above = y + kAboveBar + lavagna.LineHeight() / 2;
+  lavagna.SetColour(kBlack);
   lavagna.DrawText(verso < 0 ? kMargin : kLarghezzaDisegno - kMargin, above, moncone.etichetta,
                    verso < 0 ? Anchor::Left : Anchor::Right);
+  DisegnaFerro(lavagna, piega, scala.X(faccia - verso * moncone.campata), y);
+  lavagna.DrawLine(piega, y, piega, y - 0.8);
 }
 
 void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   double y = kSpanBars;
   for (const BarraDisegnata& barra : figura.campata) {
     if (barra.campata == 0) continue;
-    lavagna.SetWidth(3);
-    lavagna.SetColour(kSteel);
-    lavagna.DrawLine(scala.X((figura.luce - barra.campata) / 2), y,
-                     scala.X((figura.luce + barra.campata) / 2), y);
     lavagna.SetColour(kBlack);
     lavagna.DrawText(kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta, Anchor::Above);
+    DisegnaFerro(lavagna, scala.X((figura.luce - barra.campata) / 2),
+                 scala.X((figura.luce + barra.campata) / 2), y);
     y -= kBarStep;
   }
 }
 
-// The faces of the supports go through all bars, so that one sees what lies in the supports.
+// The faces of the supports go through all bars, so that one sees what lies in the supports; the
+// labels of the bars interrupt them.
 void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const Quote quote(lavagna, kTick);
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
@@ -126,12 +129,12 @@ void Disegna(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   lavagna.SetFont(8);
   lavagna.SetHalo(true);
   DisegnaSolaio(lavagna, figura, scala);
+  DisegnaQuote(lavagna, figura, scala);
   DisegnaMoncone(lavagna, figura.lungoSin, 0, -1, kLongStubs, scala);
   DisegnaMoncone(lavagna, figura.lungoDex, figura.luce, 1, kLongStubs, scala);
   DisegnaMoncone(lavagna, figura.cortoSin, 0, -1, kShortStubs, scala);
   DisegnaMoncone(lavagna, figura.cortoDex, figura.luce, 1, kShortStubs, scala);
   DisegnaCampata(lavagna, figura, scala);
-  DisegnaQuote(lavagna, figura, scala);
 }
 
 std::string Etichetta(const char* nome, double diametro, double lunghezza) {

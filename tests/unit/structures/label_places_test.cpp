@@ -26,8 +26,17 @@ TEST(LabelPlaces, StepAsideForOutlinesLinesAndEachOther) {
   EXPECT_DOUBLE_EQ(posti.Posto({12}, 3, 1, 1).x1, 12);  // nothing there: where it belongs
 }
 
-// Areas, stresses and the axis of every shape, of sections in use and of odd ones: no letter on the
-// outline, none on another text.
+bool Cross(const DrawOperation& a, const DrawOperation& b) {
+  const auto side = [](const DrawOperation& line, const Point& p) {
+    const Point &from = line.points[0], &to = line.points[1];
+    return (to.x - from.x) * (p.y - from.y) > (to.y - from.y) * (p.x - from.x);
+  };
+  return side(a, b.points[0]) != side(a, b.points[1]) &&
+         side(b, a.points[0]) != side(b, a.points[1]);
+}
+
+// Areas, stresses and the axis of every shape, of sections in use and of odd ones: no letter or rim
+// on the outline, none on another text, and no line to an area crosses another one.
 TEST(LabelPlaces, TextsOfASectionStandFree) {
   Form form("frm", "");
   Lavagna lavagna(form, "Lavagna", 30, 10, 504);
@@ -45,9 +54,15 @@ TEST(LabelPlaces, TextsOfASectionStandFree) {
           DisegnaSezioneT(lavagna, dati, risultati, {2600, 97.5}, true);
           lavagna.SetFont(8);
           std::vector<Riquadro> areas;
+          std::vector<const DrawOperation*> leaders;
           const DrawOperation* outline = nullptr;
           for (const DrawOperation& op : lavagna.Operations()) {
             if (op.kind == DrawOperation::Kind::Polygon && op.width == 2) outline = &op;
+            if (op.colour == Colour{110, 110, 110} && op.points[0].x < 23) {
+              for (const DrawOperation* other : leaders)
+                EXPECT_FALSE(Cross(op, *other)) << H << b << B;
+              leaders.push_back(&op);
+            }
             if (op.text.ends_with("cmq.") || op.text == "asse neutro" || op.text == "cls") {
               const auto [x, y] = op.points[0];
               const double width = 0.9 * lavagna.TextWidth(op.text);
@@ -67,7 +82,9 @@ TEST(LabelPlaces, TextsOfASectionStandFree) {
                           &q = outline->points[(k + 1) % outline->points.size()];
               const Riquadro edge{std::min(p.x, q.x), std::max(p.x, q.x), std::min(p.y, q.y),
                                   std::max(p.y, q.y)};
-              EXPECT_FALSE(areas[i].Tocca(edge)) << H << " " << b << " " << B << " " << M;
+              const Riquadro rim{areas[i].x1, areas[i].x2, areas[i].y1 - 0.3, areas[i].y2 + 0.3};
+              EXPECT_FALSE((p.y == q.y ? rim : areas[i]).Tocca(edge))
+                  << H << " " << b << " " << B << " " << M;
             }
           }
         }
