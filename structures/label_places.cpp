@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace orm {
 namespace {
@@ -27,6 +28,18 @@ bool Crosses(const Point& a, const Point& b, const Riquadro& r) {
   return Cross(a, b, {x1, r.y1}, {x2, r.y2}) || Cross(a, b, {x1, r.y2}, {x2, r.y1});
 }
 }  // namespace
+
+// Each change makes the lines shorter, so it comes to an end.
+void Districa(std::vector<EtichettaPosta>& etichette) {
+  for (bool changed = true; std::exchange(changed, false);)
+    for (EtichettaPosta& a : etichette)
+      for (EtichettaPosta& b : etichette) {
+        if (a.testo.size() != b.testo.size() || !Cross(a.segno, a.Attacco(), b.segno, b.Attacco()))
+          continue;
+        std::swap(a.posto, b.posto);
+        changed = true;
+      }
+}
 
 int PostiEtichette::Incroci(const Filo& filo, const Riquadro& etichetta) const {
   const auto labels = std::ranges::count_if(

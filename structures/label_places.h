@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "dialogs/lavagna.h"
@@ -18,6 +19,17 @@ struct Riquadro {
     return x1 < altro.x2 && altro.x1 < x2 && y1 < altro.y2 && altro.y1 < y2;
   }
 };
+
+// A label in its place and what it tells, from which a line leads to its left edge.
+struct EtichettaPosta {
+  Point segno;
+  Riquadro posto;
+  std::string testo;
+  Point Attacco() const { return {posto.x1, (posto.y1 + posto.y2) / 2}; }
+};
+
+// Labels of one length whose lines cross change places.
+void Districa(std::vector<EtichettaPosta>& etichette);
 
 class PostiEtichette {
  public:

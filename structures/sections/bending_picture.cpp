@@ -158,24 +158,22 @@ void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<doub
     strati.push_back({y, half, aree[i], centre + (strati.size() % 2 == 0 ? 1.0 : 4.0)});
   }
   lavagna_.SetFont(kSmall);
-  struct Scritta {
-    Riquadro posto;
-    std::string testo;
-  };
-  std::vector<Scritta> scritte;
+  std::vector<EtichettaPosta> etichette;
   for (const Strato& strato : strati) {
     const std::string text = FormatPattern(strato.area, "####.00") + " cmq.";
     const Point mark{centre + strato.half, strato.y};
     const Riquadro posto = posti_.Posto({strato.x}, strato.y, lavagna_.TextWidth(text),
                                         0.9 * lavagna_.LineHeight(), mark);
-    Leader(lavagna_, mark.x, mark.y, posto.x1 - 0.05, (posto.y1 + posto.y2) / 2);
-    scritte.push_back({posto, text});
+    etichette.push_back({mark, posto, text});
   }
+  Districa(etichette);
+  for (const EtichettaPosta& e : etichette)
+    Leader(lavagna_, e.segno.x, e.segno.y, e.Attacco().x - 0.05, e.Attacco().y);
   // After the leaders, as some pass under a label.
   lavagna_.SetColour(kBlack);
   lavagna_.SetHalo(true);
-  for (const auto& [posto, testo] : scritte)
-    lavagna_.DrawText(posto.x1, (posto.y1 + posto.y2) / 2, testo, Anchor::Left);
+  for (const EtichettaPosta& e : etichette)
+    lavagna_.DrawText(e.Attacco().x, e.Attacco().y, e.testo, Anchor::Left);
   lavagna_.SetHalo(false);
 }
 
