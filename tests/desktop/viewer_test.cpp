@@ -24,6 +24,7 @@
 #include "desktop/viewer/file.h"
 #include "desktop/viewer/parts/page.h"
 #include "desktop/viewer/window.h"
+#include "interchange/interchange.h"
 #include "runtime/failure.h"
 #include "tests/desktop/test_player.h"
 
@@ -499,6 +500,30 @@ TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
   Person person("Chiudi");
   window.findChild<QAction*>("printExplained")->trigger();
   EXPECT_TRUE(person.Said().contains("I dati sono cambiati dopo"));
+}
+
+// A fee with all kinds of steps; what the manual shows of it is kept where tools/pictures says.
+TEST_F(ViewerTest, ExplainsAsInTheManual) {
+  const WorkFolder sources(ORM_SOURCE_DIR), own(folder_.path().toStdString());
+  for (const char* name :
+       {"sample/UTENTE.DAG", "sample/INT_PDL.DAP", "sample/INP_PDL.DAP", "CAC.CFG"})
+    Write(std::string(name).substr(std::string(name).rfind('/') + 1),
+          sources.Read(std::string("data/") + name));
+  CalcolaDaCartella(own, "PDL", true).uscita.Save(own, "OUT_PDL.DOC");
+  ViewerWindow window;
+  window.Open(PathOf("OUT_PDL.DOC"));
+  window.resize(1150, 740);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto* panel = window.findChild<QWidget*>("explanations");
+  if (!panel->isVisible()) QTest::keyClick(&window.Page(), Qt::Key_F4);  // as it was left before
+  ASSERT_TRUE(panel->isVisible());
+  const auto* heading = panel->findChild<QLabel*>("explanationHeading");
+  for (int line = 0; line < 90 && !heading->text().startsWith("0,25 x 0,35 x"); ++line)
+    QTest::keyClick(&window.Page(), Qt::Key_Down);
+  EXPECT_TRUE(heading->text().startsWith("0,25 x 0,35 x")) << heading->text().toStdString();
+  const QString folder = qEnvironmentVariable("ORM_PICTURES");
+  EXPECT_TRUE(folder.isEmpty() || window.grab().save(folder + "/spiegazione.png"));
 }
 
 TEST_F(ViewerTest, OpensADroppedFile) {
