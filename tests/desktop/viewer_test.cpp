@@ -522,6 +522,7 @@ TEST_F(ViewerTest, ExplainsAsInTheManual) {
   for (int line = 0; line < 90 && !heading->text().startsWith("0,25 x 0,35 x"); ++line)
     QTest::keyClick(&window.Page(), Qt::Key_Down);
   EXPECT_TRUE(heading->text().startsWith("0,25 x 0,35 x")) << heading->text().toStdString();
+  QTest::qWait(50);  // the page makes room for it
   const QString folder = qEnvironmentVariable("ORM_PICTURES");
   EXPECT_TRUE(folder.isEmpty() || window.grab().save(folder + "/spiegazione.png"));
 }
