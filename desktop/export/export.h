@@ -22,8 +22,9 @@ bool IsOfTheNote(CopyKind kind);
 std::string CopyOfNote(CopyKind kind, const WorkFolder& folder, const NotaDiCaso& note,
                        std::string_view report);
 
-// A4 pages with text that can be selected, as PDF/A-1b, which archives take. Needs a QGuiApplication. `title` names the document; its
-// notes, if any, follow it, and their numbers stand beside its lines.
+// A4 pages with text that can be selected, as PDF/A-1b, which archives take. Needs a
+// QGuiApplication. `title` names the document; its notes, if any, follow it, and their numbers
+// stand beside its lines.
 std::string PdfOf(const QString& text, const QString& title, const ReportNotes& notes = {});
 
 // A text document of A4 pages in letters of fixed width, its sections' titles as headings. Needs a
