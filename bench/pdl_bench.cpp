@@ -85,6 +85,23 @@ void NotaPdlIntera(benchmark::State& misura) {
 }
 BENCHMARK(NotaPdlIntera);
 
+// The same while it records how its figures come about; then with all of it read as text, too.
+void NotaPdlSpiegata(benchmark::State& misura) {
+  Nota nota;
+  nota.stato.memoria.The<SpiegazioniChieste>().si = true;
+  for (auto _ : misura) benchmark::DoNotOptimize(CalcolaDaFile<CalcoloPdl>(nota.stato));
+}
+BENCHMARK(NotaPdlSpiegata);
+
+void NotaPdlSpiegataELetta(benchmark::State& misura) {
+  Nota nota;
+  nota.stato.memoria.The<SpiegazioniChieste>().si = true;
+  for (auto _ : misura)
+    benchmark::DoNotOptimize(
+        TestoSpiegazioni(CalcolaDaFile<CalcoloPdl>(nota.stato).spiegazioni.Righe()));
+}
+BENCHMARK(NotaPdlSpiegataELetta);
+
 // The look-ups of that note: above the limit two for the design and two for the supervision of each
 // row, and one for its report.
 void TabelleDellaNota(benchmark::State& misura) {

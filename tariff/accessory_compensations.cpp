@@ -58,6 +58,7 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     return;
   }
   std::string percentuale;
+  Catena catena;
   // Both are cut to their printed decimals, the coefficient to two more.
   const auto tagliati = [&](double P, auto&& passo) {
     const double intera = P;
@@ -68,10 +69,10 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     Coefficiente = somma;
     StringaCoefficiente = " x " + FormattaNumero(Coefficiente, decimali + 2);
     if (!spiegazioni.Attive()) return;
-    CatenaCompensi = {passo(intera), PassoCoefficiente(P, somma)};
-    CatenaCompensi[0].tagli = {{TipoTaglio::Decimali, decimali, intera, P}};
-    CatenaCompensi[0].note = {MotivoDecimali(decimali, criteri.DecimaliCompensi)};
-    CatenaCompensi[1].tagli = {{TipoTaglio::Decimali, decimali + 2, somma, Coefficiente}};
+    catena = {passo(intera), PassoCoefficiente(P, somma)};
+    catena[0].tagli = {{TipoTaglio::Decimali, decimali, intera, P}};
+    catena[0].note = {MotivoDecimali(decimali, criteri.DecimaliCompensi)};
+    catena[1].tagli = {{TipoTaglio::Decimali, decimali + 2, somma, Coefficiente}};
   };
   // Both stand as plain numbers, with the decimal point; 0 % prints nothing.
   const auto comeSono = [&](double P, auto&& passo) {
@@ -79,7 +80,7 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     const bool nulli = Coefficiente == 1;
     percentuale = nulli ? "" : NumberText(P);
     StringaCoefficiente = nulli ? "" : " x " + NumberText(Coefficiente);
-    if (spiegazioni.Attive()) CatenaCompensi = {passo(P), PassoCoefficiente(P, Coefficiente)};
+    if (spiegazioni.Attive()) catena = {passo(P), PassoCoefficiente(P, Coefficiente)};
   };
   const std::string& tipo = criteri.TipoPercentualeCompensi;
   const bool conImporto = tipo == "CALCOLATA" || tipo == "NUOVA TARIFFA";
@@ -96,6 +97,7 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     comeSono(PercentualeCalabria(lire, criteri.ResidenzaCollaudatore), [&](double P) {
       return PassoCompensiCalabria(lire, criteri.ResidenzaCollaudatore, P);
     });
+  if (!catena.empty()) CatenaCompensi = {InComune([catena] { return catena; })};
   if (modo != ModoCompensi::Stampa || Coefficiente == 1) return;
 
   uscita.Line(kRigaCompensiAccessori);
@@ -108,9 +110,9 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     uscita.EndLine();
   }
   spiegazioni.Riga(uscita.Contents(), [&] {
-    Catena catena{CatenaCompensi.front()};
-    catena.front().cifra = percentuale + "%";
-    return catena;
+    Passaggio passo = catena.front();
+    passo.cifra = percentuale + "%";
+    return Catena{std::move(passo)};
   });
 }
 

@@ -70,9 +70,9 @@ Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
                          ": percentuale del D.M. 25-2-1965 per il "
                          "coefficiente del " +
                          SiglaDecreto(f.periodo),
-                     f.aliquota.Testo(), f.aliquota.Valore(), "%"};
+                     f.aliquota, f.aliquota.Valore(), "%"};
   aliquota.Annota("La riga ne mostra cinque decimali, il conto li prende tutti");
-  Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte.Testo(), f.parte.Valore()};
+  Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte, f.parte.Valore()};
   Passaggio coefficiente{"Coefficiente del tipo di lavori", "", f.coefficiente};
   const std::string mostrato = CoefficienteInStringa(f.coefficiente);
   if (mostrato == FormattaCopia(f.coefficiente, -2))
@@ -80,7 +80,7 @@ Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
   else
     coefficiente.Annota("La riga mostra " + mostrato + ": quello dei dati non è nella lista");
   Passaggio onorario{"Onorario della fascia, che entra nel totale con tutte le sue cifre",
-                     f.onorario.Testo(), f.onorario.Valore()};
+                     f.onorario, f.onorario.Valore()};
   return {Mostrato(std::move(aliquota), -5, "%"), std::move(coefficiente),
           Mostrato(std::move(parte), decimali), Mostrato(std::move(onorario), decimali)};
 }

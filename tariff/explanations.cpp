@@ -14,6 +14,8 @@ namespace {
 
 // A number that lies a hair below a whole one, beyond the digits that anybody sees.
 bool MancaUnSoffio(double valore) {
+  constexpr double kConDecimali = 1e14;  // up to here 15 digits show the first decimal
+  if (std::fabs(valore) < kConDecimali && valore - Int(valore) < 0.9) return false;
   const auto visto = ParseNumber(NumberText(valore));
   return visto && Int(*visto) > Int(valore);
 }
@@ -22,7 +24,8 @@ bool MancaUnSoffio(double valore) {
 
 void AnnotaTaglio(const Taglio& taglio, std::vector<std::string>& note) {
   if (taglio.tipo != TipoTaglio::Decimali) return;
-  if (std::fabs(taglio.dopo) > std::fabs(taglio.prima))
+  const double letto = ParseNumber(NumberText(taglio.prima)).value_or(taglio.prima);
+  if (std::fabs(taglio.dopo) > std::fabs(taglio.prima) && letto != taglio.dopo)
     note.push_back("Una coda di nove è uno scarto del calcolo e vale l'unità che le manca");
   if (taglio.decimali != 0 && taglio.prima != 0 &&
       std::fabs(taglio.dopo) < 0.1 / std::pow(10, std::abs(taglio.decimali)))
@@ -60,15 +63,14 @@ Passaggio Parcella::PassoTariffa(std::string regola, double lire) const {
   if (ModoLire) return passo;
   const Conto cambio = Conto(lire) / kLirePerEuro;
   passo.regola += ", dalle Lire al cambio di 1.936,27";
-  passo.conto = cambio.Testo();
+  passo.conto = cambio;
   passo.risultato = cambio.Valore();
   passo.tagli = {{TipoTaglio::SullaCifra, 2, cambio.Valore(), InValuta(lire)}};
   return passo;
 }
 
 Passaggio Parcella::PassoImporto(std::string regola, const Conto& conto) const {
-  return {std::move(regola), conto.Semplice() ? "" : conto.Testo(), conto.Valore(),
-          ModoLire ? "Lire" : "Euro"};
+  return {std::move(regola), conto, conto.Valore(), ModoLire ? "Lire" : "Euro"};
 }
 
 Passaggio Parcella::PassoOnorario(std::string regola, const Conto& conto) const {
@@ -86,7 +88,7 @@ Catena Parcella::CatenaInLire(double importo) const {
   if (ModoLire || importo == 0) return {};
   const Conto conto = Conto(importo) * kLirePerEuro;
   return {{"Importo in Lire, al cambio fisso di 1.936,27 Lire per Euro (regolamento CE 2866/98)",
-           conto.Testo(),
+           conto,
            conto.Valore(),
            "Lire",
            {{TipoTaglio::SullaCifra, 0, conto.Valore(), ImportoInLire(importo)}}}};
@@ -96,27 +98,35 @@ Catena Parcella::CatenaInValuta(double lire) const {
   if (ModoLire) return {PassoImporto("Importo dei lavori", lire)};
   const Conto conto = Conto(lire) / kLirePerEuro;
   return {{"Di nuovo in Euro, dalle Lire intere",
-           conto.Testo(),
+           conto,
            conto.Valore(),
            "Euro",
            {{TipoTaglio::SullaCifra, 2, conto.Valore(), InValuta(lire)}}}};
 }
 
-void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore, Catena catena) const {
-  int decimali = 0;
-  DecimaliPercentuale(lire, decimali, criteri.DecimaliTabelle);
-  Passaggio& passo = catena.back();
-  passo.tagli.push_back({TipoTaglio::Decimali, decimali, valore, p.valore});
-  passo.Annota(MotivoDecimali(decimali, criteri.DecimaliTabelle));
-  AnnotaTaglio(passo.tagli.back(), passo.note);
-  passo.cifra = p.testo;
-  p.catena = std::move(catena);
+void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
+                            std::function<Catena()> catena) const {
+  Taglio taglio{TipoTaglio::Decimali, 0, valore, p.valore};
+  DecimaliPercentuale(lire, taglio.decimali, criteri.DecimaliTabelle);
+  const int criterio = criteri.DecimaliTabelle;
+  p.catena = {InComune(
+      [taglio, criterio, catena = std::move(catena)] {
+        Catena passi = catena();
+        Passaggio& passo = passi.back();
+        passo.tagli.push_back(taglio);
+        passo.Annota(MotivoDecimali(taglio.decimali, criterio));
+        AnnotaTaglio(taglio, passo.note);
+        return passi;
+      },
+      p.testo)};
 }
 
 Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Ragioni ragioni,
                                 bool conCompensi) const {
-  Catena catena = Unite(std::move(ragioni.prima), P.catena);
-  if (conCompensi) catena = Unite(std::move(catena), CatenaCompensi);
+  Catena catena = std::move(ragioni.prima);
+  catena.reserve(catena.size() + P.catena.size() + CatenaCompensi.size() + 1);
+  catena.insert(catena.end(), P.catena.begin(), P.catena.end());
+  if (conCompensi) catena.insert(catena.end(), CatenaCompensi.begin(), CatenaCompensi.end());
   for (Passaggio& passo : catena) passo.cifra.clear();  // those of other lines
   catena.push_back(PassoOnorario(std::move(ragioni.regola), onorario));
   for (std::string& nota : ragioni.note) catena.back().Annota(std::move(nota));

@@ -47,7 +47,10 @@ Percentuale Parcella::PercentualeDaTabellaA(double importo, int periodo, std::st
                              &lettura);
   if (spiegazioni.Attive() && lire != 0)
     SpiegaTaglio(p, lire, lettura.percentuale,
-                 Unite(CatenaInLire(importo), CatenaTabellaA(lettura, periodo, classe, categoria)));
+                 [inLire = CatenaInLire(importo), lettura, periodo, c = std::string(classe),
+                  k = std::string(categoria)] {
+                   return Unite(inLire, CatenaTabellaA(lettura, periodo, c, k));
+                 });
   return p;
 }
 
@@ -57,16 +60,24 @@ Percentuale Parcella::PercentualeDaTabellaNuova(double importo, std::string_view
   double lire = ImportoInLire(importo), valore = 0;
   LetturaCurva lettura;
   PercentualeTabellaNuova(lire, classe, categoria, valore, &lettura);
-  return PercentualeTagliata(lire, valore, [&] {
-    return Unite(CatenaInLire(importo), CatenaTabellaNuova(lettura, lire, classe, categoria));
-  });
+  Percentuale p = PercentualeTagliata(lire, valore);
+  if (spiegazioni.Attive())
+    SpiegaTaglio(p, lire, valore,
+                 [inLire = CatenaInLire(importo), lettura, lire, c = std::string(classe),
+                  k = std::string(categoria)] {
+                   return Unite(inLire, CatenaTabellaNuova(lettura, lire, c, k));
+                 });
+  return p;
 }
 
 Percentuale Parcella::PercentualeDaTabellaC(int periodo, double lire) const {
   double valore = 0;
   LetturaTabella lettura;
   PercentualeTabellaContabilita(periodo, lire, valore, &lettura);
-  return PercentualeTagliata(lire, valore, [&] { return CatenaTabellaC(lettura, periodo); });
+  Percentuale p = PercentualeTagliata(lire, valore);
+  if (spiegazioni.Attive())
+    SpiegaTaglio(p, lire, valore, [=] { return CatenaTabellaC(lettura, periodo); });
+  return p;
 }
 
 void Parcella::StampaLavori(double importo) {

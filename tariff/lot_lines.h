@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "runtime/explanation/conto.h"
 #include "tariff/table_a_slices.h"
 
 namespace orm {
@@ -35,7 +34,7 @@ std::string TestoQuota(double quota);
 struct RigaFormula {
   std::string_view inizio = " ";
   bool percentualePrima = false;
-  Conto aliquota;
+  double aliquota = 0;
   int decimali = 2;  // of the aliquot, zeros at the end dropped
   const Percentuale& percentuale;
   std::string importo;

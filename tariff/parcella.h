@@ -8,6 +8,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -61,6 +62,8 @@ class Parcella {
   void Spiega(Fa&& catena) {
     if (spiegazioni.Attive()) SpiegaRiga(catena());
   }
+  // The start of a sum, 0: where nobody asks how it came about it stays a number.
+  Conto Zero() const { return spiegazioni.Attive() ? Conto() : Conto::Muto(); }
   // A figure of the data, by the words of its form.
   Passaggio PassoDato(std::string_view campo, double valore) const;
   // Explains the line just printed, which shows it bare.
@@ -146,12 +149,13 @@ class Parcella {
 
   // ---- percentages, cut to what they print; fees are reckoned with the cut ones (lot_lines.cpp)
   // Any percentage, with the decimals that its amount in Lire asks for; `catena()` tells how it
-  // came about.
+  // came about, at once.
   Percentuale PercentualeTagliata(double lire, double valore) const;
   template <class Fa>
   Percentuale PercentualeTagliata(double lire, double valore, Fa&& catena) const {
     Percentuale p = PercentualeTagliata(lire, valore);
-    if (spiegazioni.Attive()) SpiegaTaglio(p, lire, valore, catena());
+    if (spiegazioni.Attive())
+      SpiegaTaglio(p, lire, valore, [passi = Catena(catena())] { return passi; });
     return p;
   }
   // By the tables, of an amount; of 0 they are 0, "0 %".
@@ -271,7 +275,9 @@ class Parcella {
     if (spiegazioni.Attive()) stampata_ = {{TipoTaglio::Decimali, decimali, prima, dopo}, testo};
   }
   void SpiegaRiga(Catena catena);
-  void SpiegaTaglio(Percentuale& p, double lire, double valore, Catena catena) const;
+  // `catena` is asked when the explanation is read, and so keeps what it needs by value.
+  void SpiegaTaglio(Percentuale& p, double lire, double valore,
+                    std::function<Catena()> catena) const;
 
   Stampata stampata_;
 };

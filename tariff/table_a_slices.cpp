@@ -20,19 +20,21 @@ PercentualiTabellaA Parcella::PercentualiDellaBase(double base, int periodo,
 
 std::vector<QuotaImporto> Parcella::QuoteDellImporto(const PercentualiTabellaA& percentuali,
                                                      const Conto& importo) const {
-  if (!percentuali.divise) return {{importo, percentuali.entro}};
+  if (!percentuali.divise) return {{Zero() + importo, percentuali.entro}};
   const double limite = LimiteTabellaA();
-  return {{limite, percentuali.entro}, {importo - limite, percentuali.oltre}};
+  return {{Zero() + limite, percentuali.entro}, {Zero() + importo - limite, percentuali.oltre}};
 }
 
 std::vector<QuotaImporto> Parcella::QuoteProgressive(const PercentualiTabellaA& percentuali,
                                                      const Conto& importo,
                                                      const Conto& prima) const {
   const double limite = LimiteTabellaA();
-  if (!percentuali.divise || prima + importo <= limite) return {{importo, percentuali.entro}};
-  if (prima >= limite) return {{importo, percentuali.oltre}};
-  const Conto entro = limite - prima;
-  return {{entro, percentuali.entro}, {importo - entro, percentuali.oltre}};
+  const Conto parte = Zero() + importo;
+  if (!percentuali.divise || prima.Valore() + importo.Valore() <= limite)
+    return {{parte, percentuali.entro}};
+  if (prima >= limite) return {{parte, percentuali.oltre}};
+  const Conto entro = prima == 0 ? Zero() + limite : limite - prima;
+  return {{entro, percentuali.entro}, {parte - entro, percentuali.oltre}};
 }
 
 }  // namespace orm

@@ -55,6 +55,29 @@ for file in "$work/prima"/*; do cmp "$file" "$work/$(basename "$file")" || broke
 mkdir "$work/esempi" && cp "$scripts"/../../data/*.CFG "$scripts"/../../data/sample/* "$work/esempi"
 expects 0 '' "$calcolo" --tutti --cartella "$work/esempi"
 
+# The worked examples of the manual are these notes: each result stands in their explanations.
+for note in ppe:PPE coa:COA esl:ESL pdl:PDL agp:AGP inc:INC stc:STC geo:GEO sicurezza:SC1 \
+  collaudo_statico:CS1 pes:PES rim:RIM rpa:RPA sup:SUP; do
+  code=${note#*:} euro=()
+  [ "$code" != SUP ] || euro=(--euro)
+  results=$(sed -n '/^Esempio:/,/^$/p' "$tests/../docs/manuale/${note%:*}.md" | tr '\n' ' ' |
+    grep -oE '= [0-9.]*[0-9](,[0-9]+)?' | tr -d '= ')
+  [ -n "$results" ] || { echo "NON VALE: nessun esempio di $code"; broken=1; }
+  "$calcolo" "$code" "${euro[@]}" --spiega --cartella "$work/esempi" >"$work/spiega"
+  for result in $results; do
+    grep -qF -- "$result" "$work/spiega" ||
+      { echo "NON VALE: $code non spiega $result del manuale"; broken=1; }
+  done
+done
+rm "$work/spiega"
+
+# Two lots above the limit of Table A with accounting by Table E: every step to the last Lira, done
+# by hand with exact fractions.
+cp "$scripts/pdl/due_lotti_INP.DAP" "$work/esempi/INP_PDL.DAP"
+"$calcolo" PDL --spiega --cartella "$work/esempi" --data 15/03/2002 |
+  diff "$scripts/pdl/due_lotti.spiega" - || broken=1
+cp "$sample/INP_PDL.DAP" "$work/esempi"
+
 # A note goes to another folder and is the same there; a refused one writes nothing.
 mkdir "$work/altra" && cp "$scripts"/../../data/*.CFG "$work/altra"
 "$calcolo" PDL --json --cartella "$work/esempi" --data 15/03/2002 >"$work/pdl.json"

@@ -46,9 +46,10 @@ void NotaPdl::StampaSpecifica() {
 }
 
 void NotaPdl::CalcolaCompensi() {
-  Conto SommaProgetto;
+  Conto SommaProgetto = Zero();
+  SommaDirezione = Zero();
   for (const RigaPdl& r : d.Righe) {
-    SommaProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
+    SommaProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi, Zero());
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;
   }
   CompensiSulMaggiore(SommaProgetto, SommaDirezione);
@@ -56,6 +57,7 @@ void NotaPdl::CalcolaCompensi() {
 
 void NotaPdl::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
+  totali.fill(Zero());
   std::size_t righe = 0;
   for (const LottoARighe& lotto : d.Lotti) {
     CalcolaLotto(righe, lotto);
@@ -65,8 +67,8 @@ void NotaPdl::CalcolaLotti() {
 
 void NotaPdl::CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto) {
   const auto righe = std::span(d.Righe).subspan(primaRiga, lotto.PeriodoDelLotto.size());
-  const BasiLotto basi = BasiDelLotto(righe, d.TipoParcella);
-  Conto direzionePrima;
+  const BasiLotto basi = BasiDelLotto(righe, d.TipoParcella, Zero());
+  Conto direzionePrima = Zero();
   for (std::size_t j = 0; j < righe.size(); ++j) {
     CalcolaRiga(Prepara(righe[j], lotto.PeriodoDelLotto[j], basi, direzionePrima),
                 primaRiga + j + 1);
@@ -82,6 +84,7 @@ NotaPdl::RigaInCorso NotaPdl::Prepara(const RigaPdl& riga, int Periodo, const Ba
                     direzionePrima,
                     PercentualiDellaBase(basi.BaseProgetto, Periodo, riga.Classe, riga.Categoria),
                     PercentualiDellaBase(basi.BaseDirezione, Periodo, riga.Classe, riga.Categoria)};
+  conto.AliquotaProgetto = conto.AliquotaDirezione = Zero();
   conto.fatti = ServiziFatti(riga.TipoPrestazione, riga.Prestazioni);
   TabellaBAliquote(riga.Classe, riga.Categoria, conto.fatti, conto.aliquote, conto.AliquotaProgetto,
                    conto.AliquotaDirezione);
@@ -102,15 +105,16 @@ void NotaPdl::CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga) {
       StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione,
                         "Lavori del lotto su cui si prende la percentuale della direzione");
   }
-  totali[0] += OnorarioProgetto(conto);
-  totali[0] += OnorarioPerizie(conto);
+  for (const auto onorario : {&NotaPdl::OnorarioProgetto, &NotaPdl::OnorarioPerizie})
+    if (const Conto importo = (this->*onorario)(conto); importo != 0) totali[0] += importo;
   const Conto direzione = OnorarioDirezione(conto);
-  totali[1] += direzione;
+  if (direzione != 0) totali[1] += direzione;
   const bool sorveglianza = direzione != 0 && riga.FlagSorveglianza != "N";
   UltimaSorveglianza = sorveglianza ? OnorarioSorveglianza(conto) : Conto();
-  totali[2] += UltimaSorveglianza;
+  if (UltimaSorveglianza != 0) totali[2] += UltimaSorveglianza;
   if (direzione != 0 && riga.FlagContabilita != "N")
-    contemp.push_back({conto.Periodo, riga.CoefficienteContabilita, riga.ImportoDirezione});
+    contemp.push_back(
+        {conto.Periodo, riga.CoefficienteContabilita, Zero() + riga.ImportoDirezione});
 }
 
 // A design that is left out shows its minus here.

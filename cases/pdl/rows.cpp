@@ -11,14 +11,17 @@ namespace orm {
 Passaggio NotaPdl::PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
                                  std::size_t ultimo, const Conto& aliquota) const {
   if (!spiegazioni.Attive()) return {};
-  std::string nomi;
-  for (std::size_t i = primo; i <= ultimo; ++i)
-    if (fatti[i] * conto.aliquote[i] != 0)
-      nomi += (nomi.empty() ? "" : "; ") + std::string(1, kLettereTabellaB[i - 1]) + " - " +
-              kPrestazioniTabellaB[i - 1];
-  return {"Art. 19, Tabella B, " + ClasseInParole(conto.riga.Classe, conto.riga.Categoria) +
-              ", aliquote delle prestazioni " + nomi,
-          aliquota.Semplice() ? "" : aliquota.Testo(), aliquota.Valore()};
+  return InComune([fatti, primo, ultimo, aliquota, aliquote = conto.aliquote,
+                   classe = conto.riga.Classe, categoria = conto.riga.Categoria]() -> Catena {
+    std::string nomi;
+    for (std::size_t i = primo; i <= ultimo; ++i)
+      if (fatti[i] * aliquote[i] != 0)
+        nomi += (nomi.empty() ? "" : "; ") + std::string(1, kLettereTabellaB[i - 1]) + " - " +
+                kPrestazioniTabellaB[i - 1];
+    return {{"Art. 19, Tabella B, " + ClasseInParole(classe, categoria) +
+                 ", aliquote delle prestazioni " + nomi,
+             aliquota, aliquota.Valore()}};
+  });
 }
 
 double NotaPdl::StampaQuota(const Voce& voce, const QuotaImporto& quota) {
@@ -64,7 +67,7 @@ Conto NotaPdl::OnorarioProgetto(const RigaInCorso& conto) {
       .Line(riga.TipoPrestazione == "T"
                 ? "complete"
                 : TestoPrestazioni(conto.fatti, GruppoServiziPdl::Progetto));
-  Conto ImportoFee = SommaDi(riga.ImportoProgetto, riga.ImportoEspropri);
+  Conto ImportoFee = SommaDi(riga.ImportoProgetto, riga.ImportoEspropri, Zero());
   if (conto.basi.EccedenzaLavori != 0) ImportoFee += conto.basi.EccedenzaLavori;
   const auto quote = QuoteDellImporto(conto.progetto, ImportoFee);
   const Voce voce{
@@ -72,7 +75,7 @@ Conto NotaPdl::OnorarioProgetto(const RigaInCorso& conto) {
       "per il coefficiente dei compensi",
       conto.AliquotaProgetto,
       PassoAliquote(conto, conto.fatti, 1, kServiziProgettoTabellaB, conto.AliquotaProgetto)};
-  Conto onorario;
+  Conto onorario = Zero();
   for (const QuotaImporto& quota : quote) onorario += StampaQuota(voce, quota);
   if (d.IncaricoParziale != "SI") return onorario;
   StampaTitoloArticolo18();
@@ -83,7 +86,7 @@ Conto NotaPdl::OnorarioProgetto(const RigaInCorso& conto) {
 
 Conto NotaPdl::OnorarioPerizie(const RigaInCorso& conto) {
   if (conto.riga.FlagPerizie == "N") return 0;
-  Conto onorario;
+  Conto onorario = Zero();
   for (std::size_t j = 0; j < static_cast<std::size_t>(conto.riga.NumeroPerizie); ++j)
     if (const Conto perizia = OnorarioPerizia(conto, conto.riga.Perizie[j]); perizia != 0)
       onorario += perizia;
@@ -93,14 +96,14 @@ Conto NotaPdl::OnorarioPerizie(const RigaInCorso& conto) {
 Conto NotaPdl::OnorarioPerizia(const RigaInCorso& conto, const PeriziaPdl& perizia) {
   uscita.Line(perizia.TipoPerizia.starts_with("1") ? "PERIZIA DI VARIANTE"
                                                    : "PERIZIA DI ASSESTAMENTO");
-  const Conto ImportoPerizia = SommaDi(perizia.LavoriSuppletivi, perizia.EsproPerizia);
+  const Conto ImportoPerizia = SommaDi(perizia.LavoriSuppletivi, perizia.EsproPerizia, Zero());
   const auto percentuali =
       PercentualiDellaBase(ImportoPerizia + perizia.LavoriVariati, conto.Periodo, conto.riga.Classe,
                            conto.riga.Categoria);
   const Aliquote fatti = ServiziFatti(perizia.TipoPrestazioneVariati, perizia.PrestazioniVariati,
                                       "PrestazioniVariati");
   const Aliquote tutti = ServiziFatti("T", "");
-  Conto SommaDesign, SommaFlag;
+  Conto SommaDesign = Zero(), SommaFlag = Zero();
   for (std::size_t i = 1; i <= kServiziProgettoTabellaB; ++i) {
     if (conto.aliquote[i] != 0) SommaDesign += conto.aliquote[i];
     if (fatti[i] * conto.aliquote[i] != 0) SommaFlag += fatti[i] * conto.aliquote[i];
@@ -109,7 +112,7 @@ Conto NotaPdl::OnorarioPerizia(const RigaInCorso& conto, const PeriziaPdl& periz
     return Voce{regola, aliquota,
                 PassoAliquote(conto, svolte, 1, kServiziProgettoTabellaB, aliquota)};
   };
-  Conto onorario;
+  Conto onorario = Zero();
   if (ImportoPerizia != 0) {
     uscita.Tab(2).Line("per lavori suppletivi : prestazioni complete");
     onorario += OnorarioPerizia(
@@ -134,7 +137,7 @@ Conto NotaPdl::OnorarioPerizia(const RigaInCorso& conto, const PeriziaPdl& periz
 Conto NotaPdl::OnorarioPerizia(const Voce& voce, const Conto& importo,
                                const PercentualiTabellaA& percentuali) {
   static const std::string inizio = " " + TestoQuota(kPerizie);
-  Conto totale;
+  Conto totale = Zero();
   for (const QuotaImporto& quota : QuoteDellImporto(percentuali, importo)) {
     const auto& [parte, P] = quota;
     totale += StampaOnorario({.inizio = inizio,
@@ -178,7 +181,7 @@ Conto NotaPdl::OnorarioDirezione(const RigaInCorso& conto) {
   const double importo = conto.riga.ImportoDirezione;
   if (importo <= 0) return 0;
   const Conto base18 = BaseArticolo18(conto);
-  Conto onorario;
+  Conto onorario = Zero();
   for (const auto& [titolo, aliquota, primo, ultimo] : VociDirezione(conto)) {
     uscita.Line(titolo);
     const Voce voce{
@@ -200,7 +203,7 @@ Conto NotaPdl::OnorarioSorveglianza(const RigaInCorso& conto) {
   const bool conCompensi = criteri.CompensiSuSorveglianza != "NO";
   uscita.Line("SORVEGLIANZA ( art. 17 )");
   static const std::string inizio = " " + TestoQuota(kSorveglianza);
-  Conto totale;
+  Conto totale = Zero();
   for (const QuotaImporto& quota :
        QuoteProgressive(conto.direzione, conto.riga.ImportoDirezione, conto.direzionePrima)) {
     const auto& [importo, P] = quota;

@@ -21,19 +21,20 @@ std::size_t IndiceServizio(char lettera, const char* campo) {
 
 }  // namespace
 
-Conto SommaDi(double a, double b) {
-  Conto somma;
+Conto SommaDi(double a, double b, const Conto& zero) {
+  Conto somma = zero;
   for (const double addendo : {a, b})
     if (addendo != 0) somma += addendo;
   return somma;
 }
 
-BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella) {
-  BasiLotto basi;
-  Conto SommaEspropri, SommaSuppletivi, SommaDirezione;
+BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella,
+                       const Conto& zero) {
+  BasiLotto basi{zero, zero, zero};
+  Conto SommaEspropri = zero, SommaSuppletivi = zero, SommaDirezione = zero;
   for (const RigaPdl& r : righe) {
-    basi.BaseProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoEspropri);
-    basi.BaseDirezione += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi);
+    basi.BaseProgetto += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoEspropri, zero);
+    basi.BaseDirezione += SommaDi(std::fabs(r.ImportoProgetto), r.ImportoSuppletivi, zero);
     if (r.ImportoEspropri != 0) SommaEspropri += r.ImportoEspropri;
     if (r.ImportoSuppletivi != 0) SommaSuppletivi += r.ImportoSuppletivi;
     if (r.ImportoDirezione > kDirezioneMinimaSommata) SommaDirezione += r.ImportoDirezione;

@@ -16,9 +16,10 @@ namespace orm {
 struct BasiLotto {
   Conto BaseProgetto, BaseDirezione, EccedenzaLavori;
 };
-// Two amounts of a row, without one of 0.
-Conto SommaDi(double a, double b);
-BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella);
+// Two amounts of a row, without one of 0. Sums begin with `zero`, which may be mute.
+Conto SommaDi(double a, double b, const Conto& zero);
+BasiLotto BasiDelLotto(std::span<const RigaPdl> righe, std::string_view TipoParcella,
+                       const Conto& zero = {});
 
 // 1 for each service done, a to l: all of them with "T". Letters stand at every second character
 // of the string; any other letter is a RuntimeFailure.

@@ -4,31 +4,33 @@
 //
 // with a Conto at its start is the number that the same expression on doubles would be, operator by
 // operator, and Testo() writes it under the rules of explanation.h. A Conto on the right of an
-// operator stands there in parentheses. Everywhere else it is its number. It keeps its terms in
-// itself: where nobody asks for the text it costs a few stores.
+// operator stands there in parentheses. Everywhere else it is its number.
+//
+// A number alone is no more than that; the terms of a sum are one piece of memory, which an
+// expression fills as it goes and copies share until one of them grows. Their text is made when it
+// is asked for. What a mute Conto has a part in is mute: a number that keeps no terms, for those
+// who know that nobody will ask.
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 namespace orm {
 
 class Conto {
  public:
   Conto() = default;  // an empty sum, 0
-  Conto(double valore) : valore_(valore), quanti_(1) { passi_[0] = {valore, ' ', 0, 0}; }
-  Conto(const Conto& altro) { *this = altro; }
-  Conto& operator=(const Conto& altro) {
-    valore_ = altro.valore_;
-    quanti_ = altro.quanti_;
-    somma_ = altro.somma_;
-    std::copy_n(altro.passi_.begin(), quanti_, passi_.begin());
-    return *this;
+  Conto(double valore) : valore_(valore), quanti_(1) {}
+  static Conto Muto(double valore = 0) {
+    Conto muto(valore);
+    muto.muto_ = true;
+    return muto;
   }
+  Conto Zero() const { return muto_ ? Muto() : Conto(); }  // mute where this is
 
   operator double() const { return valore_; }
   double Valore() const { return valore_; }
@@ -46,52 +48,51 @@ class Conto {
   Conto& operator/=(const Conto& b) { return Fa('/', b, valore_ / b.valore_); }
 
  private:
-  static constexpr std::size_t kPassi = 64;
+  static constexpr std::uint8_t kPassi = 64;
   struct Passo {
     double numero;
     char segno;
     std::uint8_t apre, chiude;  // parentheses before and behind the number
   };
   Conto& Fa(char segno, double b, double esito) {
-    Prepara(segno, 1);
-    passi_[quanti_++] = {b, segno, 0, 0};
+    if (!muto_) Scrive(segno, b);
     valore_ = esito;
     return *this;
   }
-  Conto& Fa(char segno, const Conto& b, double esito);
-  // Room for more terms, and the sum so far in parentheses where a factor follows it.
-  void Prepara(char segno, std::size_t posti) {
-    if (quanti_ == 0 && (segno != '+' || posti > 1)) *this = Conto(0.0);
-    if (quanti_ + posti > kPassi) *this = Conto(valore_);
-    const bool fattore = segno == 'x' || segno == '/';
-    if (fattore && somma_) {
-      ++passi_[0].apre;
-      ++passi_[quanti_ - 1].chiude;
-    }
-    somma_ = !fattore && quanti_ > 0;
+  Conto& Fa(char segno, const Conto& b, double esito) {
+    if (muto_ || b.muto_) return *this = Muto(esito);
+    Scrive(segno, b);
+    valore_ = esito;
+    return *this;
   }
+  void Scrive(char segno, double b);
+  void Scrive(char segno, const Conto& b);
+  // Room for more terms, and the sum so far in parentheses where a factor follows it.
+  void Prepara(char segno, std::uint8_t posti);
+  void Allarga(std::uint8_t posti);
 
   double valore_ = 0;
-  std::size_t quanti_ = 0;
+  std::shared_ptr<Passo[]> passi_;  // from two terms on
+  std::uint8_t quanti_ = 0, posti_ = 0;
   bool somma_ = false;  // the last operator adds or subtracts
-  std::array<Passo, kPassi> passi_;
+  bool muto_ = false;
 };
 
 // The number types are templates, so that 2 * conto is no number before it is a sum.
 template <class T>
 concept UnNumero = std::is_arithmetic_v<T>;
 
-inline Conto operator+(Conto a, const Conto& b) { return a += b; }
-inline Conto operator-(Conto a, const Conto& b) { return a -= b; }
-inline Conto operator*(Conto a, const Conto& b) { return a *= b; }
-inline Conto operator/(Conto a, const Conto& b) { return a /= b; }
-inline Conto operator+(Conto a, UnNumero auto b) { return a += static_cast<double>(b); }
-inline Conto operator-(Conto a, UnNumero auto b) { return a -= static_cast<double>(b); }
-inline Conto operator*(Conto a, UnNumero auto b) { return a *= static_cast<double>(b); }
-inline Conto operator/(Conto a, UnNumero auto b) { return a /= static_cast<double>(b); }
-inline Conto operator+(UnNumero auto a, const Conto& b) { return Conto(a) += b; }
-inline Conto operator-(UnNumero auto a, const Conto& b) { return Conto(a) -= b; }
-inline Conto operator*(UnNumero auto a, const Conto& b) { return Conto(a) *= b; }
-inline Conto operator/(UnNumero auto a, const Conto& b) { return Conto(a) /= b; }
+inline Conto operator+(Conto a, const Conto& b) { return std::move(a += b); }
+inline Conto operator-(Conto a, const Conto& b) { return std::move(a -= b); }
+inline Conto operator*(Conto a, const Conto& b) { return std::move(a *= b); }
+inline Conto operator/(Conto a, const Conto& b) { return std::move(a /= b); }
+inline Conto operator+(Conto a, UnNumero auto b) { return std::move(a += static_cast<double>(b)); }
+inline Conto operator-(Conto a, UnNumero auto b) { return std::move(a -= static_cast<double>(b)); }
+inline Conto operator*(Conto a, UnNumero auto b) { return std::move(a *= static_cast<double>(b)); }
+inline Conto operator/(Conto a, UnNumero auto b) { return std::move(a /= static_cast<double>(b)); }
+inline Conto operator+(UnNumero auto a, const Conto& b) { return std::move(Conto(a) += b); }
+inline Conto operator-(UnNumero auto a, const Conto& b) { return std::move(Conto(a) -= b); }
+inline Conto operator*(UnNumero auto a, const Conto& b) { return std::move(Conto(a) *= b); }
+inline Conto operator/(UnNumero auto a, const Conto& b) { return std::move(Conto(a) /= b); }
 
 }  // namespace orm

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace orm {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 // One blank between words, none at the ends.
 std::string SenzaSpaziDoppi(std::string_view riga) {
   std::string testo;
+  testo.reserve(riga.size());
   for (const char c : riga)
     if (c != ' ' || (!testo.empty() && testo.back() != ' ')) testo += c;
   if (testo.ends_with(' ')) testo.pop_back();
@@ -35,8 +37,33 @@ std::string Italiana(std::string testo, bool negativa) {
 void Passaggio::Annota(std::string_view nota) { note.emplace_back(nota); }
 
 Catena Unite(Catena prima, Catena poi) {
+  if (prima.empty()) return poi;
   std::move(poi.begin(), poi.end(), std::back_inserter(prima));
   return prima;
+}
+
+const Catena& StessiPassaggi::Passi() const {
+  if (passi_) fatti_ = Svolta(std::exchange(passi_, nullptr)());
+  return fatti_;
+}
+
+Passaggio InComune(std::function<Catena()> passi, std::string cifra) {
+  return {.regola = "",
+          .cifra = std::move(cifra),
+          .comuni = std::make_shared<const StessiPassaggi>(std::move(passi))};
+}
+
+Catena Svolta(const Catena& catena) {
+  Catena passi;
+  for (const Passaggio& passo : catena) {
+    if (!passo.comuni) {
+      passi.push_back(passo);
+      continue;
+    }
+    for (const Passaggio& comune : passo.comuni->Passi()) passi.emplace_back(comune).cifra.clear();
+    passi.back().cifra = passo.cifra;
+  }
+  return passi;
 }
 
 std::string_view Spiegazione::Cifra() const {
@@ -52,14 +79,24 @@ void Spiegazioni::Aggiungi(std::string_view stampato, Catena passi) {
   const bool finita = stampato.ends_with('\n');
   const std::size_t numero = finita ? fini_ : fini_ + 1;
   if (righe_.empty() || righe_.back().riga != numero) righe_.push_back({numero, "", {}});
+  svolte_ = std::min(svolte_, righe_.size() - 1);
   Spiegazione& spiegazione = righe_.back();
   while (stampato.ends_with('\n') || stampato.ends_with('\r')) stampato.remove_suffix(1);
-  spiegazione.testo = SenzaSpaziDoppi(stampato.substr(stampato.rfind('\n') + 1));
+  spiegazione.testo = stampato.substr(stampato.rfind('\n') + 1);
   spiegazione.passi = Unite(std::move(spiegazione.passi), std::move(passi));
 }
 
+const std::vector<Spiegazione>& Spiegazioni::Righe() const {
+  for (; svolte_ < righe_.size(); ++svolte_) {
+    Spiegazione& riga = righe_[svolte_];
+    riga.testo = SenzaSpaziDoppi(riga.testo);
+    riga.passi = Svolta(riga.passi);
+  }
+  return righe_;
+}
+
 const Spiegazione* Spiegazioni::Della(std::size_t riga) const {
-  const auto trovata = std::ranges::lower_bound(righe_, riga, {}, &Spiegazione::riga);
+  const auto trovata = std::ranges::lower_bound(Righe(), riga, {}, &Spiegazione::riga);
   return trovata == righe_.end() || trovata->riga != riga ? nullptr : &*trovata;
 }
 

@@ -14,12 +14,16 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
+
+#include "runtime/explanation/conto.h"
 
 namespace orm {
 
@@ -37,17 +41,38 @@ struct Taglio {
   double prima = 0, dopo = 0;
 };
 
+// A sum as a step has it: a text, or a Conto that becomes one when it is read. One that is a number
+// alone is none.
+class SommaScritta {
+ public:
+  SommaScritta() = default;
+  SommaScritta(std::string testo) : testo_(std::move(testo)) {}
+  SommaScritta(const char* testo) : testo_(testo) {}
+  SommaScritta(const Conto& conto) : conto_(conto) {}
+
+  bool empty() const { return testo_.empty() && conto_.Semplice(); }
+  std::string Testo() const { return conto_.Semplice() ? testo_ : conto_.Testo(); }
+
+ private:
+  std::string testo_;
+  Conto conto_;
+};
+
+class StessiPassaggi;
+
 struct Passaggio {
   // What is done and under which rule, without a full stop at its end: "Art. 15, Tabella A, classe
   // I, categoria c, D.M. 11-6-1987: percentuale per interpolazione".
   std::string regola;
-  std::string conto = {};                // the sum; empty where the figure stands as it is found
+  SommaScritta conto = {};               // empty where the figure stands as it is found
   std::optional<double> risultato = {};  // before the cuts; nothing for a step of words alone
   std::string unita = {};                // behind the result: "%", "Lire"
   std::vector<Taglio> tagli = {};        // in their order
   std::vector<std::string> note =
       {};                  // an oddity that is meant, where a figure of the data is from
   std::string cifra = {};  // as the line prints it; empty for a step on the way to a figure
+  // Steps that this one stands for, if it stands for any; its figure is that of their last one.
+  std::shared_ptr<const StessiPassaggi> comuni = {};
 
   void Annota(std::string_view nota);
   // What the cuts have left of the result.
@@ -58,6 +83,22 @@ struct Passaggio {
 
 using Catena = std::vector<Passaggio>;
 Catena Unite(Catena prima, Catena poi);
+
+// Steps that many lines have in common. They are made once, when the first of these lines is read,
+// so `passi` keeps all that it needs by value.
+class StessiPassaggi {
+ public:
+  explicit StessiPassaggi(std::function<Catena()> passi) : passi_(std::move(passi)) {}
+  const Catena& Passi() const;
+
+ private:
+  mutable std::function<Catena()> passi_;
+  mutable Catena fatti_;
+};
+Passaggio InComune(std::function<Catena()> passi, std::string cifra = {});
+// With the steps themselves in place of one that stands for them; none of them has a figure but the
+// last, if the one in their place had it.
+Catena Svolta(const Catena& catena);
 
 // A line of a report that carries figures. The last step with a figure is that of its main one.
 struct Spiegazione {
@@ -82,7 +123,7 @@ class Spiegazioni {
     if (attive_) Aggiungi(stampato, passi());
   }
 
-  const std::vector<Spiegazione>& Righe() const { return righe_; }
+  const std::vector<Spiegazione>& Righe() const;
   // Of a line counted from 1; nullptr where it has none.
   const Spiegazione* Della(std::size_t riga) const;
 
@@ -90,7 +131,8 @@ class Spiegazioni {
   void Aggiungi(std::string_view stampato, Catena passi);
 
   bool attive_ = false;
-  std::vector<Spiegazione> righe_;
+  mutable std::vector<Spiegazione> righe_;
+  mutable std::size_t svolte_ = 0;    // lines that have been read
   std::size_t letto_ = 0, fini_ = 0;  // bytes of the report looked at, line ends among them
 };
 

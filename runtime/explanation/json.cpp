@@ -25,7 +25,7 @@ const char* NomeTaglio(TipoTaglio tipo) {
 
 Json JsonPasso(const Passaggio& passo) {
   Json json{{"regola", passo.regola}};
-  if (!passo.conto.empty()) json["conto"] = passo.conto;
+  if (!passo.conto.empty()) json["conto"] = passo.conto.Testo();
   if (passo.risultato) json["risultato"] = *passo.risultato;
   if (!passo.unita.empty()) json["unita"] = passo.unita;
   for (const Taglio& taglio : passo.tagli)

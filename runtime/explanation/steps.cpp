@@ -9,7 +9,7 @@ namespace orm {
 
 Conto Annota(Catena& passi, std::string regola, const Conto& conto, std::string unita) {
   passi.push_back({.regola = std::move(regola),
-                   .conto = conto.Semplice() ? "" : conto.Testo(),
+                   .conto = conto,
                    .risultato = conto.Valore(),
                    .unita = std::move(unita)});
   return conto.Valore();

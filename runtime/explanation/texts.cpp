@@ -1,5 +1,7 @@
 // Explanations as paragraphs that can be pasted.
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "runtime/explanation/explanation.h"
 #include "runtime/numbers.h"
@@ -40,6 +42,27 @@ double DaLeggere(double valore) {
   return std::floor(letto) == std::floor(valore) ? letto : valore;
 }
 
+// The same of the numbers of a sum.
+std::string DaLeggere(const std::string& conto) {
+  constexpr std::string_view kDiUnNumero = "0123456789.,";
+  std::string letto;
+  for (std::size_t da = 0, a = 0; da < conto.size(); da = a) {
+    const bool numero = kDiUnNumero.find(conto[da]) != std::string_view::npos;
+    a = std::min(
+        numero ? conto.find_first_not_of(kDiUnNumero, da) : conto.find_first_of(kDiUnNumero, da),
+        conto.size());
+    std::string parte = conto.substr(da, a - da);
+    if (numero && parte.size() > std::numeric_limits<double>::digits10) {
+      std::string cifre = parte;
+      std::erase(cifre, '.');
+      std::ranges::replace(cifre, ',', '.');
+      if (const auto valore = ParseNumber(cifre)) parte = CifraEsatta(DaLeggere(*valore));
+    }
+    letto += parte;
+  }
+  return letto;
+}
+
 // A cut that found nothing to take is not told.
 std::string TestoTaglio(Taglio taglio) {
   taglio.prima = DaLeggere(taglio.prima);
@@ -54,7 +77,7 @@ std::string TestoPasso(const Passaggio& passo) {
   std::string testo = passo.regola;
   if (passo.risultato) {
     testo += ": ";
-    if (!passo.conto.empty()) testo += passo.conto + " = ";
+    if (!passo.conto.empty()) testo += DaLeggere(passo.conto.Testo()) + " = ";
     testo += CifraEsatta(DaLeggere(*passo.risultato));
     if (!passo.unita.empty()) testo += " " + passo.unita;
   }

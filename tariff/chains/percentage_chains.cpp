@@ -31,7 +31,7 @@ Passaggio PassoAumenti(int periodo, bool oltre, const Conto& aumenti) {
   }
   Passaggio passo{"Aumenti delle percentuali del D.M. 25-2-1965 fino al " + SiglaDecreto(periodo) +
                       ", l'uno sull'altro: " + decreti,
-                  aumenti.Testo(), aumenti.Valore()};
+                  aumenti, aumenti.Valore()};
   if (oltre && periodo >= kPeriodo1987)
     passo.Annota("L'aumento del D.M. 11-6-1987 si ferma a " + InLire(kLimiteTabellaA));
   return passo;

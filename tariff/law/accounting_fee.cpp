@@ -24,6 +24,12 @@ Conto Aliquota(std::size_t fascia, int periodo) {
          (fascia > kLimiti ? decreto.coefficienteOltre : decreto.coefficiente);
 }
 
+// Less what is not 0, so that the sum as it is written has no idle terms.
+Conto Meno(Conto importo, const Conto& tolto) {
+  if (tolto != 0) importo -= tolto;
+  return importo;
+}
+
 FasciaContabilita Calcola(std::size_t fascia, const RigaContabilita& riga, const Conto& parte) {
   const Conto aliquota = Aliquota(fascia, riga.periodo);
   return {aliquota, riga.coefficiente, parte, parte * aliquota * riga.coefficiente / 100,
@@ -49,17 +55,17 @@ OnorarioContabilita CalcoloOnorarioContabilita(const std::vector<RigaContabilita
       if (esito.importo >= Limite(n, modoLire)) ++raggiunte;
 
     for (std::size_t n = chiuse + 1; n <= raggiunte; ++n) {
-      const Conto parte = Conto(Limite(n, modoLire)) - Limite(n - 1, modoLire) - usata;
+      const Conto parte = Meno(Meno(Limite(n, modoLire), Limite(n - 1, modoLire)), usata);
       if (!(parte > 0)) continue;
       aggiungi(n, riga, parte);
       usata = 0;
     }
     chiuse = raggiunte;
 
-    const Conto resto = esito.importo - Limite(chiuse, modoLire) - usata;
+    const Conto resto = Meno(Meno(esito.importo, Limite(chiuse, modoLire)), usata);
     if (!(resto > 0)) continue;
     aggiungi(chiuse + 1, riga, resto);
-    usata = esito.importo - Limite(chiuse, modoLire);
+    usata = Meno(esito.importo, Limite(chiuse, modoLire));
   }
   return esito;
 }

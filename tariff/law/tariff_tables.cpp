@@ -145,14 +145,14 @@ void TabellaBAliquote(std::string_view classe, std::string_view categoria,
                       Conto& sommaDirezione) {
   if (const RigaTabellaB* riga = RigaPer(kTabellaB, classe, categoria))
     std::ranges::copy(riga->aliquote, aliquote.begin() + 1);
-  const auto somma = [&](std::size_t primo, std::size_t ultimo) {
-    Conto totale;
+  const auto somma = [&](Conto totale, std::size_t primo, std::size_t ultimo) {
     for (std::size_t i = primo; i <= ultimo; ++i)
       if (const double quota = selezione[i] * aliquote[i]; quota != 0) totale += quota;
     return totale;
   };
-  sommaProgettazione = somma(1, kServiziProgettoTabellaB);
-  sommaDirezione = somma(kServiziProgettoTabellaB + 1, kLettereTabellaB.size());
+  sommaProgettazione = somma(sommaProgettazione.Zero(), 1, kServiziProgettoTabellaB);
+  sommaDirezione =
+      somma(sommaDirezione.Zero(), kServiziProgettoTabellaB + 1, kLettereTabellaB.size());
 }
 
 double AliquotaTabellaB(std::string_view classe, std::string_view categoria, char lettera) {

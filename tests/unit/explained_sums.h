@@ -69,7 +69,8 @@ inline void ExpectRecomputed(const Catena& passi, double mostrato, const std::st
   ASSERT_FALSE(passi.empty()) << chi;
   for (const Passaggio& passo : passi) {
     if (!passo.conto.empty()) {
-      EXPECT_EQ(DoneAgain(passo.conto).Value(), *passo.risultato) << chi << passo.conto;
+      EXPECT_EQ(DoneAgain(passo.conto.Testo()).Value(), *passo.risultato)
+          << chi << passo.conto.Testo();
     }
     for (const Taglio& taglio : passo.tagli) {
       if (taglio.tipo != TipoTaglio::Arrotonda) continue;

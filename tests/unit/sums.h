@@ -96,8 +96,8 @@ inline double Tagliato(const Taglio& taglio, double valore) {
 inline std::string Difetto(const Passaggio& passo) {
   if (!passo.risultato) return passo.conto.empty() ? "" : "un conto senza risultato";
   double valore = Calcolatrice::Fa(CifraEsatta(*passo.risultato));
-  if (!passo.conto.empty() && Calcolatrice::Fa(passo.conto) != valore)
-    return CifraEsatta(Calcolatrice::Fa(passo.conto)) + " e non " + CifraEsatta(valore);
+  if (!passo.conto.empty() && Calcolatrice::Fa(passo.conto.Testo()) != valore)
+    return CifraEsatta(Calcolatrice::Fa(passo.conto.Testo())) + " e non " + CifraEsatta(valore);
   for (const Taglio& taglio : passo.tagli) {
     const double resta = Tagliato(taglio, valore);
     if (taglio.prima != valore || taglio.dopo != resta)

@@ -48,7 +48,7 @@ bool Mostra(const Passaggio& passo) {
 std::string Difetto(const std::string& riga, const Spiegazione& spiegazione) {
   for (const Passaggio& passo : spiegazione.passi) {
     if (const std::string difetto = Difetto(passo); !difetto.empty())
-      return passo.regola + ": " + passo.conto + ": " + difetto;
+      return passo.regola + ": " + passo.conto.Testo() + ": " + difetto;
     if (passo.cifra.empty()) continue;
     if (riga.find(passo.cifra) == std::string::npos) return passo.cifra + " non è nella riga";
     if (!Mostra(passo)) return passo.cifra + " non è ciò che resta";

@@ -115,7 +115,7 @@ TEST_F(Statements, OfTrussSlabs) {
     EXPECT_EQ(r.passiTau.back().tagli[0].dopo, r.tau);
     EXPECT_EQ(r.passiMezzeria.back().tagli[0].dopo, r.momentoMezzeria);
     for (const Appoggio* a : {&r.sinistra, &r.destra}) {
-      EXPECT_EQ(DoneAgain(a->passiNervata.back().conto).Value(), a->nervata.dati.M);
+      EXPECT_EQ(DoneAgain(a->passiNervata.back().conto.Testo()).Value(), a->nervata.dati.M);
       EXPECT_EQ(std::fabs(a->nervata.risultati.clsInf), a->clsNervata);
     }
   }
