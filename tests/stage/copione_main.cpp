@@ -2,6 +2,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "cases/fee_case.h"
 #include "desktop/desktop_app.h"
 #include "script/run_scripts.h"
 #include "tests/stage/desktop_stage.h"
@@ -12,7 +13,7 @@ struct Options {
   bool desktop = false;
   bool keys = false;
   bool hasty = false;
-  std::size_t rehearsed = 0;
+  bool rehearseAll = false;
   bool update = false;
   bool drawings = false, whole = false, dark = false;
   std::string pictures;
@@ -23,6 +24,17 @@ struct Options {
 QSize QSizeOf(const std::string& text) {
   const QStringList sides = QString::fromStdString(text).split('x');
   return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+// Of each case in each currency.
+std::vector<std::string> InputCommands() {
+  std::vector<std::string> commands;
+  for (const orm::FeeCase& fee : orm::FeeCases()) {
+    if (fee.stem == nullptr) continue;
+    if (fee.inLireMenu) commands.push_back(std::string(fee.stem) + "_ID");
+    if (fee.actsInEuroMenu) commands.push_back(std::string(fee.stem) + "_E_ID");
+  }
+  return commands;
 }
 
 int PlayAll(const Options& options) {
@@ -40,9 +52,12 @@ int PlayAll(const Options& options) {
           : orm::BuildPlainStage;
   const int failed =
       orm::RunScripts(options.scripts, build, {options.update, &std::cout}, std::cerr);
-  for (const std::string& fault : faults) std::cerr << fault << std::endl;
   if (options.hasty) std::cout << rehearsed.size() << " parcelle ripetute con sviste" << std::endl;
-  if (rehearsed.size() < options.rehearsed) return 1;
+  if (options.rehearseAll)
+    for (const std::string& command : InputCommands())
+      if (!rehearsed.contains({command, false}) && !rehearsed.contains({command, true}))
+        faults.insert(command + " : nessun copione ne ripete la parcella con sviste");
+  for (const std::string& fault : faults) std::cerr << fault << std::endl;
   return faults.empty() ? failed : 1;
 }
 
@@ -56,7 +71,8 @@ int main(int argc, char** argv) {
   app.add_flag("--tasti", options.keys, "con la sola tastiera")->needs(desktop);
   app.add_flag("--sviste", options.hasty, "con la sola tastiera e con sviste, subito corrette")
       ->needs(desktop);
-  app.add_option("--ripetute", options.rehearsed, "quante parcelle almeno si ripetono con sviste");
+  app.add_flag("--ripetute", options.rehearseAll,
+               "una parcella di ogni voce dei menù deve ripetersi con sviste");
   app.add_flag("--aggiorna", options.update, "riscrive i file attesi, da rileggere");
   app.add_option("--immagini", options.pictures, "cartella delle immagini chieste dai copioni");
   app.add_flag("--disegni", options.drawings, "con le immagini, ogni disegno come file e stampato");
