@@ -4,11 +4,11 @@
 
 namespace orm {
 
-using Kind = Control::Kind;
-
-bool IsField(Kind kind) {
-  return kind == Kind::TextBox || kind == Kind::NumberBox || kind == Kind::BarsBox ||
-         kind == Kind::Combo || kind == Kind::List || kind == Kind::Date || kind == Kind::Slider;
+bool IsField(Control::Kind kind) {
+  return kind == Control::Kind::TextBox || kind == Control::Kind::NumberBox ||
+         kind == Control::Kind::BarsBox || kind == Control::Kind::Combo ||
+         kind == Control::Kind::List || kind == Control::Kind::Date ||
+         kind == Control::Kind::Slider;
 }
 
 bool HasTitle(const Layout& part) {
@@ -22,14 +22,14 @@ const Layout& TitledGroup(const Layout& part) {
 }
 
 bool HoldsDrawing(const Layout& part) {
-  return (part.control != nullptr && part.control->GetKind() == Kind::Drawing) ||
+  return (part.control != nullptr && part.control->GetKind() == Control::Kind::Drawing) ||
          std::any_of(part.children.begin(), part.children.end(), HoldsDrawing);
 }
 
 bool IsFieldItem(const Layout& part) {
   return part.kind == Layout::Kind::Item &&
          (IsField(part.control->GetKind()) ||
-          (part.control->GetKind() == Kind::Label && !part.control->Caption().empty()));
+          (part.control->GetKind() == Control::Kind::Label && !part.control->Caption().empty()));
 }
 
 bool IsLine(const Layout& part) {
@@ -37,9 +37,9 @@ bool IsLine(const Layout& part) {
   const bool items = std::all_of(part.children.begin(), part.children.end(),
                                  [](const Layout& p) { return p.kind == Layout::Kind::Item; });
   if (!items) return false;
-  const Kind first = part.children[0].control->GetKind();
-  const Kind second = part.children[1].control->GetKind();
-  const bool box = first == Kind::Check || first == Kind::Option;
+  const Control::Kind first = part.children[0].control->GetKind();
+  const Control::Kind second = part.children[1].control->GetKind();
+  const bool box = first == Control::Kind::Check || first == Control::Kind::Option;
   return box ? second != first : IsField(first);
 }
 
@@ -50,7 +50,8 @@ const Layout& FirstOf(const Layout& line) {
 bool IsTable(const std::vector<Layout>& lines) {
   return lines.size() > 1 && lines[0].kind == Layout::Kind::Row &&
          std::all_of(lines[0].children.begin(), lines[0].children.end(), [](const Layout& part) {
-           return part.kind == Layout::Kind::Item && part.control->GetKind() == Kind::Label;
+           return part.kind == Layout::Kind::Item &&
+                  part.control->GetKind() == Control::Kind::Label;
          });
 }
 
