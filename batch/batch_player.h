@@ -1,7 +1,7 @@
 // The player of the program without a screen: message boxes go to standard error.
 #pragma once
 
-#include "dialogs/quiet_player.h"
+#include "shell/quiet_player.h"
 
 namespace orm {
 

@@ -1,7 +1,6 @@
 // From the files of a note to its JSON.
 #include "cases/calculation_step.h"
 #include "cases/fee_case.h"
-#include "dialogs/quiet_player.h"
 #include "interchange/interchange.h"
 #include "interchange/note_files.h"
 #include "interchange/note_lines.h"
@@ -10,6 +9,7 @@
 #include "runtime/text.h"
 #include "runtime/version.h"
 #include "shell/personal/settings.h"
+#include "shell/quiet_player.h"
 #include "tariff/files/case_files.h"
 #include "tariff/files/user_files.h"
 

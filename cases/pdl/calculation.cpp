@@ -105,13 +105,17 @@ void NotaPdl::CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga) {
       StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione,
                         "Lavori del lotto su cui si prende la percentuale della direzione");
   }
-  for (const auto onorario : {&NotaPdl::OnorarioProgetto, &NotaPdl::OnorarioPerizie})
-    if (const Conto importo = (this->*onorario)(conto); importo != 0) totali[0] += importo;
+  // What comes to 0 is no term of the sum that a person reads.
+  const auto aggiungi = [this](std::size_t voce, const Conto& importo) {
+    if (importo != 0) totali[voce] += importo;
+  };
+  aggiungi(0, OnorarioProgetto(conto));
+  aggiungi(0, OnorarioPerizie(conto));
   const Conto direzione = OnorarioDirezione(conto);
-  if (direzione != 0) totali[1] += direzione;
+  aggiungi(1, direzione);
   const bool sorveglianza = direzione != 0 && riga.FlagSorveglianza != "N";
   UltimaSorveglianza = sorveglianza ? OnorarioSorveglianza(conto) : Conto();
-  if (UltimaSorveglianza != 0) totali[2] += UltimaSorveglianza;
+  aggiungi(2, UltimaSorveglianza);
   if (direzione != 0 && riga.FlagContabilita != "N")
     contemp.push_back(
         {conto.Periodo, riga.CoefficienteContabilita, Zero() + riga.ImportoDirezione});
