@@ -79,6 +79,7 @@ std::optional<std::string> DraftFile::TakeOver() {
       try {
         std::string bytes = place.folder.Read(place.name);
         number_ = number;
+        Hold(place);
         return bytes;
       } catch (const RuntimeFailure&) {
         continue;  // it stays where it is
@@ -94,10 +95,14 @@ bool DraftFile::PutAt(const Place& place, std::string_view bytes) {
   } catch (const RuntimeFailure&) {
     return false;
   }
+  Hold(place);
+  return true;
+}
+
+void DraftFile::Hold(const Place& place) {
   const int fresh = OpenRetrying(place.Path(), O_RDONLY | O_NONBLOCK);
   if (fresh >= 0) ::flock(fresh, LOCK_EX | LOCK_NB);
   if (const int old = std::exchange(held_, fresh); old >= 0) ::close(old);
-  return true;
 }
 
 bool DraftFile::Keep(std::string_view bytes) {

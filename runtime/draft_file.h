@@ -36,6 +36,7 @@ class DraftFile {
   };
   std::vector<Place> Places(int number) const;
   bool PutAt(const Place& place, std::string_view bytes);
+  void Hold(const Place& place);
 
   WorkFolder folder_;
   std::string about_, whole_;

@@ -1,6 +1,8 @@
 // What has been typed and not saved outlives the program, however it ends.
 #include <QPlainTextEdit>
+#include <QSessionManager>
 #include <QTemporaryDir>
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -57,6 +59,14 @@ TEST_F(Unsaved, OutlivesEveryEnd) {
   ComesBack();
   EXPECT_EXIT(TypeAndEnd([] { std::raise(SIGHUP); }), testing::KilledBySignal(SIGHUP), "");
   ComesBack();
+  // The end of the session asks, and may kill at once. No session manager is needed to be asked.
+  EXPECT_EXIT(TypeAndEnd([] {
+                alignas(QSessionManager) std::array<char, sizeof(QSessionManager)> nobody{};
+                emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
+                std::raise(SIGKILL);
+              }),
+              testing::KilledBySignal(SIGKILL), "");
+  ComesBack();
   // As Qt leaves when the screen breaks off.
   EXPECT_EXIT(TypeAndEnd([] { std::exit(1); }), testing::ExitedWithCode(1), "");
   ComesBack();
@@ -65,6 +75,15 @@ TEST_F(Unsaved, OutlivesEveryEnd) {
                 std::raise(SIGKILL);
               }),
               testing::KilledBySignal(SIGKILL), "");
+  // What was brought back and not saved comes back from the next crash, be it at once.
+  EXPECT_EXIT(
+      {
+        Person person("Riprendi il testo");
+        ViewerWindow window;
+        window.Open(PathOf("A.TXT"));
+        std::raise(window.Page().Text() == "scritto prima\n" ? SIGKILL : SIGABRT);
+      },
+      testing::KilledBySignal(SIGKILL), "");
   ComesBack();
 }
 
@@ -98,6 +117,16 @@ TEST_F(Unsaved, FormsAndMemoAreOfferedAtTheNextStart) {
       shell.Choose(command);
     };
     EXPECT_EXIT(typeAndEnd(), testing::KilledBySignal(SIGTERM), "") << command;
+    // A start that crashes before anything is taken up again leaves it all.
+    EXPECT_EXIT(
+        {
+          TestPlayer player;
+          Shell shell(player, folder);
+          shell.Load();
+          shell.Bozze().Keep();
+          std::raise(SIGKILL);
+        },
+        testing::KilledBySignal(SIGKILL), "");
     TestPlayer player;
     QString told;
     player.onMessage = [&](QMessageBox& box) { told = box.text(); };
@@ -119,11 +148,15 @@ TEST_F(Unsaved, FormsAndMemoAreOfferedAtTheNextStart) {
 }
 
 TEST_F(Unsaved, AnOpenWindowKeepsItsOwnAndWhatIsNotWantedGoes) {
+  EXPECT_EXIT(TypeAndEnd([] { std::raise(SIGTERM); }), testing::KilledBySignal(SIGTERM), "");
   ViewerWindow one, two;
-  one.Open(PathOf("A.TXT"));
-  QTest::keyClicks(&one.Page(), "uno ");
+  {
+    Person person("Riprendi il testo");
+    one.Open(PathOf("A.TXT"));
+    two.Open(PathOf("A.TXT"));  // is asked nothing: the text has gone to the other
+  }
+  EXPECT_EQ(two.Page().Text(), "prima\n");
   one.KeepUnsaved();
-  two.Open(PathOf("A.TXT"));  // asks nothing
   QTest::keyClicks(&two.Page(), "due ");
   two.KeepUnsaved();
   EXPECT_EQ(Drafts(folder_), 2);

@@ -1,11 +1,12 @@
 // The windows' own saves, for the fault loops:
 //
-//   orm_desktop_saver FOLDER utente|visore|copia|stampa|nuovo|prende|versione
+//   orm_desktop_saver FOLDER utente|visore|copia|stampa|aspetta|nuovo|prende|versione
 //
 // the form of the professional's data, a report changed in the viewer, its copy as text, a page
-// printed to a file; on the desk of the jobs in FOLDER, by keys: a job "Nuovo", Uno.json into
-// "Uno", the oldest version of its note. Exit codes as those of orm_saver. It is followed
-// (followed.h) from when everything is on the screen: Qt's own start is no part of a save.
+// printed to a file, a report changed on a real screen until that goes; on the desk of the jobs in
+// FOLDER, by keys: a job "Nuovo", Uno.json into "Uno", the oldest version of its note. Exit codes
+// as those of orm_saver. It is followed (followed.h) from when everything is on the screen: Qt's
+// own start is no part of a save.
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -22,6 +23,7 @@
 
 #include "desktop/desk/window.h"
 #include "desktop/desktop_app.h"
+#include "desktop/last_words.h"
 #include "desktop/player/desktop_player.h"
 #include "desktop/player/form_dialog.h"
 #include "desktop/print_whole.h"
@@ -71,6 +73,12 @@ void Save(const std::string& folder, const std::string& what) {
   BeFollowed();
   if (what == "visore") window.Save();
   if (what == "copia") window.SaveCopy(orm::CopyKind::Utf8, folder + "/COPIA.txt");
+  if (what == "aspetta") {
+    const orm::LastWords lastWords([&window] { window.KeepUnsaved(); });
+    std::puts("pronto");
+    std::fflush(stdout);
+    QApplication::exec();
+  }
   window.Page().document()->setModified(false);
 }
 
@@ -130,7 +138,8 @@ void Work(const std::string& folder, const std::string& what) {
 
 int main(int argc, char** argv) {
   if (argc < 3) return 3;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const std::string folder = argv[1], what = argv[2];
+  qputenv("QT_QPA_PLATFORM", what == "aspetta" ? "xcb" : "offscreen");
   QApplication application(argc, argv);
   orm::DressApplication(application);
   QTimer reader;
@@ -143,13 +152,12 @@ int main(int argc, char** argv) {
     }
   });
   reader.start(5);
-  const std::string folder = argv[1], what = argv[2];
   if (what == "stampa") {
     Print(folder + "/STAMPA.pdf");
   } else if (what == "utente") {
     Hand hand(folder);
     orm::Shell(hand, orm::WorkFolder(folder)).Choose("PERS_UTENTE");
-  } else if (what != "visore" && what != "copia") {
+  } else if (what != "visore" && what != "copia" && what != "aspetta") {
     Work(folder, what);
   } else {
     Save(folder, what);

@@ -97,6 +97,11 @@ if strace -o /dev/null true 2>/dev/null; then
     strace -o /dev/null -e inject="$call:error=EPERM" "$calcolo" PPE --cartella "$at" >/dev/null 2>&1 ||
       breaks "$call con EPERM: non salva"
   done
+  # A folder of the network, as its file system's number (here that of NFS) says: told, and saved.
+  sample_folder "$at"
+  tried=$((tried + 1))
+  told=$(strace -o /dev/null -e inject=fstatfs:poke_exit=@arg2=6969000000000000 "$calcolo" PPE --cartella "$at" 2>&1 >/dev/null) &&
+    grep -q 'La cartella è di rete' <<<"$told" || breaks "cartella di rete: $told"
 fi
 
 # A limit on the size of files: an error like the others, not the end of the process.

@@ -32,8 +32,8 @@ void NomiDelloStorico(std::string_view input) {
   const WorkFolder storico(Place().PathOf(kStorico));
   std::filesystem::remove_all(storico.Path());
   std::filesystem::create_directory(storico.Path());
-  std::size_t others = 0, before = 0;
-  for (std::size_t at = 0; at < input.size();) {
+  constexpr int kMostNames = 30;
+  for (std::size_t at = 0, names = 0; at < input.size() && names < kMostNames;) {
     const std::string name(input.substr(at, input.find('\n', at) - at));
     at += name.size() + 1;
     if (name.empty() || name.size() > 200 || name == "." || name == ".." ||
@@ -41,11 +41,10 @@ void NomiDelloStorico(std::string_view input) {
         name.find("-99") != name.npos || storico.Exists(name))
       continue;
     std::ofstream(storico.PathOf(name)) << name;
-    const std::size_t now = Generazioni(Place()).size();
-    if (now == before) ++others;
-    before = now;
+    ++names;
   }
-  before = Generazioni(Place(), "A.DAP").size();
+  const std::size_t others = storico.Names().size() - Generazioni(Place()).size();
+  const std::size_t before = Generazioni(Place(), "A.DAP").size();
   std::filesystem::remove(Place().PathOf("A.DAP"));
   Put("A.DAP", "prima");
   Put("A.DAP", "dopo");

@@ -9,7 +9,7 @@
 namespace orm {
 namespace {
 
-constexpr unsigned kNote = 40;
+constexpr unsigned kNote = 40 / ORM_RANDOM_SHARE;
 
 // The fees printed before the totals and the total, in hundredths. A fee ends a line in a field of
 // 14 characters, an amount of works in one of 16; the cost of tests is neither.
