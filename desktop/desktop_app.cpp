@@ -5,6 +5,7 @@
 #include <QPalette>
 
 #include "desktop/dress/seen_marks.h"
+#include "desktop/icons.h"
 #include "desktop/italian_captions.h"
 #include "desktop/pictures.h"
 #include "desktop/qt_text.h"
@@ -28,7 +29,7 @@ void DressApplication(QApplication& application) {
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   QGuiApplication::setApplicationDisplayName({});
   QGuiApplication::setDesktopFileName("orm2002");
-  QApplication::setStyle(new SeenMarks);
+  QApplication::setStyle(new SeenMarks(IconOf(LineIcon::Close)));
   QApplication::setPalette(SeenTexts());
   QApplication::setWindowIcon(ProgramIcon());
   QCoreApplication::installTranslator(new ItalianCaptions(&application));

@@ -89,6 +89,8 @@ class Player {
   virtual Answer Ask(const MessageBox& box) = 0;
   // The chosen path, or nothing when the person gave up.
   virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
+  // Puts a text where a person can paste it from; nobody else needs it.
+  virtual void CopyText(const std::string& /*text*/) {}
   // Starts a program on a file of the working folder and does not wait for it.
   virtual void StartProgram(const std::string& program, const std::string& argument) = 0;
   // A whole path, or the name of a program that the system finds in its PATH.

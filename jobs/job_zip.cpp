@@ -1,7 +1,6 @@
 #include "jobs/job_zip.h"
 
 #include <sys/stat.h>
-#include <zip.h>
 
 #include <algorithm>
 #include <ctime>
@@ -9,6 +8,7 @@
 #include <set>
 
 #include "jobs/job_commands.h"
+#include "jobs/zip/zip_library.h"
 #include "runtime/failure.h"
 #include "runtime/file_calls.h"
 #include "runtime/numbers.h"
@@ -27,9 +27,9 @@ constexpr const char* kDanneggiato = "L'archivio è danneggiato o non è uno ZIP
 }
 
 struct Chiude {
-  void operator()(zip_t* zip) const { ::zip_discard(zip); }
-  void operator()(zip_file_t* file) const { ::zip_fclose(file); }
-  void operator()(zip_source_t* source) const { ::zip_source_free(source); }
+  void operator()(zip_t* zip) const { LibZip().discard(zip); }
+  void operator()(zip_file_t* file) const { LibZip().fclose(file); }
+  void operator()(zip_source_t* source) const { LibZip().source_free(source); }
 };
 using Zip = std::unique_ptr<zip_t, Chiude>;
 using FileNelloZip = std::unique_ptr<zip_file_t, Chiude>;
@@ -38,34 +38,35 @@ using Sorgente = std::unique_ptr<zip_source_t, Chiude>;
 // An archive in memory; `sorgente` stays ours.
 Zip Apri(const Sorgente& sorgente, int come) {
   if (sorgente == nullptr) Rifiuta("Manca la memoria per l'archivio.");
-  ::zip_source_keep(sorgente.get());
-  Zip zip(::zip_open_from_source(sorgente.get(), come, nullptr));
+  LibZip().source_keep(sorgente.get());
+  Zip zip(LibZip().open_from_source(sorgente.get(), come, nullptr));
   if (zip == nullptr) {
-    ::zip_source_free(sorgente.get());
+    LibZip().source_free(sorgente.get());
     Rifiuta(kDanneggiato);
   }
   return zip;
 }
 
 void AggiungiAllo(zip_t* zip, const std::string& percorso, const FileDiAlbero& file) {
-  zip_source_t* bytes = ::zip_source_buffer(zip, file.contenuto.data(), file.contenuto.size(), 0);
-  const zip_int64_t posto = ::zip_file_add(zip, percorso.c_str(), bytes, ZIP_FL_ENC_UTF_8);
+  zip_source_t* bytes =
+      LibZip().source_buffer(zip, file.contenuto.data(), file.contenuto.size(), 0);
+  const zip_int64_t posto = LibZip().file_add(zip, percorso.c_str(), bytes, ZIP_FL_ENC_UTF_8);
   if (posto < 0) {
-    ::zip_source_free(bytes);
+    LibZip().source_free(bytes);
     Rifiuta("Il file non entra nell'archivio", percorso);
   }
   if (file.cambiato != 0)
-    ::zip_file_set_mtime(zip, static_cast<zip_uint64_t>(posto), file.cambiato / kNanoseconds, 0);
+    LibZip().file_set_mtime(zip, static_cast<zip_uint64_t>(posto), file.cambiato / kNanoseconds, 0);
 }
 
 std::string BytesDi(zip_source_t* sorgente) {
   zip_stat_t stato;
-  ::zip_stat_init(&stato);
+  LibZip().stat_init(&stato);
   std::string bytes;
-  if (::zip_source_stat(sorgente, &stato) == 0 && ::zip_source_open(sorgente) == 0) {
+  if (LibZip().source_stat(sorgente, &stato) == 0 && LibZip().source_open(sorgente) == 0) {
     bytes.resize(stato.size);
-    const zip_int64_t letti = ::zip_source_read(sorgente, bytes.data(), bytes.size());
-    ::zip_source_close(sorgente);
+    const zip_int64_t letti = LibZip().source_read(sorgente, bytes.data(), bytes.size());
+    LibZip().source_close(sorgente);
     if (letti == static_cast<zip_int64_t>(bytes.size())) return bytes;
   }
   Rifiuta("L'archivio non si può comporre.");
@@ -98,7 +99,7 @@ class LetturaZip {
   explicit LetturaZip(zip_t* zip) : zip_(zip) {}
 
   std::vector<FileDiAlbero> Leggi() {
-    const zip_int64_t quanti = ::zip_get_num_entries(zip_, 0);
+    const zip_int64_t quanti = LibZip().get_num_entries(zip_, 0);
     if (quanti <= 0) Rifiuta(kDanneggiato);
     if (static_cast<std::size_t>(quanti) > kFileDiAlberoMassimi)
       Rifiuta("L'archivio ha troppi file per essere un lavoro.");
@@ -109,9 +110,9 @@ class LetturaZip {
  private:
   void LeggiVoce(zip_uint64_t posto) {
     zip_stat_t stato;
-    ::zip_stat_init(&stato);
+    LibZip().stat_init(&stato);
     constexpr zip_uint64_t kServe = ZIP_STAT_NAME | ZIP_STAT_SIZE;
-    if (::zip_stat_index(zip_, posto, 0, &stato) != 0 || (stato.valid & kServe) != kServe)
+    if (LibZip().stat_index(zip_, posto, 0, &stato) != 0 || (stato.valid & kServe) != kServe)
       Rifiuta(kDanneggiato);
     std::string percorso = stato.name;
     const bool cartella = percorso.ends_with('/');
@@ -135,7 +136,7 @@ class LetturaZip {
   void EsigiFile(zip_uint64_t posto, const std::string& percorso) const {
     zip_uint8_t sistema = 0;
     zip_uint32_t attributi = 0;
-    if (::zip_file_get_external_attributes(zip_, posto, 0, &sistema, &attributi) != 0)
+    if (LibZip().file_get_external_attributes(zip_, posto, 0, &sistema, &attributi) != 0)
       Rifiuta(kDanneggiato);
     const mode_t modo = sistema == ZIP_OPSYS_UNIX ? attributi >> 16 : 0;
     if ((modo & S_IFMT) != 0 && !S_ISREG(modo) && !S_ISDIR(modo))
@@ -144,12 +145,12 @@ class LetturaZip {
 
   // One byte more than was claimed is asked for: a stream that goes on is a lie.
   std::string Contenuto(zip_uint64_t posto, zip_uint64_t grande, const std::string& percorso) {
-    const FileNelloZip file(::zip_fopen_index(zip_, posto, 0));
+    const FileNelloZip file(LibZip().fopen_index(zip_, posto, 0));
     if (file == nullptr) Rifiuta("L'archivio è danneggiato", percorso);
     std::string bytes;
     char pezzo[65536];
     for (;;) {
-      const zip_int64_t letti = ::zip_fread(file.get(), pezzo, sizeof pezzo);
+      const zip_int64_t letti = LibZip().fread(file.get(), pezzo, sizeof pezzo);
       if (letti < 0) Rifiuta("L'archivio è danneggiato", percorso);
       if (letti == 0) break;
       bytes.append(pezzo, static_cast<std::size_t>(letti));
@@ -187,19 +188,19 @@ std::string LeggiFileZip(const std::string& zip) {
 }  // namespace
 
 std::string FaiZip(const std::string& nome, const std::vector<FileDiAlbero>& files) {
-  const Sorgente sorgente(::zip_source_buffer_create(nullptr, 0, 0, nullptr));
+  const Sorgente sorgente(LibZip().source_buffer_create(nullptr, 0, 0, nullptr));
   Zip zip = Apri(sorgente, ZIP_TRUNCATE);
   // Nothing at all makes no archive.
-  if (files.empty() && ::zip_dir_add(zip.get(), nome.c_str(), ZIP_FL_ENC_UTF_8) < 0)
+  if (files.empty() && LibZip().dir_add(zip.get(), nome.c_str(), ZIP_FL_ENC_UTF_8) < 0)
     Rifiuta("L'archivio non si può comporre.");
   for (const FileDiAlbero& file : files) AggiungiAllo(zip.get(), nome + "/" + file.percorso, file);
-  if (::zip_close(zip.get()) != 0) Rifiuta("L'archivio non si può comporre.");
+  if (LibZip().close(zip.get()) != 0) Rifiuta("L'archivio non si può comporre.");
   static_cast<void>(zip.release());  // closed
   return BytesDi(sorgente.get());
 }
 
 ContenutoZip LeggiZip(std::string_view bytes) {
-  const Sorgente sorgente(::zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr));
+  const Sorgente sorgente(LibZip().source_buffer_create(bytes.data(), bytes.size(), 0, nullptr));
   const Zip zip = Apri(sorgente, ZIP_RDONLY);
   ContenutoZip contenuto{{}, LetturaZip(zip.get()).Leggi()};
   contenuto.nome = TogliCartella(contenuto.files);

@@ -21,6 +21,12 @@ QSize SeenMarks::sizeFromContents(ContentsType type, const QStyleOption* option,
   return size;
 }
 
+QIcon SeenMarks::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                              const QWidget* widget) const {
+  return icon == SP_LineEditClearButton ? emptiesField_
+                                        : QProxyStyle::standardIcon(icon, option, widget);
+}
+
 void SeenMarks::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);

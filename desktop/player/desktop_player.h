@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/data_forms/explanations.h"
 #include "dialogs/player.h"
 
 class QMessageBox;
@@ -14,7 +13,7 @@ namespace orm {
 
 class FormDialog;
 
-class DesktopPlayer : public Player, public Appunti {
+class DesktopPlayer : public Player {
  public:
   // `folder`: the working folder, where programs outside are started.
   explicit DesktopPlayer(std::string folder);

@@ -103,7 +103,7 @@ bool ViewerWindow::SaveCopy(CopyKind kind, const std::string& path, bool explain
 
 // A copy of the note comes from its data, not from the page.
 void ViewerWindow::TellHowCopyDiffers() {
-  ExplainEdits();
+  Explain();  // as the data are at this moment
   const bool changed = explained_.esito == ReportSpiegato::Esito::DatiCambiati;
   if (changed || explained_.esito == ReportSpiegato::Esito::InParte)
     Tell(this, QMessageBox::Information, QStringLiteral("La copia non è uguale alla pagina."),

@@ -24,9 +24,7 @@ FrmGenSpiega::FrmGenSpiega(Player& player, const std::string& di, const std::str
     : Form("frmGEN_Spiega", "SPIEGAZIONE DEI RISULTATI") {
   txtSpiegazione.SetText(OnOneLine(di) + "\n\n" + testo);
   cmdCOPIA.SetHint("Mette il testo negli appunti, per incollarlo altrove.");
-  cmdCOPIA.onPress = [this, &player] {
-    if (auto* appunti = dynamic_cast<Appunti*>(&player)) appunti->CopyText(txtSpiegazione.Text());
-  };
+  cmdCOPIA.onPress = [this, &player] { player.CopyText(txtSpiegazione.Text()); };
   cmdCHIUDI.onPress = [this] { Close(); };
   SetFirstFocus(txtSpiegazione);  // so that the arrows go through it
   SetContent(Column({Group(fraSpiegazione, {txtSpiegazione}), Buttons({cmdCOPIA, cmdCHIUDI})}));

@@ -14,13 +14,6 @@ namespace orm {
 // F4 among the keys of a button, which are characters: one that nobody types.
 inline constexpr const char* kTastoF4 = "\uF704";
 
-// A player that has a place from which a person can paste texts.
-class Appunti {
- public:
-  virtual ~Appunti() = default;
-  virtual void CopyText(const std::string& text) = 0;
-};
-
 // Belongs to a form and stands among its buttons. It can be pressed as long as there are results.
 class PulsanteSpiega : public Button {
  public:

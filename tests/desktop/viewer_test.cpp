@@ -2,6 +2,7 @@
 // has the columns of the report.
 #include <QAction>
 #include <QClipboard>
+#include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
@@ -525,6 +526,63 @@ TEST_F(ViewerTest, ExplainsAsInTheManual) {
   QTest::qWait(50);  // the page makes room for it
   const QString folder = qEnvironmentVariable("ORM_PICTURES");
   EXPECT_TRUE(folder.isEmpty() || window.grab().save(folder + "/spiegazione.png"));
+}
+
+// The note for other programs, by the keys of the menu: what orm2002-calcolo writes, and what is
+// told of it.
+TEST_F(ViewerTest, CopiesTheNoteForOtherPrograms) {
+  const WorkFolder sources(ORM_SOURCE_DIR);
+  for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
+    Write(name, sources.Read(std::string("data/sample/") + name));
+  Write("OUT_PPE.DOC", sources.Read("tests/scripts/ppe/lire.DOC"));
+  ViewerWindow window;
+  window.Open(PathOf("OUT_PPE.DOC"));
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto copy = [&](Qt::Key kind, const QString& name, const QString& button = {}) {
+    window.activateWindow();  // without a desktop nobody gives the place back after a question
+    QCoreApplication::processEvents();
+    QTest::keyClick(&window.Page(), Qt::Key_F, Qt::AltModifier);
+    const QWidget* file = QApplication::activePopupWidget();
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_C);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activePopupWidget() != file; }));
+    Person person(0, name.isEmpty() ? name : folder_.filePath(name), button);
+    QTest::keyClick(QApplication::activePopupWidget(), kind);
+    return person.Said().toStdString();
+  };
+  const auto reckoned = [this](const QString& option) {
+    QProcess program;
+    program.start(QCoreApplication::applicationDirPath() + "/orm2002-calcolo",
+                  {"PPE", option, "--data", "15/03/2002", "--cartella", folder_.path()});
+    program.waitForFinished();
+    return program.readAllStandardOutput().toStdString();
+  };
+  const std::tuple<Qt::Key, const char*, const char*> kinds[] = {
+      {Qt::Key_J, "nota.json", "--json"},
+      {Qt::Key_C, "nota.csv", "--csv"},
+      {Qt::Key_V, "semplice.csv", "--csv=semplice"}};
+  for (const auto& [key, name, option] : kinds) {
+    EXPECT_EQ(copy(key, name), "");
+    EXPECT_EQ(Read(name), reckoned(option));
+  }
+  const auto has = [](const std::string& said, const char* what) {
+    EXPECT_NE(said.find(what), std::string::npos) << said;
+  };
+  Write("nota.json", "altro");
+  const QStringList before = QDir(folder_.path()).entryList(QDir::Files);
+  has(copy(Qt::Key_J, "nota.json"), "nota.json");  // the button offered is "No", and then Esc
+  EXPECT_EQ(copy(Qt::Key_C, ""), "");
+  EXPECT_EQ(Read("nota.json"), "altro");
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), before);
+  Write("INP_PPE.DAP", "99,5,3,1,1\r\n20,1000000,\"\",1\r\n");
+  has(copy(Qt::Key_J, "dopo.json"), "che sono cambiati dopo questo calcolo");
+  EXPECT_EQ(Read("dopo.json"), reckoned("--json"));
+  QFile::remove(folder_.filePath("INP_PPE.DAP"));
+  has(copy(Qt::Key_C, "senza.csv"), "INP_PPE.DAP");
+  EXPECT_FALSE(QFile::exists(folder_.filePath("senza.csv")));
+  Write("A.DOC", kReport);
+  window.Open(PathOf("A.DOC"));  // no note's report
+  EXPECT_FALSE(window.findChild<QAction*>("copyJson")->isEnabled());
 }
 
 TEST_F(ViewerTest, OpensADroppedFile) {

@@ -135,6 +135,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"shell/help", "shell/letter", "shell/memo", "shell/personal"},
     {"shell"},
     {"interchange"},
+    {"jobs/zip"},
     {"jobs", "script"},
     {"desktop/dress"},
     {"batch", "desktop"},
@@ -256,7 +257,7 @@ Names BoxTexts() {
   std::string all;
   for (const std::string& file : LogicSources())
     // Scripts play the program of one folder: the desk tells what the jobs refuse.
-    if (RoomOf(file) != "script" && RoomOf(file) != "batch" && RoomOf(file) != "jobs")
+    if (RoomOf(file) != "script" && RoomOf(file) != "batch" && !file.starts_with("jobs/"))
       all += kRoot.Read(file) + "\n";
   AddTexts(all, "(?:Avviso|Rifiuta)\\w*\\([^;\"]*" + kLiterals, texts);
   AddTexts(all, kLiterals + ",\\s*MessageBox::Icon", texts);
