@@ -7,7 +7,7 @@
 #include "structures/steel_beams/cantilever.h"
 #include "structures/steel_beams/slab.h"
 #include "structures/truss_slab/truss_slab.h"
-#include "tests/unit/explained_sums.h"
+#include "tests/unit/sums.h"
 
 namespace orm {
 namespace {
@@ -115,7 +115,7 @@ TEST_F(Statements, OfTrussSlabs) {
     EXPECT_EQ(r.passiTau.back().tagli[0].dopo, r.tau);
     EXPECT_EQ(r.passiMezzeria.back().tagli[0].dopo, r.momentoMezzeria);
     for (const Appoggio* a : {&r.sinistra, &r.destra}) {
-      EXPECT_EQ(DoneAgain(a->passiNervata.back().conto.Testo()).Value(), a->nervata.dati.M);
+      EXPECT_EQ(Calcolatrice::Fa(a->passiNervata.back().conto.Testo()), a->nervata.dati.M);
       EXPECT_EQ(std::fabs(a->nervata.risultati.clsInf), a->clsNervata);
     }
   }

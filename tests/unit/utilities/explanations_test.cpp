@@ -1,7 +1,7 @@
 // Interest, pension and percentages can be reckoned again from what their explanations say.
 #include <random>
 
-#include "tests/unit/explained_sums.h"
+#include "tests/unit/sums.h"
 #include "utilities/interest.h"
 #include "utilities/pension.h"
 #include "utilities/percentages.h"
