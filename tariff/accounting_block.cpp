@@ -7,6 +7,7 @@
 #include "runtime/text.h"
 #include "tariff/explanations.h"
 #include "tariff/law/table_e.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
@@ -75,11 +76,12 @@ Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
       f.fascia > kLimitiTabellaELire.size()
           ? "oltre " + CifraEsatta(limiti.first) + " " + valuta
           : "da " + CifraEsatta(limiti.first) + " a " + CifraEsatta(limiti.second) + " " + valuta;
-  Passaggio aliquota{"Tabella E, fascia " + fascia +
-                         ": percentuale del D.M. 25-2-1965 per il "
-                         "coefficiente del " +
-                         SiglaDecreto(f.periodo),
-                     f.aliquota, f.aliquota.Valore(), "%"};
+  Passaggio aliquota{
+      "Tabella E, fascia " + fascia +
+          ": percentuale del D.M. 25-2-1965 per il "
+          "coefficiente del " +
+          SiglaDecreto(f.periodo < 1 || f.periodo > kPeriodo1987 ? kPeriodo1987 : f.periodo),
+      f.aliquota, f.aliquota.Valore(), "%"};
   Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte, f.parte.Valore(), valuta};
   Passaggio coefficiente{"Coefficiente della Tabella E" + TipoDiLavori(f.coefficiente), "",
                          f.coefficiente};

@@ -1,5 +1,7 @@
 #include "tariff/chains/compensation_chains.h"
 
+#include <algorithm>
+
 #include "runtime/explanation/steps.h"
 #include "tariff/chains/percentage_chains.h"
 #include "tariff/law/table_compensations.h"
@@ -58,10 +60,18 @@ Passaggio PassoCompensiCalabria(double lire, std::string_view residenza, double 
   const std::string dove = residenza == "FUORIREGIONE" ? "Fuori Regione"
                            : residenza == "OLTRE100KM" ? "Oltre 100 Km"
                                                        : "Entro 100 Km";
-  return PassoPercentuale(
+  std::string regola =
       "Criterio della Regione Calabria per i collaudi, residenza del collaudatore \"" + dove +
-          "\". " + ImportoDi(lire),
-      percentuale);
+      "\". " + ImportoDi(lire);
+  const auto* fascia = std::ranges::find_if(
+      kFasceCalabria, [lire](const FasciaCalabria& f) { return lire >= f.da && lire <= f.fino; });
+  if (fascia == kFasceCalabria.end())
+    regola += ", in nessuna fascia";
+  else if (fascia == &kFasceCalabria.back())
+    regola += ", oltre L. " + CifraEsatta(fascia->da);
+  else
+    regola += ", fino a L. " + CifraEsatta(fascia->fino);
+  return PassoPercentuale(regola, percentuale);
 }
 
 Passaggio PassoCoefficiente(double percentuale, double coefficiente) {

@@ -20,7 +20,7 @@ std::string InLire(double lire) { return "L. " + CifraEsatta(lire); }
 // What the decrees added up to a period, one by one.
 Passaggio PassoAumenti(int periodo, bool oltre, const Conto& aumenti) {
   std::string decreti;
-  for (int i = 2; i <= periodo && i <= kPeriodo1987; ++i) {
+  for (int i = 2; i <= periodo && i <= static_cast<int>(kDecreti.size()); ++i) {
     const DecretoTariffario& decreto = kDecreti[static_cast<std::size_t>(i - 1)];
     decreti += (decreti.empty() ? "" : ", ") + std::string(decreto.sigla) + " (x " +
                CifraEsatta(oltre ? decreto.aumentoOltre : decreto.aumento) + ")";
@@ -30,6 +30,8 @@ Passaggio PassoAumenti(int periodo, bool oltre, const Conto& aumenti) {
                   aumenti, aumenti.Valore()};
   if (oltre && periodo >= kPeriodo1987)
     passo.Annota("L'aumento del D.M. 11-6-1987 si ferma a " + InLire(kLimiteTabellaA));
+  if (aumenti.Valore() == 0)
+    passo.Annota("Il D.M. 4-4-2001 ha una curva propria e non aumenta questa tabella");
   return passo;
 }
 

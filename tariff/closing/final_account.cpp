@@ -38,6 +38,15 @@ void ContoFinale::StampaTotali(const Conto& onorari, const Conto& compensi) {
   });
 }
 
+Passaggio ContoFinale::Passo(std::string regola, const Conto& conto) const {
+  Passaggio passo = nota.PassoImporto(std::move(regola), conto);
+  if (nota.ModoLire && DecimaliValuta != 0) {
+    passo.unita = "Euro";
+    passo.Annota("La riga scrive L., ma la cifra è in Euro");
+  }
+  return passo;
+}
+
 Conto ContoFinale::BaseRiduzione() const {
   switch (nota.chiusura.ApplicazioneRiduzione) {
     case 1:

@@ -46,12 +46,8 @@ class ContoFinale {
   void Spiega(const char* regola, const Conto& conto) {
     nota.Spiega([&]() -> Catena { return {Passo(regola, conto)}; });
   }
-  // A sum in the currency that the account has come to.
-  Passaggio Passo(std::string regola, const Conto& conto) const {
-    Passaggio passo = nota.PassoImporto(std::move(regola), conto);
-    if (DecimaliValuta != 0) passo.unita = "Euro";
-    return passo;
-  }
+  // A sum in the currency that the account has come to; its line keeps the symbol of the note's.
+  Passaggio Passo(std::string regola, const Conto& conto) const;
   Passaggio PassoTassa(double tagliata) const;
   void StampaFirma(std::string_view ruolo, const std::string& nome);
 

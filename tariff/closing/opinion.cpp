@@ -45,8 +45,8 @@ double ContoFinale::Contributo(const std::string& spesa, const char* nome, doubl
   stampa.Text(nome + Percento(percentuale));
   Importo(contributo);
   nota.Spiega([&]() -> Catena {
-    return {Passo(TrimRight(nome) + ", con la percentuale dei criteri di calcolo, su " +
-                      (base.Semplice() ? "competenze" : "competenze e contributi"),
+    return {Passo(TrimRight(nome) + ", con la percentuale dei criteri di calcolo, " +
+                      (base.Semplice() ? "sulle competenze" : "su competenze e contributi"),
                   prodotto)};
   });
   return contributo;
@@ -128,6 +128,7 @@ void ContoFinale::StampaParere() {
   });
   riga("Tassa Rilascio parere Ordine " + TestoTassa, [&] {
     Passaggio passo = PassoTassa(TassaParere);
+    passo.note.clear();
     passo.cifra = TestoTassa.substr(TestoTassa.find(' ') + 1);
     return passo;
   });
