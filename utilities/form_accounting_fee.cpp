@@ -31,9 +31,9 @@ std::vector<Spiegazione> SpiegaContabilita(const OnorarioContabilita& esito, boo
                                            const std::string& voce) {
   std::vector<Spiegazione> perche;
   for (const FasciaContabilita& fascia : esito.fasce)
-    perche.push_back(Risultato("Fascia " + NumberText(static_cast<double>(perche.size() + 1)),
+    perche.push_back(Risultato("Scaglione " + NumberText(static_cast<double>(perche.size() + 1)),
                                CatenaFascia(fascia, lire)));
-  Passaggio somma{"Somma degli onorari delle fasce", esito.onorario, esito.onorario.Valore(),
+  Passaggio somma{"Somma degli onorari degli scaglioni", esito.onorario, esito.onorario.Valore(),
                   lire ? "Lire" : "Euro"};
   perche.push_back(Risultato(voce, {Mostrato(std::move(somma), lire ? 0 : -2)}));
   return perche;
