@@ -19,7 +19,7 @@ double Passo(Catena* passi, const char* regola, const Conto& conto, const char* 
 
 double SuMultiploDi5(double cm, Catena* passi) {
   const double intera = ArrotondaA5(cm, 0, 1);
-  if (intera != cm) Passo(passi, "Multiplo di 5 cm che la copre", Conto(5) * (intera / 5), "cm");
+  if (intera != cm) Passo(passi, "Il multiplo di 5 cm che basta", Conto(5) * (intera / 5), "cm");
   return intera;
 }
 
