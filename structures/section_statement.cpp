@@ -31,7 +31,7 @@ struct Prospetto {
   bool provaCompresso = false;
   const char* modello = kModelloTensione;
   Catena asse = {};  // how the axis was found
-  Passaggio inerzia = {};
+  Catena inerzia = {};
   std::vector<Ferri> ferri = {};
   bool Capovolta() const { return M < 0; }
 };
@@ -81,7 +81,7 @@ Catena SpiegaCls(const Prospetto& p, bool superiore) {
   Passaggio sigma =
       PassoMostrato("Bordo compresso: σ = - M x / J", conto.Testo(), tensione, kKgCmq, p.modello);
   sigma.note.push_back(Confronto(tensione, p.ammesse.cls));
-  return {Momento(p), p.inerzia, std::move(sigma)};
+  return Unite(Unite({Momento(p)}, p.inerzia), {std::move(sigma)});
 }
 
 Catena SpiegaAcciaio(const Prospetto& p, bool compresso) {
@@ -93,7 +93,7 @@ Catena SpiegaAcciaio(const Prospetto& p, bool compresso) {
     if (estremo != 0) perche += ": resta il valore della verifica precedente";
     return {PassoMostrato(std::move(perche), "", estremo, kKgCmq, p.modello)};
   }
-  Catena catena{Momento(p), p.inerzia};
+  Catena catena = Unite({Momento(p)}, p.inerzia);
   for (const Ferri& ferri : p.ferri)
     catena.push_back(
         {.regola = ferri.nome + ", d = " + CifraEsatta(ferri.d) + " cm: σ = n M (d - x) / J",
@@ -185,13 +185,68 @@ CateneFlessione SpiegaSezioneT(const DatiSezione& dati, const RisultatiSezione& 
        .conto = statico.conto.Testo(),
        .risultato = statico.conto,
        .unita = "cmc"}};
-  p.inerzia = {.regola = "Momento d'inerzia della sezione reagente rispetto all'asse neutro, J = " +
-                         inerzia.formula + " + Σ n A (d - x)²",
-               .conto = inerzia.conto.Testo(),
-               .risultato = risultati.inerzia,
-               .unita = "cm4"};
+  p.inerzia = {
+      {.regola = "Momento d'inerzia della sezione reagente rispetto all'asse neutro, J = " +
+                 inerzia.formula + " + Σ n A (d - x)²",
+       .conto = inerzia.conto.Testo(),
+       .risultato = risultati.inerzia,
+       .unita = "cm4"}};
   return Catene(p);
 }
+
+namespace {
+
+Passaggio Angolo(std::string regola, double valore, const char* unita) {
+  return {.regola = std::move(regola), .conto = "", .risultato = valore, .unita = unita};
+}
+
+// Of a circle by its half angle, under the names of its diameter and of the angle.
+std::string FormulaSegmento(const std::string& D, const std::string& a) {
+  return D + "⁴ (" + a + " (1 + 4 cos²" + a + ") / 64 - (15 - 2 sen²" + a + ") sen " + a + " cos " +
+         a + " / 192)";
+}
+
+const char* FormulaParte(ParteInerzia::Quale quale) {
+  static const std::string segmento = "Segmento compresso, " + FormulaSegmento("D", "α"),
+                           foro = "Foro sopra l'asse, " + FormulaSegmento("Di", "β");
+  switch (quale) {
+    case ParteInerzia::Quale::Segmento:
+      return segmento.c_str();
+    case ParteInerzia::Quale::Foro:
+      return foro.c_str();
+    case ParteInerzia::Quale::Acciaio:
+      return "Acciaio, n volte: gli anelli, D² cos²α ΣA / 4 + Σ Da² A / 8, e i gruppi, Σ A (d - "
+             "x)²";
+    case ParteInerzia::Quale::TolteDalForo:
+      return "Foro tutto compresso, termine che si toglie, (Di / 2)⁴ π / 64";
+    default:
+      return "Foro tutto compresso, termine che si aggiunge, π (Di / 2)² (D / 4 - D cos α / 2)²";
+  }
+}
+
+// Part by part, then their sum.
+Catena InerziaCircolare(const DatiCircolare& z, double t) {
+  Catena catena{Angolo("Seno di α", std::sin(t), ""), Angolo("Coseno di α", std::cos(t), "")};
+  Conto J;
+  for (const ParteInerzia& parte : PartiInerzia(t, z)) {
+    if (parte.quale == ParteInerzia::Quale::Foro) {
+      const double u = SemiangoloForo(t, z);
+      catena.push_back(
+          Angolo("Semiangolo β della stessa corda nel foro, cos β = cos α D / Di", u, "rad"));
+      catena.push_back(Angolo("Seno di β", std::sin(u), ""));
+      catena.push_back(Angolo("Coseno di β", std::cos(u), ""));
+    }
+    const Conto valore = Annota(catena, FormulaParte(parte.quale), parte.conto, "cm4");
+    parte.toglie ? J -= valore.Valore() : J += valore.Valore();
+  }
+  Annota(catena,
+         "Momento d'inerzia della sezione reagente rispetto all'asse neutro, J, somma delle "
+         "parti",
+         J, "cm4");
+  return catena;
+}
+
+}  // namespace
 
 CateneFlessione SpiegaSezioneC(const DatiCircolare& z, const RisultatiCircolare& risultati,
                                const TensioniAmmissibili& ammesse) {
@@ -217,18 +272,14 @@ CateneFlessione SpiegaSezioneC(const DatiCircolare& z, const RisultatiCircolare&
   aggiungi("Anello 2, verso il bordo teso", z.Ad2, anello(z.Dd2, false), Sotto2, Sopra2);
   aggiungi("Gruppo 1", z.Ac1, gruppo(z.d1), Gruppo1, Gruppo2);
   aggiungi("Gruppo 2", z.Ac2, gruppo(z.d2), Gruppo2, Gruppo1);
-  p.asse = {{.regola = "Asse neutro, a cui la sezione ha momento statico nullo, per dimezzamenti "
-                       "successivi del semiangolo del segmento compresso fino a dieci secondi "
-                       "d'arco, x",
+  const double t = risultati.semiangolo;
+  p.asse = {{.regola = "Semiangolo α del segmento compresso, a cui la sezione ha momento statico "
+                       "nullo, per dimezzamenti successivi fino a dieci secondi d'arco",
              .conto = "",
-             .risultato = x,
-             .unita = "cm"}};
-  p.inerzia = {.regola =
-                   "Momento d'inerzia della sezione reagente rispetto all'asse neutro, "
-                   "segmento compresso e n volte l'acciaio, J",
-               .conto = "",
-               .risultato = risultati.inerzia,
-               .unita = "cm4"};
+             .risultato = t,
+             .unita = "rad"}};
+  Annota(p.asse, "Asse neutro, x = (1 - cos α) D / 2", (1 - Conto(std::cos(t))) * z.D / 2, "cm");
+  p.inerzia = InerziaCircolare(ComeVerificata(z), t);
   return Catene(p);
 }
 

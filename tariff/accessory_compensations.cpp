@@ -5,6 +5,7 @@
 
 #include "runtime/numbers.h"
 #include "tariff/chains/compensation_chains.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_compensations.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
@@ -42,10 +43,24 @@ double PercCompensiNuovaTariffaEuro(double importo) {
   return PercCompensi2001(importo, kCompensi2001Euro);
 }
 
-void Parcella::CompensiSuLavori(const Conto& importo, const char* regola) {
+void Parcella::CompensiSuLavori(const Conto& importo, std::string_view regola) {
   Catena lavori;
-  if (spiegazioni.Attive()) lavori = Unite({PassoImporto(regola, importo)}, CatenaInLire(importo));
+  if (spiegazioni.Attive())
+    lavori = Unite({PassoImporto(std::string(regola), importo)}, CatenaInLire(importo));
   CompensiAccessori(ImportoInLire(importo), ModoCompensi::Stampa, lavori);
+}
+
+void Parcella::CompensiSulMaggiore(const Conto& progetto, const Conto& direzione) {
+  std::string regola;
+  if (spiegazioni.Attive()) {
+    const bool diProgetto = progetto >= direzione;
+    regola = std::string("Importo dei lavori: somma di quelli ") +
+             (diProgetto ? "di progetto; quella dei lavori diretti o eseguiti, "
+                         : "diretti o eseguiti; quella dei lavori di progetto, ") +
+             TestoImporto(diProgetto ? direzione : progetto) + " " + Valuta() +
+             (diProgetto ? ", non la supera" : ", è minore");
+  }
+  CompensiSuLavori(std::max(progetto, direzione), regola);
 }
 
 void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& lavori) {
@@ -71,7 +86,8 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
     if (!spiegazioni.Attive()) return;
     catena = {passo(intera), PassoCoefficiente(P, somma)};
     catena[0].tagli = {{TipoTaglio::Decimali, decimali, intera, P}};
-    catena[0].note = {MotivoDecimali(decimali, criteri.DecimaliCompensi)};
+    if (Toglie(catena[0].tagli[0]))
+      catena[0].note = {MotivoDecimali(decimali, criteri.DecimaliCompensi)};
     catena[1].tagli = {{TipoTaglio::Decimali, decimali + 2, somma, Coefficiente}};
   };
   // Both stand as plain numbers, with the decimal point; 0 % prints nothing.
@@ -86,8 +102,9 @@ void Parcella::CompensiAccessori(double lire, ModoCompensi modo, const Catena& l
   const bool conImporto = tipo == "CALCOLATA" || tipo == "NUOVA TARIFFA";
   if (tipo == "CALCOLATA") {
     Interpolazione lettura;
-    tagliati(scaglioni.PercCompensiAccessoriCfg(lire, &lettura),
-             [&](double P) { return PassoScaglioniCompensi(lettura, P); });
+    std::string nota;
+    tagliati(scaglioni.PercCompensiAccessoriCfg(lire, &lettura, &nota),
+             [&](double P) { return PassoScaglioniCompensi(lettura, nota, P); });
   }
   if (tipo == "NUOVA TARIFFA")
     tagliati(PercCompensiNuovaTariffaLire(lire),

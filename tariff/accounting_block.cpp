@@ -7,6 +7,7 @@
 #include "runtime/text.h"
 #include "tariff/explanations.h"
 #include "tariff/law/table_e.h"
+#include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
 #include "tariff/parcella.h"
@@ -21,6 +22,14 @@ std::pair<double, double> LimitiDellaFascia(std::size_t fascia, bool modoLire) {
     return modoLire ? kLimitiTabellaELire[n - 1] : kLimitiTabellaEEuro[n - 1];
   };
   return {limite(fascia - 1), limite(fascia)};
+}
+
+// What the coefficient stands for; nothing for one that the table does not know.
+std::string TipoDiLavori(double coefficiente) {
+  if (coefficiente == kCoefficienteAltreClassi) return " per le classi oltre la I";
+  const auto* tipo =
+      std::ranges::find(kLavoriClasse1, coefficiente, &LavoriContabilita::coefficiente);
+  return tipo == kLavoriClasse1.end() ? "" : ", " + TrimRight(tipo->nome);
 }
 
 // The first row of its kind takes the amounts of the later ones.
@@ -61,28 +70,33 @@ std::string TestoFasciaContabilita(const FasciaContabilita& fascia, bool modoLir
 
 Catena CatenaFascia(const FasciaContabilita& f, bool modoLire) {
   const int decimali = modoLire ? 0 : -2;
+  const std::string valuta = modoLire ? "Lire" : "Euro";
   const auto limiti = LimitiDellaFascia(f.fascia, modoLire);
   const std::string fascia =
       f.fascia > kLimitiTabellaELire.size()
-          ? "oltre " + CifraEsatta(limiti.first)
-          : "da " + CifraEsatta(limiti.first) + " a " + CifraEsatta(limiti.second);
-  Passaggio aliquota{"Tabella E, fascia " + fascia +
-                         ": percentuale del D.M. 25-2-1965 per il "
-                         "coefficiente del " +
-                         SiglaDecreto(f.periodo),
-                     f.aliquota, f.aliquota.Valore(), "%"};
-  aliquota.Annota("La riga ne mostra cinque decimali, il conto li prende tutti");
-  Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte, f.parte.Valore()};
-  Passaggio coefficiente{"Coefficiente del tipo di lavori", "", f.coefficiente};
+          ? "oltre " + CifraEsatta(limiti.first) + " " + valuta
+          : "da " + CifraEsatta(limiti.first) + " a " + CifraEsatta(limiti.second) + " " + valuta;
+  Passaggio aliquota{
+      "Tabella E, fascia " + fascia +
+          ": percentuale del D.M. 25-2-1965 per il "
+          "coefficiente del " +
+          SiglaDecreto(f.periodo < 1 || f.periodo > kPeriodo1987 ? kPeriodo1987 : f.periodo),
+      f.aliquota, f.aliquota.Valore(), "%"};
+  Passaggio parte{"Parte dell'importo che sta in questa fascia", f.parte, f.parte.Valore(), valuta};
+  Passaggio coefficiente{"Coefficiente della Tabella E" + TipoDiLavori(f.coefficiente), "",
+                         f.coefficiente};
   const std::string mostrato = CoefficienteInStringa(f.coefficiente);
   if (mostrato == FormattaCopia(f.coefficiente, -2))
     coefficiente = Mostrato(std::move(coefficiente), -2);
   else
     coefficiente.Annota("La riga mostra " + mostrato + ": quello dei dati non è nella lista");
   Passaggio onorario{"Onorario della fascia, che entra nel totale con tutte le sue cifre",
-                     f.onorario, f.onorario.Valore()};
-  return {Mostrato(std::move(aliquota), -5, "%"), std::move(coefficiente),
-          Mostrato(std::move(parte), decimali), Mostrato(std::move(onorario), decimali)};
+                     f.onorario, f.onorario.Valore(), valuta};
+  aliquota = Mostrato(std::move(aliquota), -5, "%");
+  if (Toglie(aliquota.tagli[0]))
+    aliquota.Annota("La riga ne mostra cinque decimali, il conto li prende tutti");
+  return {std::move(aliquota), std::move(coefficiente), Mostrato(std::move(parte), decimali),
+          Mostrato(std::move(onorario), decimali)};
 }
 
 void Parcella::CalcoloMisureContabilita(Conto& onorario, std::string& testo) {

@@ -22,10 +22,13 @@ bool MancaUnSoffio(double valore) {
 
 }  // namespace
 
+bool Toglie(const Taglio& taglio) {
+  return ParseNumber(NumberText(taglio.prima)).value_or(taglio.prima) != taglio.dopo;
+}
+
 void AnnotaTaglio(const Taglio& taglio, std::vector<std::string>& note) {
   if (taglio.tipo != TipoTaglio::Decimali) return;
-  const double letto = ParseNumber(NumberText(taglio.prima)).value_or(taglio.prima);
-  if (std::fabs(taglio.dopo) > std::fabs(taglio.prima) && letto != taglio.dopo)
+  if (std::fabs(taglio.dopo) > std::fabs(taglio.prima) && Toglie(taglio))
     note.push_back("Una coda di nove è uno scarto del calcolo e vale l'unità che le manca");
   if (taglio.decimali != 0 && taglio.prima != 0 &&
       std::fabs(taglio.dopo) < 0.1 / std::pow(10, std::abs(taglio.decimali)))
@@ -40,8 +43,14 @@ Passaggio Mostrato(Passaggio passo, int decimali, const std::string& dopo) {
   return passo;
 }
 
-Passaggio Parcella::PassoDato(std::string_view campo, double valore) const {
-  return {"Dai dati della parcella, \"" + std::string(campo) + "\"", "", valore};
+Passaggio Parcella::PassoDato(std::string_view campo, double valore, std::string unita) const {
+  return {"Dai dati della parcella, \"" + std::string(campo) + "\"", "", valore, std::move(unita)};
+}
+
+Passaggio Parcella::PassoDatoImporto(std::string_view campo, const Conto& importo) const {
+  return PassoImporto(std::string("Dai dati della parcella, ") +
+                          (importo.Semplice() ? "\"" : "somma di \"") + std::string(campo) + "\"",
+                      importo);
 }
 
 std::string CifraNuda(double valore) {
@@ -50,9 +59,9 @@ std::string CifraNuda(double valore) {
   return cifra;
 }
 
-void Parcella::SpiegaDato(std::string_view campo, double valore) {
+void Parcella::SpiegaDato(std::string_view campo, double valore, std::string unita) {
   spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
-    Passaggio passo = PassoDato(campo, valore);
+    Passaggio passo = PassoDato(campo, valore, std::move(unita));
     passo.cifra = CifraNuda(valore);
     return {std::move(passo)};
   });
@@ -70,7 +79,7 @@ Passaggio Parcella::PassoTariffa(std::string regola, double lire) const {
 }
 
 Passaggio Parcella::PassoImporto(std::string regola, const Conto& conto) const {
-  return {std::move(regola), conto, conto.Valore(), ModoLire ? "Lire" : "Euro"};
+  return {std::move(regola), conto, conto.Valore(), Valuta()};
 }
 
 Passaggio Parcella::PassoOnorario(std::string regola, const Conto& conto) const {
@@ -95,7 +104,7 @@ Catena Parcella::CatenaInLire(double importo) const {
 }
 
 Catena Parcella::CatenaInValuta(double lire) const {
-  if (ModoLire) return {PassoImporto("Importo dei lavori", lire)};
+  if (ModoLire) return {};
   const Conto conto = Conto(lire) / kLirePerEuro;
   return {{"Di nuovo in Euro, dalle Lire intere",
            conto,
@@ -114,7 +123,7 @@ void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
         Catena passi = catena();
         Passaggio& passo = passi.back();
         passo.tagli.push_back(taglio);
-        passo.Annota(MotivoDecimali(taglio.decimali, criterio));
+        if (Toglie(taglio)) passo.Annota(MotivoDecimali(taglio.decimali, criterio));
         AnnotaTaglio(taglio, passo.note);
         return passi;
       },
@@ -130,7 +139,18 @@ Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Rag
   for (Passaggio& passo : catena) passo.cifra.clear();  // those of other lines
   catena.push_back(PassoOnorario(std::move(ragioni.regola), onorario));
   for (std::string& nota : ragioni.note) catena.back().Annota(std::move(nota));
+  if (onorario.Valore() < 0)
+    catena.back().Annota("L'importo di questa parte è negativo, e l'onorario si detrae");
   return catena;
+}
+
+void Parcella::AnnotaAliquota(const RigaFormula& formula, Passaggio& onorario) {
+  constexpr int kTutti = 10;
+  const std::string mostrata = FormattaCopia(formula.aliquota, formula.decimali);
+  const std::string intera = FormattaCopia(formula.aliquota, kTutti);
+  if (mostrata != intera)
+    onorario.Annota("La riga mostra l'aliquota " + intera + " come " + mostrata +
+                    ", e il conto la prende intera");
 }
 
 void Parcella::SpiegaRiga(Catena catena) {

@@ -11,6 +11,9 @@ namespace orm {
 // stands behind it on the line, "%".
 Passaggio Mostrato(Passaggio passo, int decimali, const std::string& dopo = "");
 
+// A cut that a reader of the 15 digits of a report notices.
+bool Toglie(const Taglio& taglio);
+
 // Adds what a reader would not expect of a cut: a tail of nines, a tail that stays.
 void AnnotaTaglio(const Taglio& taglio, std::vector<std::string>& note);
 

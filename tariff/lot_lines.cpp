@@ -16,18 +16,6 @@ std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string
          StringaClasseCategoria(classe, categoria);
 }
 
-namespace {
-
-// What the data hold is one of their fields, or a sum of them.
-Passaggio DatoOSomma(const Parcella& nota, std::string_view campo, const Conto& importo) {
-  return importo.Semplice()
-             ? nota.PassoDato(campo, importo)
-             : nota.PassoImporto("Dai dati della parcella, somma di \"" + std::string(campo) + "\"",
-                                 importo);
-}
-
-}  // namespace
-
 std::string TestoQuota(double quota) { return FormattaCopia(quota, -2) + " x "; }
 
 Percentuale Parcella::PercentualeTagliata(double lire, double valore) const {
@@ -96,7 +84,7 @@ void Parcella::StampaLavori(int colonna, std::string_view voce, double importo) 
 void Parcella::StampaLavori(int colonna, std::string_view voce, const Conto& importo,
                             std::string_view campo) {
   StampaLavori(colonna, voce, importo);
-  Spiega([&]() -> Catena { return {DatoOSomma(*this, campo, importo)}; });
+  Spiega([&]() -> Catena { return {PassoDatoImporto(campo, importo)}; });
 }
 
 // An amount below 0 is shown without its minus.
@@ -109,7 +97,7 @@ void Parcella::StampaProgettoSpecifica(int colonna, const Conto& importo, std::s
     senzaMeno.note = {
         "Il meno dice che questi lavori contano per la percentuale e non danno "
         "onorario"};
-    return {DatoOSomma(*this, campo, importo), std::move(senzaMeno)};
+    return {PassoDatoImporto(campo, importo), std::move(senzaMeno)};
   });
 }
 
@@ -147,6 +135,17 @@ void Parcella::StampaPercentuale(std::string_view voce, const Percentuale& perce
   StampaLavori(base);
   Spiega([&]() -> Catena { return {PassoImporto(std::string(regola), base)}; });
   if (!aCapo) spiegaPercentuale();
+}
+
+// The limit of Table A, where there are two.
+void Parcella::StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
+                                 const Conto& base, int colonna, std::string_view regola) {
+  if (!percentuali.divise) return StampaPercentuale(voce, percentuali.entro, base, colonna, regola);
+  const auto quote = QuoteDellImporto(percentuali, base);
+  StampaPercentuale(voce, quote[0].percentuale, quote[0].importo, colonna,
+                    "Limite della Tabella A");
+  StampaPercentuale(voce, quote[1].percentuale, quote[1].importo, colonna,
+                    std::string(regola) + ", meno il limite della Tabella A");
 }
 
 double Parcella::StampaOnorario(const RigaFormula& f, double onorario) {

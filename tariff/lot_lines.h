@@ -15,7 +15,7 @@ std::string TitoloLotto(std::size_t numero, std::string_view classe, std::string
 inline constexpr std::string_view kCampoProgetto = "PROGETTAZIONE, IMPORTO LAVORI";
 inline constexpr std::string_view kCampoEspropri = "PROGETTAZIONE, ESPROPRI";
 inline constexpr std::string_view kCampoSuppletivi = "PERIZIE, IMPORTO LAVORI SUPPLETIVI";
-inline constexpr std::string_view kCampoEsproPerizie = "PERIZIE, ESPROPRI  IN  PERIZIE";
+inline constexpr std::string_view kCampoEsproPerizie = "PERIZIE, ESPROPRI IN PERIZIE";
 inline constexpr std::string_view kCampoDirezione = "DIREZIONE LAVORI, IMPORTO";
 
 inline constexpr std::string_view kVocePercentualeProgetto = " % Prog. (Tab. A) = ";

@@ -64,10 +64,11 @@ class Parcella {
   }
   // The start of a sum, 0: where nobody asks how it came about it stays a number.
   Conto Zero() const { return spiegazioni.Attive() ? Conto() : Conto::Muto(); }
-  // A figure of the data, by the words of its form.
-  Passaggio PassoDato(std::string_view campo, double valore) const;
+  // A figure of the data, by the words of its form; one that is money; a sum of several of these.
+  Passaggio PassoDato(std::string_view campo, double valore, std::string unita = "") const;
+  Passaggio PassoDatoImporto(std::string_view campo, const Conto& importo) const;
   // Explains the line just printed, which shows it bare.
-  void SpiegaDato(std::string_view campo, double valore);
+  void SpiegaDato(std::string_view campo, double valore, std::string unita = "");
   // A rate of the law, in Lire, as the note has it.
   Passaggio PassoTariffa(std::string regola, double lire) const;
   // A sum in the currency of the note; one that is a number already, and one that in Lire is cut to
@@ -76,7 +77,7 @@ class Parcella {
   Passaggio PassoOnorario(std::string regola, const Conto& conto) const;
   // An amount as it goes to the tables; no step in Lire.
   Catena CatenaInLire(double importo) const;
-  // And on its way back; in Lire the amount as it stands.
+  // And on its way back.
   Catena CatenaInValuta(double lire) const;
   // What leads to a fee by `P`: the steps of `prima`, of the percentage and of the compensations,
   // and the product under `regola`, which is what the line shows.
@@ -91,6 +92,7 @@ class Parcella {
   // ---- money (report.cpp)
   // Decimals of money for FormattaNumero: none in Lire, two kept in Euro.
   int DecimaliValuta() const { return ModoLire ? 0 : -2; }
+  const char* Valuta() const { return ModoLire ? "Lire" : "Euro"; }
   // The amount that goes to the tables, which are in Lire, and a figure of theirs on its way back.
   double ImportoInLire(double importo) const;
   double InValuta(double lire) const;
@@ -138,12 +140,8 @@ class Parcella {
   void CompensiAccessori(double lire, ModoCompensi modo = ModoCompensi::Stampa,
                          const Catena& lavori = {});
   // The same on a sum of works in the currency of the note, which `regola` words.
-  void CompensiSuLavori(const Conto& importo, const char* regola);
-  void CompensiSulMaggiore(const Conto& progetto, const Conto& direzione) {
-    CompensiSuLavori(
-        std::max(progetto, direzione),
-        "Importo dei lavori: la maggiore fra le somme di quelli di progetto e diretti");
-  }
+  void CompensiSuLavori(const Conto& importo, std::string_view regola);
+  void CompensiSulMaggiore(const Conto& progetto, const Conto& direzione);
   // A fee without its compensations; where there is no coefficient nothing to divide: 0.
   double SenzaCompensi(double onorario) const;
 
@@ -214,7 +212,12 @@ class Parcella {
   // One line: `voce` and the percentage, " su  " at `colonna`, its base from column 48, which
   // `regola` words.
   void StampaPercentuale(std::string_view voce, const Percentuale& percentuale, const Conto& base,
-                         int colonna = 33, std::string_view regola = "Importo dei lavori");
+                         int colonna = 33,
+                         std::string_view regola = "Importo su cui si prende la percentuale");
+  // The same of a base that Table A may split in two lines.
+  void StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
+                         const Conto& base, int colonna = 33,
+                         std::string_view regola = "Importo su cui si prende la percentuale");
   // One line with a fee and how it comes about. In Lire it is cut to its whole part; comes back as
   // printed.
   double StampaOnorario(const RigaFormula& formula, double onorario);
@@ -223,7 +226,9 @@ class Parcella {
   double StampaOnorario(const RigaFormula& formula, const Conto& onorario, Fa&& ragioni) {
     const double stampato = StampaOnorario(formula, onorario.Valore());
     Spiega([&] {
-      return CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi);
+      Catena catena = CatenaOnorario(formula.percentuale, onorario, ragioni(), formula.conCompensi);
+      AnnotaAliquota(formula, catena.back());
+      return catena;
     });
     return stampato;
   }
@@ -275,6 +280,8 @@ class Parcella {
     if (spiegazioni.Attive()) stampata_ = {{TipoTaglio::Decimali, decimali, prima, dopo}, testo};
   }
   void SpiegaRiga(Catena catena);
+  // Where the line shows fewer decimals of the aliquot than it is reckoned with.
+  static void AnnotaAliquota(const RigaFormula& formula, Passaggio& onorario);
   // `catena` is asked when the explanation is read, and so keeps what it needs by value.
   void SpiegaTaglio(Percentuale& p, double lire, double valore,
                     std::function<Catena()> catena) const;

@@ -43,18 +43,18 @@ void DecimaliPercentuale(double importo, int& decimali, int criterio) {
 }
 
 std::string MotivoDecimali(int decimali, int criterio) {
-  constexpr std::array<const char*, 10> kImporti = {"in nessuna fascia",
+  constexpr std::array<const char*, 10> kImporti = {"fra una fascia e l'altra",
                                                     "",
                                                     "",
-                                                    "sotto 100.000",
-                                                    "da 100.000 a 1.000.000",
-                                                    "da 1.000.001 a 10.000.000",
-                                                    "da 10.000.001 a 500.000.000",
-                                                    "da 500.000.001 a 1.000.000.000",
-                                                    "da 1.000.000.001 a 100.000.000.000",
-                                                    "oltre 100.000.000.000"};
-  if (criterio != 0) return "I decimali sono quelli scelti nei criteri di calcolo";
-  return "I decimali dipendono dall'importo in Lire: " +
+                                                    "sotto L. 100.000",
+                                                    "da L. 100.000 a L. 1.000.000",
+                                                    "da L. 1.000.001 a L. 10.000.000",
+                                                    "da L. 10.000.001 a L. 500.000.000",
+                                                    "da L. 500.000.001 a L. 1.000.000.000",
+                                                    "da L. 1.000.000.001 a L. 100.000.000.000",
+                                                    "oltre L. 100.000.000.000"};
+  if (criterio != 0) return "Sono i decimali scelti nei criteri di calcolo";
+  return "Sono i decimali di un importo " +
          std::string(kImporti[static_cast<std::size_t>(decimali)]);
 }
 

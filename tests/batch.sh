@@ -39,7 +39,7 @@ expects 0 '' "$calcolo" PPE --cartella "$work" --data 15/03/2002
 cmp "$work/OUT_PPE.DOC" "$scripts/ppe/lire.DOC" || broken=1
 # How its figures came about, as text and as JSON; the report stays as it is.
 "$calcolo" PPE --spiega --cartella "$work" --data 15/03/2002 >"$work/spiega" || broken=1
-grep -qF 'Numeri dei dati per i compensi fissi: 2 x 106.000 = 212.000 Lire' "$work/spiega" || broken=1
+grep -qF 'il numero dei dati per il compenso fisso: 2 x 106.000 = 212.000 Lire' "$work/spiega" || broken=1
 "$calcolo" PPE --spiega=json --cartella "$work" | grep -q '"conto": "2 x 106.000"' || broken=1
 rm "$work/spiega"
 expects 3 'spiega=json' "$calcolo" PPE --spiega=altro --cartella "$work"

@@ -27,6 +27,18 @@ constexpr auto kCoefficienti = [] {
 
 }  // namespace
 
+std::vector<Spiegazione> SpiegaContabilita(const OnorarioContabilita& esito, bool lire,
+                                           const std::string& voce) {
+  std::vector<Spiegazione> perche;
+  for (const FasciaContabilita& fascia : esito.fasce)
+    perche.push_back(Risultato("Scaglione " + NumberText(static_cast<double>(perche.size() + 1)),
+                               CatenaFascia(fascia, lire)));
+  Passaggio somma{"Somma degli onorari degli scaglioni", esito.onorario, esito.onorario.Valore(),
+                  lire ? "Lire" : "Euro"};
+  perche.push_back(Risultato(voce, {Mostrato(std::move(somma), lire ? 0 : -2)}));
+  return perche;
+}
+
 FrmUtiContabilita::FrmUtiContabilita(RunState& stato)
     : Form("frmUTI_CONTABILITA", "ONORARI A VIDEO - CONTABILITÀ LAVORI ( tab. E )"),
       lavori(*this, stato),
@@ -68,18 +80,11 @@ void FrmUtiContabilita::Calcola() {
                              lavori.Importo()};
   const OnorarioContabilita esito = CalcoloOnorarioContabilita({riga}, lire);
   std::string testo;
-  std::vector<Spiegazione> perche;
-  for (const FasciaContabilita& fascia : esito.fasce) {
+  for (const FasciaContabilita& fascia : esito.fasce)
     testo += (testo.empty() ? "" : "\n") + TestoFasciaContabilita(fascia, lire);
-    perche.push_back(Risultato("Scaglione " + NumberText(static_cast<double>(perche.size() + 1)),
-                               CatenaFascia(fascia, lire)));
-  }
-  Passaggio somma{"Somma degli onorari degli scaglioni", esito.onorario.Testo(),
-                  esito.onorario.Valore(), lire ? "Lire" : "Euro"};
-  perche.push_back(Risultato(Text2.Caption(), {Mostrato(std::move(somma), lire ? 0 : -2)}));
   Text1.SetText(testo);
   Text2.SetText((lire ? "L. " : "€ ") + FormattaCopia(esito.onorario, lire ? 0 : -2));
-  cmdSPIEGA.Di(std::move(perche));
+  cmdSPIEGA.Di(SpiegaContabilita(esito, lire, Text2.Caption()));
 }
 
 }  // namespace orm

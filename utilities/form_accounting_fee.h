@@ -1,11 +1,19 @@
 // The accounting fee on screen: Table E for an amount of works.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "dialogs/data_forms/explanations.h"
 #include "shell/state/run_state.h"
+#include "tariff/law/accounting_fee.h"
 #include "utilities/works_questions.h"
 
 namespace orm {
+
+// Each band, and their sum under `voce`, with its steps.
+std::vector<Spiegazione> SpiegaContabilita(const OnorarioContabilita& esito, bool lire,
+                                           const std::string& voce);
 
 class FrmUtiContabilita : public Form {
  public:

@@ -39,7 +39,7 @@ TrattoMora TrattoDi(const PeriodoTus& periodo, const Date* inizio, const Date* f
   const Estremi estremi = entrambi          ? Estremi::Entrambi
                           : fine != nullptr ? Estremi::SenzaIlPrimo
                                             : Estremi::SenzaLUltimo;
-  return {da, a, estremi, Differenza(a, da) + (entrambi ? 1 : 0), periodo.Tasso};
+  return {da, a, estremi, Differenza(a, da) + (entrambi ? 1 : 0), periodo.Tasso, periodo.nota};
 }
 
 std::string Periodo(const TrattoMora& t) {
@@ -48,7 +48,7 @@ std::string Periodo(const TrattoMora& t) {
                       : t.estremi == Estremi::SenzaIlPrimo ? "il primo giorno escluso"
                                                            : "l'ultimo giorno escluso";
   return "Dal " + ShortDate(t.da) + " al " + ShortDate(t.a) + ", " + quali + ", tasso " +
-         CifraEsatta(t.tasso) + " %";
+         CifraEsatta(t.tasso) + " %" + (t.nota.empty() ? "" : " (\"" + t.nota + "\")");
 }
 
 }  // namespace
@@ -100,12 +100,14 @@ std::vector<Spiegazione> SpiegaInteressiMora(const InteressiMora& e) {
   if (e.tratti.size() > 1)
     giorni.push_back(
         PassoMostrato("Giorni di ritardo", e.contoGiorni.Testo(), e.Giorni, "giorni", "0"));
-  const Catena tasso{
-      PassoMostrato("Tasso ufficiale di sconto medio, in cui ogni tasso conta per i suoi giorni",
-                    e.contoTasso.Testo(), e.TassoMedio, "%", kModelloTasso)};
-  Passaggio interessi = PassoMostrato(
-      e.composto ? "Interesse composto, poiché il ritardo supera 365 giorni" : "Interesse semplice",
-      e.contoInteressi, e.Interessi, "", kModelloInteressi);
+  const Catena tasso{PassoMostrato("Tasso ufficiale di sconto medio, dalla " +
+                                       TabellaPersonale(kFileTus, "") +
+                                       ", in cui ogni tasso conta per i suoi giorni",
+                                   e.contoTasso.Testo(), e.TassoMedio, "%", kModelloTasso)};
+  Passaggio interessi =
+      PassoMostrato(e.composto ? "Art. 9, interesse composto, poiché il ritardo supera 365 giorni"
+                               : "Art. 9, interesse semplice",
+                    e.contoInteressi, e.Interessi, "", kModelloInteressi);
   return {Risultato("GIORNI di RITARDO", std::move(giorni)), Risultato("TASSO", tasso),
           Risultato("INTERESSI DI MORA", {std::move(interessi)})};
 }

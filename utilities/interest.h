@@ -16,6 +16,7 @@ struct TrattoMora {
   Date da, a;
   enum class Estremi { Entrambi, SenzaIlPrimo, SenzaLUltimo } estremi = Estremi::Entrambi;
   double giorni = 0, tasso = 0;
+  std::string nota = {};  // where the rate is from
 };
 
 struct InteressiMora {

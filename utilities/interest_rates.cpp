@@ -42,7 +42,7 @@ TabellaTus LeggiTabellaTus(const WorkFolder& folder, const Date& today) {
                                      ShortDate(periodo.InizioPeriodo) + ".");
     }
     periodo.Tasso = file.Number("Tasso");
-    file.Text("(nota)");
+    periodo.nota = file.Text("(nota)");
     tabella.push_back(periodo);
   }
   // A line added without raising the count would be left out of the reckoning in silence.

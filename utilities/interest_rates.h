@@ -1,6 +1,7 @@
 // TUS.CFG: the official discount rate by periods, kept up to date by the user in a text editor.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "runtime/dates.h"
@@ -12,9 +13,10 @@ inline constexpr const char* kFileTus = "TUS.CFG";
 inline constexpr int kPeriodiTus = 100;  // the most that the table holds
 
 struct PeriodoTus {
-  Date InizioPeriodo;  // first day of the rate
-  Date FinePeriodo;    // last day of the rate; today for the last period, whatever the file says
-  double Tasso = 0;    // percent a year
+  Date InizioPeriodo;     // first day of the rate
+  Date FinePeriodo;       // last day of the rate; today for the last period, whatever the file says
+  double Tasso = 0;       // percent a year
+  std::string nota = {};  // where it is from
 };
 
 // In the order of the file, ascending by date, at least one.

@@ -3,6 +3,7 @@
 
 #include "runtime/explanation/conto.h"
 #include "tariff/chains/percentage_chains.h"
+#include "tariff/explanations.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
@@ -19,7 +20,7 @@ std::string Testo(Catena& catena, double importoLire, const Criteri& criteri) {
   double tagliata = *ultimo.risultato;
   ultimo.cifra = FormattaNumero(tagliata, decimali) + "%";
   ultimo.tagli = {{TipoTaglio::Decimali, decimali, *ultimo.risultato, tagliata}};
-  ultimo.Annota(MotivoDecimali(decimali, criteri.DecimaliTabelle));
+  if (Toglie(ultimo.tagli[0])) ultimo.Annota(MotivoDecimali(decimali, criteri.DecimaliTabelle));
   return ultimo.cifra;
 }
 

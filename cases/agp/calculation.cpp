@@ -1,6 +1,7 @@
 // The fee of price updating: for each lot a part of the design fee of Table A.
 #include "cases/agp/agp.h"
 #include "cases/agp/data.h"
+#include "tariff/chains/percentage_chains.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
@@ -28,7 +29,7 @@ class NotaAgp : public Parcella {
 
  private:
   void CalcolaLotto(const LottoAgp& lotto);
-  Passaggio PassoAliquota(double aliquota) const;
+  static Passaggio PassoAliquota(const LottoAgp& lotto, double aliquota);
   Passaggio PassoMetodo() const;
   // Compensations are in the surcharge too.
   bool MaggiorazioneConglobata() const { return criteri.CompensiSuMaggiorazione == "SI"; }
@@ -60,14 +61,13 @@ void NotaAgp::CalcolaLotto(const LottoAgp& lotto) {
   const auto percentuali =
       PercentualiDellaBase(lotto.Importo, periodo, lotto.Classe, lotto.Categoria);
   const auto quote = QuoteDellImporto(percentuali, lotto.Importo);
-  for (const auto& [importo, P] : quote)
-    StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
+  StampaPercentuali(" Percentuale tabella A = ", percentuali, lotto.Importo, 40);
   const double aliquota = AliquotaAggiornamento(lotto.Classe, lotto.Categoria);
   const auto ragioni = [&]() -> Ragioni {
     return {
-        "Art. 23, aggiornamento dei prezzi: percentuale per importo per aliquota per la parte "
-        "del metodo, per il coefficiente dei compensi",
-        {PassoAliquota(aliquota), PassoMetodo()}};
+        "Art. 23, aggiornamento dei prezzi: percentuale, importo, aliquota e parte che ne spetta, "
+        "per il coefficiente dei compensi",
+        {PassoAliquota(lotto, aliquota), PassoMetodo()}};
   };
   const std::string inizio = FormattaCopia(CoefficienteMetodo, 2) + " x ";
   for (const auto& [importo, P] : quote)
@@ -79,16 +79,18 @@ void NotaAgp::CalcolaLotto(const LottoAgp& lotto) {
         P.valore * importo * aliquota * CoefficienteMetodo / 100 * Coefficiente, ragioni);
 }
 
-Passaggio NotaAgp::PassoAliquota(double aliquota) const {
-  return {"Art. 19, Tabella B, lettera d, preventivo particolareggiato", "", aliquota};
+Passaggio NotaAgp::PassoAliquota(const LottoAgp& lotto, double aliquota) {
+  return {"Art. 19, Tabella B, " + ClasseInParole(lotto.Classe, lotto.Categoria) +
+              ", aliquota d, preventivo particolareggiato",
+          "", aliquota};
 }
 
 Passaggio NotaAgp::PassoMetodo() const {
   return {"Art. 23, " +
               std::string(d.TipoDiAggiornamento == "SEMPLICE AGGIORNAMENTO"
-                              ? "variazioni percentuali dei prezzi"
-                              : "nuove analisi dei prezzi") +
-              ": parte dell'aliquota",
+                              ? "semplici variazioni percentuali dei primitivi prezzi"
+                              : "nuove analisi prezzi") +
+              ": parte che spetta dell'aliquota",
           "", CoefficienteMetodo};
 }
 
@@ -107,7 +109,8 @@ void NotaAgp::CalcolaMaggiorazione() {
         "Art. 23-b e art. 18, incarico parziale: un quarto degli onorari dell'aggiornamento",
         quota);
     if (!conglobata)
-      passo.regola += ", senza i compensi accessori, come dicono i criteri di calcolo";
+      passo.regola += ", senza i compensi accessori come dicono i criteri di calcolo";
+    passo.Annota("Nei dati l'aggiornamento non è \"ESEGUITO DALLO STESSO PROGETTISTA\"");
     return {std::move(passo)};
   });
   TotaleGenerale += maggiorazione;

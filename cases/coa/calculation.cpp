@@ -29,7 +29,7 @@ class NotaCoa : public Parcella {
  private:
   void UnoScaglione();
   void DueScaglioni();
-  void StampaTabellaC(const Percentuale& P, const Conto& importo, double mostrato);
+  void StampaTabellaC(const Percentuale& P, Passaggio su, const Conto& importo, const char* nota);
   void StampaTitoloOnorario();
   double StampaScaglione(const Percentuale& P, double base, const Conto& prodotto, bool intero);
   Catena CatenaScaglione(const Percentuale& P, const Conto& prodotto, bool intero) const;
@@ -48,18 +48,19 @@ void NotaCoa::StampaSpecifica() {
   CompensiSuLavori(d.ImportoCollaudo, "Importo dei lavori collaudati");
 }
 
-// `mostrato`: what the line says in place of the amount.
-void NotaCoa::StampaTabellaC(const Percentuale& P, const Conto& importo, double mostrato) {
+// `su`: the amount behind the percentage, which the line shows in Lire where a note says why.
+void NotaCoa::StampaTabellaC(const Percentuale& P, Passaggio su, const Conto& importo,
+                             const char* nota) {
   const std::string cifre = P.testo.substr(0, P.testo.find('%'));
-  uscita.Line("Percentuale ( da Tabella C ) = " + cifre + "  su " + TestoImporto(mostrato));
+  const bool inLire = !ModoLire && nota != nullptr;
+  uscita.Line("Percentuale ( da Tabella C ) = " + cifre + "  su " +
+              TestoImporto(inLire ? ImportoInLire(importo) : importo.Valore()));
   spiegazioni.Riga(uscita.Contents(), [&] {
-    const bool altro = mostrato != importo.Valore();
-    Catena catena{PassoImporto("Importo dei lavori", importo)};
-    if (altro) catena = Unite(std::move(catena), CatenaInLire(importo));
+    Catena catena{std::move(su)};
+    if (inLire) catena = Unite(std::move(catena), CatenaInLire(importo));
     catena.back() = Mostrato(std::move(catena.back()), DecimaliValuta());
-    if (altro)
-      catena.back().Annota("In Euro la riga mostra qui la cifra moltiplicata per il cambio");
-    catena = Unite(Unite(std::move(catena), CatenaInLire(d.ImportoCollaudo)), P.catena);
+    if (inLire) catena.back().Annota(nota);
+    catena = Unite(std::move(catena), P.catena);
     catena.back().cifra = cifre;
     return catena;
   });
@@ -81,7 +82,7 @@ double NotaCoa::StampaScaglione(const Percentuale& P, double base, const Conto& 
 
 Catena NotaCoa::CatenaScaglione(const Percentuale& P, const Conto& prodotto, bool intero) const {
   constexpr const char* kOnorario =
-      "Onorario di collaudo, Tabella C: percentuale per importo, per il coefficiente dei compensi";
+      "Onorario di collaudo, Tabella C: importo e percentuale, per il coefficiente dei compensi";
   if (!intero) return CatenaOnorario(P, prodotto / 100, {kOnorario});
   Catena catena = CatenaOnorario(P, prodotto, {kOnorario});
   catena.back().tagli = {{TipoTaglio::ParteIntera, 0, prodotto.Valore(), Int(prodotto)}};
@@ -103,7 +104,8 @@ void NotaCoa::CalcolaOnorario() {
 // The cut comes before the division by 100, in Euro too.
 void NotaCoa::UnoScaglione() {
   const Percentuale P = PercentualeDaTabellaC(d.PeriodoCollaudo, lire);
-  StampaTabellaC(P, d.ImportoCollaudo, d.ImportoCollaudo);
+  StampaTabellaC(P, PassoImporto("Importo su cui si prende la percentuale", d.ImportoCollaudo),
+                 d.ImportoCollaudo, nullptr);
   StampaTitoloOnorario();
   OnorarioBase = StampaScaglione(P, d.ImportoCollaudo,
                                  Conto(d.ImportoCollaudo) * P.valore * Coefficiente, true);
@@ -116,8 +118,12 @@ void NotaCoa::DueScaglioni() {
   const Conto base2 = Conto(d.ImportoCollaudo) - base1;
   const Percentuale P1 = PercentualeDaTabellaC(d.PeriodoCollaudo, kLimiteTabellaA);
   const Percentuale P2 = PercentualeDaTabellaC(d.PeriodoCollaudo, lire);
-  StampaTabellaC(P1, kLimiteTabellaA, ImportoInLire(kLimiteTabellaA));
-  StampaTabellaC(P2, base2, ImportoInLire(base2));
+  StampaTabellaC(P1, {"Limite oltre il quale l'importo si divide", "", kLimiteTabellaA, "Lire"},
+                 kLimiteTabellaA,
+                 "La riga moltiplica per il cambio il limite, che è già in Lire; l'onorario si "
+                 "calcola sul limite giusto");
+  StampaTabellaC(P2, PassoImporto("Parte dell'importo oltre il limite", base2), base2,
+                 "La riga mostra questa parte in Lire; l'onorario si calcola su quella in Euro");
   StampaTitoloOnorario();
   if (!ModoLire) uscita.Line("ONORARIO  (" + NomePeriodoTariffario(d.PeriodoCollaudo) + ")  :");
   OnorarioBase = StampaScaglione(P1, base1, Conto(P1.valore) * base1 * Coefficiente, false);
@@ -155,33 +161,34 @@ void NotaCoa::CalcolaMaggiorazione() {
 void NotaCoa::CalcolaVacazione() {
   if (d.NumeroFacciate == 0) return;
   uscita.Line(Numero() + " Onorario a vacazione per revisione tecnico contabile");
-  Conto conto = Conto(d.NumeroFacciate) * kVacazioneProfessionista * kOrePerFacciata;
-  Vacazione = IntInLire(conto);
+  const Conto ore = Conto(d.NumeroFacciate) * kVacazioneProfessionista * kOrePerFacciata;
+  Vacazione = IntInLire(ore);
   std::string formula = "num. pagine " + NumberText(d.NumeroFacciate) + " x " +
                         TestoQuota(kOrePerFacciata) + NumberText(kVacazioneProfessionista);
   const Conto massimo =
       (Coefficiente == 0 ? Conto(0) : OnorarioBase / Coefficiente) * kMassimoRevisioneContabile;
   const bool ridotta = massimo < Vacazione;
   if (ridotta) {
-    conto = massimo;
     Vacazione = massimo;
     formula = TestoQuota(kMassimoRevisioneContabile) + TagliaBase() + " / " +
               Middle(StringaCoefficiente, 3);
   }
   StampaFormula(formula + " =", Vacazione);
   Spiega([&]() -> Catena {
-    if (ridotta)
-      return {
-          PassoImporto("Revisione tecnico contabile: le ore darebbero di più, e si prende il "
-                       "massimo, 0,40 dell'onorario senza i compensi accessori",
-                       conto)};
     Passaggio passo = PassoOnorario(
-        "Revisione tecnico contabile: facciate dei dati per la vacazione di un'ora (art. 4 L. "
-        "143/1949, D.M. 3-9-1997 n. 417) e per 0,25 ore a facciata",
-        conto);
+        "Revisione tecnico contabile: facciate per la vacazione di un'ora (art. 4 L. 143/1949, "
+        "D.M. 3-9-1997 n. 417) e per 0,25 ore a facciata",
+        ore);
     if (!ModoLire) passo.Annota("La vacazione è in Lire e qui non è convertita in Euro");
-    return {PassoDato("NUMERO FACCIATE DEI DOCUMENTI CONTABILI REVISIONATI", d.NumeroFacciate),
-            std::move(passo)};
+    Catena catena{
+        PassoDato("NUMERO FACCIATE DEI DOCUMENTI CONTABILI REVISIONATI", d.NumeroFacciate),
+        std::move(passo)};
+    if (ridotta)
+      catena.push_back(PassoImporto(
+          "Si prende il massimo, che è minore: 0,40 dell'onorario di collaudo senza i compensi "
+          "accessori",
+          massimo));
+    return catena;
   });
 }
 
@@ -193,7 +200,10 @@ void NotaCoa::Chiudi() {
   Catena prima;
   if (spiegazioni.Attive())
     prima = Unite(CatenaCompensi,
-                  {PassoOnorario("Somma degli onorari che contengono i compensi", conCompensi)});
+                  {PassoOnorario(Vacazione == 0 ? "Somma degli onorari, che contengono i compensi"
+                                                : "Somma degli onorari che contengono i compensi, "
+                                                  "e quindi senza la vacazione",
+                                 conCompensi)});
   ChiudiParcella(Onorari, TotaleGenerale - Onorari, prima);
 }
 

@@ -4,6 +4,7 @@
 
 #include "cases/cos/cos.h"
 #include "cases/cos/note.h"
+#include "runtime/explanation/steps.h"
 #include "runtime/failure.h"
 #include "tariff/explanations.h"
 #include "tariff/money.h"
@@ -40,27 +41,31 @@ void NotaCos::CalcolaPeriodo(std::size_t i) {
   const PeriodoCos periodo = tariffa.Periodo(i);
   uscita.Line(Numero() + " Periodo tariffario n. " + tariffa.testata.NomePeriodo[i]);
   StampaLavori(1, " Importo Strutture Collaudate", importo,
-               "IMPORTO SUDDIVISO NEI PERIODI TARIFFARI");
+               "IMPORTO SUDDIVISO NEI PERIODI TARIFFARI, " + tariffa.testata.NomePeriodo[i]);
 
   OnorarioCos conto;
   if (periodo.ModoPeriodo == "ONORARIO") {
     conto = ConQuota(InValuta(periodo.OnorarioA(TotaleInLire)), importo);
-    if (spiegazioni.Attive()) conto.prima = CatenaOnorarioIntero(periodo);
+    if (spiegazioni.Attive()) conto.prima = CatenaOnorarioIntero(periodo, i);
   } else {
-    const Percentuale P = PercentualeDaTabellaCS(periodo);
+    const Percentuale P = PercentualeDaTabellaCS(periodo, i);
     const double minimo = InValuta(periodo.MinimoPeriodo);
     const bool alMinimo = d.ImportoTotaleCS * P.valore / 100 < minimo;
     conto = alMinimo ? ConQuota(minimo, importo) : ConPercentuale(periodo, P, importo);
     if (alMinimo && spiegazioni.Attive())
-      conto.prima = {PassoTariffa("La percentuale darebbe meno: vale l'onorario minimo del periodo",
-                                  periodo.MinimoPeriodo)};
+      conto.prima = Unite(
+          P.catena,
+          {PassoImporto("Onorario che ne verrebbe per l'importo totale",
+                        Conto(d.ImportoTotaleCS) * P.valore / 100),
+           PassoTariffa("Vale l'onorario minimo del periodo, che è maggiore (" + Tabella(i) + ")",
+                        periodo.MinimoPeriodo)});
   }
   double onorario = Arrotonda(IntInLire(conto.conto));
   uscita.Line(" Onorario Collaudo Statico");
   StampaFormula(conto.formula + Uguale(), onorario);
   Spiega([&] {
-    return CatenaArrotondata(Unite(std::move(conto.prima), CatenaCompensi),
-                             "Onorario di collaudo statico del periodo", conto.conto);
+    return CatenaArrotondata(Unite(std::move(conto.prima), CatenaCompensi), conto.regola,
+                             conto.conto);
   });
   OnorarioBase += onorario;
 }
@@ -68,27 +73,48 @@ void NotaCos::CalcolaPeriodo(std::size_t i) {
 // The period's share of a fee for the whole.
 NotaCos::OnorarioCos NotaCos::ConQuota(double onorarioIntero, double importo) const {
   const Conto Quota = Conto(onorarioIntero) * importo / d.ImportoTotaleCS;
-  return {Coefficiente * Quota, TestoImporto(Quota) + StringaCoefficiente};
+  return {Coefficiente * Quota, TestoImporto(Quota) + StringaCoefficiente,
+          "Onorario di collaudo statico: parte del periodo nell'onorario intero, per il "
+          "coefficiente dei compensi"};
 }
 
-Catena NotaCos::CatenaOnorarioIntero(const PeriodoCos& periodo) const {
+std::string NotaCos::Tabella(std::size_t i) const {
+  return TabellaPersonale(CasoDiParcella + ".CFG", tariffa.testata.NotaPeriodo[i]);
+}
+
+// The two steps of the whole amount and what lies between them; `unita` of their values.
+std::string NotaCos::FraGliScaglioni(const PeriodoCos& periodo, const char* unita) const {
+  const Interpolazione p = periodo.PassiA(TotaleInLire);
+  const auto scaglione = [&](double limite, double valore) {
+    return "L. " + CifraEsatta(limite) + " (" + CifraEsatta(valore) + " " + unita + ")";
+  };
+  const std::string importo = "L'importo totale di L. " + CifraEsatta(p.x);
+  if (p.x0 == p.x1)
+    return importo +
+           (p.x <= p.x0 ? " non passa il primo scaglione, " : " passa l'ultimo scaglione, ") +
+           scaglione(p.x0, p.y0) + ", il cui valore vale anche qui";
+  return importo + " sta tra " + scaglione(p.x0, p.y0) + " e " + scaglione(p.x1, p.y1) +
+         "; tra i due valori si interpola in linea retta";
+}
+
+Catena NotaCos::CatenaOnorarioIntero(const PeriodoCos& periodo, std::size_t i) const {
   const Conto onorario = periodo.OnorarioA(TotaleInLire);
   Catena catena = CatenaInLire(d.ImportoTotaleCS);
-  catena.push_back(
-      {"Onorario di tabella (" + CasoDiParcella +
-           ".CFG) per l'importo totale: fra due scaglioni si interpola in linea retta, "
-           "e non va sotto il minimo",
-       onorario.Semplice() ? "" : onorario.Testo(), onorario.Valore(), "Lire"});
+  catena.push_back({"Onorario di collaudo statico intero, dalla " + Tabella(i) + ". " +
+                        FraGliScaglioni(periodo, "Lire"),
+                    onorario, onorario.Valore(), "Lire"});
+  if (onorario > periodo.ValoreA(TotaleInLire).Valore())
+    catena.back().Annota("È l'onorario minimo del periodo, che supera quello degli scaglioni");
   return ModoLire ? catena : Unite(std::move(catena), CatenaInValuta(onorario));
 }
 
-Percentuale NotaCos::PercentualeDaTabellaCS(const PeriodoCos& periodo) const {
+Percentuale NotaCos::PercentualeDaTabellaCS(const PeriodoCos& periodo, std::size_t i) const {
   const Conto valore = periodo.ValoreA(TotaleInLire);
   return PercentualeTagliata(TotaleInLire, valore, [&] {
     return Unite(CatenaInLire(d.ImportoTotaleCS),
-                 {{"Percentuale di tabella (" + CasoDiParcella +
-                       ".CFG) per l'importo totale: fra due scaglioni si interpola in linea retta",
-                   valore.Semplice() ? "" : valore.Testo(), valore.Valore(), "%"}});
+                 {{"Percentuale di collaudo statico, dalla " + Tabella(i) + ". " +
+                       FraGliScaglioni(periodo, "%"),
+                   valore, valore.Valore(), "%"}});
   });
 }
 
@@ -99,22 +125,28 @@ NotaCos::OnorarioCos NotaCos::ConPercentuale(const PeriodoCos& periodo, const Pe
   constexpr std::string_view voce = " % d'applicazione  = ";
   const double limite = InValuta(periodo.Limite.back());
   if (importo <= limite || periodo.PercOltre == 0) {
-    StampaPercentuale(voce, P, importo);
+    StampaPercentuale(voce, P, importo, 33, "Importo del periodo, a cui si applica");
     return {Conto(P.valore) * importo / 100 * Coefficiente,
-            P.testo + " x " + TestoImporto(importo) + StringaCoefficiente, P.catena};
+            P.testo + " x " + TestoImporto(importo) + StringaCoefficiente,
+            "Onorario di collaudo statico: percentuale e importo del periodo, per il coefficiente "
+            "dei compensi",
+            P.catena};
   }
   const Percentuale oltre = PercentualeTagliata(TotaleInLire, periodo.PercOltre, [&]() -> Catena {
-    return {{"Percentuale oltre l'ultimo scaglione (" + CasoDiParcella + ".CFG)", "",
-             periodo.PercOltre, "%"}};
+    return {{"Percentuale oltre l'ultimo scaglione, dalla " +
+                 TabellaPersonale(CasoDiParcella + ".CFG", ""),
+             "", periodo.PercOltre, "%"}};
   });
   const Conto eccedenza = Conto(importo) - limite;
-  StampaPercentuale(voce, P, limite);
-  StampaPercentuale(voce, oltre, eccedenza);
+  StampaPercentuale(voce, P, limite, 33, "Ultimo scaglione della tabella");
+  StampaPercentuale(voce, oltre, eccedenza, 33, "Importo del periodo oltre l'ultimo scaglione");
   const Conto parteOltre = eccedenza * oltre.valore / 100;
   const Conto parteEntro = Conto(P.valore) * limite / 100;
   return {(parteOltre + parteEntro) * Coefficiente,
           "( " + TestoImporto(parteEntro) + " + " + TestoImporto(parteOltre) + " )" +
               StringaCoefficiente,
+          "Onorario di collaudo statico: la parte oltre l'ultimo scaglione e quella entro, ognuna "
+          "con la sua percentuale, per il coefficiente dei compensi",
           Unite(P.catena, oltre.catena)};
 }
 
@@ -130,7 +162,7 @@ Catena NotaCos::CatenaArrotondata(Catena catena, const std::string& regola,
   const double intere = std::round(quante.Valore());
   catena = Unite(std::move(catena), CatenaInLire(onorario));
   catena.push_back({"Arrotondamento alla cifra più vicina: quante volte " + CifraEsatta(unita) +
-                        " Lire (" + CasoDiParcella + ".CFG)",
+                        " Lire, l'unità della " + TabellaPersonale(CasoDiParcella + ".CFG", ""),
                     quante.Testo(),
                     quante.Valore(),
                     "",
@@ -146,9 +178,11 @@ void NotaCos::CalcolaVariazioni() {
   for (std::size_t i = 0; i < kVariazioniCos; ++i) {
     double Maggiorazione = d.Maggiorazione[i];
     if (Maggiorazione == 0) continue;
-    uscita.Line(tariffa.testata.NomeVariazione[i] + " " + FormattaNumero(Maggiorazione, 5) + "%");
+    const std::string& nome = tariffa.testata.NomeVariazione[i];
+    uscita.Line(nome + " " + FormattaNumero(Maggiorazione, 5) + "%");
     spiegazioni.Riga(uscita.Contents(), [&]() -> Catena {
-      return {Mostrato(PassoDato("MAGGIORAZIONI E RIDUZIONI in %", d.Maggiorazione[i]), 5, "%")};
+      return {Mostrato(
+          PassoDato("MAGGIORAZIONI E RIDUZIONI in %, " + nome, d.Maggiorazione[i], "%"), 5, "%")};
     });
     const Conto conto = OnorarioBase * Maggiorazione / 100;
     double variazione = Arrotonda(IntInLire(conto));
@@ -156,7 +190,7 @@ void NotaCos::CalcolaVariazioni() {
         1, FormattaCopia(Maggiorazione / 100, 7) + " x " + TestoImporto(OnorarioBase) + Uguale(),
         variazione);
     Spiega([&] {
-      return CatenaArrotondata({}, "Variazione in percento dell'onorario dei periodi", conto);
+      return CatenaArrotondata({}, nome + ": in percento dell'onorario dei periodi", conto);
     });
     variazioni += variazione;
   }

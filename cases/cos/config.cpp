@@ -13,9 +13,10 @@ class LettoreCos {
   LettoreCos(const WorkFolder& folder, const std::string& codice)
       : file(folder, codice == "CS1" ? kFileCs1 : kFileCs2) {}
 
-  std::string Testo(const char* campo) {
+  std::string Testo(const char* campo, std::string* commento = nullptr) {
     std::string testo = file.Text(campo);
     SaltaCommento();
+    if (commento != nullptr) *commento = RigaIgnorata;
     return testo;
   }
   double NonNegativo(const char* campo) {
@@ -47,7 +48,8 @@ class LettoreCos {
 
 TestataCos LeggiTestata(LettoreCos& file) {
   TestataCos testata;
-  for (std::string& nome : testata.NomePeriodo) nome = file.Testo("nome del periodo");
+  for (std::size_t i = 0; i < kPeriodiCos; ++i)
+    testata.NomePeriodo[i] = file.Testo("nome del periodo", &testata.NotaPeriodo[i]);
   for (std::string& nome : testata.NomeVariazione) nome = file.Testo("nome della variazione");
   testata.UnitaArrotondamento = file.NonNegativo("UnitaArrotondamento");
   return testata;
@@ -67,12 +69,17 @@ PeriodoCos LeggiBlocco(LettoreCos& file) {
 
 }  // namespace
 
-Conto PeriodoCos::ValoreA(double lire) const {
+Interpolazione PeriodoCos::PassiA(double lire) const {
   const auto k = static_cast<std::size_t>(std::ranges::lower_bound(Limite, lire) - Limite.begin());
-  if (k == 0) return Valore.front();
-  if (k == Limite.size()) return Valore.back();
-  return Valore[k] - (Conto(Valore[k]) - Valore[k - 1]) * (Conto(Limite[k]) - lire) /
-                         (Conto(Limite[k]) - Limite[k - 1]);
+  const std::size_t sopra = std::min(k, Limite.size() - 1);
+  const std::size_t sotto = k == sopra && k > 0 ? k - 1 : sopra;
+  return {lire, Limite[sotto], Limite[sopra], Valore[sotto], Valore[sopra]};
+}
+
+Conto PeriodoCos::ValoreA(double lire) const {
+  const Interpolazione p = PassiA(lire);
+  if (p.x0 == p.x1) return p.y1;
+  return p.y1 - (Conto(p.y1) - p.y0) * (Conto(p.x1) - lire) / (Conto(p.x1) - p.x0);
 }
 
 Conto PeriodoCos::OnorarioA(double lire) const {

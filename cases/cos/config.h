@@ -14,6 +14,7 @@
 #include "cases/cos/data.h"
 #include "runtime/explanation/conto.h"
 #include "runtime/folder.h"
+#include "tariff/law/readings.h"
 
 namespace orm {
 
@@ -21,7 +22,7 @@ inline constexpr const char* kFileCs1 = "CS1.CFG";
 inline constexpr const char* kFileCs2 = "CS2.CFG";
 
 struct TestataCos {
-  std::array<std::string, kPeriodiCos> NomePeriodo;
+  std::array<std::string, kPeriodiCos> NomePeriodo, NotaPeriodo;  // the note: its comment field
   std::array<std::string, kVariazioniCos> NomeVariazione;
   double UnitaArrotondamento = 0;  // 0: no rounding
 };
@@ -32,7 +33,9 @@ struct PeriodoCos {
   double PercOltre = 0;
   std::vector<double> Limite, Valore;
 
-  // The value at an amount, interpolated between two limits; the first or the last value beyond.
+  // The limits around an amount and their values; beyond either end both are that one.
+  Interpolazione PassiA(double lire) const;
+  // The value at an amount, interpolated between the two.
   Conto ValoreA(double lire) const;
   // The same as a fee, at least MinimoPeriodo.
   Conto OnorarioA(double lire) const;

@@ -31,12 +31,16 @@ class NotaCos : public Parcella {
   struct OnorarioCos {
     Conto conto;  // neither cut nor rounded
     std::string formula;
+    const char* regola = "";
     Catena prima = {};  // how its figures came about, where that is asked
   };
   void CalcolaPeriodo(std::size_t i);
   OnorarioCos ConQuota(double onorarioIntero, double importo) const;
   OnorarioCos ConPercentuale(const PeriodoCos& periodo, const Percentuale& P, double importo);
-  Percentuale PercentualeDaTabellaCS(const PeriodoCos& periodo) const;
+  // The file with the tariff, and what it says of period `i`.
+  std::string Tabella(std::size_t i) const;
+  std::string FraGliScaglioni(const PeriodoCos& periodo, const char* unita) const;
+  Percentuale PercentualeDaTabellaCS(const PeriodoCos& periodo, std::size_t i) const;
   PercentualiTabellaA PercentualiRevisione(const RigaCos& riga, int periodo,
                                            const Conto& SommaLotto) const;
   void RevisioneLotto(std::size_t primaRiga, const LottoARighe& lotto);
@@ -44,7 +48,7 @@ class NotaCos : public Parcella {
                      const Conto& SommaLotto);
 
   std::string Uguale() const;
-  Catena CatenaOnorarioIntero(const PeriodoCos& periodo) const;
+  Catena CatenaOnorarioIntero(const PeriodoCos& periodo, std::size_t i) const;
   // The last steps of a fee: its cut and its rounding, behind those that led to it.
   Catena CatenaArrotondata(Catena catena, const std::string& regola, const Conto& conto) const;
   double Arrotonda(double onorario) const {

@@ -1,5 +1,6 @@
 // The fee of the revision of stability calculations (art. 19-f).
 #include "cases/cos/note.h"
+#include "tariff/chains/percentage_chains.h"
 #include "tariff/law/table_articles.h"
 #include "tariff/law/tariff_tables.h"
 
@@ -43,15 +44,19 @@ void NotaCos::RevisioneRiga(std::size_t numeroRiga, const RigaCos& riga, int per
   uscita.EndLine();
   StampaLavori(6, "  - Importo dei Lavori verificati", riga.ImportoVerificato,
                "LAVORI VERIFICATI, Importo del Lotto");
-  for (const auto& [importo, P] : QuoteDellImporto(percentuali, SommaLotto))
-    StampaPercentuale(kVocePercentualeProgetto, P, importo);
+  StampaPercentuali(kVocePercentualeProgetto, percentuali, SommaLotto, 33,
+                    "Importo dei lavori verificati del lotto");
   const double aliquota = AliquotaRevisione(CasoDiParcella, riga);
   const std::string inizio = TestoQuota(kRevisioneCalcoli);
   const auto ragioni = [&]() -> Ragioni {
     return {
         "Art. 19-f, revisione dei calcoli di stabilità: importo dei lavori verificati per 0,20, "
         "per percentuale e per aliquota, per il coefficiente dei compensi",
-        {{"Aliquota della classe per la revisione dei calcoli", "", aliquota}}};
+        {{(CasoDiParcella == "CS1" ? "Art. 19, Tabella B, aliquota c, progetto esecutivo, "
+                                   : "D.M. 4-4-2001, Tabella B, aliquota f, relazione generale e "
+                                     "specialistiche, elaborati grafici, calcoli esecutivi, ") +
+              ClasseInParole(riga.Classe, riga.Categoria),
+          "", aliquota}}};
   };
   for (const auto& [importo, P] : QuoteDellImporto(percentuali, riga.ImportoVerificato))
     revisione += StampaOnorario(

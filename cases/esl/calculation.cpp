@@ -8,6 +8,7 @@
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "tariff/chains/percentage_chains.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/table_services_2001.h"
 #include "tariff/law/tariff_tables.h"
@@ -64,16 +65,47 @@ GruppoServizi ServiziDi(std::span<const ServizioEsl> tabella, FaseEsl fase, std:
   return gruppo;
 }
 
-// What those that count are called in the dialogs.
-std::string NomiServizi(std::span<const ServizioEsl> tabella,
+// " o1 -  Relazione di indagine geotecnica." of the dialogs as "o1 - Relazione di indagine
+// geotecnica".
+std::string NomeServizio(const ServizioEsl& servizio, std::string_view didascalia) {
+  didascalia.remove_prefix(didascalia.find('-') + 1);
+  didascalia.remove_prefix(std::min(didascalia.find_first_not_of(' '), didascalia.size()));
+  if (didascalia.ends_with('.')) didascalia.remove_suffix(1);
+  return std::string(servizio.codice) + " - " + std::string(didascalia);
+}
+
+// What those that count are called, and what a reader would not expect of them.
+Passaggio PassoAliquote(const char* tabella, std::span<const ServizioEsl> servizi,
                         std::span<const char* const> didascalie, FaseEsl fase,
-                        const std::string& prestazioni) {
+                        const LottoEsl& lotto, const std::string& prestazioni,
+                        const Conto& aliquota) {
+  constexpr double kDiecivolte = 0.15;
   std::string nomi;
-  for (std::size_t i = 0; i < tabella.size(); ++i)
-    if (tabella[i].fase == fase && Contiene(prestazioni, tabella[i].scelta))
-      nomi += (nomi.empty() ? "" : ";") + std::string(didascalie[i]);
-  while (nomi.ends_with('.')) nomi.pop_back();
-  return nomi;
+  std::vector<std::string> note;
+  for (std::size_t i = 0; i < servizi.size(); ++i) {
+    const ServizioEsl& s = servizi[i];
+    if (s.fase != fase) continue;
+    const std::string codice(s.codice);
+    const bool conta = Contiene(prestazioni, s.scelta);
+    if (conta) nomi += (nomi.empty() ? "" : "; ") + NomeServizio(s, didascalie[i]);
+    if (s.scelta != s.codice && conta != Contiene(prestazioni, codice))
+      note.push_back(conta ? "La scelta di " + std::string(s.scelta) + " conta anche " + codice
+                           : "La scelta di " + codice + " senza " + std::string(s.scelta) +
+                                 " non conta");
+    if (conta && s.codice == "l" && !Contiene("+" + prestazioni + "+", "+l+"))
+      note.emplace_back("La scelta di l1 conta anche l");
+    if (conta && s.codice.starts_with('o') &&
+        s.aliquote[ColonnaTabelleB(lotto.Classe, lotto.Categoria)] == kDiecivolte)
+      note.push_back("L'aliquota di " + codice + " in questa classe è proprio 0,15");
+  }
+  return {std::string("D.M. 4-4-2001, ") + tabella + ", " +
+              ClasseInParole(lotto.Classe, lotto.Categoria) + ", aliquote delle prestazioni " +
+              nomi,
+          aliquota,
+          aliquota.Valore(),
+          "",
+          {},
+          std::move(note)};
 }
 
 class NotaEsl : public Parcella {
@@ -149,9 +181,14 @@ void NotaEsl::CalcolaLotto(std::size_t numeroLotto, const LottoEsl& lotto) {
 
   StampaImporti(numeroLotto, lotto);
   if (progetto.importo > 0)
-    StampaPercentuale(kVocePercentualeProgetto, progetto.percentuale, baseProgetto);
+    StampaPercentuale(kVocePercentualeProgetto, progetto.percentuale, baseProgetto, 33,
+                      "Lavori di progetto");
   if (direzione.importo > 0)
-    StampaPercentuale(kVocePercentualeDirezione, direzione.percentuale, baseDirezione);
+    StampaPercentuale(kVocePercentualeDirezione, direzione.percentuale, baseDirezione, 33,
+                      d.TipoParcella == "NORMALE"
+                          ? "Lavori di progetto, su cui una parcella in corso d'opera prende "
+                            "anche la percentuale della direzione"
+                          : "Lavori diretti");
   const Conto onorarioProgetto = OnorarioProgetto(progetto);
   const Conto onorarioDirezione = OnorarioDirezione(direzione);
   TotaleProgetto += onorarioProgetto;
@@ -213,12 +250,9 @@ Conto NotaEsl::OnorarioFase(FaseEsl fase, const Lavori& lavori) {
          .importo = TestoImporto(lavori.importo)},
         Conto(lavori.importo) * lavori.percentuale.valore * servizi.aliquota / 100 * Coefficiente,
         [&]() -> Ragioni {
-          return {
-              "D.M. 4-4-2001: importo per percentuale per aliquote, per il coefficiente dei "
-              "compensi",
-              {{"Aliquote della " + std::string(nome) + ":" +
-                    NomiServizi(tabella, didascalie, fase, prestazioni),
-                servizi.aliquota.Testo(), servizi.aliquota.Valore()}}};
+          return {"Onorario: importo, percentuale e aliquote, per il coefficiente dei compensi",
+                  {PassoAliquote(nome, tabella, didascalie, fase, lotto, prestazioni,
+                                 servizi.aliquota)}};
         });
   };
   const bool piuAddetti = fase == FaseEsl::Direzione && lotto.NumeroAddetti > 1;

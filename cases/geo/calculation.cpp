@@ -6,6 +6,7 @@
 #include "cases/geo/data.h"
 #include "cases/geo/geo.h"
 #include "cases/geo/rules.h"
+#include "runtime/explanation/steps.h"
 #include "runtime/failure.h"
 #include "runtime/numbers.h"
 #include "tariff/chains/percentage_chains.h"
@@ -95,19 +96,24 @@ Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, const Cont
   Interpolazione lettura;
   const double valore = tabelle.Percentuale(IndiceSottoclasse(riga), lire, &lettura);
   return PercentualeTagliata(lire, valore, [&] {
-    Catena catena = CatenaInLire(importo);
-    catena.push_back({"Tabella delle prestazioni geotecniche (GEO.CFG), sottoclasse " +
-                          riga.Sottoclasse + ", tariffa " +
-                          tariffa.testata.NomePeriodo[static_cast<std::size_t>(periodo - 1)],
-                      ContoInterpolazione(lettura), valore, "%"});
-    Passaggio& passo = catena.back();
+    const auto posto = static_cast<std::size_t>(periodo - 1);
+    Passaggio passo{"Prestazioni geotecniche, sottoclasse " + riga.Sottoclasse + ", tariffa " +
+                        tariffa.testata.NomePeriodo[posto] + ", dalla " +
+                        TabellaPersonale(kFileGeo, tariffa.testata.NotaPeriodo[posto]) + ". ",
+                    "", valore, "%"};
     if (lettura.x0 == lettura.x1) {
-      passo.conto = "";
-      passo.note = {"Fino al primo importo della tabella la percentuale è la prima"};
-    } else if (valore == 0) {
-      passo.conto = "";
-      passo.note = {"Oltre la tabella la percentuale cala con l'ultima pendenza, e si ferma a 0"};
+      passo.regola +=
+          "Fino al primo importo, L. " + CifraEsatta(lettura.x0) + ", la percentuale non cambia";
+    } else if (lettura.x > lettura.x1) {
+      passo.regola += "Oltre l'ultimo importo, L. " + CifraEsatta(lettura.x1) +
+                      ", la percentuale cala con la pendenza degli ultimi due" +
+                      (valore == 0 ? ", e si ferma a 0" : "");
+    } else {
+      passo.regola += TraIPassi(lettura) + " si interpola in linea retta";
     }
+    if (lettura.x0 != lettura.x1 && valore != 0) passo.conto = ContoInterpolazione(lettura);
+    Catena catena = CatenaInLire(importo);
+    catena.push_back(std::move(passo));
     return catena;
   });
 }
@@ -131,10 +137,15 @@ void NotaGeo::CalcolaRiga(const GruppoGeo& g, const RigaGeo& riga, int periodo) 
   StampaDirezioneOnorari(d.TipoDiParcella, riga.ImportoDirezione, kCampoDirezioneGeo);
   if (progetto)
     StampaPercentuale(" % Prog.  = ", PProgetto, g.ProgettoGruppo, 33,
-                      "Lavori di progetto del gruppo, senza il loro segno");
+                      g.SommaProgetto == g.ProgettoGruppo
+                          ? "Lavori di progetto della sottoclasse"
+                          : "Lavori di progetto della sottoclasse, presi senza il meno");
   if (direzione)
     StampaPercentuale(" % D.L.   = ", PDirezione, g.BaseDirezione, 33,
-                      "Lavori su cui si prende la percentuale della direzione nel gruppo");
+                      g.BaseDirezione == g.DirezioneGruppo
+                          ? "Lavori diretti della sottoclasse"
+                          : "Lavori di progetto della sottoclasse, che superano quelli diretti e "
+                            "danno anche la percentuale della direzione");
   if (progetto)
     totaleProgetto +=
         OnorarioBlocco(BloccoDi(riga, {"PRESTAZIONI GEOTECNICHE IN FASE DI PROGETTAZIONE"}, 0,
@@ -175,7 +186,7 @@ Catena NotaGeo::CatenaQuote(const Blocco& blocco) const {
   for (const char lettera : blocco.prestate)
     if (const auto posto = kLettereGeo.find(lettera); posto != std::string_view::npos)
       nomi += (nomi.empty() ? "" : "; ") + std::string(1, lettera) + " - " + kPrestazioniGeo[posto];
-  return {{"Quote delle prestazioni: " + nomi, blocco.quota.Testo(), blocco.quota.Valore()}};
+  return {{"Quote delle prestazioni geotecniche " + nomi, blocco.quota, blocco.quota.Valore()}};
 }
 
 Conto NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double importo) {
@@ -190,10 +201,8 @@ Conto NotaGeo::OnorarioBlocco(const Blocco& blocco, const Percentuale& P, double
        .percentuale = P,
        .importo = TestoImporto(importo)},
       Conto(importo) * blocco.quota * P.valore / 100 * Coefficiente, [&]() -> Ragioni {
-        return {
-            "Onorario: importo per quote per percentuale, "
-            "per il coefficiente dei compensi",
-            CatenaQuote(blocco)};
+        return {"Onorario: importo, quote e percentuale, per il coefficiente dei compensi",
+                CatenaQuote(blocco)};
       });
   return Conto(onorario) + OnorarioArticolo18(blocco, P, importo);
 }
@@ -215,7 +224,10 @@ double NotaGeo::OnorarioArticolo18(const Blocco& blocco, const Percentuale& P, d
        .importo = TestoImporto(importo),
        .conCompensi = conglobato},
       onorario, [&]() -> Ragioni {
-        return {"Art. 18, incarico parziale: un quarto dell'onorario", CatenaQuote(blocco)};
+        return {conglobato ? "Art. 18, incarico parziale: un quarto dell'onorario"
+                           : "Art. 18, incarico parziale: un quarto dell'onorario, senza compensi "
+                             "accessori come dicono i criteri di calcolo",
+                CatenaQuote(blocco)};
       });
 }
 

@@ -15,9 +15,10 @@ class LettoreGeo {
   explicit LettoreGeo(const WorkFolder& folder) : file(folder, kFileGeo) {}
 
   void LeggiTestata(TabelleGeo& tabelle) {
-    for (std::string& nome : tabelle.NomePeriodo) {
-      nome = file.Text("nome del periodo");
+    for (std::size_t i = 0; i < kPeriodiGeo; ++i) {
+      tabelle.NomePeriodo[i] = file.Text("nome del periodo");
       SaltaNota();
+      tabelle.NotaPeriodo[i] = RigaIgnorata;
     }
     const int n = file.Count("numero degli scaglioni", kPassiMassimi);
     if (n < 2) file.Fail("numero degli scaglioni", "Gli scaglioni devono essere almeno due.");

@@ -20,7 +20,7 @@ inline constexpr std::size_t kPeriodiGeo = 5;
 inline constexpr std::size_t kSottoclassiGeo = 4;
 
 struct TabelleGeo {
-  std::array<std::string, kPeriodiGeo> NomePeriodo;
+  std::array<std::string, kPeriodiGeo> NomePeriodo, NotaPeriodo;
   std::vector<double> Passo;
   std::array<std::vector<double>, kSottoclassiGeo> Y;  // of the period asked for
 

@@ -3,8 +3,11 @@
 #include "cases/inc/config.h"
 #include "cases/inc/data.h"
 #include "cases/inc/inc.h"
+#include "runtime/explanation/steps.h"
 #include "tariff/chains/compensation_chains.h"
+#include "tariff/chains/percentage_chains.h"
 #include "tariff/explanations.h"
+#include "tariff/law/table_b.h"
 #include "tariff/law/table_periods.h"
 #include "tariff/law/tariff_tables.h"
 #include "tariff/money.h"
@@ -13,6 +16,8 @@
 
 namespace orm {
 namespace {
+
+constexpr std::string_view kServiziInc = "gil";
 
 class NotaInc : public Parcella {
  public:
@@ -28,6 +33,7 @@ class NotaInc : public Parcella {
 
  private:
   void CalcolaLotto(const LottoInc& lotto, const Conto& aliquota);
+  static Passaggio PassoAliquota(const LottoInc& lotto, const Conto& aliquota);
   static bool Svolta(const LottoInc& lotto, char lettera) {
     return lotto.Prestazioni.find(lettera) != std::string::npos;
   }
@@ -47,8 +53,9 @@ void NotaInc::CalcolaImporti() {
   StringaCoefficiente = " x " + FormattaNumero(Coefficiente, 2);
   uscita.Text("ridotta al massimo del ").Bare(quote.massimoCompensi).Line("%");
   spiegazioni.Riga(uscita.Contents(), [&] {
-    Passaggio limite{"Massimo dei compensi accessori dell'ingegnere capo (INC.CFG)", "",
-                     quote.massimoCompensi, "%"};
+    Passaggio limite{"Tariffa dell'ingegnere capo, dalla " + TabellaPersonale(kFileInc, "") +
+                         ": massimo dei compensi accessori, che quelli calcolati superano",
+                     "", quote.massimoCompensi, "%"};
     limite.cifra = CifraNuda(quote.massimoCompensi);
     CatenaCompensi = {limite, PassoCoefficiente(quote.massimoCompensi, massimo)};
     CatenaCompensi.back().tagli = {{TipoTaglio::Decimali, 2, massimo, Coefficiente}};
@@ -60,7 +67,7 @@ void NotaInc::CalcolaImporti() {
 void NotaInc::CalcolaLotti() {
   uscita.Line(kRigaOnorariCompensi);
   for (const LottoInc& lotto : d.Lotti) {
-    Conto aliquota = 0;
+    Conto aliquota = Zero();
     bool svolta = false;
     for (const auto& [lettera, quota] :
          {std::pair{'g', quote.direzione}, {'i', quote.assistenza}, {'l', quote.liquidazione}}) {
@@ -72,6 +79,19 @@ void NotaInc::CalcolaLotti() {
   }
 }
 
+Passaggio NotaInc::PassoAliquota(const LottoInc& lotto, const Conto& aliquota) {
+  std::string nomi;
+  for (std::size_t i = 0; i < kLettereTabellaB.size(); ++i)
+    if (kServiziInc.find(kLettereTabellaB[i]) != std::string::npos &&
+        Svolta(lotto, kLettereTabellaB[i]))
+      nomi += (nomi.empty() ? "" : "; ") + std::string(1, kLettereTabellaB[i]) + " - " +
+              kPrestazioniTabellaB[i];
+  return {"Quote dell'ingegnere capo, dalla " + TabellaPersonale(kFileInc, "") +
+              ", ognuna per l'aliquota dell'art. 19, Tabella B, " +
+              ClasseInParole(lotto.Classe, lotto.Categoria) + ": " + nomi,
+          aliquota, aliquota.Valore()};
+}
+
 void NotaInc::CalcolaLotto(const LottoInc& lotto, const Conto& aliquota) {
   uscita.Line(TitoloLotto(++progressivo, lotto.Classe, lotto.Categoria) + " (" +
               NomePeriodoTariffario(periodo) + ")");
@@ -79,16 +99,12 @@ void NotaInc::CalcolaLotto(const LottoInc& lotto, const Conto& aliquota) {
   const auto percentuali =
       PercentualiDellaBase(lotto.Importo, periodo, lotto.Classe, lotto.Categoria);
   const auto quoteImporto = QuoteDellImporto(percentuali, lotto.Importo);
-  for (const auto& [importo, P] : quoteImporto)
-    StampaPercentuale(" Percentuale tabella A = ", P, importo, 40);
+  StampaPercentuali(" Percentuale tabella A = ", percentuali, lotto.Importo, 40);
   const auto ragioni = [&]() -> Ragioni {
     return {
-        "Ingegnere capo: percentuale per importo dei lavori e per aliquota, per il coefficiente "
-        "dei compensi",
-        {{"Aliquota delle prestazioni " + lotto.Prestazioni +
-              ": per ciascuna la quota di INC.CFG per quella dell'art. 19, Tabella B (g "
-              "direzione dei lavori, i assistenza al collaudo, l liquidazione)",
-          aliquota.Testo(), aliquota.Valore()}}};
+        "Ingegnere capo: percentuale, importo dei lavori e aliquota, per il coefficiente dei "
+        "compensi",
+        {PassoAliquota(lotto, aliquota)}};
   };
   for (const auto& [importo, P] : quoteImporto)
     TotaleGenerale +=
@@ -104,18 +120,19 @@ void NotaInc::CalcolaCertificato() {
   if (d.CertificatoRegolareEsecuzione != "SI" || somma <= 0) return;
   const Percentuale P = PercentualeDaTabellaC(periodo, ImportoInLire(somma));
   const Conto onorario = Conto(quote.tabellaC) * P.valore * somma / 100 * Coefficiente;
-  StampaVoce(
-      "CONFERMA CERTIFICATO DI REGOLARE ESECUZIONE",
-      FormattaCopia(quote.tabellaC, 2) + " x " + P.testo + " x " + TestoImporto(somma) +
-          StringaCoefficiente + " =",
-      onorario, [&] {
-        return CatenaOnorario(
-            P, onorario,
-            {"Conferma del certificato di regolare esecuzione: quota di INC.CFG della "
-             "percentuale di Tabella C, per l'importo dei lavori e il coefficiente dei compensi",
-             Unite({{"Quota della Tabella C (INC.CFG)", "", quote.tabellaC}},
-                   CatenaInLire(somma))});
-      });
+  StampaVoce("CONFERMA CERTIFICATO DI REGOLARE ESECUZIONE",
+             FormattaCopia(quote.tabellaC, 2) + " x " + P.testo + " x " + TestoImporto(somma) +
+                 StringaCoefficiente + " =",
+             onorario, [&] {
+               return CatenaOnorario(
+                   P, onorario,
+                   {"Conferma del certificato di regolare esecuzione: quota della percentuale di "
+                    "Tabella C e importo dei lavori, per il coefficiente dei compensi",
+                    Unite({{"Quota dell'ingegnere capo nella Tabella C, dalla " +
+                                TabellaPersonale(kFileInc, ""),
+                            "", quote.tabellaC}},
+                          CatenaInLire(somma))});
+             });
 }
 
 }  // namespace

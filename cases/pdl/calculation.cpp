@@ -99,10 +99,10 @@ void NotaPdl::CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga) {
         .Line(NomePeriodoTariffario(conto.Periodo));
     StampaImportiRiga(riga);
     if (riga.ImportoProgetto > 0)
-      StampaPercentuali(kVocePercentualeProgetto, conto.progetto, conto.basi.BaseProgetto,
+      StampaPercentuali(kVocePercentualeProgetto, conto.progetto, conto.basi.BaseProgetto, 33,
                         "Lavori di progetto ed espropri del lotto");
     if (riga.ImportoDirezione > 0)
-      StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione,
+      StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione, 33,
                         "Lavori del lotto su cui si prende la percentuale della direzione");
   }
   // What comes to 0 is no term of the sum that a person reads.
@@ -128,12 +128,6 @@ void NotaPdl::StampaImportiRiga(const RigaPdl& r) {
   StampaSeNonNullo(" - Lavori suppletivi", r.ImportoSuppletivi, kCampoSuppletivi);
   StampaSeNonNullo(" - Espropri in perizia", r.ImportoEsproPerizie, kCampoEsproPerizie);
   StampaDirezioneOnorari(d.TipoParcella, r.ImportoDirezione, kCampoDirezione);
-}
-
-void NotaPdl::StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
-                                const Conto& base, const char* regola) {
-  for (const auto& [importo, P] : QuoteDellImporto(percentuali, base))
-    StampaPercentuale(voce, P, importo, 33, regola);
 }
 
 void NotaPdl::CalcolaContabilita() { totali[3] = StampaContabilita(); }

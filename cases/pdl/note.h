@@ -52,8 +52,6 @@ class NotaPdl : public Parcella {
   void CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga);
   void StampaSeNonNullo(std::string_view voce, double importo, std::string_view campo);
   void StampaImportiRiga(const RigaPdl& riga);
-  void StampaPercentuali(std::string_view voce, const PercentualiTabellaA& percentuali,
-                         const Conto& base, const char* regola);
 
   Conto OnorarioProgetto(const RigaInCorso& conto);
   Conto OnorarioPerizie(const RigaInCorso& conto);

@@ -209,18 +209,22 @@ Conto NotaPdl::OnorarioSorveglianza(const RigaInCorso& conto) {
     const auto& [importo, P] = quota;
     Conto onorario = Conto(kSorveglianza) * aliquota * importo * P.valore / 100;
     if (conCompensi) onorario *= Coefficiente;
-    totale +=
-        StampaOnorario({.inizio = inizio,
-                        .aliquota = aliquota,
-                        .percentuale = P,
-                        .importo = TestoImporto(importo),
-                        .conCompensi = conCompensi},
-                       onorario, [&]() -> Ragioni {
-                         Aliquote direzione{};
-                         direzione[7] = 1;
-                         return {"Art. 17, sorveglianza: metà dell'aliquota g, sui lavori diretti",
-                                 {PassoAliquote(conto, direzione, 7, 7, aliquota)}};
-                       });
+    totale += StampaOnorario(
+        {.inizio = inizio,
+         .aliquota = aliquota,
+         .percentuale = P,
+         .importo = TestoImporto(importo),
+         .conCompensi = conCompensi},
+        onorario, [&]() -> Ragioni {
+          Aliquote direzione{};
+          direzione[7] = 1;
+          return {conCompensi ? "Art. 17, sorveglianza: metà dell'aliquota g, sui lavori "
+                                "diretti"
+                              : "Art. 17, sorveglianza: metà dell'aliquota g, sui lavori "
+                                "diretti, senza compensi accessori come dicono i criteri "
+                                "di calcolo",
+                  {PassoAliquote(conto, direzione, 7, 7, aliquota)}};
+        });
   }
   return totale;
 }

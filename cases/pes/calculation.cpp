@@ -44,12 +44,11 @@ void NotaPes::CalcolaOnorari() {
                percentuale + "% x " + TestoImporto(bene.Valore) + StringaCoefficiente + " =",
                onorario, [&] {
                  Passaggio tabellaF =
-                     PassoDato("PERCENTUALE DELLA TABELLA F", bene.PercentualeTabellaF);
-                 tabellaF.unita = "%";
+                     PassoDato("PERCENTUALE DELLA TABELLA F", bene.PercentualeTabellaF, "%");
                  tabellaF.tagli = {{TipoTaglio::Decimali, 5, bene.PercentualeTabellaF, P}};
                  return CatenaOnorario({P, percentuale, {std::move(tabellaF)}}, onorario,
-                                       {"Perizia estimativa, Tabella F: valore stimato per "
-                                        "percentuale, per il coefficiente dei compensi"});
+                                       {"Perizia estimativa (artt. 24-28), Tabella F: valore "
+                                        "stimato e percentuale, per il coefficiente dei compensi"});
                });
   }
 }

@@ -1,6 +1,6 @@
 // The fee of expropriation plans: a fixed rate for each unit.
-#include <initializer_list>
 #include <limits>
+#include <vector>
 
 #include "cases/ppe/data.h"
 #include "cases/ppe/ppe.h"
@@ -35,7 +35,7 @@ class NotaPpe : public Parcella {
   void CalcolaQuantita(const char* titolo, std::int16_t numero, const TariffaPpe& tariffa);
   void CalcolaVerbale();
   void StampaBlocco(const char* titolo, const std::string& formula, const Conto& conto,
-                    std::initializer_list<const TariffaPpe*> tariffe);
+                    const std::vector<const TariffaPpe*>& tariffe);
 
   const DatiPpe& d;
 };
@@ -89,35 +89,45 @@ void NotaPpe::CalcolaQuantita(const char* titolo, std::int16_t numero, const Tar
 // In Euro most rates are those in Lire, brought over to the cent before anything is counted.
 Passaggio NotaPpe::PassoTariffa(const TariffaPpe& tariffa) const {
   std::string regola = "Legge 143/1949, compenso fisso per " + std::string(tariffa.cosa);
-  if (!ModoLire && tariffa.euro != 0) return PassoImporto(std::move(regola), tariffa.euro);
+  if (!ModoLire && tariffa.euro != 0) {
+    Passaggio passo = PassoImporto(std::move(regola), tariffa.euro);
+    passo.Annota("Questa cifra in Euro non è la conversione delle Lire");
+    return passo;
+  }
   return Parcella::PassoTariffa(std::move(regola), tariffa.lire);
 }
 
 void NotaPpe::CalcolaVerbale() {
   if (d.NumParticelleVerbale + d.NumFabbricati == 0) return;
   std::string formula = Testo(kTariffaVerbale);
-  const auto addendo = [&](std::int16_t numero, const TariffaPpe& tariffa) {
-    if (numero != 0) formula += " +" + ConSegno(numero) + Testo(tariffa);
-    return Prodotto(numero, tariffa);
-  };
   Conto importo = Tariffa(kTariffaVerbale);
-  importo += addendo(d.NumParticelleVerbale, kTariffaParticellaVerbale);
-  importo += addendo(d.NumFabbricati, kTariffaFabbricato);
-  StampaBlocco("Onorario per verbale di consistenza ", formula, importo,
-               {&kTariffaVerbale, &kTariffaParticellaVerbale, &kTariffaFabbricato});
+  std::vector<const TariffaPpe*> tariffe{&kTariffaVerbale};
+  const auto addendo = [&](std::int16_t numero, const TariffaPpe& tariffa) {
+    if (numero == 0) return;
+    formula += " +" + ConSegno(numero) + Testo(tariffa);
+    importo += Prodotto(numero, tariffa);
+    tariffe.push_back(&tariffa);
+  };
+  addendo(d.NumParticelleVerbale, kTariffaParticellaVerbale);
+  addendo(d.NumFabbricati, kTariffaFabbricato);
+  StampaBlocco("Onorario per verbale di consistenza ", formula, importo, tariffe);
 }
 
 // The fee of a block: its text, how it comes about, and the amount.
 void NotaPpe::StampaBlocco(const char* titolo, const std::string& formula, const Conto& conto,
-                           std::initializer_list<const TariffaPpe*> tariffe) {
+                           const std::vector<const TariffaPpe*>& tariffe) {
   uscita.Line(titolo).Text(formula + " ");
   double importo = conto;
   StampaImporto(importo);
   Spiega([&] {
     Catena catena;
     for (const TariffaPpe* tariffa : tariffe) catena.push_back(PassoTariffa(*tariffa));
-    catena.push_back(PassoImporto("Numeri dei dati per i compensi fissi", conto));
-    if (tariffe.begin()[0] == &kTariffaPartita && ModoLire)
+    const bool verbale = tariffe[0] == &kTariffaVerbale;
+    catena.push_back(PassoImporto(verbale ? "Onorario: la quota fissa, e ogni numero dei dati per "
+                                            "il suo compenso"
+                                          : "Onorario: il numero dei dati per il compenso fisso",
+                                  conto));
+    if (tariffe[0] == &kTariffaPartita && ModoLire)
       catena.back().note = {"La riga scrive 106.0000, con uno zero di troppo, e conta 106.000"};
     return catena;
   });

@@ -13,6 +13,7 @@ namespace {
 const char* CampoQuantita(const ElaboratoRim& e) {
   return e.Sezione() ? "VOLUME [mc]" : "SUPERFICIE [mq]";
 }
+const char* Unita(const ElaboratoRim& e) { return e.Sezione() ? "mc" : "mq"; }
 const char* CampoNumero(const ElaboratoRim& e) {
   return e.Pianta() ? "NUMERO DEI PIANI" : "NUMERO DEI PROSPETTI";
 }
@@ -33,17 +34,19 @@ class NotaRim : public Parcella {
 };
 
 void NotaRim::StampaDati() {
-  const auto riga = [this](const char* etichetta, double quantita, const char* campo) {
+  const auto riga = [this](const char* etichetta, double quantita, const char* campo,
+                           const char* unita) {
     uscita.Tab(5).Text(etichetta).Tab(kColonnaLavori).Bare(quantita).EndLine();
-    SpiegaDato(campo, quantita);
+    SpiegaDato(campo, quantita, unita);
   };
   uscita.Line(kRigaDatiParcella);
   for (const ElaboratoRim& e : d.Elaborati) {
     uscita.Text(Numero() + " " + e.Tipo().nome);
     if (e.Pianta()) uscita.Text(" ").Text(kScaleRim[e.PostoScala()]);
     uscita.EndLine();
-    riga(e.Sezione() ? " - Volume [mc] " : " - Superficie [mq] ", e.Quantita, CampoQuantita(e));
-    if (e.Numero > 1) riga(" - Numero ", e.Numero, CampoNumero(e));
+    riga(e.Sezione() ? " - Volume [mc] " : " - Superficie [mq] ", e.Quantita, CampoQuantita(e),
+         Unita(e));
+    if (e.Numero > 1) riga(" - Numero ", e.Numero, CampoNumero(e), "");
   }
 }
 
@@ -81,29 +84,34 @@ Catena NotaRim::CatenaElaborato(const ElaboratoRim& e, const Conto& onorario) co
     catena.push_back(PassoTariffa(
         voce + (e.Pianta() ? ": quota fissa di ogni piano" : ": quota fissa di ogni prospetto"),
         e.QuotaFissa()));
-  catena.push_back(PassoDato(CampoQuantita(e), e.Quantita));
+  catena.push_back(PassoDato(CampoQuantita(e), e.Quantita, Unita(e)));
   if (!e.Sezione()) catena.push_back(PassoDato(CampoNumero(e), e.Numero));
-  catena.push_back(PassoOnorario(
-      e.Pianta() && e.Numero > 1
-          ? "Misura per tariffa; i piani oltre il primo ne danno 0,75 ciascuno, più le quote fisse"
-          : "Misura per tariffa, più le quote fisse che ci sono",
-      onorario));
+  std::string regola = "Onorario: misura per tariffa";
+  if (e.Pianta() && e.Numero > 1)
+    regola += "; ogni piano oltre il primo, di uguale superficie, ne dà 0,75";
+  if (e.QuotaFissa() != 0) regola += "; in più le quote fisse";
+  catena.push_back(PassoOnorario(std::move(regola), onorario));
+  if (e.Pianta() && e.QuotaFissa() == 0)
+    catena.back().Annota("A questa scala le piante non hanno quota fissa");
   return catena;
 }
 
 void NotaRim::CalcolaMaggiorazioni() {
   std::size_t quante = 0;
-  for (const std::string* risposta :
-       {&d.RilievoStrutture, &d.RilievoImpianti, &d.EdificioVincolato})
-    if (*risposta == "SI") ++quante;
+  std::string quali;
+  for (const auto& [risposta, nome] : {std::pair{&d.RilievoStrutture, "rilievo delle strutture"},
+                                       {&d.RilievoImpianti, "impianti tecnici complessi"},
+                                       {&d.EdificioVincolato, "edificio vincolato"}})
+    if (*risposta == "SI") quali += (quante++ == 0 ? "" : ", ") + std::string(nome);
   if (quante == 0) return;
   const double quota = kMaggiorazioniRim[quante - 1];
   const Conto maggiorazione = quota * TotaleGenerale;
   StampaVoce("MAGGIORAZIONI", TestoQuota(quota) + TestoImporto(TotaleGenerale), maggiorazione,
              [&]() -> Catena {
                return {
-                   PassoOnorario("D.M. 4-4-2001, Tabella B3.2, maggiorazioni: 0,30 per ognuna "
-                                 "di quelle scelte, sommate, degli onorari sopra",
+                   PassoOnorario("D.M. 4-4-2001, Tabella B3.2, maggiorazioni di 0,30 ciascuna, "
+                                 "sommate, sugli onorari (" +
+                                     quali + ")",
                                  maggiorazione)};
              });
 }

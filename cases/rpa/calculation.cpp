@@ -11,9 +11,11 @@
 namespace orm {
 namespace {
 
+constexpr const char* kCampoEttari = "ESTENSIONE [ettari]";
 constexpr const char* kParticella =
-    "Artt. 33 e 34 L. 143/1949, D.M. 11-6-1987: tariffa di una particella con confini e colture";
-constexpr const char* kVacazione = "Art. 4 L. 143/1949, D.M. 3-9-1997 n. 417: vacazione di un'ora";
+    "Artt. 33 e 34 L. 143/1949, D.M. 11-6-1987: particelle con confini e colture ";
+constexpr const char* kVacazione =
+    "Art. 4 L. 143/1949, D.M. 3-9-1997 n. 417: vacazione di un'ora, ";
 
 std::string VoceTerreno(const TerrenoRpa& t) {
   return std::string("Art. 33 L. 143/1949, D.M. 11-6-1987: tariffa di un ettaro, terreni ") +
@@ -35,10 +37,16 @@ class NotaRpa : public Parcella {
     return std::string("TERRENI ") + kTerreniRpa[static_cast<std::size_t>(t.Terreno - 1)];
   }
   bool SoloAVacazione() const;
-  void CalcolaQuantita(const std::string& titolo, double quantita, double lire, const char* voce);
-  void CalcolaSeCe(const char* titolo, double quantita, double lire, const char* voce) {
-    if (quantita != 0) CalcolaQuantita(titolo, quantita, lire, voce);
-  }
+  // What is paid by the piece: its entry in the forms, and where the law has the rate.
+  struct Quantita {
+    const char* campo;
+    double quante;
+    const char* unita;
+    std::string voce;
+  };
+  void CalcolaQuantita(const std::string& titolo, const Quantita& quantita, double lire);
+  void CalcolaParticelle(const char* titolo, const char* campo, double quante, double lire);
+  void CalcolaOre(const char* chi, double quante, double lire);
 
   const DatiRpa& d;
   Conto EttariComplessivi;
@@ -56,7 +64,7 @@ void NotaRpa::StampaDati() {
         .Tab(kColonnaLavori)
         .Bare(t.Ettari)
         .EndLine();
-    SpiegaDato("ESTENSIONE [ettari]", t.Ettari);
+    SpiegaDato(kCampoEttari, t.Ettari, "ettari");
     EttariComplessivi += t.Ettari;
   }
   uscita.Text("Estensione complessiva ettari ").Bare(EttariComplessivi).EndLine();
@@ -89,25 +97,38 @@ void NotaRpa::CalcolaTerreni() {
     return;
   }
   for (const TerrenoRpa& t : d.Terreni)
-    CalcolaQuantita(Titolo(t), t.Ettari, t.Tariffa(), VoceTerreno(t).c_str());
-  CalcolaSeCe("PARTICELLE INFERIORI A 500 mq", d.ParticellePiccole, kTariffaParticellaPiccola,
-              kParticella);
-  CalcolaSeCe("PARTICELLE OLTRE 500 mq", d.ParticelleGrandi, kTariffaParticellaGrande, kParticella);
+    CalcolaQuantita(Titolo(t), {kCampoEttari, t.Ettari, "ettari", VoceTerreno(t)}, t.Tariffa());
+  CalcolaParticelle("PARTICELLE INFERIORI A 500 mq", "INFERIORI A 500 mq", d.ParticellePiccole,
+                    kTariffaParticellaPiccola);
+  CalcolaParticelle("PARTICELLE OLTRE 500 mq", "OLTRE 500 mq", d.ParticelleGrandi,
+                    kTariffaParticellaGrande);
+}
+
+void NotaRpa::CalcolaParticelle(const char* titolo, const char* campo, double quante, double lire) {
+  if (quante != 0)
+    CalcolaQuantita(
+        titolo,
+        {campo, quante, "particelle", kParticella + std::string(campo) + ", tariffa di ognuna"},
+        lire);
 }
 
 void NotaRpa::CalcolaOre() {
-  CalcolaSeCe(kOreRpa[0], d.OreProfessionista, kVacazioneProfessionista, kVacazione);
-  CalcolaSeCe(kOreRpa[1], d.OreAiutoIscritto, kVacazioneAiutoIscritto, kVacazione);
-  CalcolaSeCe(kOreRpa[2], d.OreAiutoConcetto, kVacazioneAiutoDiConcetto, kVacazione);
+  CalcolaOre(kOreRpa[0], d.OreProfessionista, kVacazioneProfessionista);
+  CalcolaOre(kOreRpa[1], d.OreAiutoIscritto, kVacazioneAiutoIscritto);
+  CalcolaOre(kOreRpa[2], d.OreAiutoConcetto, kVacazioneAiutoDiConcetto);
 }
 
-// `voce`: where the law has the rate.
-void NotaRpa::CalcolaQuantita(const std::string& titolo, double quantita, double lire,
-                              const char* voce) {
+void NotaRpa::CalcolaOre(const char* chi, double quante, double lire) {
+  if (quante != 0) CalcolaQuantita(chi, {chi, quante, "ore", kVacazione + std::string(chi)}, lire);
+}
+
+void NotaRpa::CalcolaQuantita(const std::string& titolo, const Quantita& quantita, double lire) {
   const auto [tariffa, testo] = CifraInValuta(lire, ModoLire);
-  const Conto onorario = Conto(quantita) * tariffa;
-  StampaVoce(titolo, FormattaCopia(quantita, 5) + " x " + testo, onorario, [&]() -> Catena {
-    return {PassoTariffa(voce, lire), PassoOnorario("Quantità dei dati per tariffa", onorario)};
+  const Conto onorario = Conto(quantita.quante) * tariffa;
+  StampaVoce(titolo, FormattaCopia(quantita.quante, 5) + " x " + testo, onorario, [&]() -> Catena {
+    return {PassoTariffa(quantita.voce, lire),
+            PassoDato(quantita.campo, quantita.quante, quantita.unita),
+            PassoOnorario(std::string("Onorario: ") + quantita.unita + " per tariffa", onorario)};
   });
 }
 

@@ -7,29 +7,28 @@
 
 namespace orm {
 
-namespace {
+Catena NotaSic::CatenaMinimo(const Fase& fase, double conteggio) const {
+  return {PassoImporto("Onorario a percentuale dei lotti, che è minore del minimo", conteggio),
+          PassoTariffa(std::string("Sicurezza dei cantieri (D.Lgs 494/96), ") +
+                           fase.prestazione.didascalia + ": onorario minimo",
+                       fase.prestazione.minimo)};
+}
 
-constexpr const char* kMinimo =
-    "Sicurezza dei cantieri (D.Lgs 494/96): onorario minimo della prestazione";
-
-}  // namespace
-
-double NotaSic::StampaMinimo(const Fase& fase) {
+double NotaSic::StampaMinimo(const Fase& fase, double conteggio) {
   uscita.Line("  ONORARIO MINIMO  ");
   const Conto conto = Conto(fase.Minimo) * Coefficiente;
   double risultato = IntInLire(conto);
   StampaRigaOnorario(1, TestoImporto(fase.Minimo) + StringaCoefficiente + " =", risultato);
   Spiega([&] {
-    return CatenaOnorario({}, conto,
-                          {"Il conto a percentuale dà meno: vale l'onorario minimo, per il "
-                           "coefficiente dei compensi",
-                           {PassoTariffa(kMinimo, fase.prestazione.minimo)}});
+    return CatenaOnorario(
+        {}, conto,
+        {"Onorario minimo, per il coefficiente dei compensi", CatenaMinimo(fase, conteggio)});
   });
   return risultato;
 }
 
 // The words of a commission that ended early are in capitals, in Lire alone.
-double NotaSic::StampaMinimoInParte(const Fase& fase, bool ancora) {
+double NotaSic::StampaMinimoInParte(const Fase& fase, double conteggio, bool ancora) {
   if (TotaleProgetto == 0)
     throw RuntimeFailure(
         "Divisione per zero: l'onorario minimo va in proporzione ai lavori di progetto, che sono "
@@ -52,16 +51,16 @@ double NotaSic::StampaMinimoInParte(const Fase& fase, bool ancora) {
                      risultato);
   Spiega([&] {
     return CatenaOnorario({}, conto,
-                          {"Il conto a percentuale dà meno: vale l'onorario minimo, per la parte "
-                           "dei lavori già eseguiti e per il coefficiente dei compensi",
-                           {PassoTariffa(kMinimo, fase.prestazione.minimo)}});
+                          {"Onorario minimo, per la parte dei lavori già eseguiti e per il "
+                           "coefficiente dei compensi",
+                           CatenaMinimo(fase, conteggio)});
   });
   return risultato;
 }
 
 bool NotaSic::OnorarioMinimoFase(const Fase& fase, double& risultato) {
   if (fase.Minimo * Coefficiente <= risultato) return false;
-  risultato = StampaMinimo(fase);
+  risultato = StampaMinimo(fase, risultato);
   return true;
 }
 
@@ -71,11 +70,11 @@ bool NotaSic::OnorarioMinimoEsecuzione(const Fase& fase, double& risultato) {
   const bool normale = d.TipoDiParcella == "NORMALE";
   const bool tutto = normale ? TotaleEseguito >= TotaleProgetto : d.TipoDiParcella == "CONSUNTIVA";
   if (tutto) {
-    risultato = StampaMinimo(fase);
+    risultato = StampaMinimo(fase, risultato);
     return true;
   }
   if (normale && MinimoPieno <= OnorarioSuProgetto(fase)) return false;
-  risultato = StampaMinimoInParte(fase, normale);
+  risultato = StampaMinimoInParte(fase, risultato, normale);
   return true;
 }
 

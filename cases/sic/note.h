@@ -1,6 +1,7 @@
 // The note of site safety while it is reckoned and printed.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "cases/sic/data.h"
@@ -11,8 +12,6 @@ namespace orm {
 
 // Where the data have the amounts.
 inline constexpr std::string_view kCampoEseguito = "ESECUZIONE, IMPORTO LAVORI";
-inline constexpr std::string_view kCampoBase =
-    "IMPORTO LAVORI, il maggiore fra progetto ed eseguito";
 
 class NotaSic : public Parcella {
  public:
@@ -61,6 +60,8 @@ class NotaSic : public Parcella {
 
   void CalcolaBasi();
   bool Impegnato(const Lotto& lotto, std::size_t p) const;
+  // What the percentages of a group are taken on.
+  double BaseDi(const Gruppo& gruppo, bool progetto) const;
   PercentualiTabellaA PercentualeDiLotto(const Lotto& lotto, bool progetto) const;
   Fattori FattoriDi(const Lotto& lotto, std::size_t p) const;
   double OnorarioFase(const Fase& fase);
@@ -69,18 +70,25 @@ class NotaSic : public Parcella {
   Conto Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
                  double incrementi) const;
   Passaggio PassoAliquota(const Fase& fase) const;
-  Ragioni RagioniDi(const Fase& fase, const ContoLotto& conto) const;
+  // How the percentages of the conditions that the data choose came about.
+  static Passaggio PassoCondizioni(const char* quali, std::span<const CondizioneSic> condizioni,
+                                   std::string_view segni);
+  Passaggio PassoMaggiorazioni(const Lotto& lotto, std::size_t p) const;
+  Passaggio PassoIncrementi(const Lotto& lotto, std::size_t p) const;
+  Ragioni RagioniDi(const Fase& fase, const Lotto& lotto, const ContoLotto& conto) const;
   double Conteggio(const Fase& fase) const;
   double StampaLotti(const Fase& fase);
   double StampaLotto(const Fase& fase, const Lotto& lotto);
-  std::string StampaFattori(const Fase& fase, const ContoLotto& conto);
-  void StampaPercentuali(const Lotto& lotto, const ContoLotto& conto);
+  std::string StampaFattori(const Fase& fase, const Lotto& lotto, const ContoLotto& conto);
+  void StampaPercentualiDi(const Fase& fase, const Lotto& lotto, const ContoLotto& conto);
 
   // The least fee where it counts, printed; nothing where the reckoned fee stands.
   bool OnorarioMinimoFase(const Fase& fase, double& risultato);
   bool OnorarioMinimoEsecuzione(const Fase& fase, double& risultato);
-  double StampaMinimo(const Fase& fase);
-  double StampaMinimoInParte(const Fase& fase, bool ancora);
+  // `conteggio`: the reckoned fee, which comes to less.
+  double StampaMinimo(const Fase& fase, double conteggio);
+  double StampaMinimoInParte(const Fase& fase, double conteggio, bool ancora);
+  Catena CatenaMinimo(const Fase& fase, double conteggio) const;
   double OnorarioSuProgetto(const Fase& fase) const;
 
   const DatiSicurezza& d;

@@ -14,19 +14,21 @@ std::string_view Fetta(std::string_view segni, std::size_t primo, std::size_t qu
 
 }  // namespace
 
+double NotaSic::BaseDi(const Gruppo& g, bool progetto) const {
+  if (!progetto) return g.BaseEsecuzione;
+  return versione.SC2 ? g.BaseProgetto : g.ProgettoGruppo;
+}
+
 // Design and execution take the percentage of different bases; whether there are two slices is
 // decided by the group's design in both.
 PercentualiTabellaA NotaSic::PercentualeDiLotto(const Lotto& lotto, bool progetto) const {
   const Gruppo& g = gruppi[lotto.gruppo];
   const std::string &classe = lotto.dati.Classe, &categoria = lotto.dati.Categoria;
-  if (versione.SC2)
-    return {
-        PercentualeDaTabellaNuova(progetto ? g.BaseProgetto : g.BaseEsecuzione, classe, categoria),
-        {}};
+  if (versione.SC2) return {PercentualeDaTabellaNuova(BaseDi(g, progetto), classe, categoria), {}};
   const auto tabella = [&](double importo) {
     return PercentualeDaTabellaA(importo, lotto.periodo, classe, categoria);
   };
-  const double base = progetto ? g.ProgettoGruppo : g.BaseEsecuzione, limite = LimiteTabellaA();
+  const double base = BaseDi(g, progetto), limite = LimiteTabellaA();
   if (g.ProgettoGruppo > limite && lotto.periodo > 4) return {tabella(limite), tabella(base), true};
   return {tabella(base), {}};
 }
@@ -59,10 +61,40 @@ NotaSic::ContoLotto NotaSic::ContoDi(const Fase& fase, const Lotto& lotto) const
           .IncrementiContati = progetto ? f.incrementi : 1};
 }
 
+// A factor of 1 is none.
 Conto NotaSic::Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
                         double incrementi) const {
-  return quota.percentuale.valore * quota.importo * aliquota / 100 * Coefficiente * maggiorazioni *
-         incrementi;
+  Conto prodotto = quota.percentuale.valore * quota.importo * aliquota / 100 * Coefficiente;
+  for (const double fattore : {maggiorazioni, incrementi})
+    if (fattore != 1) prodotto *= fattore;
+  return prodotto;
+}
+
+// The conditions chosen, each with its percentage.
+Passaggio NotaSic::PassoCondizioni(const char* quali, std::span<const CondizioneSic> condizioni,
+                                   std::string_view segni) {
+  std::string scelte;
+  Conto somma;
+  for (std::size_t i = 0; i < condizioni.size() && i < segni.size(); ++i) {
+    if (segni[i] != '1') continue;
+    scelte += (scelte.empty() ? "" : "; ") + std::string(condizioni[i].testo);
+    somma += condizioni[i].percentuale;
+  }
+  while (scelte.ends_with('.')) scelte.pop_back();
+  return {quali + (" nei dati: " + scelte), somma, somma.Valore(), "%"};
+}
+
+// Of the increments those of the design or of the execution.
+Passaggio NotaSic::PassoMaggiorazioni(const Lotto& lotto, std::size_t p) const {
+  const std::size_t n = versione.maggiorazioni.size();
+  return PassoCondizioni("Maggiorazioni scelte", versione.maggiorazioni,
+                         Fetta(lotto.dati.StringaMaggiorazioni, p * n, n));
+}
+
+Passaggio NotaSic::PassoIncrementi(const Lotto& lotto, std::size_t p) const {
+  return PassoCondizioni("Incrementi scelti", versione.incrementi,
+                         Fetta(lotto.dati.StringaIncrementi,
+                               p == kCoordinatoreEsecuzione ? kIncrementi : 0, kIncrementi));
 }
 
 Passaggio NotaSic::PassoAliquota(const Fase& fase) const {
@@ -71,18 +103,27 @@ Passaggio NotaSic::PassoAliquota(const Fase& fase) const {
           "", fase.prestazione.aliquota};
 }
 
-Parcella::Ragioni NotaSic::RagioniDi(const Fase& fase, const ContoLotto& conto) const {
-  Ragioni ragioni{
-      "Percentuale per importo e per aliquota, per il coefficiente dei compensi e per i fattori "
-      "di maggiorazione e di incremento",
-      {PassoAliquota(fase)}};
-  const auto fattore = [&](const char* quale, double valore) {
-    if (valore != 1)
-      ragioni.prima.push_back(
-          {std::string("Fattore ") + quale + " che i dati scelgono", "", valore});
+Parcella::Ragioni NotaSic::RagioniDi(const Fase& fase, const Lotto& lotto,
+                                     const ContoLotto& conto) const {
+  Ragioni ragioni{"Onorario: percentuale, importo e aliquota, per il coefficiente dei compensi",
+                  {PassoAliquota(fase)}};
+  const auto fattore = [&](const char* quale, Passaggio percento, double valore) {
+    if (valore == 1) return;
+    const Conto conCento = Conto(*percento.risultato) / 100 + 1;
+    ragioni.prima.push_back(std::move(percento));
+    ragioni.prima.push_back({quale, conCento, valore});
   };
-  fattore("delle maggiorazioni", conto.FattoreMaggiorazioni);
-  fattore("degli incrementi", conto.FattoreIncrementi);
+  fattore("Fattore delle maggiorazioni", PassoMaggiorazioni(lotto, fase.p),
+          conto.FattoreMaggiorazioni);
+  fattore("Fattore degli incrementi", PassoIncrementi(lotto, fase.p), conto.FattoreIncrementi);
+  const bool maggiorato = conto.FattoreMaggiorazioni != 1,
+             incrementato = conto.IncrementiContati != 1;
+  if (maggiorato && incrementato)
+    ragioni.regola += " e per i fattori delle maggiorazioni e degli incrementi";
+  else if (maggiorato)
+    ragioni.regola += " e per il fattore delle maggiorazioni";
+  else if (incrementato)
+    ragioni.regola += " e per il fattore degli incrementi";
   if (conto.FattoreIncrementi != conto.IncrementiContati)
     ragioni.note.emplace_back("Nell'esecuzione l'incremento è scritto e non entra nell'onorario");
   if (conto.importo < 0) ragioni.note.emplace_back("Un importo negativo non dà onorario");
@@ -131,17 +172,21 @@ double NotaSic::StampaLotti(const Fase& fase) {
 }
 
 // Behind the percentages stands what the group's design comes to, in the execution too.
-void NotaSic::StampaPercentuali(const Lotto& lotto, const ContoLotto& conto) {
-  constexpr int colonna = 38;
-  const double base = gruppi[lotto.gruppo].ProgettoGruppo;
-  const auto& [entro, oltre, divise] = conto.percentuali;
-  if (!divise) {
-    StampaPercentuale("  - Percentuale Tab. A = ", entro, base, colonna);
-  } else {
-    const double limite = LimiteTabellaA();
-    StampaPercentuale("  - Percentuale Tab. A =  ", entro, limite, colonna);
-    StampaPercentuale("  - Percentuale Tab. A =  ", oltre, Conto(base) - limite, colonna);
+void NotaSic::StampaPercentualiDi(const Fase& fase, const Lotto& lotto, const ContoLotto& conto) {
+  const Gruppo& g = gruppi[lotto.gruppo];
+  std::string regola;
+  if (spiegazioni.Attive()) {
+    const double base = BaseDi(g, fase.prestazione.progetto);
+    regola = d.TipoDiParcella == "NORMALE"
+                 ? "Lavori del lotto, i maggiori fra quelli di progetto e quelli eseguiti"
+                 : "Lavori di progetto del lotto";
+    if (base != g.ProgettoGruppo)
+      regola += " (la percentuale si prende invece su quelli eseguiti, " + TestoImporto(base) +
+                " " + Valuta() + ")";
   }
+  StampaPercentuali(
+      conto.percentuali.divise ? "  - Percentuale Tab. A =  " : "  - Percentuale Tab. A = ",
+      conto.percentuali, g.ProgettoGruppo, 38, regola);
 }
 
 double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
@@ -151,9 +196,11 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
   uscita.Line("  " + TitoloLotto(lotto.numero, lotto.dati.Classe, lotto.dati.Categoria) + "      " +
               NomePeriodoTariffario(lotto.periodo));
   StampaLavori(3, "- Lavori ", conto.importo,
-               fase.prestazione.progetto ? kCampoBase : kCampoEseguito);
-  StampaPercentuali(lotto, conto);
-  const std::string fattori = StampaFattori(fase, conto);
+               fase.prestazione.progetto && lotto.dati.ImportoProgetto == conto.importo
+                   ? kCampoProgetto
+                   : kCampoEseguito);
+  StampaPercentualiDi(fase, lotto, conto);
+  const std::string fattori = StampaFattori(fase, lotto, conto);
   const std::vector<Termine> termini = Termini(fase, conto);
   std::vector<std::string> importi;
   for (const Termine& termine : termini) importi.push_back(TestoImporto(termine.quota.importo));
@@ -167,12 +214,12 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
                                 .percentuale = termini[i].quota.percentuale,
                                 .importo = importi[i],
                                 .fattori = fattori},
-                               termini[i].onorario, [&] { return RagioniDi(fase, conto); });
+                               termini[i].onorario, [&] { return RagioniDi(fase, lotto, conto); });
   return onorario;
 }
 
 // The line of the aliquot; the factors as the formula shows them come back.
-std::string NotaSic::StampaFattori(const Fase& fase, const ContoLotto& conto) {
+std::string NotaSic::StampaFattori(const Fase& fase, const Lotto& lotto, const ContoLotto& conto) {
   uscita.Text("  - Aliquota = " + FormattaCopia(fase.prestazione.aliquota, 4));
   std::string fattori;
   const auto fattore = [&](int colonna, const char* voce, double valore) {
@@ -185,14 +232,10 @@ std::string NotaSic::StampaFattori(const Fase& fase, const ContoLotto& conto) {
   uscita.EndLine();
   spiegazioni.Riga(uscita.Contents(), [&] {
     Catena catena{Mostrato(PassoAliquota(fase), 4)};
-    for (const auto& [quale, valore] : {std::pair{"Maggiorazione", conto.FattoreMaggiorazioni},
-                                        std::pair{"Incremento", conto.FattoreIncrementi}}) {
-      if (valore == 1) continue;
-      const Conto percento = (Conto(valore) - 1) * 100;
-      catena.push_back(Mostrato({std::string(quale) + " scelta nei dati, in percento",
-                                 percento.Testo(), percento.Valore(), "%"},
-                                2, "%"));
-    }
+    if (conto.FattoreMaggiorazioni != 1)
+      catena.push_back(Mostrato(PassoMaggiorazioni(lotto, fase.p), 2, "%"));
+    if (conto.FattoreIncrementi != 1)
+      catena.push_back(Mostrato(PassoIncrementi(lotto, fase.p), 2, "%"));
     return catena;
   });
   return fattori;

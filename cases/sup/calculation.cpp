@@ -43,9 +43,8 @@ void NotaSup::CalcolaLotto(const LottoSup& lotto) {
          .importo = TestoImporto(lotto.Importo)},
         Conto(lotto.Importo) * P.valore / 100 * attivita.Aliquota * Coefficiente, [&]() -> Ragioni {
           return {
-              "Supporto al responsabile del procedimento, D.M. 4-4-2001, Tabella "
-              "B6: importo dei lavori per percentuale e per aliquota, per il "
-              "coefficiente dei compensi",
+              "Supporto al responsabile del procedimento, D.M. 4-4-2001, Tabella B6: importo dei "
+              "lavori, percentuale e aliquota, per il coefficiente dei compensi",
               {PassoDato("ALIQUOTA DELLA TABELLA B6", attivita.Aliquota)}};
         });
   }

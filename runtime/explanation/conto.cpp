@@ -7,7 +7,8 @@
 namespace orm {
 
 void Conto::Scrive(char segno, double b) {
-  if (quanti_ == 0 && segno == '+') {
+  if (b == 0 && (segno == '+' || segno == '-')) return;
+  if (Nulla() && segno == '+') {
     *this = Conto(b);
     return;
   }
@@ -19,7 +20,7 @@ void Conto::Scrive(char segno, double b) {
 void Conto::Scrive(char segno, const Conto& b) {
   if (b.quanti_ <= 1 || b.quanti_ >= kPassi) return Scrive(segno, b.valore_);
   const Conto destra = b;  // b may be this
-  if (quanti_ == 0 && segno == '+') {
+  if (Nulla() && segno == '+') {
     *this = destra;
     return;
   }
@@ -27,9 +28,11 @@ void Conto::Scrive(char segno, const Conto& b) {
   Passo* nuovi = passi_.get() + quanti_;
   std::copy_n(destra.passi_.get(), destra.quanti_, nuovi);
   nuovi->segno = segno;
-  ++nuovi->apre;
   quanti_ = static_cast<std::uint8_t>(quanti_ + destra.quanti_);
-  ++passi_[quanti_ - 1].chiude;
+  if (!somma_ || destra.somma_) {
+    ++nuovi->apre;
+    ++passi_[quanti_ - 1].chiude;
+  }
 }
 
 void Conto::Prepara(char segno, std::uint8_t posti) {

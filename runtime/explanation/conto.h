@@ -4,7 +4,8 @@
 //
 // with a Conto at its start is the number that the same expression on doubles would be, operator by
 // operator, and Testo() writes it under the rules of explanation.h. A Conto on the right of an
-// operator stands there in parentheses. Everywhere else it is its number.
+// operator stands there in parentheses where it needs them; a term of 0 that is added or taken away
+// is not written. Everywhere else a Conto is its number.
 //
 // A number alone is no more than that; the terms of a sum are one piece of memory, which an
 // expression fills as it goes and copies share until one of them grows. Their text is made when it
@@ -65,6 +66,7 @@ class Conto {
     valore_ = esito;
     return *this;
   }
+  bool Nulla() const { return Semplice() && valore_ == 0; }
   void Scrive(char segno, double b);
   void Scrive(char segno, const Conto& b);
   // Room for more terms, and the sum so far in parentheses where a factor follows it.

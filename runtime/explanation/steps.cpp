@@ -19,6 +19,12 @@ Passaggio PassoDiParole(std::string regola) {
   return {.regola = std::move(regola), .conto = "", .risultato = {}};
 }
 
+std::string TabellaPersonale(std::string_view file, std::string_view nota) {
+  std::string testo = "tabella " + std::string(file) + " della cartella";
+  if (!nota.empty()) testo += " (\"" + std::string(nota) + "\")";
+  return testo;
+}
+
 Passaggio PassoMostrato(std::string regola, std::string conto, double risultato, std::string unita,
                         const char* modello) {
   const std::string cifra = FormatPattern(risultato, modello);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "runtime/explanation/conto.h"
 #include "runtime/explanation/explanation.h"
@@ -13,6 +14,10 @@ Conto Annota(Catena& passi, std::string regola, const Conto& conto, std::string 
 
 // A step of words alone.
 Passaggio PassoDiParole(std::string regola);
+
+// "tabella CAC.CFG della cartella": one that the person keeps, with what its own note says of where
+// it is from.
+std::string TabellaPersonale(std::string_view file, std::string_view nota);
 
 // A step whose result is shown rounded, as FormatPattern rounds by `modello`.
 Passaggio PassoMostrato(std::string regola, std::string conto, double risultato, std::string unita,

@@ -9,12 +9,20 @@
 namespace orm {
 namespace {
 
-// A number with at least the decimals that its cut asks for.
-std::string Tagliata(const Taglio& taglio) {
-  std::string testo = CifraEsatta(taglio.dopo);
-  if (taglio.tipo != TipoTaglio::Decimali || taglio.decimali >= 0) return testo;
-  std::string intera = CifraADecimali(taglio.dopo, -taglio.decimali);
+constexpr int kDecimaliEuro = 2;
+
+// A number with so many decimals at least.
+std::string AlmenoADecimali(double valore, int decimali) {
+  std::string testo = CifraEsatta(valore);
+  if (decimali <= 0) return testo;
+  std::string intera = CifraADecimali(valore, decimali);
   return intera.size() > testo.size() ? intera : testo;
+}
+
+// With those that its cut asks for.
+std::string Tagliata(const Taglio& taglio) {
+  return AlmenoADecimali(taglio.dopo,
+                         taglio.tipo == TipoTaglio::Decimali ? -taglio.decimali : taglio.decimali);
 }
 
 std::string InDecimali(int decimali) {
@@ -25,7 +33,8 @@ std::string InDecimali(int decimali) {
 std::string FraseTaglio(const Taglio& taglio) {
   switch (taglio.tipo) {
     case TipoTaglio::ParteIntera:
-      return "Se ne prende la parte intera";
+      return taglio.prima < 0 ? "Se ne prende l'intero che sta sotto"
+                              : "Se ne prende la parte intera";
     case TipoTaglio::Decimali:
       return "Si taglia " + InDecimali(taglio.decimali);
     case TipoTaglio::Arrotonda:
@@ -76,9 +85,11 @@ std::string TestoTaglio(Taglio taglio) {
 std::string TestoPasso(const Passaggio& passo) {
   std::string testo = passo.regola;
   if (passo.risultato) {
+    const std::string conto = DaLeggere(passo.conto.Testo());
+    const double risultato = DaLeggere(*passo.risultato);
     testo += ": ";
-    if (!passo.conto.empty()) testo += DaLeggere(passo.conto.Testo()) + " = ";
-    testo += CifraEsatta(DaLeggere(*passo.risultato));
+    if (!conto.empty() && conto != CifraEsatta(risultato)) testo += conto + " = ";
+    testo += AlmenoADecimali(risultato, passo.unita == "Euro" ? kDecimaliEuro : 0);
     if (!passo.unita.empty()) testo += " " + passo.unita;
   }
   testo += ".";

@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kMqInCmq = 0.0001;  // kg/mq to kg/cmq
 constexpr double kSicurezzaRibaltamento = 1.5;
+constexpr const char* kModelloStabilita = "###0.00";
 
 // What the seismic action adds to a load, or takes from one that holds down.
 Conto ConSisma(double kv, double carico) {
@@ -31,37 +32,67 @@ Conto CaricoLineareLastra(const DatiBalcone& d) {
          ConSisma(d.sisma, d.qa) * d.b;
 }
 
-// The same as the first step of what is reckoned with it.
-double CaricoLineareLastra(const DatiBalcone& d, Catena& passi) {
+void AnnotaSisma(const DatiBalcone& d, Catena& passi) {
   if (d.sisma.kv != 0)
     passi.push_back(PassoDiParole("Zona sismica: kv = " + CifraEsatta(d.sisma.kv) +
                                   ", s = " + CifraEsatta(d.sisma.s) +
                                   "; i carichi sono moltiplicati per (1 + kv), il sovraccarico per "
                                   "(1 + s kv), i pesi che trattengono per (1 - kv)"));
+}
+
+// The same as the first step of what is reckoned with it.
+double CaricoLineareLastra(const DatiBalcone& d, Catena& passi) {
+  AnnotaSisma(d, passi);
   return Annota(passi, "Carico al metro lungo il muro, w = gs s La + Pl + qa La",
                 CaricoLineareLastra(d), "Kg/ml");
 }
 
-bool Ribalta(double Mr, double Ms) { return Mr * kSicurezzaRibaltamento > Ms; }
+// Moments that overturn and that hold, kg x m, and how they came about.
+struct Equilibrio {
+  Conto Mr, Ms;
+  Catena passi = {};
+  bool Ribalta() const { return Mr * kSicurezzaRibaltamento > Ms; }
+
+  // What a person reads; a slab that nothing overturns has nothing to be held against.
+  Catena Spiega(const char* ribaltante, const char* stabilizzante) {
+    Annota(passi, ribaltante, Mr, "Kg x m");
+    Annota(passi, stabilizzante, Ms, "Kg x m");
+    if (Mr == 0) return {};
+    const Conto grado = Conto(Ms.Valore()) / Mr.Valore();
+    passi.push_back(
+        PassoMostrato("Grado di sicurezza, Ms / Mr", grado.Testo(), grado, "", kModelloStabilita));
+    passi.back().note = {Ribalta() ? "È MINORE di 1,5: la lastra potrebbe essere instabile"
+                                   : "Non è minore di 1,5"};
+    return std::move(passi);
+  }
+};
 
 // About the brackets, when the side overhang is loaded; the slab beyond them holds it down.
-bool RibaltaDiLato(const DatiBalcone& d) {
-  const double kv = d.sisma.kv, w = CaricoLineareLastra(d);
-  const double Mr = d.Ls * d.Ls * w / 2 + (1 + kv) * d.Pl * d.b * d.Ls;
-  const double Ms = (d.Ls + d.Lm) * (d.Ls + d.Lm) * ((1 - kv) * d.gs * d.t * d.b) / 2;
-  return Ribalta(Mr, Ms);
+Equilibrio DiLato(const DatiBalcone& d) {
+  Equilibrio e;
+  const double kv = d.sisma.kv, w = CaricoLineareLastra(d, e.passi);
+  e.Mr = Conto(d.Ls) * d.Ls * w / 2 + ConSisma(kv, d.Pl) * d.b * d.Ls;
+  e.Ms = (Conto(d.Ls) + d.Lm) * (Conto(d.Ls) + d.Lm) * (MenoSisma(kv, d.gs) * d.t * d.b) / 2;
+  return e;
 }
 
 // About the ends of the brackets, when the slab reaches farther out than they do.
-bool RibaltaSulleMensole(const DatiBalcone& d) {
-  if (d.b <= d.Bm) return false;
-  const auto& [kv, s] = d.sisma;
-  const double e = d.b - d.Bm, fronte = 2 * d.Ls + d.Lm;
+Equilibrio SulleMensole(const DatiBalcone& d) {
+  Equilibrio equilibrio;
+  if (d.b <= d.Bm) return equilibrio;
+  const double kv = d.sisma.kv;
+  AnnotaSisma(d, equilibrio.passi);
+  const double e = Annota(equilibrio.passi, "Sporto della lastra oltre le mensole, e = La - Bm",
+                          Conto(d.b) - d.Bm, "m");
+  const double fronte =
+      Annota(equilibrio.passi, "Fronte della lastra, F = 2 Ls + Lm", Conto(2) * d.Ls + d.Lm, "m");
+  const Conto bordi = kv == 0 ? Conto(2) * d.Pl : Conto(2) * (Conto(1) + kv) * d.Pl;
   const double w =
-      (1 + kv) * d.gs * d.t * fronte + 2 * (1 + kv) * d.Pl + (1 + s * kv) * d.qa * fronte;
-  const double Mr = e * e * w / 2 + (1 + kv) * d.Pl * fronte * e;
-  const double Ms = d.Bm * d.Bm * ((1 - kv) * d.gs * d.t * fronte) / 2;
-  return Ribalta(Mr, Ms);
+      Annota(equilibrio.passi, "Carico al metro di sporto, w = gs s F + 2 Pl + qa F",
+             ConSisma(kv, d.gs) * d.t * fronte + bordi + ConSisma(d.sisma, d.qa) * fronte, "Kg/ml");
+  equilibrio.Mr = Conto(e) * e * w / 2 + ConSisma(kv, d.Pl) * fronte * e;
+  equilibrio.Ms = Conto(d.Bm) * d.Bm * (MenoSisma(kv, d.gs) * d.t * fronte) / 2;
+  return equilibrio;
 }
 
 // A stress of the results and its steps.
@@ -241,10 +272,17 @@ RisultatiBalcone VerificaBalcone(const DatiBalcone& dati, const ProsegueInstabil
   if (dati.tipo == TipoBalcone::LastraSemplice) {
     TensioniLastraSemplice(dati, muro, esito);
   } else {
-    if ((RibaltaDiLato(dati) && !prosegue(Ribaltamento::SbalziLaterali)) ||
-        (RibaltaSulleMensole(dati) && !prosegue(Ribaltamento::SportoSuMensole))) {
+    Equilibrio lato = DiLato(dati), sporto = SulleMensole(dati);
+    if ((lato.Ribalta() && !prosegue(Ribaltamento::SbalziLaterali)) ||
+        (sporto.Ribalta() && !prosegue(Ribaltamento::SportoSuMensole))) {
       risultati[EsitoBalcone] = -1;
       return risultati;
+    }
+    if (perche != nullptr) {
+      (*perche)[StabilitaLato] = lato.Spiega("Momento ribaltante, Mr = Ls² w / 2 + Pl La Ls",
+                                             "Momento stabilizzante, Ms = (Ls + Lm)² gs s La / 2");
+      (*perche)[StabilitaSporto] = sporto.Spiega("Momento ribaltante, Mr = e² w / 2 + Pl F e",
+                                                 "Momento stabilizzante, Ms = Bm² gs s F / 2");
     }
     TensioniLastra(dati, esito);
     dati.tipo == TipoBalcone::Putrelle ? TensioniPutrella(dati, muro, esito)

@@ -53,7 +53,11 @@ enum ElementoBalcone : std::size_t {
   NumeroElementiBalcone
 };
 using RisultatiBalcone = std::array<double, NumeroElementiBalcone>;
-using CateneBalcone = std::array<Catena, NumeroElementiBalcone>;  // how each came about
+// How each came about, and the stability of the slab, which has no element; empty where there is
+// nothing to tell.
+inline constexpr std::size_t StabilitaLato = NumeroElementiBalcone,
+                             StabilitaSporto = StabilitaLato + 1;
+using CateneBalcone = std::array<Catena, StabilitaSporto + 1>;
 
 inline constexpr const char* kModelloBalcone = "###0.0";
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "runtime/numbers.h"
 #include "structures/balcony/form_stones.h"
@@ -78,6 +79,11 @@ void PannelloTensioniBalcone::Mostra(const RisultatiBalcone& risultati) {
 std::vector<Spiegazione> PannelloTensioniBalcone::Spiegate(const RisultatiBalcone& risultati,
                                                            CateneBalcone perche) const {
   std::vector<Spiegazione> spiegate;
+  for (const auto& [stabilita, titolo] :
+       {std::pair{StabilitaLato, "Stabilità della lastra agli sbalzi laterali"},
+        std::pair{StabilitaSporto, "Stabilità della lastra allo sporto sulle mensole"}})
+    if (!perche[stabilita].empty())
+      spiegate.push_back(Risultato(titolo, std::move(perche[stabilita])));
   for (std::size_t i = 0; i < kMostrati.size(); ++i) {
     Catena& catena = perche[kMostrati[i]];
     if (catena.empty()) continue;

@@ -19,10 +19,13 @@ double SEG(double Q, double u) {
   return Q * Q * Q * (sine * sine * sine / 12 - cosine * (u - sine * cosine) / 8);
 }
 
-double INE(double Q, double u) {
-  const double sine = std::sin(u), cosine = std::cos(u);
-  return Q * Q * Q * Q *
-         (u * (1 + 4 * Square(cosine)) / 64 - (15 - 2 * Square(sine)) * sine * cosine / 192);
+// Of a circle wholly above its chord it holds as well. On numbers, or on sums that can be written.
+template <class Numero>
+Numero INE(double Q, double u) {
+  const Numero q(Q), angle(u), sine(std::sin(u)), cosine(std::cos(u));
+  return q * q * q * q *
+         (angle * (1 + 4 * (cosine * cosine)) / 64 -
+          (15 - 2 * (sine * sine)) * sine * cosine / 192);
 }
 
 double StaticSteel(double t, const DatiCircolare& z) {
@@ -32,19 +35,33 @@ double StaticSteel(double t, const DatiCircolare& z) {
          kModuloN * z.Ac2 * (z.d2 - x);
 }
 
-double InertiaSteel(double t, const DatiCircolare& z) {
+// What is absent adds nothing.
+template <class Numero>
+Numero InertiaSteel(double t, const DatiCircolare& z) {
+  const auto square = [](const Numero& v) { return v * v; };
   const double c = std::cos(t);
   const double x = z.D / 2 - z.D * c / 2;
-  return kModuloN * Square(z.D) * Square(c) * (z.Ad1 + z.Ad2) / 4 +
-         kModuloN * (Square(z.Dd1) * z.Ad1 / 8 + Square(z.Dd2) * z.Ad2 / 8) +
-         kModuloN * z.Ac1 * Square(z.d1 - x) + kModuloN * z.Ac2 * Square(z.d2 - x);
+  const auto ring = [&](double diameter, double area) {
+    return area == 0 ? Numero(0) : square(Numero(diameter)) * area / 8;
+  };
+  const auto group = [&](double area, double depth) {
+    return area == 0 ? Numero(0) : Numero(kModuloN) * area * square(Numero(depth) - x);
+  };
+  return Numero(kModuloN) * square(Numero(z.D)) * square(Numero(c)) * (Numero(z.Ad1) + z.Ad2) / 4 +
+         kModuloN * (ring(z.Dd1, z.Ad1) + ring(z.Dd2, z.Ad2)) + group(z.Ac1, z.d1) +
+         group(z.Ac2, z.d2);
 }
 
-// Half angle on the hole of the chord that has half angle t on the outer circle. Beside the angles
-// where the chord touches the hole, k may pass 1 by the last digit.
-double HoleAngle(double t, const DatiCircolare& z) {
-  const double k = std::cos(t) * z.D / z.Di;
-  return kPi / 2 - std::atan(k / std::sqrt(std::max(0.0, 1 - Square(k))));
+// What the wholly compressed hole takes away and gives.
+template <class Numero>
+Numero TakenByHole(const DatiCircolare& z) {
+  const Numero half = Numero(z.Di) / 2, area = half * half;
+  return area * area * kPi / 64;
+}
+template <class Numero>
+Numero GivenByHole(double t, const DatiCircolare& z) {
+  const Numero half = Numero(z.Di) / 2, arm = Numero(z.D) / 4 - Numero(z.D) / 2 * std::cos(t);
+  return kPi * (half * half) * (arm * arm);
 }
 
 // The formulas that hold for an axis of half angle t: the first and the second moment.
@@ -111,12 +128,19 @@ void TurnOver(DatiCircolare& z) {
 
 }  // namespace
 
+// Half angle on the hole of the chord that has half angle t on the outer circle. Beside the angles
+// where the chord touches the hole, k may pass 1 by the last digit.
+double SemiangoloForo(double t, const DatiCircolare& z) {
+  const double k = std::cos(t) * z.D / z.Di;
+  return kPi / 2 - std::atan(k / std::sqrt(std::max(0.0, 1 - Square(k))));
+}
+
 double MomentoStaticoCerchio(double t, const DatiCircolare& z) {
   return SEG(z.D, t) + StaticSteel(t, z);
 }
 
 double MomentoStaticoCorona(double t, const DatiCircolare& z) {
-  return SEG(z.D, t) - SEG(z.Di, HoleAngle(t, z)) + StaticSteel(t, z);
+  return SEG(z.D, t) - SEG(z.Di, SemiangoloForo(t, z)) + StaticSteel(t, z);
 }
 
 double MomentoStaticoCoronaOltre(double t, const DatiCircolare& z) {
@@ -124,16 +148,35 @@ double MomentoStaticoCoronaOltre(double t, const DatiCircolare& z) {
 }
 
 double MomentoInerziaCerchio(double t, const DatiCircolare& z) {
-  return INE(z.D, t) + InertiaSteel(t, z);
+  return INE<double>(z.D, t) + InertiaSteel<double>(t, z);
 }
 
 double MomentoInerziaCorona(double t, const DatiCircolare& z) {
-  return INE(z.D, t) - INE(z.Di, HoleAngle(t, z)) + InertiaSteel(t, z);
+  return INE<double>(z.D, t) - INE<double>(z.Di, SemiangoloForo(t, z)) + InertiaSteel<double>(t, z);
 }
 
 double MomentoInerziaCoronaOltre(double t, const DatiCircolare& z) {
-  return MomentoInerziaCerchio(t, z) - Square(Square(z.Di / 2)) * kPi / 64 +
-         kPi * Square(z.Di / 2) * Square(z.D / 4 - (z.D / 2) * std::cos(t));
+  return MomentoInerziaCerchio(t, z) - TakenByHole<double>(z) + GivenByHole<double>(t, z);
+}
+
+std::vector<ParteInerzia> PartiInerzia(double t, const DatiCircolare& z) {
+  using Quale = ParteInerzia::Quale;
+  std::vector<ParteInerzia> parti{{Quale::Segmento, INE<Conto>(z.D, t)}};
+  const auto* formule = &Ranges(z).At(t);
+  if (formule == &kCorona)
+    parti.push_back({Quale::Foro, INE<Conto>(z.Di, SemiangoloForo(t, z)), true});
+  parti.push_back({Quale::Acciaio, InertiaSteel<Conto>(t, z)});
+  if (formule == &kCoronaOltre) {
+    parti.push_back({Quale::TolteDalForo, TakenByHole<Conto>(z), true});
+    parti.push_back({Quale::DateDalForo, GivenByHole<Conto>(t, z)});
+  }
+  return parti;
+}
+
+DatiCircolare ComeVerificata(const DatiCircolare& dati) {
+  DatiCircolare z = dati;
+  if (dati.M < 0) TurnOver(z);
+  return z;
 }
 
 void VerificaSezioneCircolare(const DatiCircolare& dati, RisultatiCircolare& risultati) {
@@ -144,9 +187,8 @@ void VerificaSezioneCircolare(const DatiCircolare& dati, RisultatiCircolare& ris
     risultati = {};
     return;
   }
-  DatiCircolare z = dati;
+  const DatiCircolare z = ComeVerificata(dati);
   const bool turned = dati.M < 0;
-  if (turned) TurnOver(z);
 
   const Ranges ranges(z);
   const double t =
@@ -163,6 +205,7 @@ void VerificaSezioneCircolare(const DatiCircolare& dati, RisultatiCircolare& ris
 
   RisultatiCircolare r = risultati;
   r.x = x;
+  r.semiangolo = t;
   r.inerzia = I;
   r.asse = turned ? z.D - x : x;
   r.clsSup = turned ? 0 : -sc;

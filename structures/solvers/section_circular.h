@@ -5,7 +5,9 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
+#include "runtime/explanation/conto.h"
 #include "structures/solvers/bending.h"
 
 namespace orm {
@@ -29,6 +31,7 @@ enum PuntoArmatura : std::size_t { Sopra1, Sotto1, Sopra2, Sotto2, Gruppo1, Grup
 
 struct RisultatiCircolare : RisultatiFlessione {
   EsitoC esito = EsitoC::Fatto;
+  double semiangolo = 0;  // of the chord that is the neutral axis, radians
   std::array<double, NumeroPunti> acciaio{};
   int posMassimo = 0;  // of the greatest stress, 1 to 6
   bool operator==(const RisultatiCircolare&) const = default;
@@ -44,6 +47,18 @@ double MomentoStaticoCoronaOltre(double t, const DatiCircolare& z);
 double MomentoInerziaCerchio(double t, const DatiCircolare& z);
 double MomentoInerziaCorona(double t, const DatiCircolare& z);
 double MomentoInerziaCoronaOltre(double t, const DatiCircolare& z);
+
+// The second moment about the chord of half angle t, part by part, as it is reckoned.
+struct ParteInerzia {
+  enum class Quale { Segmento, Foro, Acciaio, TolteDalForo, DateDalForo } quale;
+  Conto conto;
+  bool toglie = false;  // taken away from the sum of those before it
+};
+std::vector<ParteInerzia> PartiInerzia(double t, const DatiCircolare& z);
+// Half angle of the same chord on the hole.
+double SemiangoloForo(double t, const DatiCircolare& z);
+// The section as it is verified: turned over under a negative moment.
+DatiCircolare ComeVerificata(const DatiCircolare& dati);
 
 // Other outcomes than `Fatto` write the outcome alone. A moment of 0 clears the results. `massimo`
 // and `minimo` stay as they were when nothing is stretched or compressed. With a negative moment

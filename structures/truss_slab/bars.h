@@ -1,9 +1,12 @@
 // Bars of the truss-joist slab: how the automatic choice moves through the diameters, anchorages,
-// and lengths. Diameters in mm, areas in cmq, stresses in kg/cmq, lengths in m.
+// and lengths. Diameters in mm, areas in cmq, stresses in kg/cmq, lengths in m. `passi`, where it
+// is given, receives how a length came about.
 #pragma once
 
 #include <optional>
 #include <string_view>
+
+#include "runtime/explanation/explanation.h"
 
 namespace orm {
 
@@ -33,22 +36,23 @@ double AreaFerro(const GenereFerro& genere, const SceltaFerro& scelta, int k);
 
 // Anchorage of a span bar behind the support: V is the shear, A the steel that carries it there,
 // tb the allowed bond stress. Rounded up to 5 cm.
-double AncoraggioCampata(double V, double A, double diametro, double tb);
+double AncoraggioCampata(double V, double A, double diametro, double tb, Catena* passi = nullptr);
 
 // Anchorage of an upper stub, hooked by 20 diameters, whose steel works at `sigma`. Rounded up to
 // 5 cm.
-double AncoraggioMoncone(double diametro, double sigma, double tb);
+double AncoraggioMoncone(double diametro, double sigma, double tb, Catena* passi = nullptr);
 
 // A length in cm, not below 15 cm and rounded up to 5 cm, in m.
-double MinimoAncoraggio(double x);
+double MinimoAncoraggio(double x, Catena* passi = nullptr);
 
 // Length of a span bar that stops where the moment allows. L0 is the length of the parabola of
 // moments, `a` what this bar and those that stop before it give to the moment (area by arm),
 // `totale` what all steel gives; 25 diameters are added at both ends. 0 without steel.
-double LunghezzaFerroIntegrativo(double L0, double a, double totale, double diametro);
+double LunghezzaFerroIntegrativo(double L0, double a, double totale, double diametro,
+                                 Catena* passi = nullptr);
 
 // Distance from a support at which the support's moment has fallen by M, in a span of length Lc
 // under q; its middle where it never falls so far.
-double DistanzaDiCaduta(double V, double q, double M, double Lc);
+double DistanzaDiCaduta(double V, double q, double M, double Lc, Catena* passi = nullptr);
 
 }  // namespace orm

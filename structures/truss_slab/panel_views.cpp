@@ -11,6 +11,18 @@
 #include "structures/structural_report.h"
 
 namespace orm {
+namespace {
+
+// As the table has them.
+std::array<Barra, 7> BarreDi(const RisultatiSolaioT& r) {
+  const auto barra = [](const Moncone& m) { return Barra{m.diametro, m.Lunghezza(), m.passi}; };
+  return {r.campata[0],          r.campata[1],
+          r.campata[2],          barra(r.sinistra.lungo),
+          barra(r.destra.lungo), barra(r.sinistra.corto),
+          barra(r.destra.corto)};
+}
+
+}  // namespace
 
 PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
   for (OptionButton& opt : optVisualizza)
@@ -99,11 +111,7 @@ void PannelloVisteSolaio::Scrivi(Valore tensione, double valore, double ammessa)
 }
 
 void PannelloVisteSolaio::ScriviFerri(const RisultatiSolaioT& r) {
-  const auto barra = [](const Moncone& m) { return Barra{m.diametro, m.Lunghezza()}; };
-  const std::array<Barra, 7> barre = {r.campata[0],          r.campata[1],
-                                      r.campata[2],          barra(r.sinistra.lungo),
-                                      barra(r.destra.lungo), barra(r.sinistra.corto),
-                                      barra(r.destra.corto)};
+  const auto barre = BarreDi(r);
   for (std::size_t i = 0; i < barre.size(); ++i) {
     if (barre[i].diametro == 0) continue;
     cdLunghezze[i].SetText(FormatPattern(barre[i].lunghezza, kDueDecimali));
@@ -169,6 +177,9 @@ std::vector<Spiegazione> PannelloVisteSolaio::Spiegate() const {
     sezione(a->nervata, a->passiNervata, clsT, acciaioT);
   }
   di(cdTensioni[Tangenziale - SinClsPiena], r.passiTau);
+  const auto barre = BarreDi(r);
+  for (std::size_t i = 0; i < barre.size(); ++i)
+    if (barre[i].diametro != 0) di(cdLunghezze[i], barre[i].passi);
   return spiegate;
 }
 

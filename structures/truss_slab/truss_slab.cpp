@@ -8,14 +8,13 @@
 
 #include "runtime/explanation/steps.h"
 #include "runtime/numbers.h"
+#include "structures/truss_slab/bar_lengths.h"
 #include "tariff/money.h"
 
 namespace orm {
 namespace {
 
 using Esito = EsitoSolaioT;
-
-double Square(double v) { return v * v; }
 
 class Progetto {
  public:
@@ -132,29 +131,27 @@ class Progetto {
   void LunghezzeCampata() {
     const double n = d_.modulo.n;
     const double Amin = r_.taglio / r_.ammissibili.acciaio;
-    double A = kAreaTraliccio * n;
+    Conto A = Conto(kAreaTraliccio) * n;
     bool primo = true;
     std::array<bool, 3> corre{};
     for (std::size_t i = 0; i < campata_.size(); ++i) {
       if (campata_[i] == 0) continue;
       corre[i] = primo || A < Amin;
-      if (corre[i]) A += n * campata_[i];
+      if (corre[i]) A += Conto(n) * campata_[i];
       primo = false;
     }
-    const double braccio1 = 0.9 * (d_.H() - kCopriferroInferiore);
-    const double braccio2 = 0.9 * (d_.H() - kDistanzaSecondoStrato);
-    const double totale = Strato1() * braccio1 + Strato2() * braccio2;
-    const double L0 = std::sqrt(Square(Lc_) * 8.0 / d_.cMez);
-    double a = 0;
+    const Conto braccio1 = Conto(0.9) * (Conto(d_.H()) - kCopriferroInferiore);
+    const Conto braccio2 = Conto(0.9) * (Conto(d_.H()) - kDistanzaSecondoStrato);
+    const Conto totale = Conto(Strato1()) * braccio1 + Conto(Strato2()) * braccio2;
+    Conto a;
     for (std::size_t i = campata_.size(); i-- > 0;) {
       Barra& barra = r_.campata[i];
       if (campata_[i] == 0) continue;
       if (corre[i]) {
-        barra.lunghezza =
-            2 * AncoraggioCampata(r_.taglio, A, barra.diametro, r_.ammissibili.aderenza) + d_.luce;
+        MisuraFerroCheCorre(barra, A, d_, r_);
       } else {
-        a += n * campata_[i] * (i == 2 ? braccio2 : braccio1);
-        barra.lunghezza = LunghezzaFerroIntegrativo(L0, a, totale, barra.diametro);
+        a += Conto(n) * campata_[i] * (i == 2 ? braccio2 : braccio1);
+        MisuraFerroInterrotto(barra, a, totale, d_, r_);
       }
     }
   }
@@ -260,17 +257,9 @@ class Progetto {
 
   // A stub stops where the steel of the other one is enough, the long one where the moment ends.
   void LunghezzeMonconi(Appoggio& appoggio) const {
-    const double M = appoggio.momento;
-    Misura(appoggio.lungo, M, appoggio);
-    Misura(appoggio.corto, M * corto_ / (lungo_ + corto_), appoggio);
-  }
-
-  void Misura(Moncone& moncone, double M, const Appoggio& appoggio) const {
-    if (moncone.diametro == 0) return;
-    const double x = std::max(DistanzaDiCaduta(r_.taglio, r_.q, M, Lc_), r_.zonaPiena);
-    moncone.campata = MinimoAncoraggio(100 * x + 2.5 * moncone.diametro);
-    moncone.incastro =
-        AncoraggioMoncone(moncone.diametro, appoggio.acciaioPiena, r_.ammissibili.aderenza);
+    const Conto M = appoggio.momento;
+    MisuraMoncone(appoggio.lungo, M, appoggio, r_);
+    MisuraMoncone(appoggio.corto, M * corto_ / (lungo_ + corto_), appoggio, r_);
   }
 
   const DatiSolaioT& d_;

@@ -46,11 +46,13 @@ struct Ammissibili {
 struct Barra {
   double diametro = 0;   // mm, 0 for none
   double lunghezza = 0;  // m
+  Catena passi = {};     // of the length
 };
 
 // An upper stub: what goes into the support and what into the span.
 struct Moncone {
   double diametro = 0, incastro = 0, campata = 0;
+  Catena passi = {};
   double Lunghezza() const { return incastro + campata; }
 };
 

@@ -1,5 +1,8 @@
 #include "tariff/chains/compensation_chains.h"
 
+#include <algorithm>
+
+#include "runtime/explanation/steps.h"
 #include "tariff/chains/percentage_chains.h"
 #include "tariff/law/table_compensations.h"
 
@@ -10,23 +13,21 @@ Passaggio PassoPercentuale(const std::string& regola, double percentuale) {
   return {"Compensi accessori conglobati (art. 13). " + regola, "", percentuale, "%"};
 }
 
-std::string ImportoDi(double lire) { return "L'importo dei lavori è di L. " + CifraEsatta(lire); }
+std::string ImportoDi(double lire) { return "L'importo è di L. " + CifraEsatta(lire); }
 
 }  // namespace
 
-Passaggio PassoScaglioniCompensi(const Interpolazione& l, double percentuale) {
-  Passaggio passo = PassoPercentuale(
-      "Criterio \"CALCOLATA  secondo FILE PERSONALIZZATO\", scaglioni di CAC.CFG. " +
-          ImportoDi(l.x),
-      percentuale);
+Passaggio PassoScaglioniCompensi(const Interpolazione& l, const std::string& nota,
+                                 double percentuale) {
+  Passaggio passo = PassoPercentuale("Criterio \"CALCOLATA secondo FILE PERSONALIZZATO\", dalla " +
+                                         TabellaPersonale("CAC.CFG", nota) + ". ",
+                                     percentuale);
   if (l.x0 == l.x1) {
-    passo.regola += ", fuori dagli scaglioni: vale la percentuale dell'ultimo incontrato, L. " +
-                    CifraEsatta(l.x0);
+    passo.regola += ImportoDi(l.x) + ", " + (l.x < l.x0 ? "sotto il primo" : "oltre l'ultimo") +
+                    " scaglione, L. " + CifraEsatta(l.x0) + ", la cui percentuale vale anche qui";
     return passo;
   }
-  passo.regola += ", tra L. " + CifraEsatta(l.x0) + " (" + CifraEsatta(l.y0) + " %) e L. " +
-                  CifraEsatta(l.x1) + " (" + CifraEsatta(l.y1) +
-                  " %); tra i due si interpola in linea retta";
+  passo.regola += TraIPassi(l) + " si interpola in linea retta";
   passo.conto = ContoInterpolazione(l);
   return passo;
 }
@@ -59,10 +60,18 @@ Passaggio PassoCompensiCalabria(double lire, std::string_view residenza, double 
   const std::string dove = residenza == "FUORIREGIONE" ? "Fuori Regione"
                            : residenza == "OLTRE100KM" ? "Oltre 100 Km"
                                                        : "Entro 100 Km";
-  return PassoPercentuale(
+  std::string regola =
       "Criterio della Regione Calabria per i collaudi, residenza del collaudatore \"" + dove +
-          "\". " + ImportoDi(lire),
-      percentuale);
+      "\". " + ImportoDi(lire);
+  const auto* fascia = std::ranges::find_if(
+      kFasceCalabria, [lire](const FasciaCalabria& f) { return lire >= f.da && lire <= f.fino; });
+  if (fascia == kFasceCalabria.end())
+    regola += ", in nessuna fascia";
+  else if (fascia == &kFasceCalabria.back())
+    regola += ", oltre L. " + CifraEsatta(fascia->da);
+  else
+    regola += ", fino a L. " + CifraEsatta(fascia->fino);
+  return PassoPercentuale(regola, percentuale);
 }
 
 Passaggio PassoCoefficiente(double percentuale, double coefficiente) {

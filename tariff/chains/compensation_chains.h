@@ -1,6 +1,7 @@
 // How the percentage of the accessory compensations came about, as steps of an explanation.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "runtime/explanation/explanation.h"
@@ -8,8 +9,9 @@
 
 namespace orm {
 
-// By the steps of CAC.CFG, of an amount in Lire.
-Passaggio PassoScaglioniCompensi(const Interpolazione& lettura, double percentuale);
+// By the steps of CAC.CFG, of an amount in Lire; `nota` is what the file says of itself.
+Passaggio PassoScaglioniCompensi(const Interpolazione& lettura, const std::string& nota,
+                                 double percentuale);
 // By D.M. 4-4-2001.
 Passaggio PassoCompensi2001(double lire, double percentuale);
 // As it was agreed.

@@ -13,6 +13,10 @@ namespace orm {
 // "classe I, categoria c"; classes without categories alone.
 std::string ClasseInParole(std::string_view classe, std::string_view categoria);
 
+// "L'importo di L. 120 sta tra L. 100 (6,44 %) e L. 150 (5,796 %); tra le due percentuali", for
+// what is done with them to follow.
+std::string TraIPassi(const Interpolazione& passi);
+
 // "y0 - (y0 - y1) x (x - x0) / (x1 - x0)", both percentages times `aumenti` where that is not
 // empty.
 std::string ContoInterpolazione(const Interpolazione& passi, const std::string& aumenti = "");

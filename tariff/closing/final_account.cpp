@@ -27,11 +27,24 @@ void ContoFinale::StampaTotali(const Conto& onorari, const Conto& compensi) {
   Importo(Totale);
   nota.Spiega([&] {
     Catena catena = prima;
-    catena.push_back(nota.PassoOnorario("Onorari della parcella", onorari));
-    catena.push_back(nota.PassoOnorario("Compensi accessori della parcella", compensi));
+    if (prima.empty() || !onorari.Semplice())
+      catena.push_back(nota.PassoOnorario("Onorari della parcella", onorari));
+    catena.push_back(nota.PassoOnorario(prima.empty()
+                                            ? "Compensi accessori, che questa parcella non ha"
+                                            : "Compensi accessori della parcella",
+                                        compensi));
     catena.push_back(nota.PassoImporto("Onorari e compensi", somma));
     return catena;
   });
+}
+
+Passaggio ContoFinale::Passo(std::string regola, const Conto& conto) const {
+  Passaggio passo = nota.PassoImporto(std::move(regola), conto);
+  if (nota.ModoLire && DecimaliValuta != 0) {
+    passo.unita = "Euro";
+    passo.Annota("La riga scrive L., ma la cifra è in Euro");
+  }
+  return passo;
 }
 
 Conto ContoFinale::BaseRiduzione() const {
@@ -47,6 +60,10 @@ Conto ContoFinale::BaseRiduzione() const {
   }
 }
 
+Passaggio ContoFinale::PercentualeDiRiduzione() const {
+  return nota.PassoDato("Percentuale di Riduzione", nota.chiusura.PercDiRiduzione, "%");
+}
+
 void ContoFinale::Riduci() {
   const Chiusura& patti = nota.chiusura;
   if (patti.PercDiRiduzione == 0) return;
@@ -59,19 +76,19 @@ void ContoFinale::Riduci() {
   if (patti.ApplicazioneRiduzione == 3) stampa.Text(" sui Compensi");
   // The longest words leave the amount no place in their line.
   if (stampa.Column() > kColonnaImporto)
-    nota.spiegazioni.Riga(stampa.Contents(), [&]() -> Catena {
-      return {Mostrato(nota.PassoDato("Percentuale di Riduzione", patti.PercDiRiduzione), 2, "%")};
-    });
+    nota.spiegazioni.Riga(stampa.Contents(),
+                          [&]() -> Catena { return {Mostrato(PercentualeDiRiduzione(), 2, "%")}; });
   const Conto prodotto = BaseRiduzione() * patti.PercDiRiduzione / 100;
   double Riduzione = prodotto;
   Importo(Riduzione);
   nota.Spiega([&]() -> Catena {
-    const char* regola =
-        patti.TipoRiduzione.empty()
-            ? "Riduzione dell'art. 4, comma 12bis, L. 155/89, in percento di ciò su cui si applica"
-            : "Riduzione concordata, in percento di ciò su cui si applica";
-    return {nota.PassoDato("Percentuale di Riduzione", patti.PercDiRiduzione),
-            nota.PassoImporto(regola, prodotto)};
+    std::string regola = patti.TipoRiduzione.empty()
+                             ? "Riduzione dell'art. 4, comma 12bis, L. 155/89, in percento "
+                             : "Riduzione concordata, in percento ";
+    regola += patti.ApplicazioneRiduzione == 2   ? "degli onorari"
+              : patti.ApplicazioneRiduzione == 3 ? "dei compensi"
+                                                 : "di onorari e compensi";
+    return {PercentualeDiRiduzione(), nota.PassoImporto(std::move(regola), prodotto)};
   });
   const Conto ridotto = Conto(Totale) - Riduzione;
   Totale = ridotto;
@@ -85,8 +102,9 @@ void ContoFinale::Detrai() {
   if (Acconti == 0) return;
   stampa.Text("a detrarre ACCONTI");
   Importo(Acconti);
-  nota.Spiega(
-      [&]() -> Catena { return {nota.PassoDato("Acconti ricevuti", nota.chiusura.Acconti)}; });
+  nota.Spiega([&]() -> Catena {
+    return {nota.PassoDatoImporto("Acconti ricevuti", nota.chiusura.Acconti)};
+  });
   netto = Conto(Totale) - Acconti;
   Totale = netto;
 }
@@ -96,7 +114,12 @@ void ContoFinale::StampaNetto() {
   stampa.Text(kVoceNetto);
   if (nota.chiusura.Acconti == 0) netto = Totale;
   Importo(Totale);
-  Spiega("Competenze: il totale, meno la riduzione e gli acconti che ci sono", netto);
+  nota.Spiega([&]() -> Catena {
+    std::string regola = "Competenze, il totale";
+    if (nota.chiusura.PercDiRiduzione != 0) regola += " ridotto";
+    if (nota.chiusura.Acconti != 0) regola += " meno gli acconti";
+    return {nota.PassoImporto(std::move(regola), netto)};
+  });
   DecimaliValuta = kDecimaliEuro;
   if (!nota.ModoLire) return;
   const Conto cambio = Conto(Totale) / kLirePerEuro;
@@ -155,12 +178,15 @@ void Parcella::ChiudiConCompensi(const Conto& NonConglobati) {
   const double onorari = IntInLire(senza);
   Catena prima;
   if (spiegazioni.Attive()) {
+    const char* regola =
+        Coefficiente == 1 ? "Onorari della parcella: tutta la somma, poiché il coefficiente è 1"
+        : NonConglobati == 0
+            ? "Onorari della parcella: la somma divisa per il coefficiente dei compensi"
+            : "Onorari della parcella: la somma, senza ciò che non porta compensi, divisa per il "
+              "loro coefficiente; il resto si riaggiunge";
     prima = {PassoImporto("Somma di tutti gli onorari, che contengono i compensi accessori",
                           TotaleGenerale),
-             PassoOnorario("Senza i compensi accessori: la somma divisa per il loro coefficiente",
-                           senza)};
-    if (NonConglobati != 0)
-      prima.back().regola += "; ne sta fuori ciò che non li porta, e si riaggiunge";
+             PassoOnorario(regola, senza)};
     if (Coefficiente == 0) prima.back().Annota("Il coefficiente è 0: non c'è nulla da dividere");
   }
   ChiudiParcella(onorari, Conto(totale) - onorari, prima);

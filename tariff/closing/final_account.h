@@ -41,10 +41,13 @@ class ContoFinale {
   double Contributo(const std::string& spesa, const char* nome, double percentuale,
                     const Conto& base);
   Conto BaseRiduzione() const;
+  Passaggio PercentualeDiRiduzione() const;
   // Explains the line just printed by one sum.
   void Spiega(const char* regola, const Conto& conto) {
-    nota.Spiega([&]() -> Catena { return {nota.PassoImporto(regola, conto)}; });
+    nota.Spiega([&]() -> Catena { return {Passo(regola, conto)}; });
   }
+  // A sum in the currency that the account has come to; its line keeps the symbol of the note's.
+  Passaggio Passo(std::string regola, const Conto& conto) const;
   Passaggio PassoTassa(double tagliata) const;
   void StampaFirma(std::string_view ruolo, const std::string& nome);
 

@@ -28,12 +28,10 @@ void ContoFinale::CalcolaTassaParere() {
 }
 
 Passaggio ContoFinale::PassoTassa(double tagliata) const {
-  Passaggio passo = nota.PassoImporto(
+  Passaggio passo = Passo(
       "Tassa per il parere dell'Ordine: quota percentuale delle competenze e quota fissa, dai "
-      "criteri "
-      "di calcolo",
+      "criteri di calcolo",
       contoTassa);
-  passo.unita = "Euro";
   passo.tagli = {{TipoTaglio::Decimali, DecimaliValuta, contoTassa, tagliata}};
   return passo;
 }
@@ -46,7 +44,11 @@ double ContoFinale::Contributo(const std::string& spesa, const char* nome, doubl
   double contributo = prodotto;
   stampa.Text(nome + Percento(percentuale));
   Importo(contributo);
-  Spiega("In percento, come dicono i criteri di calcolo", prodotto);
+  nota.Spiega([&]() -> Catena {
+    return {Passo(TrimRight(nome) + ", con la percentuale dei criteri di calcolo, " +
+                      (base.Semplice() ? "sulle competenze" : "su competenze e contributi"),
+                  prodotto)};
+  });
   return contributo;
 }
 
@@ -126,6 +128,7 @@ void ContoFinale::StampaParere() {
   });
   riga("Tassa Rilascio parere Ordine " + TestoTassa, [&] {
     Passaggio passo = PassoTassa(TassaParere);
+    passo.note.clear();
     passo.cifra = TestoTassa.substr(TestoTassa.find(' ') + 1);
     return passo;
   });

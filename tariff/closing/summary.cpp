@@ -35,7 +35,9 @@ void Parcella::StampaRiepilogoPrestazioni(std::string_view tipo, std::span<Conto
     double importo = importi[i];
     StampaRigaOnorario(1, std::string(prestazioni[i]), importo);
     Spiega([&]() -> Catena {
-      return {PassoImporto("Somma degli onorari stampati sopra", importi[i])};
+      return {PassoImporto(importi[i].Semplice() ? "Onorario calcolato sopra"
+                                                 : "Somma degli onorari calcolati sopra",
+                           importi[i])};
     });
     importi[i] = importo;
   }

@@ -17,7 +17,7 @@ struct Scaglione {
 };
 
 // Amounts may stand still, which makes a leap, but not fall.
-std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder) {
+std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder, std::string& intestazione) {
   DataReader file(folder, kFileCompensi);
   std::string RigaIgnorata;
   const int n = file.Count("numero degli scaglioni", kScaglioniMassimi);
@@ -26,7 +26,7 @@ std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder) {
         .AtFile(kFileCompensi)
         .AtLine(1)
         .AtField("numero degli scaglioni");
-  file.Read(Field("nota", RigaIgnorata));
+  file.Read(Field("nota", intestazione));
   std::vector<Scaglione> scaglioni(static_cast<std::size_t>(n));
   double precedente = 0;
   for (int riga = 2; Scaglione & s : scaglioni) {
@@ -45,8 +45,11 @@ std::vector<Scaglione> LeggiScaglioni(const WorkFolder& folder) {
 
 }  // namespace
 
-double ScaglioniCompensi::PercCompensiAccessoriCfg(double importo, Interpolazione* lettura) const {
-  const std::vector<Scaglione> scaglioni = LeggiScaglioni(folder_);
+double ScaglioniCompensi::PercCompensiAccessoriCfg(double importo, Interpolazione* lettura,
+                                                   std::string* nota) const {
+  std::string intestazione;
+  const std::vector<Scaglione> scaglioni = LeggiScaglioni(folder_, intestazione);
+  if (nota != nullptr) *nota = std::move(intestazione);
   if (importo == 0) return 0;
   std::size_t i = 0;
   while (i < scaglioni.size() && importo > scaglioni[i].importo) ++i;

@@ -2,6 +2,7 @@
 // 30) and a note, then for each step an amount in Lire, a percentage and a note.
 #pragma once
 
+#include <string>
 #include <utility>
 
 #include "runtime/folder.h"
@@ -18,8 +19,10 @@ class ScaglioniCompensi {
 
   // Percentage at an amount in Lire. Between two steps it is interpolated, beyond either end it
   // stays; an amount of 0 gives 0. A file that is absent, short, has another count or amounts that
-  // fall is a RuntimeFailure. `lettura` receives the two steps; at either end both are that one.
-  double PercCompensiAccessoriCfg(double importo, Interpolazione* lettura = nullptr) const;
+  // fall is a RuntimeFailure. `lettura` receives the two steps; at either end both are that one;
+  // `nota` what the file's first line says of them.
+  double PercCompensiAccessoriCfg(double importo, Interpolazione* lettura = nullptr,
+                                  std::string* nota = nullptr) const;
 
  private:
   WorkFolder folder_;

@@ -10,7 +10,6 @@
 namespace orm {
 namespace {
 
-constexpr const char* kFileIndici = "IND.CFG";
 constexpr int kAnniMassimi = 21;
 constexpr int kAnnoBase = 1993;
 
@@ -26,11 +25,12 @@ const IndiciAnno& Anno(const std::vector<IndiciAnno>& indici, int anno) {
   return *trovato;
 }
 
-double IndicePubblicato(const std::vector<IndiciAnno>& indici, int mese, int anno) {
+// `mese` and `anno` become those of the index that comes back.
+double IndicePubblicato(const std::vector<IndiciAnno>& indici, int& mese, int& anno) {
   for (; anno >= kAnnoBase; --anno, mese = 12) {
     const IndiciAnno& riga = Anno(indici, anno);
-    for (int m = mese; m >= 1; --m)
-      if (const double indice = riga.mesi[static_cast<std::size_t>(m - 1)]; indice != 0)
+    for (; mese >= 1; --mese)
+      if (const double indice = riga.mesi[static_cast<std::size_t>(mese - 1)]; indice != 0)
         return indice;
   }
   return 0;
@@ -38,12 +38,13 @@ double IndicePubblicato(const std::vector<IndiciAnno>& indici, int mese, int ann
 
 }  // namespace
 
-std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder) {
+std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder, std::string* nota) {
   DataReader file(folder, kFileIndici);
-  std::string RigaIgnorata;
+  std::string intestazione;
   const int n = file.Count("numero degli anni", kAnniMassimi);
   if (n == 0) file.Fail("numero degli anni", "Gli anni devono essere almeno uno.");
-  file.Read(Field("nota", RigaIgnorata));
+  file.Read(Field("nota", intestazione));
+  if (nota != nullptr) *nota = intestazione;
   std::vector<IndiciAnno> indici;
   for (int i = 0; i < n; ++i) {
     IndiciAnno riga;
@@ -60,8 +61,9 @@ std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder) {
   return indici;
 }
 
-Conto IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
-  const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder_);
+Conto IndiciFoi::PercentualeRivalutazione(int mese, int anno, LetturaIndici* lettura) const {
+  std::string nota;
+  const std::vector<IndiciAnno> indici = CaricaIndennitaCfg(folder_, &nota);
   if (anno < kAnnoBase || mese < 1 || mese > 12)
     throw RuntimeFailure("La rivalutazione parte da gennaio 1993: " + NumberText(mese) + "/" +
                          NumberText(anno) + " non ha un indice.")
@@ -69,7 +71,9 @@ Conto IndiciFoi::PercentualeRivalutazione(int mese, int anno) const {
   const double base = Anno(indici, kAnnoBase).mesi.front();
   if (base == 0)
     throw RuntimeFailure("Manca l'indice di gennaio 1993.").AtFile(kFileIndici).AtField("indice");
-  return (Conto(IndicePubblicato(indici, mese, anno)) / base - 1) * 100;
+  const double indice = IndicePubblicato(indici, mese, anno);
+  if (lettura != nullptr) *lettura = {mese, anno, std::move(nota)};
+  return (Conto(indice) / base - 1) * 100;
 }
 
 std::string IndiciFoi::Obiezione(int mese, int anno) const {

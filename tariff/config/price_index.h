@@ -13,6 +13,8 @@
 
 namespace orm {
 
+inline constexpr const char* kFileIndici = "IND.CFG";
+
 // A year's twelve indices, all years on one base; 0: not published yet.
 struct IndiciAnno {
   std::int16_t anno = 0;
@@ -21,7 +23,14 @@ struct IndiciAnno {
 
 // IND.CFG: a count (1 to 21) and a note, then a line for each year. A file that is absent, short,
 // has another count, a year twice or an index below 0 is a RuntimeFailure with its place.
-std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder);
+// `nota` receives what the first line says of them.
+std::vector<IndiciAnno> CaricaIndennitaCfg(const WorkFolder& folder, std::string* nota = nullptr);
+
+// The month whose index counted, and what the file says of itself.
+struct LetturaIndici {
+  int mese = 0, anno = 0;
+  std::string nota = {};
+};
 
 // The indices of a folder; the file is opened when a percentage is asked for.
 class IndiciFoi {
@@ -30,7 +39,7 @@ class IndiciFoi {
 
   // Percent by which prices rose from January 1993 to a month; beyond the last one published its
   // index counts. A month or year that the file cannot answer is a RuntimeFailure.
-  Conto PercentualeRivalutazione(int mese, int anno) const;
+  Conto PercentualeRivalutazione(int mese, int anno, LetturaIndici* lettura = nullptr) const;
   // Why the percentage cannot be had, in Italian; empty when it can.
   std::string Obiezione(int mese, int anno) const;
 

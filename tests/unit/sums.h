@@ -1,6 +1,8 @@
 // Does again what an explanation writes down, from its texts alone.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <stdexcept>
 #include <string>
@@ -105,6 +107,14 @@ inline std::string Difetto(const Passaggio& passo) {
     valore = resta;
   }
   return "";
+}
+
+// All steps of a result that is shown on the screen, which the last of them gives.
+inline void ExpectRecomputed(const Catena& passi, double mostrato, const std::string& chi) {
+  ASSERT_FALSE(passi.empty()) << chi;
+  for (const Passaggio& passo : passi) EXPECT_EQ(Difetto(passo), "") << chi << passo.regola;
+  EXPECT_FALSE(passi.back().cifra.empty()) << chi;
+  EXPECT_DOUBLE_EQ(*passi.back().risultato, mostrato) << chi << passi.back().regola;
 }
 
 }  // namespace orm

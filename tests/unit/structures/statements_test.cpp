@@ -7,7 +7,7 @@
 #include "structures/steel_beams/cantilever.h"
 #include "structures/steel_beams/slab.h"
 #include "structures/truss_slab/truss_slab.h"
-#include "tests/unit/explained_sums.h"
+#include "tests/unit/sums.h"
 
 namespace orm {
 namespace {
@@ -48,6 +48,9 @@ TEST_F(Statements, OfSectionsInBending) {
                                  positivo ? f.massimo : f.minimo};
       for (std::size_t k = 0; k < catene.size(); ++k)
         ExpectRecomputed(catene[k], mostrati[k], "sezione ");
+      EXPECT_TRUE(std::ranges::any_of(catene[positivo ? 1 : 2], [&](const Passaggio& passo) {
+        return passo.risultato == f.inerzia && !passo.conto.empty();
+      }));
       ++done;
     };
     if (r.esito == EsitoT::Fatto && t.M != 0) expect(SpiegaSezioneT(t, r, ammesse), r);
@@ -81,6 +84,7 @@ TEST_F(Statements, OfSteelBeams) {
 }
 
 TEST_F(Statements, OfBalconies) {
+  int stabilita[2][2] = {};  // each way, held and overturned
   for (int i = 0; i < 600; ++i) {
     DatiBalcone d;
     d.tipo = static_cast<TipoBalcone>(i % 3), d.putrella = "160";
@@ -96,7 +100,20 @@ TEST_F(Statements, OfBalconies) {
       EXPECT_EQ(perche[k].empty(), r[k] == 0) << k;
       if (!perche[k].empty()) ExpectRecomputed(perche[k], r[k], "balcone ");
     }
+    for (const std::size_t k : {StabilitaLato, StabilitaSporto})
+      if (!perche[k].empty()) {
+        ExpectRecomputed(perche[k], *perche[k].back().risultato, "balcone ");
+        bool chiesto = false;
+        VerificaBalcone(d, [&](Ribaltamento come) {
+          chiesto |= (come == Ribaltamento::SbalziLaterali) == (k == StabilitaLato);
+          return true;
+        });
+        EXPECT_EQ(chiesto, *perche[k].back().risultato < 1.5) << k;
+        ++stabilita[k - StabilitaLato][chiesto];
+      }
   }
+  for (const auto& casi : stabilita)
+    EXPECT_TRUE(casi[0] > 0 && casi[1] > 0) << casi[0] << ' ' << casi[1];
 }
 
 TEST_F(Statements, OfTrussSlabs) {
@@ -115,9 +132,13 @@ TEST_F(Statements, OfTrussSlabs) {
     EXPECT_EQ(r.passiTau.back().tagli[0].dopo, r.tau);
     EXPECT_EQ(r.passiMezzeria.back().tagli[0].dopo, r.momentoMezzeria);
     for (const Appoggio* a : {&r.sinistra, &r.destra}) {
-      EXPECT_EQ(DoneAgain(a->passiNervata.back().conto.Testo()).Value(), a->nervata.dati.M);
+      EXPECT_EQ(Calcolatrice::Fa(a->passiNervata.back().conto.Testo()), a->nervata.dati.M);
       EXPECT_EQ(std::fabs(a->nervata.risultati.clsInf), a->clsNervata);
+      for (const Moncone* m : {&a->lungo, &a->corto})
+        if (m->diametro != 0) ExpectRecomputed(m->passi, m->Lunghezza(), "moncone ");
     }
+    for (const Barra& barra : r.campata)
+      if (barra.diametro != 0) ExpectRecomputed(barra.passi, barra.lunghezza, "ferro ");
   }
   EXPECT_GT(done, 20);
 }

@@ -212,7 +212,7 @@ TEST(TrussSlab, LengthsOfTheBars) {
         through += area(k), running = k + 1;
     const double all = 0.39 * n * (dati.H() - 2) + moment(0) + moment(1) + moment(2);
     for (std::size_t k = 3; k-- > 0;) {
-      const auto [diameter, length] = r.campata[k];
+      const double diameter = r.campata[k].diametro, length = r.campata[k].lunghezza;
       if (diameter == 0) continue;
       stopped += moment(k);
       const double anchorage = diameter * r.taglio / through / (40 * r.ammissibili.aderenza);
