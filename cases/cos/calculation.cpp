@@ -57,7 +57,7 @@ void NotaCos::CalcolaPeriodo(std::size_t i) {
           P.catena,
           {PassoImporto("Onorario che ne verrebbe per l'importo totale",
                         Conto(d.ImportoTotaleCS) * P.valore / 100),
-           PassoTariffa("Vale l'onorario minimo del periodo, che è maggiore (" + Tabella(i) + ")",
+           PassoTariffa("Vale l'onorario minimo del periodo, che è maggiore, dalla " + Tabella(i),
                         periodo.MinimoPeriodo)});
   }
   double onorario = Arrotonda(IntInLire(conto.conto));

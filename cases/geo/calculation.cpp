@@ -103,15 +103,18 @@ Percentuale NotaGeo::PercentualeGeo(const RigaGeo& riga, int periodo, const Cont
                     "", valore, "%"};
     if (lettura.x0 == lettura.x1) {
       passo.regola +=
-          "Fino al primo importo, L. " + CifraEsatta(lettura.x0) + ", la percentuale non cambia";
+          "Fino al primo importo, L. " + CifraEsatta(lettura.x0) + ", vale quella del secondo";
     } else if (lettura.x > lettura.x1) {
       passo.regola += "Oltre l'ultimo importo, L. " + CifraEsatta(lettura.x1) +
                       ", la percentuale cala con la pendenza degli ultimi due" +
                       (valore == 0 ? ", e si ferma a 0" : "");
+    } else if (lettura.y0 == lettura.y1) {
+      passo.regola += "Fra L. " + CifraEsatta(lettura.x0) + " e L. " + CifraEsatta(lettura.x1) +
+                      " la percentuale è una sola";
     } else {
       passo.regola += TraIPassi(lettura) + " si interpola in linea retta";
     }
-    if (lettura.x0 != lettura.x1 && valore != 0) passo.conto = ContoInterpolazione(lettura);
+    if (lettura.y0 != lettura.y1 && valore != 0) passo.conto = ContoInterpolazione(lettura);
     Catena catena = CatenaInLire(importo);
     catena.push_back(std::move(passo));
     return catena;

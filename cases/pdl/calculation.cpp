@@ -100,7 +100,10 @@ void NotaPdl::CalcolaRiga(const RigaInCorso& conto, std::size_t numeroRiga) {
     StampaImportiRiga(riga);
     if (riga.ImportoProgetto > 0)
       StampaPercentuali(kVocePercentualeProgetto, conto.progetto, conto.basi.BaseProgetto, 33,
-                        "Lavori di progetto ed espropri del lotto");
+                        conto.basi.EccedenzaLavori == 0
+                            ? "Lavori di progetto ed espropri del lotto"
+                            : "Lavori diretti ed espropri del lotto, i primi in luogo di quelli di "
+                              "progetto, che superano");
     if (riga.ImportoDirezione > 0)
       StampaPercentuali(kVocePercentualeDirezione, conto.direzione, conto.basi.BaseDirezione, 33,
                         "Lavori del lotto su cui si prende la percentuale della direzione");

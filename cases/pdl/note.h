@@ -67,7 +67,9 @@ class NotaPdl : public Parcella {
   Passaggio PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
                           std::size_t ultimo, const Conto& aliquota) const;
   void StampaTitoloArticolo18() { uscita.Line("INCARICO PARZIALE ( art. 18 )"); }
-  double OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite);
+  // `nota`: what a reader would not expect of the amount.
+  double OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite,
+                            const char* nota = nullptr);
 
   const DatiPdl& d;
   Conto SommaDirezione;

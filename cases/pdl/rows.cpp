@@ -35,7 +35,8 @@ double NotaPdl::StampaQuota(const Voce& voce, const QuotaImporto& quota) {
 
 // The increase for a commission of a part of the services. Without its compensations and above the
 // limit the text lacks a blank.
-double NotaPdl::OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite) {
+double NotaPdl::OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite,
+                                   const char* nota) {
   const auto& [importo, P] = quota;
   const bool conCompensi = criteri.CompensiSuMaggiorazione != "NO";
   static const std::string quarto = " " + TestoQuota(kIncaricoParziale);
@@ -54,7 +55,8 @@ double NotaPdl::OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, 
                     ? "Art. 18, incarico parziale: un quarto dell'onorario delle prestazioni svolte"
                     : "Art. 18, incarico parziale: un quarto dell'onorario delle prestazioni "
                       "svolte, senza compensi accessori come dicono i criteri di calcolo",
-                {voce.aliquote}};
+                {voce.aliquote},
+                nota == nullptr ? std::vector<std::string>{} : std::vector<std::string>{nota}};
       });
   SommaArticolo18 += stampato;
   return stampato;
@@ -71,8 +73,11 @@ Conto NotaPdl::OnorarioProgetto(const RigaInCorso& conto) {
   if (conto.basi.EccedenzaLavori != 0) ImportoFee += conto.basi.EccedenzaLavori;
   const auto quote = QuoteDellImporto(conto.progetto, ImportoFee);
   const Voce voce{
-      "Progettazione: lavori ed espropri della riga per la percentuale per le aliquote, "
-      "per il coefficiente dei compensi",
+      conto.basi.EccedenzaLavori == 0
+          ? "Progettazione: lavori ed espropri della riga, percentuale e aliquote, per il "
+            "coefficiente dei compensi"
+          : "Progettazione: lavori ed espropri della riga, più ciò che i lavori diretti del lotto "
+            "hanno oltre il progetto, percentuale e aliquote, per il coefficiente dei compensi",
       conto.AliquotaProgetto,
       PassoAliquote(conto, conto.fatti, 1, kServiziProgettoTabellaB, conto.AliquotaProgetto)};
   Conto onorario = Zero();
@@ -185,15 +190,18 @@ Conto NotaPdl::OnorarioDirezione(const RigaInCorso& conto) {
   for (const auto& [titolo, aliquota, primo, ultimo] : VociDirezione(conto)) {
     uscita.Line(titolo);
     const Voce voce{
-        "Direzione dei lavori: lavori diretti per la percentuale per le aliquote, per il "
-        "coefficiente dei compensi",
+        "Direzione dei lavori: lavori diretti, percentuale e aliquote, per il coefficiente dei "
+        "compensi",
         aliquota, PassoAliquote(conto, conto.fatti, primo, ultimo, aliquota)};
     for (const QuotaImporto& quota :
          QuoteProgressive(conto.direzione, importo, conto.direzionePrima))
       onorario += StampaQuota(voce, quota);
     if (d.IncaricoParziale != "SI" || base18 <= 0) continue;
     StampaTitoloArticolo18();
-    onorario += OnorarioArticolo18(voce, {base18, conto.direzione.entro}, conto.direzione.divise);
+    onorario += OnorarioArticolo18(voce, {base18, conto.direzione.entro}, conto.direzione.divise,
+                                   base18 == importo ? nullptr
+                                                     : "Riguarda i soli lavori diretti che il "
+                                                       "progetto della riga copre");
   }
   return onorario;
 }

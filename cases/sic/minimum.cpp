@@ -8,10 +8,13 @@
 namespace orm {
 
 Catena NotaSic::CatenaMinimo(const Fase& fase, double conteggio) const {
-  return {PassoImporto("Onorario a percentuale dei lotti, che è minore del minimo", conteggio),
-          PassoTariffa(std::string("Sicurezza dei cantieri (D.Lgs 494/96), ") +
-                           fase.prestazione.didascalia + ": onorario minimo",
-                       fase.prestazione.minimo)};
+  return {
+      PassoImporto(
+          "Onorario a percentuale dei lotti, con i compensi; quello minimo, con i suoi, lo supera",
+          conteggio),
+      PassoTariffa(std::string("Sicurezza dei cantieri (D.Lgs 494/96), ") +
+                       fase.prestazione.didascalia + ": onorario minimo",
+                   fase.prestazione.minimo)};
 }
 
 double NotaSic::StampaMinimo(const Fase& fase, double conteggio) {
