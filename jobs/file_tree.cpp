@@ -178,10 +178,11 @@ void TogliAlberiIncompiuti(const std::string& radice) {
   std::vector<std::string> nomi;
   if (ListFolder(radice, nomi) != 0) return;
   for (const std::string& nome : nomi) {
+    if (!IsBesideName(nome)) continue;
     struct stat stato {};
     const std::string path = radice + "/" + nome;
     std::error_code ignorato;
-    if (IsBesideName(nome) && ::lstat(path.c_str(), &stato) == 0 && S_ISDIR(stato.st_mode) &&
+    if (::lstat(path.c_str(), &stato) == 0 && S_ISDIR(stato.st_mode) &&
         stato.st_mtime < std::time(nullptr) - kLongestSave)
       fs::remove_all(path, ignorato);
   }

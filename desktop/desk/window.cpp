@@ -67,7 +67,11 @@ DeskWindow::DeskWindow(DeskSettings& settings)
   });
   connect(&useCheck_, &QTimer::timeout, this, [this] { ShowState(); });
   TakeHabits();
-  ListJobs();
+  // Before the first painting, and yet behind the window: however many jobs there are, it comes at
+  // once.
+  QTimer::singleShot(0, this, [this] {
+    if (!listed_) ListJobs();
+  });
 }
 
 DeskWindow::~DeskWindow() = default;
@@ -163,7 +167,7 @@ void DeskWindow::SetRoot(const QString& folder) {
 
 // The choice outlives a list that is read anew.
 void DeskWindow::ListJobs() {
-  listing_ = true;
+  listing_ = listed_ = true;
   unreadable_.clear();
   bool changed = false;
   try {
@@ -208,9 +212,11 @@ void DeskWindow::SearchOn() {
 }
 
 void DeskWindow::GoTo(const QString& job) {
-  int row = jobs_->RowOf(job);
+  if (!listed_) ListJobs();
+  int row = job.isEmpty() ? -1 : jobs_->RowOf(job);
   const auto& all = Jobs().Voci();
-  const bool hidden = row < 0 && std::any_of(all.begin(), all.end(), [&job](const VoceLavoro& one) {
+  const bool hidden = row < 0 && !job.isEmpty() &&
+                      std::any_of(all.begin(), all.end(), [&job](const VoceLavoro& one) {
                         return one.nome == FromQt(job);
                       });
   if (hidden && job != job_) {

@@ -85,8 +85,8 @@ class DeskWindow : public QMainWindow {
   QStackedWidget* pages_;
   DeskMenus menus_;
   QString job_;
-  QString unreadable_;  // why the root cannot be read
-  bool listing_ = false;
+  QString unreadable_;                     // why the root cannot be read
+  bool listing_ = false, listed_ = false;  // just now; ever
   QFileSystemWatcher watcher_;
   QTimer pause_, searching_, useCheck_;
 };
