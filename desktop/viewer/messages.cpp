@@ -4,21 +4,28 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 
 namespace orm {
 namespace {
 
 // A file may have a name that looks like a page of the web.
 void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
-  box.setInformativeText(detail);
+  box.setInformativeText(Foldable(detail));
   for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
 }
 
 }  // namespace
 
+QString Foldable(QString text) {
+  static const QRegularExpression tooLong(QStringLiteral("([^\\s/]{24})(?=[^\\s/\\p{M}])"));
+  return text.replace(tooLong, QStringLiteral("\\1\u200B"));  // a blank of no width
+}
+
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail,
           const char* program) {
-  QMessageBox box(icon, QString::fromLatin1(program), text, QMessageBox::NoButton, parent);
+  QMessageBox box(icon, QString::fromLatin1(program), Foldable(text), QMessageBox::NoButton,
+                  parent);
   ShowLetterForLetter(box, detail);
   box.setDefaultButton(box.addButton(QStringLiteral("&Chiudi"), QMessageBox::AcceptRole));
   box.exec();
@@ -26,8 +33,8 @@ void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QS
 
 int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
            int byDefault, const char* program) {
-  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), text, QMessageBox::NoButton,
-                  parent);
+  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), Foldable(text),
+                  QMessageBox::NoButton, parent);
   ShowLetterForLetter(box, detail);
   QList<QPushButton*> made;
   for (const QString& caption : buttons) {
