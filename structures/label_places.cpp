@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <utility>
 
@@ -11,8 +12,9 @@ constexpr double kAside = 0.35;     // between a label and what it steps aside f
 constexpr double kStep = 0.1;       // of the heights that are tried
 constexpr int kSteps = 60;          // up and down
 constexpr double kRightward = 0.6;  // cost of a step to the right, against one up or down
-constexpr double kCrossing = 2;     // cost of a crossing
-constexpr double kRoomAtEnds = 0.3;
+constexpr double kCrossing = 5;     // cost of a crossing
+constexpr double kRoomAtEnds = 0.1;
+constexpr int kRounds = 4;
 
 double Side(const Point& a, const Point& b, const Point& p) {
   return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
@@ -41,13 +43,15 @@ void Districa(std::vector<EtichettaPosta>& etichette) {
       }
 }
 
-int PostiEtichette::Incroci(const Filo& filo, const Riquadro& etichetta) const {
-  const auto labels = std::ranges::count_if(
-      occupati_, [&](const Riquadro& r) { return Crosses(filo.da, filo.a, r); });
-  const auto lines = std::ranges::count_if(fili_, [&](const Filo& f) {
-    return Cross(filo.da, filo.a, f.da, f.a) || Crosses(f.da, f.a, etichetta);
-  });
-  return static_cast<int>(labels + lines);
+int PostiEtichette::Incroci(const Occupato& nuovo) const {
+  int crossings = 0;
+  for (const Occupato& altro : occupati_) {
+    if (nuovo.segno) crossings += Crosses(*nuovo.segno, nuovo.Attacco(), altro.posto) ? 1 : 0;
+    if (altro.segno) crossings += Crosses(*altro.segno, altro.Attacco(), nuovo.posto) ? 1 : 0;
+    if (nuovo.segno && altro.segno)
+      crossings += Cross(*nuovo.segno, nuovo.Attacco(), *altro.segno, altro.Attacco()) ? 1 : 0;
+  }
+  return crossings;
 }
 
 bool PostiEtichette::SuUnaRiga(const Riquadro& r) const {
@@ -61,37 +65,65 @@ void PostiEtichette::Scansa(Riquadro& r) const {
     for (const double y : {r.y1, (r.y1 + r.y2) / 2, r.y2})
       for (const double x : bordi_(y))
         if (x > r.x1 - kAside / 2 && x < r.x2 + kAside / 2) to = std::max(to, x + kAside);
-    for (const Riquadro& altro : occupati_)
-      if (r.Tocca(altro)) to = std::max(to, altro.x2 + kAside);
+    for (const Occupato& altro : occupati_)
+      if (r.Tocca(altro.posto)) to = std::max(to, altro.posto.x2 + kAside);
     moved = to > r.x1;
     r.x2 += to - r.x1;
     r.x1 = to;
   }
 }
 
-Riquadro PostiEtichette::Posto(std::initializer_list<double> inizi, double y, double larghezza,
-                               double altezza, std::optional<Point> segno) {
-  const double first = *inizi.begin();
+Riquadro PostiEtichette::Posto(const Richiesta& etichetta, const Riquadro* attuale) const {
+  const double first = etichetta.inizi.front(), y = etichetta.y;
+  const double larghezza = etichetta.larghezza, altezza = etichetta.altezza;
   Riquadro best{first, first + larghezza, y - altezza / 2, y + altezza / 2};
   double least = std::numeric_limits<double>::infinity();
+  if (attuale != nullptr) {
+    best = *attuale;
+    least = Costo(etichetta, best);
+  }
   for (int step = 0; step <= 2 * kSteps; ++step) {
     const double up = (step % 2 == 0 ? -1 : 1) * std::ceil(step / 2.0) * kStep;
     const double middle = y + up;
     if (step > 0 && (middle < minimo_ || middle > massimo_)) continue;
-    for (const double x : inizi) {
+    for (const double x : etichetta.inizi) {
       Riquadro r{x, x + larghezza, middle - altezza / 2, middle + altezza / 2};
       Scansa(r);
       if (SuUnaRiga(r) || r.x2 > destra_) continue;
-      double cost = std::fabs(up) + kRightward * std::fabs(r.x1 - first);
-      if (segno) cost += kCrossing * Incroci({*segno, {r.x1, middle}}, r);
+      const double cost = Costo(etichetta, r);
       if (cost >= least) continue;
       least = cost;
       best = r;
     }
   }
-  Occupa(best);
-  if (segno) fili_.push_back({*segno, {best.x1, (best.y1 + best.y2) / 2}});
   return best;
+}
+
+double PostiEtichette::Costo(const Richiesta& etichetta, const Riquadro& posto) const {
+  return std::fabs((posto.y1 + posto.y2) / 2 - etichetta.y) +
+         kRightward * std::fabs(posto.x1 - etichetta.inizi.front()) +
+         kCrossing * Incroci({posto, etichetta.segno});
+}
+
+// Each in its turn, then each once more, as it may stand better now that the others have their
+// places. What changes place makes all of them together stand better, so it comes to an end.
+std::vector<Riquadro> PostiEtichette::Posti(const std::vector<Richiesta>& etichette) {
+  const auto before = static_cast<std::ptrdiff_t>(occupati_.size());
+  for (const Richiesta& e : etichette) occupati_.push_back({Posto(e), e.segno});
+  bool moved = true;
+  for (int round = 0; round < kRounds && std::exchange(moved, false); ++round)
+    for (const Richiesta& e : etichette) {
+      // The one that stands longest goes and comes again, so that each keeps its turn.
+      const auto oldest = occupati_.begin() + before;
+      const Riquadro old = oldest->posto;
+      occupati_.erase(oldest);
+      const Riquadro posto = Posto(e, &old);
+      occupati_.push_back({posto, e.segno});
+      moved = moved || posto.x1 != old.x1 || posto.y1 != old.y1;
+    }
+  std::vector<Riquadro> posti;
+  for (auto o = occupati_.begin() + before; o != occupati_.end(); ++o) posti.push_back(o->posto);
+  return posti;
 }
 
 }  // namespace orm

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,12 +19,18 @@ struct Riquadro {
   }
 };
 
-// A label in its place and what it tells, from which a line leads to its left edge.
+// Where the line from `segno` meets a label: at its left edge, or at the right one of a label that
+// stands left of it.
+inline Point Attacco(const Riquadro& posto, const Point& segno) {
+  return {segno.x > posto.x2 ? posto.x2 : posto.x1, (posto.y1 + posto.y2) / 2};
+}
+
+// A label in its place and what it tells, from which a line leads to it.
 struct EtichettaPosta {
   Point segno;
   Riquadro posto;
   std::string testo;
-  Point Attacco() const { return {posto.x1, (posto.y1 + posto.y2) / 2}; }
+  Point Attacco() const { return orm::Attacco(posto, segno); }
 };
 
 // Labels of one length whose lines cross change places.
@@ -43,29 +48,39 @@ class PostiEtichette {
   void Riga(double x1, double x2, double y, double distanza = 0.2) {
     righe_.push_back({x1, x2, y - distanza, y + distanza});
   }
-  void Occupa(const Riquadro& riquadro) { occupati_.push_back(riquadro); }
+  void Occupa(const Riquadro& riquadro) { occupati_.push_back({riquadro, {}}); }
 
-  // A label of that size whose left edge and middle belong at (x, y), x the first of `inizi` or
-  // else another one: its place, which is taken from then on. It steps to the right of an outline,
-  // up or down beside a line. The line from `segno`, what the label tells, to its left edge crosses
-  // no earlier one and no label, if that can be.
-  Riquadro Posto(std::initializer_list<double> inizi, double y, double larghezza, double altezza,
-                 std::optional<Point> segno = {});
+  // A label whose left edge and middle belong at (x, y), x the first of `inizi` or else another
+  // one, and what it tells, from which a line leads to it.
+  struct Richiesta {
+    std::vector<double> inizi;
+    double y = 0, larghezza = 0, altezza = 0;
+    std::optional<Point> segno;
+  };
+  // Their places, in that order, which are taken from then on. A label steps to the right of an
+  // outline, up or down beside a line. The lines to them cross none of each other and no label, if
+  // that can be.
+  std::vector<Riquadro> Posti(const std::vector<Richiesta>& etichette);
 
  private:
-  struct Filo {
-    Point da, a;
+  struct Occupato {
+    Riquadro posto;
+    std::optional<Point> segno;
+    Point Attacco() const { return orm::Attacco(posto, *segno); }
   };
+  // The best place, or the one where the label stands, `attuale`, if none is better.
+  Riquadro Posto(const Richiesta& etichetta, const Riquadro* attuale = nullptr) const;
+  double Costo(const Richiesta& etichetta, const Riquadro& posto) const;
   bool SuUnaRiga(const Riquadro& r) const;
-  int Incroci(const Filo& filo, const Riquadro& etichetta) const;
+  int Incroci(const Occupato& nuovo) const;
   // Moves `r` to the right until nothing stands in it.
   void Scansa(Riquadro& r) const;
 
   double minimo_, massimo_;  // of the middle of a label
   double destra_;
   std::function<std::vector<double>(double)> bordi_;
-  std::vector<Riquadro> righe_, occupati_;
-  std::vector<Filo> fili_;
+  std::vector<Riquadro> righe_;
+  std::vector<Occupato> occupati_;
 };
 
 }  // namespace orm

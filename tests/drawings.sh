@@ -18,6 +18,7 @@ cd "$scratch"
 if $python -c 'import ezdxf' 2>/dev/null; then
   tried=1
   $python - <<'PYTHON'
+import glob
 import ezdxf
 
 def drawing(name):
@@ -38,6 +39,8 @@ def holds(there, *wanted):
     for one in wanted:
         assert one in there, (one, there)
 
+for name in glob.glob("*.dxf"):
+    assert not ezdxf.readfile(name).audit().errors, name
 t = drawing("t")
 holds(list(sizes(t)), (100, 80))
 holds(texts(t), "B 100", "H 80", "s 15", "b 30", "c 3", "6,03 cmq.")
@@ -58,7 +61,8 @@ fi
 # SVG and PDF are the same picture: each word at the same place.
 if have rsvg-convert && have pdftotext; then
   tried=1
-  for name in t anulare balcone_mensole solaio_disegno_uno; do
+  for drawing in *.svg; do
+    name=${drawing%.svg}
     rsvg-convert -f pdf -o svg.pdf "$name.svg"
     for file in svg "$name"; do
       pdftotext -bbox "$file.pdf" - | grep '<word' | sort >"$file.words"

@@ -77,10 +77,19 @@ void DisegnoFlessione::DiagrammaTensioni(std::vector<TensioneDisegnata> tensioni
   ScriviTensioni(tensioni, ammesse, false, !upperCompressed);
 }
 
-void DisegnoFlessione::ScriviCls(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse,
-                                 double y) {
-  const double end = kBase - ReachOf(t, ammesse).units, half = lavagna_.LineHeight() / 2;
-  if (std::fabs(y - Y(t.profondita)) > 0.01) Leader(lavagna_, end, Y(t.profondita), end - 0.25, y);
+// At the end of its line, or beyond the longer ones of compressed steel that pass at its height, if
+// there is room before the section.
+void DisegnoFlessione::ScriviCls(const TensioneDisegnata& cls,
+                                 const std::vector<TensioneDisegnata>& tensioni,
+                                 const TensioniAmmissibili& ammesse, double y) {
+  const double own = kBase - ReachOf(cls, ammesse).units, half = lavagna_.LineHeight() / 2;
+  double end = own;
+  for (const TensioneDisegnata& t : tensioni)
+    if (t.valore < 0 && std::fabs(y - Y(t.profondita)) < half)
+      end = std::min(end, kBase - ReachOf(t, ammesse).units);
+  if (end - lavagna_.TextWidth("cls") < X(W_) + 1) end = own;
+  if (std::fabs(y - Y(cls.profondita)) > 0.01)
+    Leader(lavagna_, own, Y(cls.profondita), end - 0.25, y);
   lavagna_.SetColour(kBlack);
   lavagna_.SetFont(kSmall);
   lavagna_.DrawText(end - 0.3, y, "cls", Anchor::Right);
@@ -105,7 +114,7 @@ void DisegnoFlessione::ScriviTensioni(const std::vector<TensioneDisegnata>& tens
   auto labels = QuoteEtichette(places, kNarrow * lavagna_.LineHeight(), versoAlto, 0.9, 8.7);
   if (besideCls) {
     const auto own = versoAlto ? labels.end() - 1 : labels.begin();
-    ScriviCls(*edge, ammesse, *own);
+    ScriviCls(*edge, tensioni, ammesse, *own);
     labels.erase(own);
   }
   lavagna_.SetHalo(true);

@@ -14,6 +14,7 @@ constexpr double kCovers = 0.3,
                  kThicknesses = -2.8;  // lines left of the section, which begins at 1
 constexpr double kFromSection = 0.6;   // lines above and below it
 constexpr double kBeforeHeight = 1.4;  // room left of the line of the height
+constexpr double kAfterName = 0.8;     // where a label beside a width would seem to go on with it
 
 std::string Scritta(const QuotaSezione& quota) {
   return quota.nome + " " + FormatPattern(std::fabs(quota.a - quota.da), "0.##");
@@ -71,7 +72,7 @@ void DisegnoFlessione::QuotaLarghezza(const QuotaSezione& larghezza, double prof
   const double half = lavagna_.TextWidth(Scritta(larghezza)) / 2;
   const double middle = X((larghezza.da + larghezza.a) / 2), over = lavagna_.LineHeight();
   posti_.Riga(X(larghezza.da) - 0.3, X(larghezza.a) + 0.3, line, 0.1);
-  posti_.Occupa({middle - half, middle + half, std::min(line, line + side * over),
+  posti_.Occupa({middle - half, middle + half + kAfterName, std::min(line, line + side * over),
                  std::max(line, line + side * over)});
 }
 

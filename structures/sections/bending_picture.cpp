@@ -18,6 +18,7 @@ constexpr double kLeft = -4.6, kLeftOfFlanges = -7.4, kBottom = -1.6, kRight = 3
 constexpr double kTitle = 10.9, kSecondLine = 9.9;  // middle of what stands above the drawing
 constexpr double kSample = 18.6;                    // of the legend
 constexpr double kHatchStep = 0.2;
+constexpr const char* kAsseNeutro = "asse neutro";
 
 // Green tells compressed concrete; dots in it tell it on paper and to eyes that miss the green.
 void HatchLine(Lavagna& lavagna, double x1, double x2, double y) {
@@ -31,6 +32,31 @@ void HatchLine(Lavagna& lavagna, double x1, double x2, double y) {
   lavagna.SetWidth(1);
   lavagna.DrawLine(x1, y, x2, y);
   lavagna.SetHatching(false);
+}
+
+struct Strato {
+  double y, half, area;  // of the mark
+  double x, quota;       // where its label belongs
+  double bordo;          // left edge of the section
+};
+
+// Three or more layers nearer to each other than their labels have these in one column, as the line
+// to one further on would go through its neighbour. They give way from the edge of the section.
+void Incolonna(std::vector<Strato>& strati, double riga, double colonna, double mezzo) {
+  for (std::size_t from = 0, to = 0; from < strati.size(); from = to) {
+    std::vector<double> heights{strati[from].y};
+    for (to = from + 1; to < strati.size() && heights.back() - strati[to].y < riga / 2; ++to)
+      heights.push_back(strati[to].y);
+    const bool rings = std::any_of(strati.begin() + static_cast<std::ptrdiff_t>(from),
+                                   strati.begin() + static_cast<std::ptrdiff_t>(to),
+                                   [](const Strato& s) { return s.half == 0; });
+    if (heights.size() < 3 || rings) continue;
+    heights = QuoteEtichette(heights, riga, heights.front() < mezzo, 0.6, 9);
+    for (std::size_t i = from; i < to; ++i) {
+      strati[i].x = colonna;
+      strati[i].quota = heights[i - from];
+    }
+  }
 }
 
 }  // namespace
@@ -126,26 +152,15 @@ void DisegnoFlessione::AsseNeutro(double profondita) {
 
 // Above the line at 13; where a wide section or a stress stands there, the nearest free place, in
 // the section or out of it.
-void DisegnoFlessione::NomeAsse() {
-  const std::string name = "asse neutro";
-  lavagna_.SetFont(kSmall);
-  lavagna_.SetColour(kBlue);
-  const double width = lavagna_.TextWidth(name), within = X(W_) - width - 0.3;
-  const Riquadro posto =
-      posti_.Posto({13, within}, Y(asse_) + 0.8, width, 0.9 * lavagna_.LineHeight());
-  lavagna_.SetHalo(true);
-  lavagna_.DrawText(posto.x1, (posto.y1 + posto.y2) / 2, name, Anchor::Left);
-  lavagna_.SetHalo(false);
+PostiEtichette::Richiesta DisegnoFlessione::NomeAsse() const {
+  const double width = lavagna_.TextWidth(kAsseNeutro), within = X(W_) - width - 0.3;
+  return {{13, within}, Y(asse_) + 0.8, width, 0.9 * lavagna_.LineHeight(), {}};
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,
                                 const std::function<double(double)>& larghezza) {
-  NomeAsse();
   OrdinaArray(profondita, aree, 0, static_cast<int>(aree.size()) - 1);
   const double centre = X(W_ / 2);
-  struct Strato {
-    double y, half, area, x;
-  };
   std::vector<Strato> strati;
   for (std::size_t i = 0; i < aree.size(); ++i) {
     if (aree[i] == 0) continue;
@@ -155,25 +170,40 @@ void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<doub
     lavagna_.SetStroke(Stroke::Solid);
     lavagna_.SetWidth(3);
     if (half > 0) lavagna_.DrawLine(centre - half, y, centre + half, y);
-    strati.push_back({y, half, aree[i], centre + (strati.size() % 2 == 0 ? 1.0 : 4.0)});
+    const auto tratti = tratti_(profondita[i]);
+    strati.push_back({y, half, aree[i], centre + (strati.size() % 2 == 0 ? 1.0 : 4.0), y,
+                      tratti.empty() ? 1 : X(tratti.front().da)});
   }
   lavagna_.SetFont(kSmall);
+  Incolonna(strati, 0.92 * lavagna_.LineHeight(), centre + 1, Y(H_ / 2));
+  std::vector<PostiEtichette::Richiesta> richieste{NomeAsse()};
   std::vector<EtichettaPosta> etichette;
   for (const Strato& strato : strati) {
     const std::string text = FormatPattern(strato.area, "####.00") + " cmq.";
     const Point mark{centre + strato.half, strato.y};
-    const Riquadro posto = posti_.Posto({strato.x}, strato.y, lavagna_.TextWidth(text),
-                                        0.9 * lavagna_.LineHeight(), mark);
-    etichette.push_back({mark, posto, text});
+    const double width = lavagna_.TextWidth(text);
+    richieste.push_back({{strato.x}, strato.quota, width, 0.9 * lavagna_.LineHeight(), mark});
+    etichette.push_back({mark, {}, text});
+    // Beside a web there may be room on the left of it, too.
+    const double left = strato.bordo - 0.4 - width;
+    if (left > 1) richieste.back().inizi.push_back(left);
   }
+  const std::vector<Riquadro> posti = posti_.Posti(richieste);
+  for (std::size_t i = 0; i < etichette.size(); ++i) etichette[i].posto = posti[i + 1];
   Districa(etichette);
-  for (const EtichettaPosta& e : etichette)
-    Leader(lavagna_, e.segno.x, e.segno.y, e.Attacco().x - 0.05, e.Attacco().y);
+  for (EtichettaPosta& e : etichette) {
+    const double toward = e.posto.x2 < e.segno.x ? -1 : 1;
+    if (toward < 0) e.segno.x = 2 * centre - e.segno.x;  // the other end of the mark
+    Leader(lavagna_, e.segno.x, e.segno.y, e.Attacco().x - toward * 0.05, e.Attacco().y);
+  }
   // After the leaders, as some pass under a label.
-  lavagna_.SetColour(kBlack);
   lavagna_.SetHalo(true);
+  lavagna_.SetColour(kBlue);
+  lavagna_.DrawText(posti[0].x1, (posti[0].y1 + posti[0].y2) / 2, kAsseNeutro, Anchor::Left);
+  lavagna_.SetColour(kBlack);
   for (const EtichettaPosta& e : etichette)
-    lavagna_.DrawText(e.Attacco().x, e.Attacco().y, e.testo, Anchor::Left);
+    lavagna_.DrawText(e.Attacco().x, e.Attacco().y, e.testo,
+                      e.posto.x2 < e.segno.x ? Anchor::Right : Anchor::Left);
   lavagna_.SetHalo(false);
 }
 

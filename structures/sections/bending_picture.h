@@ -72,9 +72,10 @@ class DisegnoFlessione {
 
  private:
   void Legenda(bool verificata);
-  void ScriviCls(const TensioneDisegnata& t, const TensioniAmmissibili& ammesse, double y);
+  void ScriviCls(const TensioneDisegnata& cls, const std::vector<TensioneDisegnata>& tensioni,
+                 const TensioniAmmissibili& ammesse, double y);
   double QuotaNome(const QuotaSezione& quota) const;
-  void NomeAsse();
+  PostiEtichette::Richiesta NomeAsse() const;
   void Catena(double x, const std::vector<QuotaSezione>& quote);
   void ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
                       const TensioniAmmissibili& ammesse, bool compresse, bool versoAlto);

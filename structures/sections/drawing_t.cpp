@@ -35,7 +35,9 @@ void HorizontalMeasure(Lavagna& lavagna, double x1, double x2, double y, const s
 
 void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {
   lavagna.SetColour(kGrey);
-  VerticalMeasure(lavagna, 20, 1, 8, "Altezza totale");
+  // Beyond the names of the flanges.
+  VerticalMeasure(lavagna, forma.alaSuperiore || forma.alaInferiore ? 18 : 9, 1, 8,
+                  "Altezza totale");
   if (forma.alaSuperiore) {
     HorizontalMeasure(lavagna, 1, 8, 8.7, "Larghezza ala superiore");
     VerticalMeasure(lavagna, 9, 7, 8, "Spessore ala superiore");
@@ -127,10 +129,13 @@ void DisegnaSchemaT(Lavagna& lavagna, const FormaT& forma) {
   }
   for (int strato = 1; strato <= 8; ++strato) {
     const double y = 7.6 - (strato - 1) * 6.2 / 7;
-    // Between the flanges no name stands on their edges.
-    const bool flange = strato == 1 || strato == 8;
-    lavagna.DrawText(5.3, flange ? y : std::clamp(y, 2.46, 6.54), "strato " + NumberText(strato),
-                     Anchor::Left);
+    // No name stands on the inner edge of a flange.
+    const bool under = forma.alaSuperiore && strato == 2, above = forma.alaInferiore && strato == 7;
+    lavagna.DrawText(5.3,
+                     under   ? 6.54
+                     : above ? 2.46
+                             : y,
+                     "strato " + NumberText(strato), Anchor::Left);
   }
   lavagna.SetWidth(1);
   SchemaMeasures(lavagna, forma);

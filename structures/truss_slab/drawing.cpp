@@ -19,6 +19,7 @@ constexpr double kMargin = 3;       // units left and right of the longest bar
 constexpr double kAboveBar = 0.45;  // from a bar up to its label
 constexpr double kSlabTop = 21, kSlabBottom = 17.8;
 constexpr double kLongStubs = 25, kShortStubs = 22.2;
+constexpr double kInBend = 0.8;  // from a stub's bend to its name
 constexpr double kSpanBars = 14.2, kBarStep = 2.5, kSpanLine = 3.4;
 constexpr double kTick = 0.5;
 
@@ -79,18 +80,29 @@ void DisegnaFerro(Lavagna& lavagna, double x1, double x2, double y) {
   lavagna.DrawLine(x1, y, x2, y);
 }
 
-// From the bend in the support to the end in the span, `verso` outward; `nome` stands at the
-// margin. The bar comes after its name, whose rim would nick it.
+// From the bend in the support to the end in the span, `verso` outward. The bar comes after its
+// name, whose rim would nick it.
 void DisegnaMoncone(Lavagna& lavagna, const BarraDisegnata& moncone, double faccia, int verso,
-                    double y, const Scala& scala) {
+                    double y, double xNome, const Scala& scala) {
   if (moncone.campata == 0) return;
   const double piega = scala.X(faccia + verso * moncone.incastro);
   const double above = y + kAboveBar + lavagna.LineHeight() / 2;
   lavagna.SetColour(kBlack);
-  lavagna.DrawText(verso < 0 ? kMargin : kLarghezzaDisegno - kMargin, above, moncone.etichetta,
-                   verso < 0 ? Anchor::Left : Anchor::Right);
+  lavagna.DrawText(xNome, above, moncone.etichetta, verso < 0 ? Anchor::Left : Anchor::Right);
   DisegnaFerro(lavagna, piega, scala.X(faccia - verso * moncone.campata), y);
   lavagna.DrawLine(piega, y, piega, y - 0.8);
+}
+
+// The names of both begin below each other within the bends, as that of the long one comes down
+// beside the name of the short one.
+void DisegnaMonconi(Lavagna& lavagna, const BarraDisegnata& lungo, const BarraDisegnata& corto,
+                    double faccia, int verso, const Scala& scala) {
+  const double incastro = corto.campata == 0   ? lungo.incastro
+                          : lungo.campata == 0 ? corto.incastro
+                                               : std::min(lungo.incastro, corto.incastro);
+  const double x = scala.X(faccia + verso * incastro) - verso * kInBend;
+  DisegnaMoncone(lavagna, lungo, faccia, verso, kLongStubs, x, scala);
+  DisegnaMoncone(lavagna, corto, faccia, verso, kShortStubs, x, scala);
 }
 
 void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
@@ -130,10 +142,8 @@ void Disegna(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   lavagna.SetHalo(true);
   DisegnaSolaio(lavagna, figura, scala);
   DisegnaQuote(lavagna, figura, scala);
-  DisegnaMoncone(lavagna, figura.lungoSin, 0, -1, kLongStubs, scala);
-  DisegnaMoncone(lavagna, figura.lungoDex, figura.luce, 1, kLongStubs, scala);
-  DisegnaMoncone(lavagna, figura.cortoSin, 0, -1, kShortStubs, scala);
-  DisegnaMoncone(lavagna, figura.cortoDex, figura.luce, 1, kShortStubs, scala);
+  DisegnaMonconi(lavagna, figura.lungoSin, figura.cortoSin, 0, -1, scala);
+  DisegnaMonconi(lavagna, figura.lungoDex, figura.cortoDex, figura.luce, 1, scala);
   DisegnaCampata(lavagna, figura, scala);
 }
 

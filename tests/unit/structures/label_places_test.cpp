@@ -17,13 +17,14 @@ TEST(LabelPlaces, StepAsideForOutlinesLinesAndEachOther) {
   posti.Riga(0, 8, 5);
   std::vector<Riquadro> all;
   for (const double y : {8.0, 7.9, 5.1, 5.0, 4.9, 0.7, 0.6, 0.5}) {
-    const Riquadro r = posti.Posto({3}, y, 2.5, 0.8);
+    const Riquadro r = posti.Posti({{{3}, y, 2.5, 0.8, {}}})[0];
     EXPECT_TRUE(r.x1 > 4 && (r.y1 >= 5 || r.y2 <= 5)) << y;
     EXPECT_LT(std::fabs((r.y1 + r.y2) / 2 - y), 1.5) << y;
     for (const Riquadro& before : all) EXPECT_FALSE(r.Tocca(before)) << y;
     all.push_back(r);
   }
-  EXPECT_DOUBLE_EQ(posti.Posto({12}, 3, 1, 1).x1, 12);  // nothing there: where it belongs
+  // Nothing there: where it belongs.
+  EXPECT_DOUBLE_EQ(posti.Posti({{{12}, 3, 1, 1, {}}})[0].x1, 12);
 }
 
 bool Cross(const DrawOperation& a, const DrawOperation& b) {
@@ -85,7 +86,7 @@ TEST(LabelPlaces, TextsOfASectionStandFree) {
   EXPECT_EQ(seen, 4 * 3 * 3 * 2 * 10);
 }
 
-// Double T sections from slender ones to a flange of 4 m.
+// Double T sections from slender ones to a flange of 4 m; no line goes through a label either.
 TEST(LabelPlaces, LinesToAreasDoNotCross) {
   Form form("frm", "");
   Lavagna lavagna(form, "Lavagna", 30, 10, 504);
@@ -97,12 +98,21 @@ TEST(LabelPlaces, LinesToAreasDoNotCross) {
       VerificaSezioneT(dati, risultati);
       DisegnaSezioneT(lavagna, dati, risultati, {2600, 97.5}, true);
       std::vector<const DrawOperation*> lines;
+      std::vector<DrawOperation> labels;  // a line through each
+      lavagna.SetFont(8);
       for (const DrawOperation& op : lavagna.Operations()) {
+        const bool right = op.anchor == DrawOperation::Anchor::Right;
+        const auto [x, y] = op.points[0];
+        const double far = x + (right ? -0.9 : 0.9) * lavagna.TextWidth(op.text);
+        if (op.text.ends_with(" cmq."))
+          labels.emplace_back().points = {{x + (right ? -0.1 : 0.1), y}, {far, y + 0.1}};
         if (op.colour != Colour{110, 110, 110} || op.points[0].x > 23) continue;
         for (const DrawOperation* other : lines) EXPECT_FALSE(Cross(op, *other)) << B << " " << M;
         lines.push_back(&op);
       }
       EXPECT_EQ(lines.size(), 4U);
+      for (const DrawOperation& label : labels)
+        for (const DrawOperation* line : lines) EXPECT_FALSE(Cross(*line, label)) << B << " " << M;
     }
 }
 
