@@ -118,7 +118,8 @@ void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
   Taglio taglio{TipoTaglio::Decimali, 0, valore, p.valore};
   DecimaliPercentuale(lire, taglio.decimali, criteri.DecimaliTabelle);
   const int criterio = criteri.DecimaliTabelle;
-  p.catena = {InComune(
+  p.catena.clear();
+  p.catena.push_back(InComune(
       [taglio, criterio, catena = std::move(catena)] {
         Catena passi = catena();
         Passaggio& passo = passi.back();
@@ -127,7 +128,7 @@ void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
         AnnotaTaglio(taglio, passo.note);
         return passi;
       },
-      p.testo)};
+      p.testo));
 }
 
 Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Ragioni ragioni,
