@@ -147,6 +147,12 @@ Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Rag
 
 void Parcella::AnnotaAliquota(const RigaFormula& formula, Passaggio& onorario) {
   constexpr int kTutti = 10;
+  // Most have no more decimals than are shown, or a tail too far behind them to be seen: no text is
+  // made then.
+  const double unita = std::pow(10, formula.decimali);
+  const double vista = std::round(formula.aliquota * unita) / unita;
+  const double coda = formula.aliquota - vista;
+  if (formula.decimali > 0 && coda >= 0 && coda < 1e-11) return;
   const std::string mostrata = FormattaCopia(formula.aliquota, formula.decimali);
   const std::string intera = FormattaCopia(formula.aliquota, kTutti);
   if (mostrata != intera)
