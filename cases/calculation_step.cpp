@@ -15,6 +15,7 @@ Parcella NuovaParcella(RunState& stato) {
   nota.oggi = stato.player.Today();
   nota.scaglioni = ScaglioniCompensi(stato.folder);
   if (stato.memoria.The<SpiegazioniChieste>().si) nota.spiegazioni.Attiva();
+  nota.TotaleGenerale = nota.Zero();
   return nota;
 }
 

@@ -1,5 +1,6 @@
 #include "runtime/text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -41,6 +42,9 @@ bool IsPlainlyUtf8(std::string_view bytes) {
   }
   return found;
 }
+
+// Most of a text: what has one byte, and the same, in Windows-1252 and in UTF-8.
+bool IsTheSameInBoth(char c) { return c >= ' ' && c <= '~'; }
 
 }  // namespace
 
@@ -128,8 +132,11 @@ std::string FromWindows1252(std::string_view bytes) {
     throw RuntimeFailure("Il testo non è in codifica Windows-1252 ma in UTF-8.");
   std::string out;
   out.reserve(bytes.size() + bytes.size() / 8);
-  for (const char raw : bytes) {
-    const auto byte = static_cast<unsigned char>(raw);
+  for (auto at = bytes.begin(); at != bytes.end(); ++at) {
+    const auto other = std::find_if_not(at, bytes.end(), IsTheSameInBoth);
+    out.append(at, other);
+    if ((at = other) == bytes.end()) break;
+    const auto byte = static_cast<unsigned char>(*at);
     const bool control =
         (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
     const char32_t c = byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte;

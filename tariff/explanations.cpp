@@ -118,7 +118,8 @@ void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
   Taglio taglio{TipoTaglio::Decimali, 0, valore, p.valore};
   DecimaliPercentuale(lire, taglio.decimali, criteri.DecimaliTabelle);
   const int criterio = criteri.DecimaliTabelle;
-  p.catena = {InComune(
+  p.catena.clear();
+  p.catena.push_back(InComune(
       [taglio, criterio, catena = std::move(catena)] {
         Catena passi = catena();
         Passaggio& passo = passi.back();
@@ -127,7 +128,7 @@ void Parcella::SpiegaTaglio(Percentuale& p, double lire, double valore,
         AnnotaTaglio(taglio, passo.note);
         return passi;
       },
-      p.testo)};
+      p.testo));
 }
 
 Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Ragioni ragioni,
@@ -146,6 +147,12 @@ Catena Parcella::CatenaOnorario(const Percentuale& P, const Conto& onorario, Rag
 
 void Parcella::AnnotaAliquota(const RigaFormula& formula, Passaggio& onorario) {
   constexpr int kTutti = 10;
+  // Most have no more decimals than are shown, or a tail too far behind them to be seen: no text is
+  // made then.
+  const double unita = std::pow(10, formula.decimali);
+  const double vista = std::round(formula.aliquota * unita) / unita;
+  const double coda = formula.aliquota - vista;
+  if (formula.decimali > 0 && coda >= 0 && coda < 1e-11) return;
   const std::string mostrata = FormattaCopia(formula.aliquota, formula.decimali);
   const std::string intera = FormattaCopia(formula.aliquota, kTutti);
   if (mostrata != intera)

@@ -107,7 +107,7 @@ class Parcella {
 
   // Tells that the amount printed next begins here. A note in Lire ends in Euro.
   void SegnaImporto(TipoImporto tipo, bool inEuro) {
-    stampati.push_back({uscita.Contents().size(), tipo, inEuro});
+    stampati.push_back({static_cast<std::uint32_t>(uscita.Contents().size()), tipo, inEuro});
   }
   // Ends a line with an amount in the currency of the note.
   void StampaCampo(std::string_view testo, TipoImporto tipo, bool inEuro);
@@ -190,7 +190,7 @@ class Parcella {
   template <class Lotto>
   Conto StampaImporti(std::string_view voce, const std::vector<Lotto>& lotti) {
     uscita.Line(kRigaImporti);
-    Conto somma;
+    Conto somma = Zero();
     for (std::size_t i = 0; i < lotti.size(); ++i) {
       uscita.Line(TitoloLotto(i + 1, lotti[i].Classe, lotti[i].Categoria));
       StampaLavori(5, voce, lotti[i].Importo, "IMPORTO");

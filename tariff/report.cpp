@@ -72,6 +72,7 @@ void Parcella::StampaCampo(std::string_view testo, TipoImporto tipo, bool inEuro
 }
 
 void Parcella::ApriParcella(std::string_view frase) {
+  stampati.reserve(64);  // as many as most notes have
   uscita.Tab(15).Line("PARCELLA DELLE COMPETENZE PROFESSIONALI");
   uscita.Tab(3).Line("( Legge 2-marzo-1949 n.° 143 e succes. modifiche ed integrazioni )");
   uscita.Line("dovute da : " + intestazione.Committente);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace orm {
@@ -52,12 +53,12 @@ static_assert(kRigaRivalutazione.size() == kLarghezzaParcella);
 inline constexpr int kColonnaImporto = 56;
 inline constexpr int kColonnaLavori = 48;
 
-enum class TipoImporto { Lavori, Onorari };
+enum class TipoImporto : std::uint8_t { Lavori, Onorari };
 
 // An amount that a report has in its column.
 struct ImportoStampato {
-  std::size_t campo =
-      0;  // where its field begins, with the symbol if it has one: bytes of the report
+  // Where its field begins, with the symbol if it has one: bytes of the report.
+  std::uint32_t campo = 0;
   TipoImporto tipo = TipoImporto::Onorari;
   bool inEuro = false;
 };

@@ -161,7 +161,7 @@ void NotaPdl::Chiudi() {
   StampaRiepilogoPrestazioni("PD", totali);
   for (const Conto& parte : totali)
     if (parte != 0) TotaleGenerale += parte;
-  Conto NonConglobati;
+  Conto NonConglobati = Zero();
   if (SommaArticolo18 > 0 && criteri.CompensiSuMaggiorazione == "NO")
     NonConglobati += SommaArticolo18;
   if (UltimaSorveglianza > 0 && criteri.CompensiSuSorveglianza == "NO")

@@ -43,7 +43,7 @@ class NotaPdl : public Parcella {
   struct Voce {
     const char* regola;
     const Conto& aliquota;
-    Passaggio aliquote;
+    Catena aliquote;
   };
 
   void CalcolaLotto(std::size_t primaRiga, const LottoARighe& lotto);
@@ -64,8 +64,8 @@ class NotaPdl : public Parcella {
   Conto OnorarioSorveglianza(const RigaInCorso& conto);
   double StampaQuota(const Voce& voce, const QuotaImporto& quota);
   // The aliquots of the services done, by their letters; no step where nobody asks.
-  Passaggio PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
-                          std::size_t ultimo, const Conto& aliquota) const;
+  Catena PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
+                       std::size_t ultimo, const Conto& aliquota) const;
   void StampaTitoloArticolo18() { uscita.Line("INCARICO PARZIALE ( art. 18 )"); }
   // `nota`: what a reader would not expect of the amount.
   double OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, bool oltreLimite,
@@ -73,7 +73,7 @@ class NotaPdl : public Parcella {
 
   const DatiPdl& d;
   Conto SommaDirezione;
-  Conto SommaArticolo18;
+  Conto SommaArticolo18 = Zero();
   Conto UltimaSorveglianza;  // of the last row alone
   // Design with art. 18 and variations, supervision with art. 18, surveillance, accounting,
   // revision, certificate.

@@ -8,20 +8,23 @@
 
 namespace orm {
 
-Passaggio NotaPdl::PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
-                                 std::size_t ultimo, const Conto& aliquota) const {
-  if (!spiegazioni.Attive()) return {};
-  return InComune([fatti, primo, ultimo, aliquota, aliquote = conto.aliquote,
-                   classe = conto.riga.Classe, categoria = conto.riga.Categoria]() -> Catena {
-    std::string nomi;
-    for (std::size_t i = primo; i <= ultimo; ++i)
-      if (fatti[i] * aliquote[i] != 0)
-        nomi += (nomi.empty() ? "" : "; ") + std::string(1, kLettereTabellaB[i - 1]) + " - " +
-                kPrestazioniTabellaB[i - 1];
-    return {{"Art. 19, Tabella B, " + ClasseInParole(classe, categoria) +
-                 ", aliquote delle prestazioni " + nomi,
-             aliquota, aliquota.Valore()}};
-  });
+Catena NotaPdl::PassoAliquote(const RigaInCorso& conto, const Aliquote& fatti, std::size_t primo,
+                              std::size_t ultimo, const Conto& aliquota) const {
+  Catena passi;
+  if (!spiegazioni.Attive()) return passi;
+  passi.push_back(
+      InComune([fatti, primo, ultimo, aliquota, aliquote = conto.aliquote,
+                classe = conto.riga.Classe, categoria = conto.riga.Categoria]() -> Catena {
+        std::string nomi;
+        for (std::size_t i = primo; i <= ultimo; ++i)
+          if (fatti[i] * aliquote[i] != 0)
+            nomi += (nomi.empty() ? "" : "; ") + std::string(1, kLettereTabellaB[i - 1]) + " - " +
+                    kPrestazioniTabellaB[i - 1];
+        return {{"Art. 19, Tabella B, " + ClasseInParole(classe, categoria) +
+                     ", aliquote delle prestazioni " + nomi,
+                 aliquota, aliquota.Valore()}};
+      }));
+  return passi;
 }
 
 double NotaPdl::StampaQuota(const Voce& voce, const QuotaImporto& quota) {
@@ -29,7 +32,7 @@ double NotaPdl::StampaQuota(const Voce& voce, const QuotaImporto& quota) {
   return StampaOnorario(
       {.aliquota = voce.aliquota, .percentuale = P, .importo = TestoImporto(importo)},
       importo * P.valore * voce.aliquota / 100 * Coefficiente, [&]() -> Ragioni {
-        return {voce.regola, {voce.aliquote}};
+        return {voce.regola, voce.aliquote};
       });
 }
 
@@ -55,7 +58,7 @@ double NotaPdl::OnorarioArticolo18(const Voce& voce, const QuotaImporto& quota, 
                     ? "Art. 18, incarico parziale: un quarto dell'onorario delle prestazioni svolte"
                     : "Art. 18, incarico parziale: un quarto dell'onorario delle prestazioni "
                       "svolte, senza compensi accessori come dicono i criteri di calcolo",
-                {voce.aliquote},
+                voce.aliquote,
                 nota == nullptr ? std::vector<std::string>{} : std::vector<std::string>{nota}};
       });
   SommaArticolo18 += stampato;
@@ -151,7 +154,7 @@ Conto NotaPdl::OnorarioPerizia(const Voce& voce, const Conto& importo,
                               .importo = TestoImporto(parte)},
                              kPerizie * parte * P.valore * voce.aliquota / 100 * Coefficiente,
                              [&]() -> Ragioni {
-                               return {voce.regola, {voce.aliquote}};
+                               return {voce.regola, voce.aliquote};
                              });
   }
   return totale;
@@ -231,7 +234,7 @@ Conto NotaPdl::OnorarioSorveglianza(const RigaInCorso& conto) {
                               : "Art. 17, sorveglianza: metà dell'aliquota g, sui lavori "
                                 "diretti, senza compensi accessori come dicono i criteri "
                                 "di calcolo",
-                  {PassoAliquote(conto, direzione, 7, 7, aliquota)}};
+                  PassoAliquote(conto, direzione, 7, 7, aliquota)};
         });
   }
   return totale;

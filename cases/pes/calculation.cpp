@@ -28,7 +28,7 @@ void NotaPes::StampaSpecifica() {
 }
 
 void NotaPes::CalcolaCompensi() {
-  Conto somma;
+  Conto somma = Zero();
   for (const BenePes& bene : d.Beni) somma += bene.Valore;
   CompensiSuLavori(somma, "Somma dei valori stimati");
 }

@@ -20,7 +20,7 @@ std::string Percento(double valore) { return FormattaCopia(valore, 2) + "% "; }
 void ContoFinale::StampaTotali(const Conto& onorari, const Conto& compensi) {
   Onorari = nota.IntInLire(onorari);
   Compensi = nota.IntInLire(compensi);
-  const Conto somma = Conto(Onorari) + Compensi;
+  const Conto somma = nota.Zero() + Onorari + Compensi;
   Totale = somma;
   stampa.Line(kRigaTotali);
   stampa.Text("TOTALE (Onorari e Compensi)");
@@ -90,7 +90,7 @@ void ContoFinale::Riduci() {
                                                  : "di onorari e compensi";
     return {PercentualeDiRiduzione(), nota.PassoImporto(std::move(regola), prodotto)};
   });
-  const Conto ridotto = Conto(Totale) - Riduzione;
+  const Conto ridotto = nota.Zero() + Totale - Riduzione;
   Totale = ridotto;
   stampa.Text("TOTALE RIDOTTO");
   Importo(Totale);
@@ -105,7 +105,7 @@ void ContoFinale::Detrai() {
   nota.Spiega([&]() -> Catena {
     return {nota.PassoDatoImporto("Acconti ricevuti", nota.chiusura.Acconti)};
   });
-  netto = Conto(Totale) - Acconti;
+  netto = nota.Zero() + Totale - Acconti;
   Totale = netto;
 }
 
@@ -122,7 +122,7 @@ void ContoFinale::StampaNetto() {
   });
   DecimaliValuta = kDecimaliEuro;
   if (!nota.ModoLire) return;
-  const Conto cambio = Conto(Totale) / kLirePerEuro;
+  const Conto cambio = (nota.Zero() + Totale) / kLirePerEuro;
   const double euro = Totale = LireInEuro(Totale);
   const std::string testo = FormattaNumero(Totale, DecimaliValuta);
   const int inizio = static_cast<int>(kLarghezzaParcella - Characters(testo)) + 1;
@@ -170,10 +170,10 @@ void Parcella::ChiudiParcella(const Conto& onorari, const Conto& compensi, const
 
 void Parcella::ChiudiConCompensi(const Conto& NonConglobati) {
   const double totale = TotaleGenerale;
-  Conto senza;
+  Conto senza = Zero();
   if (Coefficiente != 0)
-    senza = NonConglobati == 0 ? Conto(totale) / Coefficiente
-                               : (Conto(totale) - NonConglobati) / Coefficiente;
+    senza = NonConglobati == 0 ? (Zero() + totale) / Coefficiente
+                               : (Zero() + totale - NonConglobati) / Coefficiente;
   if (NonConglobati != 0) senza += NonConglobati;
   const double onorari = IntInLire(senza);
   Catena prima;
@@ -189,7 +189,7 @@ void Parcella::ChiudiConCompensi(const Conto& NonConglobati) {
              PassoOnorario(regola, senza)};
     if (Coefficiente == 0) prima.back().Annota("Il coefficiente è 0: non c'è nulla da dividere");
   }
-  ChiudiParcella(onorari, Conto(totale) - onorari, prima);
+  ChiudiParcella(onorari, Zero() + totale - onorari, prima);
 }
 
 }  // namespace orm

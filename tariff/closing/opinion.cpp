@@ -22,7 +22,8 @@ Conto Addendi(std::initializer_list<double> importi) {
 }  // namespace
 
 void ContoFinale::CalcolaTassaParere() {
-  contoTassa = Conto(criteri.QuotaPercentualeParere) * Totale / 100 + criteri.QuotaFissaParere;
+  contoTassa =
+      (nota.Zero() + criteri.QuotaPercentualeParere) * Totale / 100 + criteri.QuotaFissaParere;
   TassaParere = contoTassa;
   TestoTassa = "Euro " + FormattaNumero(TassaParere, DecimaliValuta);
 }
