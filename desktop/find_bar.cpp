@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QToolButton>
@@ -102,6 +103,10 @@ void FindBar::SeekAnew() {
 }
 
 void FindBar::Typed() {
+  // A line is pasted with its end, which is no part of any line.
+  static const QRegularExpression ends(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]"));
+  const QString typed = field_->text();
+  if (typed.contains(ends)) return field_->setText(typed.split(ends, Qt::SkipEmptyParts).value(0));
   QTextCursor cursor = text_->Cursor();
   cursor.setPosition(cursor.selectionStart());
   text_->SetCursor(cursor);

@@ -108,17 +108,31 @@ void ViewerWindow::GoToLine(int line) {
 
 void ViewerWindow::ShowBeside(QWidget& panel, bool on) {
   const int first = &panel == sections_ ? kSectionsWidth : kExplanationsWidth;
-  const int width = (on ? first : panel.width()) + side_->handleWidth();
   if (on == panel.isHidden() && !isMaximized() && !isFullScreen()) {
-    // The page keeps its room as far as the screen goes.
-    const int most = screen()->availableSize().width() - kRoomAround;
-    const int wanted = on ? std::min(size().width() + width, std::max(most, size().width()))
-                          : std::max(size().width() - width, minimumSizeHint().width());
-    resize(wanted, height());
+    // The page keeps its room as far as the screen goes, and gets back what it had.
+    const int before = size().width();
+    const int most = std::max(before, screen()->availableSize().width() - kRoomAround);
+    const auto grown = grown_.try_emplace(&panel, panel.width() + side_->handleWidth()).first;
+    if (on) grown->second = std::min(first + side_->handleWidth(), most - before);
+    resize(
+        on ? before + grown->second : std::max(before - grown->second, minimumSizeHint().width()),
+        height());
   }
+  const bool whole = page_->ShowsWholeSheet();
   panel.setVisible(on);
+  side_->refresh();
+  if (on && whole && !page_->Fits()) MakeRoomBeside();
+  if (!SectionsShown() && !ExplanationsShown() && page_->Zoom() == zoomBeside_)
+    page_->SetZoom(zoomAlone_);
   (on ? panel : *page_).setFocus();
   ShowState();
+}
+
+// A sheet that was seen whole stays so: the amounts stand at its right edge.
+void ViewerWindow::MakeRoomBeside() {
+  if (page_->Zoom() != zoomBeside_) zoomAlone_ = page_->Zoom();
+  while (!page_->ShowsWholeSheet() && page_->Zoom() > kLeastReadable) page_->ZoomBy(-1);
+  zoomBeside_ = page_->Zoom();
 }
 
 void ViewerWindow::ShowSections(bool on) { ShowBeside(*sections_, on); }
@@ -195,7 +209,8 @@ void ViewerWindow::TakeHabits(const QSettings& settings) {
 }
 
 void ViewerWindow::KeepHabits(QSettings& settings) const {
-  settings.setValue(QStringLiteral("zoom"), page_->Zoom());
+  settings.setValue(QStringLiteral("zoom"),
+                    page_->Zoom() == zoomBeside_ ? zoomAlone_ : page_->Zoom());
   settings.setValue(QStringLiteral("fit"), page_->Fits());
   settings.setValue(QStringLiteral("sections"), SectionsShown());
   settings.setValue(QStringLiteral("side"), side_->saveState());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <string>
 
 #include "desktop/viewer/commands.h"
@@ -100,6 +101,7 @@ class ViewerWindow : public QMainWindow {
   void FollowFile();
   void GoToLine(int line);
   void ShowBeside(QWidget& panel, bool on);
+  void MakeRoomBeside();
   void BuildExplanations();
   void Explain();
   void ExplainEdits();  // those that still wait for their pause
@@ -137,6 +139,8 @@ class ViewerWindow : public QMainWindow {
   std::string asked_;   // the newer bytes that the notice bar asks about
   bool editable_ = true;
   Theme theme_ = Theme::System;
+  std::map<const QWidget*, int> grown_;  // by how much the window grew for each panel
+  int zoomAlone_ = 0, zoomBeside_ = 0;   // before a panel took of its room, and since then
   FileWatch watch_;
 };
 

@@ -457,6 +457,14 @@ TEST_F(ViewerTest, OpensGoesAndFitsByKeys) {
 }
 
 // The chain of the line of the cursor, by keys alone; found, copied, and gone with Esc.
+struct PaintedRegion : QObject {
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion region;
+};
+
 TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
   const WorkFolder sources(ORM_SOURCE_DIR);
   for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
@@ -474,7 +482,14 @@ TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
   key(Qt::Key_F4);
   ASSERT_TRUE(panel->isVisible() && window.Page().hasFocus());
   EXPECT_EQ(heading->text(), "Nessuna spiegazione");
+  // The line that is explained stands out in its whole width, on the screen too.
+  PaintedRegion painted;
+  QTest::qWait(20);
+  window.Page().viewport()->installEventFilter(&painted);
   key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return painted.region.boundingRect().width() >= window.Page().viewport()->width(); },
+      500));
   EXPECT_EQ(heading->text(), "Numero Partite catastali : 2");
   while (!heading->text().startsWith("n° 2 x") && window.Page().LineOfCursor() < 30)
     key(Qt::Key_Down);
@@ -489,6 +504,11 @@ TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
   QTest::keyClicks(field, "2 x 106.000 =");
   EXPECT_EQ(window.findChild<QLabel*>("findCount")->text(), "1 di 1, nelle spiegazioni");
   EXPECT_EQ(panel->findChild<QTextEdit*>()->textCursor().selectedText(), "2 x 106.000 =");
+  QApplication::clipboard()->setText("PARCELLA\n");  // a line as it is copied
+  for (const Qt::Key letter : {Qt::Key_A, Qt::Key_V})
+    QTest::keyClick(field, letter, Qt::ControlModifier);
+  EXPECT_EQ(field->text(), "PARCELLA");
+  EXPECT_NE(window.findChild<QLabel*>("findCount")->text(), "Nessun risultato");
   QTest::keyClick(field, Qt::Key_Escape);
   key(Qt::Key_Escape);
   EXPECT_FALSE(panel->isVisible());
@@ -670,6 +690,15 @@ TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
   EXPECT_FALSE(window.Page().document()->isUndoAvailable());
   window.findChild<QAction*>("normal")->trigger();
   EXPECT_EQ(window.Page().SheetWidth(), before);
+
+  // Beside a panel too, as long as it is open.
+  window.FitToSheet();
+  const int alone = window.Page().Zoom();
+  for (const bool beside : {true, false}) {
+    window.findChild<QAction*>("showSections")->trigger();
+    EXPECT_EQ(window.Page().horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(window.Page().Zoom() < alone, beside);
+  }
 }
 
 TEST(ViewerItalian, OwnCaptionsReplaceThoseOfTheToolkit) {

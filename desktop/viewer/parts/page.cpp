@@ -37,6 +37,10 @@ ViewerPage::ViewerPage(QWidget* parent) : QPlainTextEdit(parent), columns_(kRepo
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   UpdateColours();
   SetZoom(100);
+  // The text's own widget paints no more than the cursor anew.
+  connect(this, &QPlainTextEdit::cursorPositionChanged, viewport(), [this] {
+    if (showMarked_) viewport()->update();
+  });
 }
 
 void ViewerPage::SetText(const std::string& text) {

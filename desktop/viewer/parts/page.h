@@ -38,6 +38,7 @@ class ViewerPage : public QPlainTextEdit {
 
   // Width of the whole sheet at the present zoom, in pixels.
   int SheetWidth() const;
+  bool ShowsWholeSheet() const { return SheetWidth() <= Room(); }
 
  protected:
   bool event(QEvent* event) override;
