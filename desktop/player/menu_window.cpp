@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
@@ -46,6 +47,8 @@ MenuWindow::MenuWindow(MainWindow& window) : window_(window) {
   setObjectName("frmGEN_Main");
   qApp->installEventFilter(this);
   setWindowTitle(ToQt(window.Title()).trimmed());
+  // Two jobs have windows of one title: a task bar tells them apart by their folders.
+  setWindowIconText(QDir::current().dirName());
   setCentralWidget(new PictureArea);
   passing_ = new QLabel(centralWidget());
   passing_->setObjectName("archiviata");
