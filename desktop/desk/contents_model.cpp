@@ -110,7 +110,9 @@ QVariant ContentsModel::headerData(int section, Qt::Orientation orientation, int
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue<Qt::Alignment>(Qt::AlignVCenter |
-                                              (section == Net ? Qt::AlignRight : Qt::AlignLeft));
+                                              (section == Net        ? Qt::AlignRight
+                                               : section == Currency ? Qt::AlignHCenter
+                                                                     : Qt::AlignLeft));
   if (role != Qt::DisplayRole) return {};
   const QString captions[] = {"Parcella o testo", "Valuta",       "Committente",  "Oggetto",
                               "Che cosa c'è",     "Calcolata il", "Importo netto"};

@@ -1,10 +1,33 @@
 #include "desktop/desk/desk_view.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 
+#include "desktop/dress/look.h"
+
 namespace orm {
+namespace {
+
+class ColumnWithRoom : public QObject {
+ public:
+  ColumnWithRoom(QTableView& table, int column, int characters)
+      : QObject(&table), table_(table), column_(column), characters_(characters) {
+    table.installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*table*/, QEvent* event) override {
+    if (event->type() == QEvent::Resize)
+      table_.setColumnHidden(column_, table_.width() < CharactersWide(table_, characters_));
+    return false;
+  }
+
+ private:
+  QTableView& table_;
+  int column_, characters_;
+};
+
+}  // namespace
 
 QLabel* DeskLabel(const char* name) {
   auto* label = new QLabel;
@@ -28,8 +51,13 @@ void DressDeskTable(QTableView& table, const char* name, const QString& accessib
   // One height for all: ten thousand rows are not measured.
   table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 8);
+  table.horizontalHeader()->setTextElideMode(Qt::ElideRight);
   table.horizontalHeader()->setHighlightSections(false);
   table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void ShowWithRoom(QTableView& table, int column, int characters) {
+  new ColumnWithRoom(table, column, characters);
 }
 
 }  // namespace orm

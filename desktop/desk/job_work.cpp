@@ -78,7 +78,8 @@ bool MakeNewJob(DeskWindow& window, const QString& proposed) {
 
 void OpenJob(DeskWindow& window) {
   if (window.Job().isEmpty()) return;
-  switch (OpenIn(ToQt(window.Folder()), window.start)) {
+  const ProgramStart start = [&window](const auto&... what) { return window.Start(what...); };
+  switch (OpenIn(ToQt(window.Folder()), start)) {
     case Opened::Started:
       return window.Say(QStringLiteral("Apro ORM2002 in \"%1\"...").arg(window.Job()));
     case Opened::BroughtForward:
@@ -184,7 +185,7 @@ void AskRoot(DeskWindow& window) {
 }
 
 void ShowHelp(DeskWindow& window) {
-  if (!window.start(QStringLiteral("orm2002-guida"), {QStringLiteral("manuale/lavori.md")}, {}))
+  if (!window.Start(QStringLiteral("orm2002-guida"), {QStringLiteral("manuale/lavori.md")}, {}))
     window.Say(
         QStringLiteral("La guida non si può aprire: orm2002-guida non è accanto al programma."));
 }

@@ -103,7 +103,9 @@ QVariant JobsModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant JobsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole && section == Notes) return Qt::AlignCenter;
+  if (role != Qt::DisplayRole) return {};
   const QString captions[] = {"Lavoro", "Parcelle", "Ultima modifica"};
   return captions[section];
 }

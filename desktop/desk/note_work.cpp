@@ -60,7 +60,7 @@ void ShowReport(DeskWindow& window) {
     return window.Say(QStringLiteral(
         "Di questa parcella non c'è ancora la relazione: la scrive \"Calcolo\" in ORM2002."));
   const QString folder = ToQt(window.Folder());
-  if (!window.start(QStringLiteral("orm2002-visore"), {folder + '/' + ToQt(file)}, folder))
+  if (!window.Start(QStringLiteral("orm2002-visore"), {folder + '/' + ToQt(file)}, folder))
     Tell(&window, QMessageBox::Warning, QStringLiteral("Il visore non si può far partire."),
          QStringLiteral("Il programma orm2002-visore non è accanto a orm2002-lavori."), kDeskName);
 }

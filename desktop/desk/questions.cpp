@@ -55,21 +55,27 @@ std::optional<QString> AskName(QWidget* parent, const NameOfJob& question) {
   column->addWidget(field);
   column->addWidget(refusal);
   QLabel* note = DeskLabel("note");
-  note->setText(question.note);
+  note->setText(Foldable(question.note));
   note->setVisible(!question.note.isEmpty());
   column->addWidget(note);
   QPushButton* button = AddButtons(dialog, question.button);
+  const auto typed = [field] {
+    QString name = field->text();
+    for (QChar& letter : name)  // a line is pasted with its end
+      if (letter.unicode() < ' ' || letter == QChar::LineSeparator) letter = ' ';
+    return name.trimmed();
+  };
   const auto look = [&] {
-    const QString name = field->text().trimmed();
+    const QString name = typed();
     const QString why = name.isEmpty() ? QString() : question.refusal(name);
-    refusal->setText(why);
+    refusal->setText(Foldable(why));
     button->setEnabled(!name.isEmpty() && why.isEmpty());
   };
   QObject::connect(field, &QLineEdit::textChanged, &dialog, look);
   look();
   field->selectAll();
   if (dialog.exec() != QDialog::Accepted) return {};
-  return field->text().trimmed();
+  return typed();
 }
 
 std::optional<int> AskOneOf(QWidget* parent, const QString& title, const QString& button,

@@ -14,6 +14,7 @@
 #include "desktop/desk/questions.h"
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
+#include "desktop/viewer/messages.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -60,6 +61,7 @@ VersionsWindow::VersionsWindow(QWidget* parent, std::string folder, const Parcel
 
 void VersionsWindow::Build() {
   list_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  list_->horizontalHeaderItem(1)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   list_->setColumnWidth(1, CharactersWide(*list_, 18));
   list_->setMinimumWidth(CharactersWide(*list_, 44));
   for (const int column : {1, 2, 3})
@@ -87,7 +89,8 @@ void VersionsWindow::Build() {
   back_->setObjectName(QStringLiteral("back"));
   back_->setDefault(true);
   QLabel* head = DeskLabel("head");
-  head->setText(ToQt(note_.nome + "\n" + note_.committente + "\n" + note_.oggetto).trimmed());
+  head->setText(
+      Foldable(ToQt(note_.nome + "\n" + note_.committente + "\n" + note_.oggetto).trimmed()));
   auto* column = new QVBoxLayout(this);
   column->addWidget(head);
   column->addLayout(tables, 1);
@@ -152,7 +155,7 @@ void VersionsWindow::Compare() {
     }
     if (found.empty()) compared_->setText(QStringLiteral("Nessuna differenza."));
   } catch (const RuntimeFailure& failure) {
-    compared_->setText(ToQt(failure.Text()));
+    compared_->setText(Foldable(ToQt(failure.Text())));
   }
 }
 

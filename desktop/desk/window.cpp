@@ -5,12 +5,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "desktop/desk/contents_model.h"
@@ -20,6 +22,7 @@
 #include "desktop/desk/note_work.h"
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
+#include "desktop/viewer/messages.h"
 #include "runtime/failure.h"
 
 namespace orm {
@@ -86,6 +89,7 @@ QWidget* DeskWindow::JobsSide() {
   sought_->setAccessibleName(sought_->placeholderText());
   sought_->setClearButtonEnabled(true);
   DressDeskTable(*jobsView_, "jobs", QStringLiteral("Lavori"));
+  ShowWithRoom(*jobsView_, JobsModel::Day, 40);
   ShowModel();
   auto* side = new QWidget;
   auto* column = new QVBoxLayout(side);
@@ -94,6 +98,15 @@ QWidget* DeskWindow::JobsSide() {
   column->addWidget(found_);
   connect(sought_, &QLineEdit::textChanged, this, [this] { Narrow(); });
   connect(sought_, &QLineEdit::returnPressed, jobsView_, [this] { jobsView_->setFocus(); });
+  const auto onKey = [this](Qt::Key key, const std::function<void()>& work) {
+    const auto* keys = new QShortcut(key, sought_, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(keys, &QShortcut::activated, this, work);
+  };
+  onKey(Qt::Key_Down, [this] { jobsView_->setFocus(); });
+  onKey(Qt::Key_Escape, [this] {
+    sought_->clear();
+    jobsView_->setFocus();
+  });
   connect(jobsView_, &QTableView::activated, this, [this] { OpenJob(*this); });
   return side;
 }
@@ -103,12 +116,13 @@ QWidget* DeskWindow::ContentsSide() {
   contentsView_->setModel(contents_);
   QHeaderView* header = contentsView_->horizontalHeader();
   header->setMinimumSectionSize(CharactersWide(*contentsView_, 6));
-  const int widths[] = {0, 7, 0, 0, 20, 11, 14};  // characters; 0: a share of what is left
+  const int widths[] = {0, 7, 0, 0, 0, 11, 14};  // characters; 0: a share of what is left
   for (int i = 0; i < ContentsModel::Columns; ++i)
     if (widths[i] > 0)
       header->resizeSection(i, CharactersWide(*contentsView_, widths[i]));
     else
       header->setSectionResizeMode(i, QHeaderView::Stretch);
+  ShowWithRoom(*contentsView_, ContentsModel::Day, 72);
   QFont bold = jobTitle_->font();
   bold.setBold(true);
   bold.setPointSizeF(bold.pointSizeF() * 1.2);
@@ -191,7 +205,7 @@ void DeskWindow::Look() {
 
 void DeskWindow::Narrow() {
   listing_ = true;
-  jobs_->Seek(sought_->text());
+  jobs_->Seek(sought_->text().simplified());  // a line is pasted with its end
   listing_ = false;
   SearchOn();
   GoTo(job_);
@@ -248,13 +262,13 @@ void DeskWindow::ShowJob() {
     why = ToQt(failure.Text());
   }
   contents_->Show(job);
-  jobTitle_->setText(job_);
+  jobTitle_->setText(Foldable(job_));
   jobTitle_->setToolTip(job_.isEmpty() ? QString() : ToQt(Folder()));
   if (contents_->rowCount() > 0) contentsView_->selectRow(0);
   MarkFound();
   Watch();
   ShowState();
-  if (!why.isEmpty()) jobState_->setText(why);
+  if (!why.isEmpty()) jobState_->setText(Foldable(why));
 }
 
 // The note that is sought is the one chosen.
@@ -271,8 +285,9 @@ void DeskWindow::ShowPages() {
                 "Qui staranno i lavori, ciascuno in una cartella con le sue parcelle.\n\n"
                 "Il primo si fa con il pulsante, oppure trascinando qui i file di "
                 "ORM2002, un archivio ZIP o una parcella in JSON.\n\nCartella dei lavori: %1")
-                .arg(settings_.Root())
-          : QStringLiteral("La cartella dei lavori non si può leggere.\n\n") + unreadable_);
+                .arg(Foldable(settings_.Root()))
+          : QStringLiteral("La cartella dei lavori non si può leggere.\n\n") +
+                Foldable(unreadable_));
   const bool was = pages_->currentIndex() == 1;
   pages_->setCurrentIndex(empty ? 1 : 0);
   if (empty) findChild<QPushButton*>(QStringLiteral("firstJob"))->setFocus();

@@ -1,6 +1,7 @@
 // The desk: the jobs on the left, on the right what is in the one that is chosen.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QFileSystemWatcher>
 #include <QMainWindow>
 #include <QTimer>
@@ -39,7 +40,9 @@ class DeskWindow : public QMainWindow {
   std::string Folder() const;
   int Row() const;  // of the contents; -1: none
 
-  // Starts the programs beside this one.
+  // Starts a program beside this one. True too while the same one is being started: Enter is hit
+  // twice, and the first has not taken its folder yet.
+  bool Start(const QString& name, const QStringList& arguments, const QString& folder);
   ProgramStart start = StartProgram;
 
   // Shows another root.
@@ -85,7 +88,9 @@ class DeskWindow : public QMainWindow {
   QStackedWidget* pages_;
   DeskMenus menus_;
   QString job_;
-  QString unreadable_;                     // why the root cannot be read
+  QString unreadable_;  // why the root cannot be read
+  QString starting_;    // the program started last
+  QElapsedTimer started_;
   bool listing_ = false, listed_ = false;  // just now; ever
   QFileSystemWatcher watcher_;
   QTimer pause_, searching_, useCheck_;

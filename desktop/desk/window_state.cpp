@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <algorithm>
 
 #include "desktop/desk/contents_model.h"
 #include "desktop/desk/job_work.h"
@@ -18,7 +19,9 @@
 namespace orm {
 namespace {
 constexpr int kMessageStays = 9000;  // milliseconds
-}
+constexpr int kStarting = 3000;      // milliseconds that a program takes at most
+constexpr int kRoomAround = 20;      // pixels that a new window leaves free at its sides
+}  // namespace
 
 // ---------------------------------------------------------------- what is shown of it
 
@@ -50,6 +53,15 @@ void DeskWindow::Seek() {
 }
 
 void DeskWindow::Say(const QString& text) { statusBar()->showMessage(text, kMessageStays); }
+
+bool DeskWindow::Start(const QString& name, const QStringList& arguments, const QString& folder) {
+  const QString wanted = (QStringList{name, folder} + arguments).join('\n');
+  if (wanted == starting_ && !started_.hasExpired(kStarting)) return true;
+  const bool starts = start(name, arguments, folder);
+  starting_ = starts ? wanted : QString();
+  started_.start();
+  return starts;
+}
 
 void DeskWindow::Watch() {
   QStringList wanted = {settings_.Root()};
@@ -87,9 +99,11 @@ void DeskWindow::dropEvent(QDropEvent* event) {
 void DeskWindow::TakeHabits() {
   const QSize room = screen()->availableSize();
   if (!restoreGeometry(settings_.State("finestra")))
-    resize(QSize(CharactersWide(*this, 160), 680).boundedTo(room * 0.9));
+    resize(QSize(CharactersWide(*this, 160), 680)
+               .boundedTo({room.width() - kRoomAround, room.height() * 9 / 10}));
+  const int jobs = std::min(CharactersWide(*this, 46), width() / 3);
   if (!splitter_->restoreState(settings_.State("divisione")))
-    splitter_->setSizes({CharactersWide(*this, 42), width() - CharactersWide(*this, 42)});
+    splitter_->setSizes({jobs, width() - jobs});
 }
 
 void DeskWindow::KeepHabits() {

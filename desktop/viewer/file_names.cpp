@@ -3,6 +3,7 @@
 
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QScreen>
 #include <QTreeView>
 #include <map>
 
@@ -18,6 +19,7 @@ QStringList ChosenIn(QFileDialog& dialog, const QString& accept) {
   if (const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
     for (const int column : {1, 2, 3})
       files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+  dialog.resize(dialog.size().boundedTo(dialog.screen()->availableSize() * 0.9));
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 

@@ -8,17 +8,35 @@
 namespace orm {
 namespace {
 
+constexpr int kLongestWord = 24;  // characters that stay together
+
 // A file may have a name that looks like a page of the web.
 void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
-  box.setInformativeText(detail);
+  box.setInformativeText(Foldable(detail));
   for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
 }
 
 }  // namespace
 
+QString Foldable(const QString& text) {
+  QString folds;
+  int letters = 0;
+  for (const QChar letter : text) {
+    const bool goesOn = letter.isLowSurrogate() || letter.isMark();
+    letters = letter.isSpace() ? 0 : letters + 1;
+    if (letters > kLongestWord && !goesOn) {
+      folds += QChar(0x200B);  // a blank of no width
+      letters = 1;
+    }
+    folds += letter;
+  }
+  return folds;
+}
+
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail,
           const char* program) {
-  QMessageBox box(icon, QString::fromLatin1(program), text, QMessageBox::NoButton, parent);
+  QMessageBox box(icon, QString::fromLatin1(program), Foldable(text), QMessageBox::NoButton,
+                  parent);
   ShowLetterForLetter(box, detail);
   box.setDefaultButton(box.addButton(QStringLiteral("&Chiudi"), QMessageBox::AcceptRole));
   box.exec();
@@ -26,8 +44,8 @@ void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QS
 
 int Choose(QWidget* parent, const QString& text, const QString& detail, const QStringList& buttons,
            int byDefault, const char* program) {
-  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), text, QMessageBox::NoButton,
-                  parent);
+  QMessageBox box(QMessageBox::Question, QString::fromLatin1(program), Foldable(text),
+                  QMessageBox::NoButton, parent);
   ShowLetterForLetter(box, detail);
   QList<QPushButton*> made;
   for (const QString& caption : buttons) {

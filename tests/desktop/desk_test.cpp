@@ -1,5 +1,6 @@
 // The desk of the jobs, with real keys: what a person does with them, and what comes from outside.
 #include <QAction>
+#include <QClipboard>
 #include <QDir>
 #include <QDropEvent>
 #include <QHeaderView>
@@ -57,7 +58,8 @@ class Desk : public testing::Test {
   static void MustHold(const QWidget& window) {
     for (const std::string& fault : LintWindow(window)) ADD_FAILURE() << fault;
   }
-  // Types the name that the next question asks, over the one that it proposes.
+  // Pastes the name that the next question asks, over the one that it proposes, and leaves it where
+  // it is refused.
   void Answer(const QString& name) {
     QTimer::singleShot(10, &here, [this, name] {
       const QWidget* front = QApplication::activeModalWidget();
@@ -66,8 +68,11 @@ class Desk : public testing::Test {
       if (field == nullptr) field = front->findChild<QLineEdit*>("sought");
       if (field == nullptr) return Answer(name);  // a question before it
       MustHold(*front);
-      QTest::keyClicks(field, name);
+      QApplication::clipboard()->setText(name);
+      if (!name.isEmpty()) QTest::keyClick(field, Qt::Key_V, kCtrl);
+      if (const auto* label = front->findChild<QLabel*>("refusal")) refused = label->text();
       QTest::keyClick(field, Qt::Key_Return);
+      if (front->isVisible()) QTest::keyClick(field, Qt::Key_Escape);
     });
   }
   void KeyAndName(int key, Qt::KeyboardModifiers with, const QString& name) {
@@ -116,6 +121,7 @@ class Desk : public testing::Test {
   DeskSettings settings;
   std::unique_ptr<DeskWindow> window;
   QObject here;
+  QString refused;  // why the last name was
 };
 
 constexpr const char* kRoad = R"(
@@ -384,6 +390,47 @@ TEST_F(Desk, CommandsHaveKeysAndNothingIsCutOff) {
       EXPECT_GE(header.sectionSize(i), header.sectionSizeHint(i)) << name << i;
     EXPECT_LE(header.length(), Table(name).viewport()->width()) << name;
   }
+}
+
+// As badly as people type, by the keyboard alone.
+TEST_F(Desk, TakesNoHarmFromHastyKeys) {
+  const QString longest(150, 'M');
+  const struct {
+    QString typed, why, job;
+  } names[] = {{"   ", "", ""},
+               {"a/b", "Il nome si scrive senza", ""},
+               {QString(300, 'x'), "Il nome è troppo lungo", ""},
+               {"  Città è ü \r\n", "", "Città è ü"},
+               {"Prima riga\nseconda\n", "", "Prima riga seconda"},
+               {"Città è ü", "C'è già un lavoro", "Prima riga seconda"},
+               {longest, "", longest}};
+  for (const auto& [typed, why, job] : names) {
+    NewJob(typed);
+    EXPECT_EQ(window->Job(), job) << FromQt(typed);
+    EXPECT_TRUE(why.isEmpty() ? refused.isEmpty() : refused.startsWith(why)) << FromQt(refused);
+  }
+  // The longest name folds, and the columns share what room there is.
+  WriteNote(longest);
+  window->Look();
+  window->resize(700, 480);
+  Pass();
+  EXPECT_EQ(window->width(), 700);
+  for (const char* name : {"jobs", "contents"})
+    EXPECT_LE(Table(name).horizontalHeader()->length(), Table(name).viewport()->width()) << name;
+  int started = 0;
+  window->start = [&](auto&&...) { return ++started > 0; };
+  for (int i = 0; i < 3; ++i) Key(Qt::Key_Return);
+  EXPECT_EQ(started, 1);
+  Key(Qt::Key_F, kCtrl);
+  QApplication::clipboard()->setText("CITTA\n");
+  Key(Qt::Key_V, kCtrl);
+  EXPECT_EQ(Names(), QStringList{"Città è ü"});
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(Names().size() == 3 && Table("jobs").hasFocus());
+  QDir(settings.Root()).rename("Città è ü", "Altrove");  // by another program
+  Person person{QString()};
+  KeyAndName(Qt::Key_F2, {}, "Terzo");
+  EXPECT_TRUE(person.Said().startsWith("Il lavoro non è stato rinominato."));
 }
 
 // What the manual shows of it is kept where tools/pictures says.
