@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include "desktop/qt_text.h"
+
 // In a static library, from which only what is called for is linked.
 static void LoadItalian() { Q_INIT_RESOURCE(resources); }
 
@@ -30,6 +32,18 @@ constexpr auto kCaptions = std::to_array<Caption>({
      "trattino. Per esempio 3,5-7,9 stampa le pagine 3, 5, 6, 7 e 9."},
 });
 
+// Names of keys as they stand on an Italian keyboard, and in the manual; Qt's Italian differs.
+constexpr auto kKeys = std::to_array<Caption>(
+    {{"Shift", "Maiusc"}, {"PgDown", "Pag giù"}, {"PgUp", "Pag su"}, {"Home", "Inizio"}});
+
+template <std::size_t N>
+QString ItalianOf(const std::array<Caption, N>& captions, std::string_view english) {
+  const auto* found =
+      std::find_if(captions.begin(), captions.end(),
+                   [english](const Caption& caption) { return caption.english == english; });
+  return found == captions.end() ? QString() : ToQt(found->italian);
+}
+
 }  // namespace
 
 ItalianCaptions::ItalianCaptions(QObject* parent) : QTranslator(parent) {
@@ -39,15 +53,11 @@ ItalianCaptions::ItalianCaptions(QObject* parent) : QTranslator(parent) {
 
 QString ItalianCaptions::translate(const char* context, const char* source,
                                    const char* disambiguation, int number) const {
+  const QString key =
+      std::string_view(context) == "QShortcut" ? ItalianOf(kKeys, source) : QString();
+  if (!key.isNull()) return key;
   QString known = QTranslator::translate(context, source, disambiguation, number);
-  if (!known.isNull()) return known;
-  const auto* found =
-      std::find_if(kCaptions.begin(), kCaptions.end(),
-                   [source](const Caption& caption) { return caption.english == source; });
-  return found == kCaptions.end()
-             ? QString()
-             : QString::fromUtf8(found->italian.data(),
-                                 static_cast<qsizetype>(found->italian.size()));
+  return known.isNull() ? ItalianOf(kCaptions, source) : known;
 }
 
 }  // namespace orm

@@ -217,7 +217,8 @@ void DeskWindow::SearchOn() {
   const int shown = jobs_->rowCount();
   const auto all = Jobs().Voci().size();
   QString text = sought_->text().trimmed().isEmpty() ? QStringLiteral("%1 lavori").arg(all)
-                 : shown == 1 ? QStringLiteral("Trovato 1 lavoro su %1").arg(all)
+                 : shown == 0 && ended ? QStringLiteral("Nessun lavoro trovato su %1").arg(all)
+                 : shown == 1          ? QStringLiteral("Trovato 1 lavoro su %1").arg(all)
                               : QStringLiteral("Trovati %1 lavori su %2").arg(shown).arg(all);
   if (all == 1 && sought_->text().trimmed().isEmpty()) text = QStringLiteral("1 lavoro");
   if (!ended) text += QStringLiteral(" - cerco ancora...");

@@ -705,6 +705,7 @@ TEST(ViewerItalian, OwnCaptionsReplaceThoseOfTheToolkit) {
   const ItalianCaptions captions;
   EXPECT_EQ(captions.translate("QPlatformTheme", "Cancel", nullptr, -1), "Annulla");
   EXPECT_EQ(captions.translate("QPrintPropertiesWidget", "Advanced", nullptr, -1), "Avanzate");
+  EXPECT_EQ(captions.translate("QShortcut", "Shift", nullptr, -1), "Maiusc");
   EXPECT_TRUE(captions.translate("QPlatformTheme", "unknown", nullptr, -1).isNull());
 }
 
