@@ -4,11 +4,10 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 
 namespace orm {
 namespace {
-
-constexpr int kLongestWord = 24;  // characters that stay together
 
 // A file may have a name that looks like a page of the web.
 void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
@@ -18,19 +17,9 @@ void ShowLetterForLetter(QMessageBox& box, const QString& detail) {
 
 }  // namespace
 
-QString Foldable(const QString& text) {
-  QString folds;
-  int letters = 0;
-  for (const QChar letter : text) {
-    const bool goesOn = letter.isLowSurrogate() || letter.isMark();
-    letters = letter.isSpace() ? 0 : letters + 1;
-    if (letters > kLongestWord && !goesOn) {
-      folds += QChar(0x200B);  // a blank of no width
-      letters = 1;
-    }
-    folds += letter;
-  }
-  return folds;
+QString Foldable(QString text) {
+  static const QRegularExpression tooLong(QStringLiteral("([^\\s/]{24})(?=[^\\s/\\p{M}])"));
+  return text.replace(tooLong, QStringLiteral("\\1\u200B"));  // a blank of no width
 }
 
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail,

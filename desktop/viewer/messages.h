@@ -11,7 +11,7 @@ inline constexpr int kStatusMilliseconds = 6000;  // of a word in the status bar
 
 // The text with places to fold in words that are longer than any of the language: of names of files
 // and folders, which would make their window wider than the screen.
-QString Foldable(const QString& text);
+QString Foldable(QString text);
 
 // Shows a message with one button. `program` is the title.
 void Tell(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& detail = {},

@@ -1,5 +1,6 @@
 // The desktop player as a whole: message boxes, life of a form, menus, texts with looks, drawings.
 #include <QAbstractButton>
+#include <QDir>
 #include <QImage>
 #include <QLabel>
 #include <QMenuBar>
@@ -219,6 +220,7 @@ class SampleWindow : public MainWindow {
 TEST(MenuWindow, MenusOpenByKeyAndCommandsAreChosen) {
   SampleWindow window;
   MenuWindow shown(window);
+  EXPECT_EQ(shown.windowIconText(), QDir::current().dirName());  // which of two jobs
   shown.ActivateOnceShown();
   shown.show();
   QTest::qWait(20);
