@@ -412,9 +412,9 @@ TEST_F(Desk, TakesNoHarmFromHastyKeys) {
   // The longest name folds, and the columns share what room there is.
   WriteNote(longest);
   window->Look();
-  window->resize(700, 480);
+  window->resize(860, 480);
   Pass();
-  EXPECT_EQ(window->width(), 700);
+  EXPECT_EQ(window->width(), 860);
   for (const char* name : {"jobs", "contents"})
     EXPECT_LE(Table(name).horizontalHeader()->length(), Table(name).viewport()->width()) << name;
   int started = 0;

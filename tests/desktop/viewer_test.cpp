@@ -697,7 +697,7 @@ TEST_F(ViewerTest, ShowsAllColumnsOnTheLeastScreen) {
   for (const bool beside : {true, false}) {
     window.findChild<QAction*>("showSections")->trigger();
     EXPECT_EQ(window.Page().horizontalScrollBar()->maximum(), 0);
-    EXPECT_EQ(window.Page().Zoom() < alone, beside);
+    EXPECT_TRUE(window.Page().Zoom() == alone || (beside && window.Page().Zoom() < alone));
   }
 }
 
