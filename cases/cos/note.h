@@ -58,8 +58,8 @@ class NotaCos : public Parcella {
   const DatiCos& d;
   const TariffaCos& tariffa;
   const double TotaleInLire;
-  Conto OnorarioBase;
-  double variazioni = 0, revisione = 0;
+  Conto OnorarioBase = Zero();
+  Conto variazioni = Zero(), revisione = Zero();
 };
 
 }  // namespace orm

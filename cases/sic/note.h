@@ -64,7 +64,7 @@ class NotaSic : public Parcella {
   double BaseDi(const Gruppo& gruppo, bool progetto) const;
   PercentualiTabellaA PercentualeDiLotto(const Lotto& lotto, bool progetto) const;
   Fattori FattoriDi(const Lotto& lotto, std::size_t p) const;
-  double OnorarioFase(const Fase& fase);
+  Conto OnorarioFase(const Fase& fase);
   ContoLotto ContoDi(const Fase& fase, const Lotto& lotto) const;
   std::vector<Termine> Termini(const Fase& fase, const ContoLotto& conto) const;
   Conto Prodotto(const QuotaImporto& quota, double aliquota, double maggiorazioni,
@@ -77,8 +77,8 @@ class NotaSic : public Parcella {
   Passaggio PassoIncrementi(const Lotto& lotto, std::size_t p) const;
   Ragioni RagioniDi(const Fase& fase, const Lotto& lotto, const ContoLotto& conto) const;
   double Conteggio(const Fase& fase) const;
-  double StampaLotti(const Fase& fase);
-  double StampaLotto(const Fase& fase, const Lotto& lotto);
+  Conto StampaLotti(const Fase& fase);
+  Conto StampaLotto(const Fase& fase, const Lotto& lotto);
   std::string StampaFattori(const Fase& fase, const Lotto& lotto, const ContoLotto& conto);
   void StampaPercentualiDi(const Fase& fase, const Lotto& lotto, const ContoLotto& conto);
 

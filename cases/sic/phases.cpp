@@ -156,16 +156,16 @@ double NotaSic::Conteggio(const Fase& fase) const {
   return risultato;
 }
 
-double NotaSic::OnorarioFase(const Fase& fase) {
+Conto NotaSic::OnorarioFase(const Fase& fase) {
   uscita.Line(Middle(fase.prestazione.titolo, 4));
   double risultato = Conteggio(fase);
   const bool minimo = fase.prestazione.progetto ? OnorarioMinimoFase(fase, risultato)
                                                 : OnorarioMinimoEsecuzione(fase, risultato);
-  return minimo ? risultato : StampaLotti(fase);
+  return minimo ? Zero() + risultato : StampaLotti(fase);
 }
 
-double NotaSic::StampaLotti(const Fase& fase) {
-  double risultato = 0;
+Conto NotaSic::StampaLotti(const Fase& fase) {
+  Conto risultato = Zero();
   for (const Lotto& lotto : lotti)
     if (Impegnato(lotto, fase.p)) risultato += StampaLotto(fase, lotto);
   return risultato;
@@ -189,9 +189,9 @@ void NotaSic::StampaPercentualiDi(const Fase& fase, const Lotto& lotto, const Co
       conto.percentuali, g.ProgettoGruppo, 38, regola);
 }
 
-double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
+Conto NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
   const ContoLotto conto = ContoDi(fase, lotto);
-  if (conto.importo == 0) return 0;
+  if (conto.importo == 0) return Zero();
   const double aliquota = fase.prestazione.aliquota;
   uscita.Line("  " + TitoloLotto(lotto.numero, lotto.dati.Classe, lotto.dati.Categoria) + "      " +
               NomePeriodoTariffario(lotto.periodo));
@@ -205,7 +205,7 @@ double NotaSic::StampaLotto(const Fase& fase, const Lotto& lotto) {
   std::vector<std::string> importi;
   for (const Termine& termine : termini) importi.push_back(TestoImporto(termine.quota.importo));
   if (importi.size() == 2) PareggiaStringhe(importi[0], importi[1]);
-  double onorario = 0;
+  Conto onorario = Zero();
   for (std::size_t i = 0; i < termini.size(); ++i)
     onorario += StampaOnorario({.inizio = "    ",
                                 .percentualePrima = true,

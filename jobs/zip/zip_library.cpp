@@ -13,8 +13,9 @@ ZipCalls Carica() {
   const auto chiamata = [libreria](const char* nome) {
     void* const posto = libreria == nullptr ? nullptr : ::dlsym(libreria, nome);
     if (posto == nullptr)
-      throw RuntimeFailure("Gli archivi ZIP non si possono usare: sul sistema manca " ORM_LIBZIP
-                           ".");
+      throw RuntimeFailure(
+          "Gli archivi ZIP non si possono usare: questa libreria manca, o non si può leggere.")
+          .AtFile(ORM_LIBZIP);
     return posto;
   };
 #define ORM_ZIP_CALL(name) reinterpret_cast<decltype(&::zip_##name)>(chiamata("zip_" #name)),

@@ -1,6 +1,7 @@
 #include "structures/truss_slab/drawing.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -105,16 +106,19 @@ void DisegnaMonconi(Lavagna& lavagna, const BarraDisegnata& lungo, const BarraDi
   DisegnaMoncone(lavagna, corto, faccia, verso, kShortStubs, x, scala);
 }
 
+// The bars come after all names, whose rims would nick the bar above.
 void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
-  double y = kSpanBars;
-  for (const BarraDisegnata& barra : figura.campata) {
-    if (barra.campata == 0) continue;
-    lavagna.SetColour(kBlack);
-    lavagna.DrawText(kLarghezzaDisegno / 2, y + kAboveBar, barra.etichetta, Anchor::Above);
-    DisegnaFerro(lavagna, scala.X((figura.luce - barra.campata) / 2),
-                 scala.X((figura.luce + barra.campata) / 2), y);
-    y -= kBarStep;
-  }
+  std::vector<BarraDisegnata> barre;
+  std::ranges::copy_if(figura.campata, std::back_inserter(barre),
+                       [](const BarraDisegnata& barra) { return barra.campata != 0; });
+  const auto quota = [](std::size_t i) { return kSpanBars - static_cast<double>(i) * kBarStep; };
+  lavagna.SetColour(kBlack);
+  for (std::size_t i = 0; i < barre.size(); ++i)
+    lavagna.DrawText(kLarghezzaDisegno / 2, quota(i) + kAboveBar, barre[i].etichetta,
+                     Anchor::Above);
+  for (std::size_t i = 0; i < barre.size(); ++i)
+    DisegnaFerro(lavagna, scala.X((figura.luce - barre[i].campata) / 2),
+                 scala.X((figura.luce + barre[i].campata) / 2), quota(i));
 }
 
 // The faces of the supports go through all bars, so that one sees what lies in the supports; the

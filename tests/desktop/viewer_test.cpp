@@ -43,6 +43,13 @@ class ViewerTest : public testing::Test {
   std::string Read(const std::string& name) const {
     return WorkFolder(folder_.path().toStdString()).Read(name);
   }
+  // The example's data and the report that they give.
+  void WriteSample() const {
+    const WorkFolder sources(ORM_SOURCE_DIR);
+    for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
+      Write(name, sources.Read(std::string("data/sample/") + name));
+    Write("OUT_PPE.DOC", sources.Read("tests/scripts/ppe/lire.DOC"));
+  }
   QTemporaryDir folder_;
 };
 
@@ -456,7 +463,6 @@ TEST_F(ViewerTest, OpensGoesAndFitsByKeys) {
   EXPECT_EQ(window.findChild<QAction*>("help")->shortcut(), QKeySequence(Qt::Key_F1));
 }
 
-// The chain of the line of the cursor, by keys alone; found, copied, and gone with Esc.
 struct PaintedRegion : QObject {
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
@@ -465,11 +471,9 @@ struct PaintedRegion : QObject {
   QRegion region;
 };
 
+// The chain of the line of the cursor, by keys alone; found, copied, and gone with Esc.
 TEST_F(ViewerTest, ExplainsTheLineOfTheCursor) {
-  const WorkFolder sources(ORM_SOURCE_DIR);
-  for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
-    Write(name, sources.Read(std::string("data/sample/") + name));
-  Write("OUT_PPE.DOC", sources.Read("tests/scripts/ppe/lire.DOC"));
+  WriteSample();
   ViewerWindow window;
   window.Open(PathOf("OUT_PPE.DOC"));
   window.show();
@@ -551,10 +555,7 @@ TEST_F(ViewerTest, ExplainsAsInTheManual) {
 // The note for other programs, by the keys of the menu: what orm2002-calcolo writes, and what is
 // told of it.
 TEST_F(ViewerTest, CopiesTheNoteForOtherPrograms) {
-  const WorkFolder sources(ORM_SOURCE_DIR);
-  for (const char* name : {"UTENTE.DAG", "INT_PPE.DAP", "INP_PPE.DAP"})
-    Write(name, sources.Read(std::string("data/sample/") + name));
-  Write("OUT_PPE.DOC", sources.Read("tests/scripts/ppe/lire.DOC"));
+  WriteSample();
   ViewerWindow window;
   window.Open(PathOf("OUT_PPE.DOC"));
   window.show();

@@ -10,6 +10,7 @@
 #include "jobs/job_commands.h"
 #include "jobs/job_zip.h"
 #include "jobs/note_versions.h"
+#include "jobs/zip/zip_library.h"
 #include "runtime/failure.h"
 #include "tests/faults/followed.h"
 
@@ -19,6 +20,7 @@ int main(int count, char** words) {
   if (orm::WorkFolder(root).Exists("Nuovo")) return 0;
   const auto note = orm::LeggiLavoro(root, "Uno").parcelle.at(0);
   const auto versions = orm::VersioniDi(one, note);
+  orm::LibZip();  // the loader's calls are no part of a command
   BeFollowed();
   try {
     if (what == "nuovo") orm::NuovoLavoro(root, "Nuovo", "Uno", orm::WorkFolder(root));

@@ -65,7 +65,7 @@ else
 fi
 
 # Two users on a shared folder: group and mode stay, so that each goes on after the other.
-if [ "$(id -u)" = 0 ]; then
+if [ "$(id -u)" = 0 ] && setpriv --reuid=60001 --regid=60001 --clear-groups "$calcolo" --help >/dev/null 2>&1; then
   sample_folder "$at"
   chgrp -R 60000 "$at" && chmod 2770 "$at" && chmod 660 "$at"/*
   for user in 60001 60002 60001; do
