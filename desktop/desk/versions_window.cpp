@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/desk/desk_view.h"
@@ -146,6 +147,9 @@ void VersionsWindow::Compare() {
     const std::vector<Differenza> found = Confronta(
         folder_, note_, *chosen, versions_[static_cast<std::size_t>(other_->currentIndex())]);
     differences_->setRowCount(static_cast<int>(found.size()));
+    // Only a note of rows or lots says where.
+    differences_->setColumnHidden(
+        0, std::ranges::all_of(found, [](const Differenza& one) { return one.dove.empty(); }));
     for (int row = 0; row < differences_->rowCount(); ++row) {
       const Differenza& one = found[static_cast<std::size_t>(row)];
       SetCell(*differences_, row, 0, one.dove);
