@@ -53,8 +53,7 @@ ItalianCaptions::ItalianCaptions(QObject* parent) : QTranslator(parent) {
 
 QString ItalianCaptions::translate(const char* context, const char* source,
                                    const char* disambiguation, int number) const {
-  QString key =
-      std::string_view(context) == "QShortcut" ? ItalianOf(kKeys, source) : QString();
+  QString key = std::string_view(context) == "QShortcut" ? ItalianOf(kKeys, source) : QString();
   if (!key.isNull()) return key;
   QString known = QTranslator::translate(context, source, disambiguation, number);
   return known.isNull() ? ItalianOf(kCaptions, source) : known;

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "desktop/controls/balloon.h"
 #include "desktop/player/form_builder.h"
@@ -126,6 +127,8 @@ void FormDialog::Refit() {
   const int title = titleBar.horizontalAdvance(windowTitle()) + kTitleButtons;
   wanted.setWidth(std::max(wanted.width(), title));
   least_ = wanted - spare;
+  // A screen whose scale is no whole number may round the window down to its own points.
+  if (devicePixelRatioF() != std::floor(devicePixelRatioF())) wanted += QSize(1, 1);
   if (wanted == fitted_) return;
   Fit(wanted);
   if (shown_) KeepOnScreen();

@@ -8,8 +8,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <cmath>
 #include <set>
 
 #include "desktop/player/form_dialog.h"
@@ -112,6 +114,17 @@ void LintRoom(const FormDialog& dialog, Faults& faults) {
                      FromQt(QString("%1x%2").arg(whole.width()).arg(whole.height())));
 }
 
+// A screen of broken scale may round a window down: its last point must not be one of the content,
+// or bars come up.
+void LintRounding(const FormDialog& dialog, Faults& faults) {
+  if (dialog.devicePixelRatioF() == std::floor(dialog.devicePixelRatioF())) return;
+  const auto* area = dialog.findChild<QScrollArea*>();
+  const QSize free = area->viewport()->size() - area->widget()->layout()->totalMinimumSize();
+  const QSize room = dialog.screen()->availableSize() - FormDialog::kFrame - dialog.size();
+  if ((free.width() < 1 && room.width() > 0) || (free.height() < 1 && room.height() > 0))
+    faults.push_back("la finestra non ha un punto di margine per l'arrotondamento");
+}
+
 bool HasName(const QWidget& field, const QWidget& window) {
   if (const auto* button = dynamic_cast<const QAbstractButton*>(&field))
     return !button->text().isEmpty() || !button->accessibleName().isEmpty();
@@ -175,6 +188,7 @@ std::vector<std::string> LintForm(const FormDialog& dialog) {
   LintOrder(dialog, faults);
   LintHeading(dialog, faults);
   LintRoom(dialog, faults);
+  LintRounding(dialog, faults);
   return faults;
 }
 
