@@ -109,6 +109,12 @@ void FormDialog::ChainFocus() {
 
 QSize FormDialog::Room() const { return screen()->availableSize() - kFrame; }
 
+// A screen whose scale is no whole number may round a window down to its own points.
+QSize FormDialog::LostInRounding() const {
+  const bool broken = devicePixelRatioF() != std::floor(devicePixelRatioF());
+  return broken ? QSize(1, 1) : QSize(0, 0);
+}
+
 void FormDialog::Refit() {
   refit_ = false;
   // From the inmost frame outward, as each tells the one around it what it needs.
@@ -127,8 +133,7 @@ void FormDialog::Refit() {
   const int title = titleBar.horizontalAdvance(windowTitle()) + kTitleButtons;
   wanted.setWidth(std::max(wanted.width(), title));
   least_ = wanted - spare;
-  // A screen whose scale is no whole number may round the window down to its own points.
-  if (devicePixelRatioF() != std::floor(devicePixelRatioF())) wanted += QSize(1, 1);
+  wanted += LostInRounding();
   if (wanted == fitted_) return;
   Fit(wanted);
   if (shown_) KeepOnScreen();
@@ -144,7 +149,7 @@ void FormDialog::Fit(const QSize& wanted) {
   if (first)
     resize(wanted.boundedTo(Room()));
   else if (!isMaximized())
-    resize(size().expandedTo(minimumSize()));
+    resize(size().expandedTo((least_ + LostInRounding()).boundedTo(Room())));
 }
 
 void FormDialog::KeepOnScreen() {

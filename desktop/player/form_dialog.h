@@ -58,6 +58,7 @@ class FormDialog : public QDialog, public FormView, public FormHost {
   void KeepOnScreen();
   void SettleDefault();
   QSize Room() const;  // of the screen, within the frame of a window
+  QSize LostInRounding() const;
 
   Form& form_;
   std::map<const Control*, std::unique_ptr<ControlView>> views_;
