@@ -155,6 +155,56 @@ Calcestruzzo MomentoCls(const DatiSezione& z, double asse, bool inerzia) {
   return c;
 }
 
+// ---------------------------------------------------------------- circles
+
+Passaggio Angolo(std::string regola, double valore, const char* unita) {
+  return {.regola = std::move(regola), .conto = "", .risultato = valore, .unita = unita};
+}
+
+// Of a circle by its half angle, under the names of its diameter and of the angle.
+std::string FormulaSegmento(const std::string& D, const std::string& a) {
+  return D + "⁴ (" + a + " (1 + 4 cos²" + a + ") / 64 - (15 - 2 sen²" + a + ") sen " + a + " cos " +
+         a + " / 192)";
+}
+
+std::string FormulaParte(ParteInerzia::Quale quale) {
+  switch (quale) {
+    case ParteInerzia::Quale::Segmento:
+      return "Segmento compresso, " + FormulaSegmento("D", "α");
+    case ParteInerzia::Quale::Foro:
+      return "Foro sopra l'asse, " + FormulaSegmento("Di", "β");
+    case ParteInerzia::Quale::Acciaio:
+      return "Acciaio, n volte: gli anelli, D² cos²α ΣA / 4 + Σ Da² A / 8, e i gruppi, Σ A (d - "
+             "x)²";
+    case ParteInerzia::Quale::TolteDalForo:
+      return "Foro tutto compresso, termine che si toglie, (Di / 2)⁴ π / 64";
+    default:
+      return "Foro tutto compresso, termine che si aggiunge, π (Di / 2)² (D / 4 - D cos α / 2)²";
+  }
+}
+
+// Part by part, then their sum.
+Catena InerziaCircolare(const DatiCircolare& z, double t) {
+  Catena catena{Angolo("Seno di α", std::sin(t), ""), Angolo("Coseno di α", std::cos(t), "")};
+  Conto J;
+  for (const ParteInerzia& parte : PartiInerzia(t, z)) {
+    if (parte.quale == ParteInerzia::Quale::Foro) {
+      const double u = SemiangoloForo(t, z);
+      catena.push_back(
+          Angolo("Semiangolo β della stessa corda nel foro, cos β = cos α D / Di", u, "rad"));
+      catena.push_back(Angolo("Seno di β", std::sin(u), ""));
+      catena.push_back(Angolo("Coseno di β", std::cos(u), ""));
+    }
+    const Conto valore = Annota(catena, FormulaParte(parte.quale), parte.conto, "cm4");
+    parte.toglie ? J -= valore.Valore() : J += valore.Valore();
+  }
+  Annota(catena,
+         "Momento d'inerzia della sezione reagente rispetto all'asse neutro, J, somma delle "
+         "parti",
+         J, "cm4");
+  return catena;
+}
+
 }  // namespace
 
 CateneFlessione SpiegaSezioneT(const DatiSezione& dati, const RisultatiSezione& risultati,
@@ -193,60 +243,6 @@ CateneFlessione SpiegaSezioneT(const DatiSezione& dati, const RisultatiSezione& 
        .unita = "cm4"}};
   return Catene(p);
 }
-
-namespace {
-
-Passaggio Angolo(std::string regola, double valore, const char* unita) {
-  return {.regola = std::move(regola), .conto = "", .risultato = valore, .unita = unita};
-}
-
-// Of a circle by its half angle, under the names of its diameter and of the angle.
-std::string FormulaSegmento(const std::string& D, const std::string& a) {
-  return D + "⁴ (" + a + " (1 + 4 cos²" + a + ") / 64 - (15 - 2 sen²" + a + ") sen " + a + " cos " +
-         a + " / 192)";
-}
-
-const char* FormulaParte(ParteInerzia::Quale quale) {
-  static const std::string segmento = "Segmento compresso, " + FormulaSegmento("D", "α"),
-                           foro = "Foro sopra l'asse, " + FormulaSegmento("Di", "β");
-  switch (quale) {
-    case ParteInerzia::Quale::Segmento:
-      return segmento.c_str();
-    case ParteInerzia::Quale::Foro:
-      return foro.c_str();
-    case ParteInerzia::Quale::Acciaio:
-      return "Acciaio, n volte: gli anelli, D² cos²α ΣA / 4 + Σ Da² A / 8, e i gruppi, Σ A (d - "
-             "x)²";
-    case ParteInerzia::Quale::TolteDalForo:
-      return "Foro tutto compresso, termine che si toglie, (Di / 2)⁴ π / 64";
-    default:
-      return "Foro tutto compresso, termine che si aggiunge, π (Di / 2)² (D / 4 - D cos α / 2)²";
-  }
-}
-
-// Part by part, then their sum.
-Catena InerziaCircolare(const DatiCircolare& z, double t) {
-  Catena catena{Angolo("Seno di α", std::sin(t), ""), Angolo("Coseno di α", std::cos(t), "")};
-  Conto J;
-  for (const ParteInerzia& parte : PartiInerzia(t, z)) {
-    if (parte.quale == ParteInerzia::Quale::Foro) {
-      const double u = SemiangoloForo(t, z);
-      catena.push_back(
-          Angolo("Semiangolo β della stessa corda nel foro, cos β = cos α D / Di", u, "rad"));
-      catena.push_back(Angolo("Seno di β", std::sin(u), ""));
-      catena.push_back(Angolo("Coseno di β", std::cos(u), ""));
-    }
-    const Conto valore = Annota(catena, FormulaParte(parte.quale), parte.conto, "cm4");
-    parte.toglie ? J -= valore.Valore() : J += valore.Valore();
-  }
-  Annota(catena,
-         "Momento d'inerzia della sezione reagente rispetto all'asse neutro, J, somma delle "
-         "parti",
-         J, "cm4");
-  return catena;
-}
-
-}  // namespace
 
 CateneFlessione SpiegaSezioneC(const DatiCircolare& z, const RisultatiCircolare& risultati,
                                const TensioniAmmissibili& ammesse) {

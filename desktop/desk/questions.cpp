@@ -59,12 +59,8 @@ std::optional<QString> AskName(QWidget* parent, const NameOfJob& question) {
   note->setVisible(!question.note.isEmpty());
   column->addWidget(note);
   QPushButton* button = AddButtons(dialog, question.button);
-  const auto typed = [field] {
-    QString name = field->text();
-    for (QChar& letter : name)  // a line is pasted with its end
-      if (letter.unicode() < ' ' || letter == QChar::LineSeparator) letter = ' ';
-    return name.trimmed();
-  };
+  // A line is pasted with its end.
+  const auto typed = [field] { return field->text().simplified(); };
   const auto look = [&] {
     const QString name = typed();
     const QString why = name.isEmpty() ? QString() : question.refusal(name);

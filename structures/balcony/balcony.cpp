@@ -55,9 +55,9 @@ struct Equilibrio {
 
   // What a person reads; a slab that nothing overturns has nothing to be held against.
   Catena Spiega(const char* ribaltante, const char* stabilizzante) {
+    if (Mr == 0) return {};
     Annota(passi, ribaltante, Mr, "Kg x m");
     Annota(passi, stabilizzante, Ms, "Kg x m");
-    if (Mr == 0) return {};
     const Conto grado = Conto(Ms.Valore()) / Mr.Valore();
     passi.push_back(
         PassoMostrato("Grado di sicurezza, Ms / Mr", grado.Testo(), grado, "", kModelloStabilita));
