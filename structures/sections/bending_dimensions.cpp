@@ -31,16 +31,20 @@ double DisegnoFlessione::QuotaNome(const QuotaSezione& quota) const {
   return quota.a == H_ ? Y(H_) - line / 2 : middle;
 }
 
+// From the edge of the section at a depth to a line on the left of it.
+void DisegnoFlessione::Richiamo(double profondita, double x) {
+  const auto edges = tratti_(std::clamp(profondita, 0.0, H_));
+  const double y = Y(profondita);
+  quote_.Richiamo({edges.empty() ? X(W_ / 2) : X(edges.front().da), y}, {x, y});
+}
+
 // Measures one below the other on a line; small ones have their names stepping aside.
 void DisegnoFlessione::Catena(double x, const std::vector<QuotaSezione>& quote) {
   std::vector<double> middles;
   for (const QuotaSezione& quota : quote) middles.push_back(QuotaNome(quota));
   const auto names = QuoteEtichette(middles, lavagna_.LineHeight(), false, 0, 9);
   for (std::size_t i = 0; i < quote.size(); ++i) {
-    for (const double depth : {quote[i].da, quote[i].a}) {
-      const auto edges = tratti_(std::clamp(depth, 0.0, H_));
-      quote_.Richiamo({edges.empty() ? X(W_ / 2) : X(edges.front().da), Y(depth)}, {x, Y(depth)});
-    }
+    for (const double depth : {quote[i].da, quote[i].a}) Richiamo(depth, x);
     quote_.Riga({x, Y(quote[i].da)}, {x, Y(quote[i].a)});
   }
   for (std::size_t i = 0; i < quote.size(); ++i)
@@ -51,9 +55,17 @@ void DisegnoFlessione::QuoteVerticali(const QuotaSezione& altezza,
                                       const std::vector<QuotaSezione>& copriferri,
                                       const std::vector<QuotaSezione>& spessori) {
   lavagna_.SetFont(kSmall);
-  const double x = sinistra_ + kBeforeHeight, from = spessori.empty() ? kCovers : kThicknesses;
-  for (const double depth : {altezza.da, altezza.a})
-    quote_.Richiamo({from, Y(depth)}, {x, Y(depth)});
+  const double x = sinistra_ + kBeforeHeight;
+  for (const double depth : {altezza.da, altezza.a}) {
+    // Goes on from the chain that reaches this edge, if one does.
+    const auto reaches = [depth](const QuotaSezione& q) { return q.da == depth || q.a == depth; };
+    if (std::ranges::any_of(spessori, reaches))
+      quote_.Richiamo({kThicknesses, Y(depth)}, {x, Y(depth)});
+    else if (std::ranges::any_of(copriferri, reaches))
+      quote_.Richiamo({kCovers, Y(depth)}, {x, Y(depth)});
+    else
+      Richiamo(depth, x);
+  }
   quote_.Riga({x, Y(altezza.da)}, {x, Y(altezza.a)});
   lavagna_.SetHalo(true);
   Catena(kThicknesses, spessori);

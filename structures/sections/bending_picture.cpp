@@ -17,6 +17,7 @@ namespace {
 constexpr double kLeft = -4.6, kLeftOfFlanges = -7.4, kBottom = -1.6, kRight = 32.4, kTop = 11.4;
 constexpr double kTitle = 10.9, kSecondLine = 9.9;  // middle of what stands above the drawing
 constexpr double kSample = 18.6;                    // of the legend
+constexpr double kNameOfAxis = 13;                  // where it begins
 constexpr double kHatchStep = 0.2;
 constexpr const char* kAsseNeutro = "asse neutro";
 
@@ -77,7 +78,7 @@ DisegnoFlessione::DisegnoFlessione(Lavagna& lavagna, double H, double W, bool sp
       Sc_(ScalaDisegno(H, W)),
       sinistra_(spessori ? kLeftOfFlanges : kLeft),
       tratti_(std::move(tratti)),
-      posti_(0.5, 9, 22.9,  // where the stresses begin
+      posti_(-0.4, 9, 22.9,  // above what stands at the foot, left of where the stresses begin
              [this](double y) {
                std::vector<double> edges;
                const double depth = H_ - (y - 1) * Sc_;
@@ -146,15 +147,18 @@ void DisegnoFlessione::AsseNeutro(double profondita) {
   lavagna_.SetColour(kBlue);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
-  lavagna_.DrawLine(0.4, y, 15.6, y);
-  posti_.Riga(0.4, 15.6, y);
+  const double end = std::max(15.6, X(W_) + 0.5);
+  lavagna_.DrawLine(0.4, y, end, y);
+  posti_.Riga(0.4, end, y);
 }
 
-// Above the line at 13; where a wide section or a stress stands there, the nearest free place, in
-// the section or out of it.
+// Above the line at 13, or at the end of the line of a section that reaches as far; where a stress
+// stands there, the nearest free place, in the section or out of it.
 PostiEtichette::Richiesta DisegnoFlessione::NomeAsse() const {
-  const double width = lavagna_.TextWidth(kAsseNeutro), within = X(W_) - width - 0.3;
-  return {{13, within}, Y(asse_) + 0.8, width, 0.9 * lavagna_.LineHeight(), {}};
+  const double width = lavagna_.TextWidth(kAsseNeutro), height = 0.9 * lavagna_.LineHeight();
+  const double within = X(W_) - width - 0.3;
+  if (X(W_) > kNameOfAxis) return {{X(W_) + 0.8, within}, Y(asse_), width, height, {}};
+  return {{kNameOfAxis, within}, Y(asse_) + 0.8, width, height, {}};
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,

@@ -76,6 +76,7 @@ class DisegnoFlessione {
                  const TensioniAmmissibili& ammesse, double y);
   double QuotaNome(const QuotaSezione& quota) const;
   PostiEtichette::Richiesta NomeAsse() const;
+  void Richiamo(double profondita, double x);
   void Catena(double x, const std::vector<QuotaSezione>& quote);
   void ScriviTensioni(const std::vector<TensioneDisegnata>& tensioni,
                       const TensioniAmmissibili& ammesse, bool compresse, bool versoAlto);

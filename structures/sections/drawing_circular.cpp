@@ -32,7 +32,7 @@ struct Gruppo {
 // The bars of a ring, evenly from its top on; groups of different diameters mix evenly too.
 void DrawBars(Lavagna& lavagna, const Point& centre, double radius, double Sc,
               const std::vector<BarGroup>& groups) {
-  constexpr double kLeast = 0.07;  // units: a bar that is seen
+  constexpr double kLeast = 0.07;  // units: a bar that is seen, unless it would touch the next one
   struct Bar {
     double order;
     int diameter;
@@ -42,6 +42,8 @@ void DrawBars(Lavagna& lavagna, const Point& centre, double radius, double Sc,
     for (int i = 0; i < count; ++i) bars.push_back({(i + 0.5) / count, diameter});
   std::stable_sort(bars.begin(), bars.end(),
                    [](const Bar& a, const Bar& b) { return a.order < b.order; });
+  const double apart = 2 * std::numbers::pi * radius / static_cast<double>(bars.size());
+  const double least = std::min(kLeast, apart / 5);
   lavagna.SetColour(kBlack);
   lavagna.SetStroke(Stroke::Solid);
   lavagna.SetWidth(1);
@@ -49,7 +51,7 @@ void DrawBars(Lavagna& lavagna, const Point& centre, double radius, double Sc,
     const double angle =
         2 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(bars.size());
     lavagna.DrawDisc(centre.x + radius * std::sin(angle), centre.y + radius * std::cos(angle),
-                     std::max(kLeast, bars[i].diameter / 20.0 / Sc));
+                     std::max(least, bars[i].diameter / 20.0 / Sc));
   }
 }
 

@@ -30,7 +30,7 @@ void HorizontalMeasure(Lavagna& lavagna, double x1, double x2, double y, const s
   lavagna.DrawLine(x1, y, x2, y);
   lavagna.DrawLine(x1, y - 0.2, x1, y + 0.2);
   lavagna.DrawLine(x2, y - 0.2, x2, y + 0.2);
-  lavagna.DrawText(x2 + 0.4, y + 0.3, name);
+  lavagna.DrawText(x2 + 0.4, y, name, Anchor::Left);
 }
 
 void SchemaMeasures(Lavagna& lavagna, const FormaT& forma) {

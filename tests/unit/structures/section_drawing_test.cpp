@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "dialogs/form.h"
 
@@ -49,6 +51,53 @@ TEST(SectionDrawing, OnlyAFailingStressIsRedAndDashed) {
   EXPECT_EQ(red(2600), 0);
   EXPECT_EQ(red(risultati.massimo), 1);  // equal to its limit
   EXPECT_EQ(red(0), 0);                  // nothing to draw against
+}
+
+// What a section shows once it is verified.
+std::vector<DrawOperation> Drawn(const DatiSezione& dati) {
+  Form form("frm", "");
+  Lavagna lavagna(form, "Lavagna", 30, 10, 504);  // as the dialog has it
+  RisultatiSezione risultati;
+  VerificaSezioneT(dati, risultati);
+  DisegnaSezioneT(lavagna, dati, risultati, {2600, 97.5}, true);
+  return lavagna.Operations();
+}
+
+TEST(SectionDrawing, NoLineToALabelGoesThroughAnotherOne) {
+  DatiSezione eight{30, 30, 30, 80, 0, 0, {}, 4e6};
+  eight.strati = {{{6.28, 3},
+                   {6.28, 6},
+                   {37.7, 9},
+                   {9.42, 68},
+                   {9.42, 71},
+                   {18.1, 74},
+                   {63.33, 77},
+                   {4.62, 40}}};
+  const auto drawn = Drawn(eight);
+  for (const DrawOperation& line : drawn)
+    for (const DrawOperation& text : drawn) {
+      if (line.kind != DrawOperation::Kind::Line || line.colour != Colour{110, 110, 110}) continue;
+      if (!text.text.ends_with(" cmq.")) continue;
+      const Point &from = line.points[0], &to = line.points[1], &label = text.points[0];
+      if (from.x > label.x + 0.5 || to.x < label.x + 0.5) continue;
+      const double at = from.y + (to.y - from.y) * (label.x + 0.5 - from.x) / (to.x - from.x);
+      EXPECT_GT(std::fabs(at - label.y), 0.3) << text.text;
+    }
+}
+
+TEST(SectionDrawing, TheAxisOfAWideSectionReachesOutToItsName) {
+  const auto drawn = Drawn({400, 30, 150, 90, 12, 14, {{{6, 3}, {6, 77}}}, 3e6});
+  double right = 0, axis = 0, name = 0;
+  for (const DrawOperation& op : drawn) {
+    if (op.kind == DrawOperation::Kind::Polygon && op.points.size() == 12)
+      for (const Point& p : op.points) right = std::max(right, p.x);
+    const bool blue = op.colour == Colour{0, 0, 255};
+    if (blue && op.kind == DrawOperation::Kind::Line) axis = op.points[1].x;
+    if (blue && op.kind == DrawOperation::Kind::Text) name = op.points[0].x;
+  }
+  EXPECT_GT(right, 13);
+  EXPECT_GT(axis, right + 0.3);
+  EXPECT_GT(name, axis);
 }
 
 }  // namespace
