@@ -350,8 +350,11 @@ TEST_F(Desk, AJobInUseSaysSoAndItsWindowIsCalled) {
     EXPECT_TRUE(person.Said().startsWith("Il lavoro \"Uno\" è in uso."));
   }
   bool met = false;
-  const Meeting meeting(MeetingPlaceOfFolder(settings.Root() + "/Uno"),
-                        [&met](const QString&) { met = true; });
+  const QString place = MeetingPlaceOfFolder(settings.Root() + "/Uno");
+  const Meeting meeting(place, [&met](const QString&) { met = true; });
+  constexpr auto others =
+      QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+  EXPECT_TRUE(QFile::exists(place) && !(QFile::permissions(place) & others));
   Key(Qt::Key_O, kCtrl);
   EXPECT_TRUE(QTest::qWaitFor([&] { return met; }));
 }

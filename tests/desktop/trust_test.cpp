@@ -29,6 +29,7 @@ class Person : public DesktopPlayer {
     asked = box.text;
     EXPECT_TRUE(box.buttons == MessageBox::Buttons::Ok ||
                 static_cast<QPushButton*>(ButtonOf(shown, Answer::No))->isDefault());
+    EXPECT_EQ(shown.textFormat(), Qt::PlainText);  // names of files are shown letter for letter
     shown.open();
     QAbstractButton* button = ButtonOf(shown, answer);
     QTest::mouseClick(button == nullptr ? ButtonOf(shown, Answer::Ok) : button, Qt::LeftButton);
