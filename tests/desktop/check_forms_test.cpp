@@ -296,14 +296,23 @@ TEST_F(Checks, PanelsOfLoadsHaveKeysOfTheirOwn) {
     Press(dialog, "optPavimento(3)");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(form.fraSovraccarichi.IsShown() && form.IsOpen());
+    // Enter is not the button that was pressed last, in another panel.
+    Press(dialog, "cmdSpecifica(4)");
+    Press(dialog, "cmdAzzera(4)");
+    Press(dialog, "Commando(4)");
+    Press(dialog, "cmdSpecifica(6)");
+    Press(dialog, "optSoffitto(0)");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(form.fraSovraccarichi.IsShown());
+    EXPECT_EQ(form.Totale(), 100);
     Press(dialog, "cmdSpecifica(5)");
     Write(dialog, "cdSpessore", "4");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
     EXPECT_TRUE(form.fraSovraccarichi.IsShown() && form.IsOpen());
-    EXPECT_EQ(form.Totale(), 70);
+    EXPECT_EQ(form.Totale(), 100);
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(form.IsOpen());
-    EXPECT_EQ(form.Totale(), 70);
+    EXPECT_EQ(form.Totale(), 100);
   };
   player_.Show(CarichiPermanenti(stato_));
 }
