@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QPainterPath>
+#include <QResource>
 
 // The pictures lie in a static library, from which only what is called for is linked.
 static void LoadPictures() { Q_INIT_RESOURCE(resources); }
@@ -30,9 +31,16 @@ QIcon ProgramIcon() {
 
 QPixmap MainPicture(double pixelRatio) {
   LoadPictures();
+  if (pixelRatio <= 1) {
+    const QResource points(QStringLiteral(":/immagine-1.argb"));
+    constexpr int kWidth = 560;
+    return QPixmap::fromImage({points.data(), kWidth,
+                               static_cast<int>(points.size()) / (4 * kWidth),
+                               QImage::Format_ARGB32_Premultiplied});
+  }
   // Twice as many points serve every greater ratio.
-  QPixmap picture(pixelRatio > 1 ? ":/immagine-2.png" : ":/immagine-1.png");
-  if (pixelRatio > 1) picture.setDevicePixelRatio(2);
+  QPixmap picture(QStringLiteral(":/immagine-2.png"));
+  picture.setDevicePixelRatio(2);
   return picture;
 }
 
