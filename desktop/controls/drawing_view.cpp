@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <algorithm>
 #include <array>
 
 #include "desktop/controls/views.h"
@@ -50,8 +51,7 @@ class DrawingWidget : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     PaintDrawing(painter, lavagna_, rect());
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    PaintEdge(painter, palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
   }
   void contextMenuEvent(QContextMenuEvent* event) override {
     QMenu menu(this);
@@ -70,6 +70,15 @@ class DrawingWidget : public QWidget {
   }
 
  private:
+  // In pixels of the screen: at 150 % an edge that is counted in others falls between two of them.
+  void PaintEdge(QPainter& painter, const QColor& colour) const {
+    const QTransform toScreen = painter.deviceTransform();
+    const QRect edge = toScreen.mapRect(QRectF(rect())).toRect();
+    const int wide = std::max(1, static_cast<int>(toScreen.m11()));
+    painter.setTransform(toScreen.inverted(), true);
+    const QRect inside = edge.adjusted(wide, wide, -wide, -wide);
+    for (const QRect& side : QRegion(edge) - QRegion(inside)) painter.fillRect(side, colour);
+  }
   // As a picture, and as SVG for programs that can take it.
   void Copy() {
     auto* copied = new QMimeData;

@@ -58,6 +58,7 @@ QImage PictureOf(const Lavagna& drawing) {
   QImage picture((size * kPictureZoom).toSize(), QImage::Format_RGB32);
   picture.setDotsPerMeterX(qRound(1000 * kPictureZoom / kMillimetres));
   picture.setDotsPerMeterY(qRound(1000 * kPictureZoom / kMillimetres));
+  picture.fill(InQt(drawing.Background()));  // its edges may lie within a pixel
   QPainter painter(&picture);
   painter.scale(kPictureZoom, kPictureZoom);
   PaintDrawing(painter, drawing, {QPointF(0, 0), size});

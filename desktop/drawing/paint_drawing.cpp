@@ -15,8 +15,6 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr double kHalo = 4;  // pixels, both sides of a stroke together
 
-QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
-
 QPen PenOf(const DrawOperation& op) {
   QPen pen(InQt(op.colour), op.width);
   if (op.stroke == DrawOperation::Stroke::Dashed)
@@ -94,6 +92,8 @@ void PaintArc(QPainter& painter, const QPointF& centre, double radius, const Dra
 }
 
 }  // namespace
+
+QColor InQt(const Colour& c) { return {c.red, c.green, c.blue}; }
 
 QSizeF DrawingSize(const Lavagna& lavagna) {
   const double width = lavagna.PixelsWide();

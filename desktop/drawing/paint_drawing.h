@@ -1,6 +1,7 @@
 // Paints the operations of a Lavagna: the same on the screen, in a picture file and on paper.
 #pragma once
 
+#include <QColor>
 #include <QRectF>
 #include <QSizeF>
 
@@ -9,6 +10,8 @@
 class QPainter;
 
 namespace orm {
+
+QColor InQt(const Colour& colour);
 
 // Its size at 100 %, in pixels of 1/96 inch.
 QSizeF DrawingSize(const Lavagna& lavagna);
