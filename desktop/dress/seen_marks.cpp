@@ -27,9 +27,23 @@ QIcon SeenMarks::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                         : QProxyStyle::standardIcon(icon, option, widget);
 }
 
+// The frame begins below its words.
+void SeenMarks::EdgeOfGroup(const QStyleOption& option, QPainter& painter) const {
+  const int words =
+      std::max(pixelMetric(PM_ExclusiveIndicatorHeight, &option), option.fontMetrics.height());
+  painter.save();
+  QColor edge = NoteText(option.palette);
+  edge.setAlphaF(0.25F);
+  painter.setPen(edge);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, words + 3.5, -0.5, -0.5), 2, 2);
+  painter.restore();
+}
+
 void SeenMarks::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (element == PE_FrameGroupBox && IsDark(option->palette)) return EdgeOfGroup(*option, *painter);
   const bool round = element == PE_IndicatorRadioButton;
   const bool several = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget);
   const bool field = element == PE_FrameLineEdit || several;

@@ -23,6 +23,8 @@ class SeenMarks : public QProxyStyle {
                      const QWidget* widget) const override;
 
  private:
+  void EdgeOfGroup(const QStyleOption& option, QPainter& painter) const;
+
   QIcon emptiesField_;
 };
 

@@ -13,7 +13,7 @@ namespace orm {
 namespace {
 
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kWall{222, 214, 203}, kStone{190, 200, 210},
-    kBracket{160, 175, 190}, kSteel{160, 30, 30};
+    kBracket{160, 175, 190}, kSteel{160, 30, 30}, kWarning{176, 32, 24};
 constexpr double kTick = 0.65;
 // Where the views stand, in units of the panel.
 constexpr double kSectionLeft = 8, kSectionWide = 38, kSectionHigh = 16, kSlabTop = 34;
@@ -288,9 +288,13 @@ void DisegnaBalcone(Lavagna& lavagna, const DatiBalcone& dati) {
   disegno.Pianta();
   lavagna.SetFont(8);
   lavagna.SetColour(kBlack);
-  std::string sotto = "Schema: mancano delle misure";
-  if (RastremazioneInversa(dati)) sotto = "Schema: l'estremità è più spessa dell'incastro";
-  lavagna.DrawText(3, 4.8, completo ? Valori(figura) : sotto);
+  std::string sotto = completo ? Valori(figura) : "Schema: mancano delle misure";
+  if (RastremazioneInversa(dati)) {
+    sotto = "Schema: l'estremità è più spessa dell'incastro";
+    lavagna.SetColour(kWarning);
+    lavagna.SetFont(10, true);
+  }
+  lavagna.DrawText(3, 4.8, sotto);
 }
 
 }  // namespace orm
