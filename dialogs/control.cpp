@@ -25,8 +25,11 @@ void Control::SetCaption(std::string caption) {
   if (std::exchange(caption_, std::move(caption)) != caption_) Refresh();
 }
 
-void Control::SetUnit(std::string unit) {
-  if (std::exchange(unit_, std::move(unit)) != unit_) Refresh();
+void Control::SetUnit(std::string unit, bool aside) {
+  const bool same = unit == unit_ && aside == unitAside_;
+  unit_ = std::move(unit);
+  unitAside_ = aside;
+  if (!same) Refresh();
 }
 
 void Control::SetHint(std::string hint) {

@@ -47,9 +47,10 @@ class Control {
   // caption of a button '&' marks the key.
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption);
-  // What stands behind a field: "%", "[cm.]", "max 30%".
+  // What stands behind a field: "%", "[cm.]", "max 30%"; `aside`: with less weight.
   const std::string& Unit() const { return unit_; }
-  void SetUnit(std::string unit);
+  bool UnitAside() const { return unitAside_; }
+  void SetUnit(std::string unit, bool aside = false);
   const std::string& Hint() const { return hint_; }  // help for the field, shown when asked for
   void SetHint(std::string hint);
 
@@ -60,6 +61,10 @@ class Control {
   bool OwnEnabled() const { return enabled_; }
   bool IsShown() const;
   bool IsActive() const;
+  // A control that tells how to use the form, or only chooses what it shows, is not printed with
+  // what the form holds; of a frame its caption is not.
+  bool OnPaper() const { return onPaper_; }
+  void KeepOffPaper() { onPaper_ = false; }
 
   Frame* Parent() const { return parent_; }
   void SetParent(Frame* parent) { parent_ = parent; }
@@ -86,6 +91,8 @@ class Control {
   std::string name_, caption_, unit_, hint_;
   bool visible_ = true;
   bool enabled_ = true;
+  bool onPaper_ = true;
+  bool unitAside_ = false;
   Frame* parent_ = nullptr;
 };
 

@@ -79,6 +79,10 @@ void NumberBox::SetWarning(bool warns) {
   if (std::exchange(warns_, warns) != warns) Refresh();
 }
 
+void NumberBox::SetStale(bool stale) {
+  if (std::exchange(stale_, stale) != stale) Refresh();
+}
+
 void NumberBox::SetAdvised(double most) {
   if (std::exchange(limits_.advised, most) != most) Refresh();
 }
@@ -115,6 +119,7 @@ void FerriBox::SetText(std::string text) {
 }
 
 double FerriBox::Area() const { return BarsArea(text_); }
+std::string FerriBox::AreaText() const { return FormatPattern(Area(), "0.00") + " cmq"; }
 
 const char* FerriBox::Writing() {
   return "L'armatura si scrive con il numero dei ferri, la lettera D e il diametro in mm, per "

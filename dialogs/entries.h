@@ -56,8 +56,11 @@ class NumberBox : public Control {
   // A result may come as text by a pattern of its own; it stands until the next value.
   void SetShown(std::string text);
   // A value that warns (a stress beyond its limit).
-  bool Warns() const { return warns_; }
+  bool Warns() const { return warns_ && !stale_; }
   void SetWarning(bool warns);
+  // A result that is not, or no longer, the one of the data: it weighs less and warns of nothing.
+  bool IsStale() const { return stale_; }
+  void SetStale(bool stale);
   // A value that the program writes by itself when another one changes; told by its colour.
   bool IsAutomatic() const { return automatic_; }
   void SetAutomatic() { automatic_ = true; }
@@ -80,6 +83,7 @@ class NumberBox : public Control {
   std::string shown_;
   bool readOnly_ = false;
   bool warns_ = false;
+  bool stale_ = false;
   bool automatic_ = false;
 };
 
@@ -100,6 +104,7 @@ class FerriBox : public Control {
   const std::string& Text() const { return text_; }
   void SetText(std::string text);
   double Area() const;  // cmq; 0 for a text that is not of the form
+  std::string AreaText() const;
   // A draft is admitted as long as it has the characters of the form; while it is not of the form
   // its area is 0.
   std::string Type(std::string_view text);

@@ -3,7 +3,6 @@
 #include "desktop/controls/views.h"
 #include "desktop/qt_text.h"
 #include "dialogs/bars.h"
-#include "runtime/numbers.h"
 
 namespace orm {
 namespace {
@@ -20,7 +19,7 @@ class BarsView : public EntryView {
   }
   void Refresh() override {
     EntryView::Refresh();
-    area_->setText(ToQt(FormatPattern(box_.Area(), "0.00") + " cmq"));
+    area_->setText(ToQt(box_.AreaText()));
   }
 
  protected:

@@ -91,8 +91,17 @@ void ControlView::Refresh() {
   SetCaptionText(*caption_, text);
   caption_->setVisible(control_.OwnVisible() && !text.isEmpty() && !captionLeftOut_);
   caption_->setEnabled(control_.OwnEnabled());
+  ShowUnit();
+}
+
+// It keeps the greatest width that it had, so that what stands behind it does not move.
+void ControlView::ShowUnit() {
   unit_->setText(ToQt(control_.Unit()));
   unit_->setVisible(!control_.Unit().empty());
+  unit_->setMinimumWidth(std::max(unit_->minimumWidth(), unit_->sizeHint().width()));
+  QPalette palette;
+  if (control_.UnitAside()) palette.setColor(QPalette::WindowText, NoteText(palette));
+  unit_->setPalette(palette);
 }
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {

@@ -70,6 +70,7 @@ class ControlView : public QObject {
   FormHost& host_;
 
  private:
+  void ShowUnit();
   Control& control_;
   QWidget* field_ = nullptr;
   QWidget* whole_ = nullptr;

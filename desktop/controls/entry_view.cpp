@@ -155,6 +155,7 @@ void EntryView::ShowMark() {
   QPalette palette = QPalette();
   if (line_->isReadOnly()) palette.setBrush(QPalette::Base, palette.brush(QPalette::Window));
   if (wrong) palette.setColor(QPalette::Base, WarningBase(palette));
+  if (IsStale()) palette.setColor(QPalette::Text, StaleText(palette));
   if (IsAutomatic()) palette.setColor(QPalette::Text, AutomaticText(palette));
   if (!advice.empty()) palette.setColor(QPalette::Base, AdviceBase(palette));
   const QColor colour = advice.empty() ? WarningText(palette) : AdviceText(palette);
@@ -166,8 +167,9 @@ void EntryView::ShowMark() {
   SetNote(*line_, wrong ? verdict_.objection : std::string());
   line_->setToolTip(ToQt(wrong ? verdict_.objection : advice.empty() ? Model().Hint() : advice));
   line_->setAccessibleDescription(wrong || !advice.empty() ? line_->toolTip()
-                                  : Warns() ? QStringLiteral("Valore oltre il limite")
-                                            : QString());
+                                  : Warns()   ? QStringLiteral("Valore oltre il limite")
+                                  : IsStale() ? QStringLiteral("Valore da calcolare")
+                                              : QString());
 }
 
 int EntryView::MarkWidth() const { return mark_ != nullptr && mark_->isVisible() ? 22 : 0; }

@@ -62,6 +62,7 @@ class EntryView : public ControlView {
   // What the field does of its own at a key; true when nothing is left of the key.
   virtual bool ActsOn(const QKeyEvent&) { return false; }
   virtual bool IsAutomatic() const { return false; }
+  virtual bool IsStale() const { return false; }  // a result of other data, or of none yet
   // A key that the field wants to see as another one.
   virtual QString Substitute(const QKeyEvent&) const { return {}; }
 

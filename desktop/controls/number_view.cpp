@@ -57,6 +57,7 @@ class NumberView : public EntryView {
   bool IsReadOnly() const override { return box_.ReadOnly(); }
   bool Warns() const override { return box_.Warns(); }
   bool IsAutomatic() const override { return box_.IsAutomatic(); }
+  bool IsStale() const override { return box_.IsStale(); }
   std::string Advice() const override {
     if (!box_.IsBeyondAdvised()) return {};
     return "Oltre il massimo indicato, " + ShownNumber(box_.Limits().advised, box_.Limits()) +

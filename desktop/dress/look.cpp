@@ -6,6 +6,18 @@
 #include <QWidget>
 
 namespace orm {
+namespace {
+
+// The colour of texts with so many tenths of the ground in it.
+QColor Faded(const QPalette& palette, int tenths) {
+  const QColor text = palette.color(QPalette::WindowText);
+  const QColor window = palette.color(QPalette::Window);
+  const auto blend = [=](int a, int b) { return (a * (10 - tenths) + b * tenths) / 10; };
+  return {blend(text.red(), window.red()), blend(text.green(), window.green()),
+          blend(text.blue(), window.blue())};
+}
+
+}  // namespace
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
@@ -21,13 +33,8 @@ QColor AutomaticText(const QPalette& palette) {
   return IsDark(palette) ? QColor(144, 190, 255) : QColor(0, 48, 208);
 }
 
-QColor NoteText(const QPalette& palette) {
-  const QColor text = palette.color(QPalette::WindowText);
-  const QColor window = palette.color(QPalette::Window);
-  const auto blend = [](int a, int b) { return (a * 7 + b * 3) / 10; };
-  return {blend(text.red(), window.red()), blend(text.green(), window.green()),
-          blend(text.blue(), window.blue())};
-}
+QColor NoteText(const QPalette& palette) { return Faded(palette, 3); }
+QColor StaleText(const QPalette& palette) { return Faded(palette, 5); }
 
 QColor AdviceText(const QPalette& palette) {
   return IsDark(palette) ? QColor(255, 204, 112) : QColor(138, 82, 0);

@@ -14,6 +14,7 @@ QColor WarningText(const QPalette& palette);    // on a window or a field
 QColor WarningBase(const QPalette& palette);    // behind the text of a field
 QColor AutomaticText(const QPalette& palette);  // a value that the program has written: blue
 QColor NoteText(const QPalette& palette);       // less weight than the text, still easy to read
+QColor StaleText(const QPalette& palette);      // a result that is not of the data as they stand
 
 QColor AdviceText(const QPalette& palette);  // a value above what its caption advises: amber
 QColor AdviceBase(const QPalette& palette);

@@ -14,6 +14,7 @@ class FormDiCalcolo : public Form {
   static constexpr const char* kDaCalcolare = "risultati da calcolare";
 
   FormDiCalcolo(std::string nome, std::string titolo, Player& player);
+  void OnOpen() override { PesaRisultati(); }
   void OnDataChanged(Control& control) override;
 
   Label lblEsito{*this, "lblEsito", kDaCalcolare, Label::Style::Note};  // in every layout
@@ -32,6 +33,8 @@ class FormDiCalcolo : public Form {
   virtual bool EDato(const Control&) const { return true; }
 
  private:
+  void PesaRisultati();
+
   bool calcolato_ = false;
 };
 

@@ -36,7 +36,7 @@ FrmVerBalcone::FrmVerBalcone(RunState& stato)
     SegnaCambiati();
     Azzera();
   };
-  ingressi.TieEvents(cambiati);
+  ingressi.TieEvents(cambiati, [this] { SenzaRisultati(); });
   tensioni.TieEvents(cambiati);
   ComCalcola.onPress = [this] { Calcola(); };
   ComEsci.onPress = [this] { Close(); };

@@ -82,11 +82,13 @@ Layout PannelloDatiBalcone::Contents() {
   return Column(std::move(gruppi));
 }
 
-void PannelloDatiBalcone::TieEvents(const std::function<void()>& cambiati) {
+void PannelloDatiBalcone::TieEvents(const std::function<void()>& cambiati,
+                                    const std::function<void()>& altroTipo) {
   for (OptionGroup* gruppo : {&gruppoTipo, &gruppoZona})
     for (OptionButton* opt : gruppo->Options())
-      opt->onChange = [this, opt, cambiati] {
+      opt->onChange = [this, gruppo, opt, cambiati, altroTipo] {
         if (!opt->Value()) return;
+        if (gruppo == &gruppoTipo) altroTipo();
         Aggiorna();
         cambiati();
       };

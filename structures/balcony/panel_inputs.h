@@ -41,8 +41,8 @@ class PannelloDatiBalcone {
  public:
   PannelloDatiBalcone(Form& form, RunState& stato);
   Layout Contents();
-  // `cambiati` runs after any change.
-  void TieEvents(const std::function<void()>& cambiati);
+  // `cambiati` runs after any change, `altroTipo` before it when another kind was chosen.
+  void TieEvents(const std::function<void()>& cambiati, const std::function<void()>& altroTipo);
   TipoBalcone Tipo() const { return static_cast<TipoBalcone>(gruppoTipo.Chosen()); }
   DatiBalcone Leggi() const;
 

@@ -27,6 +27,8 @@ PannelloTensioniBalcone::PannelloTensioniBalcone(Form& form, RunState& stato)
   for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
   cmbTipoDiFerro.SetIndex(0);
   ScegliAcciaio();
+  MostraLimiti();
+  cdOUT.back().SetUnit("Kg/cmq");
 }
 
 Layout PannelloTensioniBalcone::Materiali() {
@@ -45,7 +47,10 @@ Layout PannelloTensioniBalcone::Risultati(Label& esito) {
 
 void PannelloTensioniBalcone::TieEvents(const std::function<void()>& cambiati) {
   for (std::size_t i = 0; i < cdMaterialiS.size(); ++i)
-    cdMaterialiS[i].onChange = cdMaterialiT[i].onChange = cambiati;
+    cdMaterialiS[i].onChange = cdMaterialiT[i].onChange = [this, cambiati] {
+      MostraLimiti();
+      cambiati();
+    };
   for (std::size_t i = 0; i < cdbMateriali.size(); ++i)
     cdbMateriali[i].onPress = [this, i] { ChiediPietra(i); };
   cmbTipoDiFerro.onChange = [this] { ScegliAcciaio(); };
@@ -89,11 +94,10 @@ std::vector<Spiegazione> PannelloTensioniBalcone::Spiegate(const RisultatiBalcon
     if (catena.empty()) continue;
     const bool muro = kMostrati[i] == IncrementoMuratura;
     if (!muro) {
-      const auto& ammesse = i % 2 == 0 ? cdMaterialiS : cdMaterialiT;
       catena.back().note.push_back(std::string(Supera(risultati, i)
                                                    ? "SUPERA la tensione ammissibile, "
                                                    : "Non supera la tensione ammissibile, ") +
-                                   CifraEsatta(ammesse[i / 2].Value()) + " Kg/cmq");
+                                   CifraEsatta(Ammessa(i)) + " Kg/cmq");
     }
     const char* quale = muro ? "" : i % 2 == 0 ? ", σ" : ", τ";
     spiegate.push_back(Risultato(cdOUT[i].Caption() + quale, std::move(catena)));
@@ -101,12 +105,22 @@ std::vector<Spiegazione> PannelloTensioniBalcone::Spiegate(const RisultatiBalcon
   return spiegate;
 }
 
+// Of the stress that a result is held against, in the order of cdOUT.
+double PannelloTensioniBalcone::Ammessa(std::size_t mostrato) const {
+  return (mostrato % 2 == 0 ? cdMaterialiS : cdMaterialiT)[mostrato / 2].Value();
+}
+
+// Behind each stress the one that it may reach.
+void PannelloTensioniBalcone::MostraLimiti() {
+  for (std::size_t i = 0; i < 2 * cdMaterialiS.size(); ++i)
+    cdOUT[i].SetUnit("≤ " + ShownNumber(Ammessa(i), cdMaterialiS[0].Limits()));
+}
+
 // The wall, shown last, is held against nothing.
 bool PannelloTensioniBalcone::Supera(const RisultatiBalcone& risultati,
                                      std::size_t mostrato) const {
   if (kMostrati[mostrato] == IncrementoMuratura) return false;
-  const auto& ammesse = mostrato % 2 == 0 ? cdMaterialiS : cdMaterialiT;
-  return std::fabs(risultati[kMostrati[mostrato]]) > ammesse[mostrato / 2].Value();
+  return std::fabs(risultati[kMostrati[mostrato]]) > Ammessa(mostrato);
 }
 
 bool PannelloTensioniBalcone::Supera(const RisultatiBalcone& risultati) const {

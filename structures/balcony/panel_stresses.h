@@ -58,9 +58,11 @@ class PannelloTensioniBalcone {
       "cdOUT",
       0,
       {kLastra, kLastra, kMensole, kMensole, kAcciaio, kAcciaio, "Incremento su Muratura  "},
-      NumberLimits{.least = -9999999.9, .most = 9999999.9, .decimals = 1}};
+      NumberLimits{.least = -999999.9, .most = 999999.9, .decimals = 1}};
 
  private:
+  void MostraLimiti();
+  double Ammessa(std::size_t mostrato) const;
   bool Supera(const RisultatiBalcone& risultati, std::size_t mostrato) const;
   void ChiediPietra(std::size_t pietra);
   void ScegliAcciaio();

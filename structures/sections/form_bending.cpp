@@ -1,5 +1,6 @@
 #include "structures/sections/form_bending.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -48,7 +49,7 @@ FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& sta
     OptionButton& scelta = Option.emplace_back(
         *this, "Option" + NumberText(static_cast<double>(i) + 1), forme[i], gruppo);
     scelta.onChange = [this, i, &scelta] {
-      if (scelta.Value()) ScegliForma(i);
+      if (scelta.Value()) Scegli(i);
     };
   }
   for (FloatBox& risultato : cdOUT) risultato.SetReadOnly(true);
@@ -61,6 +62,21 @@ FormFlessione::FormFlessione(std::string nome, std::string titolo, RunState& sta
   };
   ComCalcola.onPress = [this] { Calcola(); };
   ComEsci.onPress = [this] { Close(); };
+}
+
+void FormFlessione::OnOpen() {
+  FormRiprendibile::OnOpen();
+  Label_NOTA.SetText(note_.benvenuto);
+}
+
+// An example may leave the results of another shape, whose drawing has gone with what was said of
+// it.
+void FormFlessione::Scegli(std::size_t forma) {
+  ScegliForma(forma);
+  if (std::ranges::any_of(cdOUT, [](const FloatBox& r) { return r.Value() != 0; }))
+    Label_NOTA.SetText(note_.segni);
+  else
+    SenzaRisultati();
 }
 
 void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> armature) {
@@ -116,8 +132,14 @@ void FormFlessione::Azzera() {
 
 // Behind each stress the one that it must not reach.
 void FormFlessione::MostraLimiti() {
-  for (std::size_t i = 1; i < cdOUT.size(); ++i)
-    cdOUT[i].SetUnit(i == NonProvato() ? "" : "< " + ShownNumber(Ammesso(i), kTensione));
+  for (std::size_t i = 1; i < cdOUT.size(); ++i) {
+    const bool provato = i != NonProvato();
+    cdOUT[i].SetHint(provato ? "" : "L'acciaio compresso non entra nel giudizio.");
+    if (provato)
+      cdOUT[i].SetUnit("< " + ShownNumber(Ammesso(i), kTensione));
+    else
+      cdOUT[i].SetUnit("esclusa", true);
+  }
 }
 
 void FormFlessione::ADatiCambiati() {

@@ -48,7 +48,7 @@ class FormFlessione : public FormRiprendibile {
  public:
   FormFlessione(std::string nome, std::string titolo, RunState& stato, const NoteFlessione& note,
                 const std::vector<std::string>& forme);
-  void OnOpen() override { Label_NOTA.SetText(note_.benvenuto); }
+  void OnOpen() override;
 
   Frame fraTipo{*this, "fraTipo", "Tipo di sezione"};
   OptionGroup gruppo;
@@ -91,6 +91,7 @@ class FormFlessione : public FormRiprendibile {
   void Azzera();
 
  private:
+  void Scegli(std::size_t forma);
   // The stress that is held against nothing, where compressed steel is not.
   std::size_t NonProvato() const { return note_.provaCompresso ? 0 : Momento() > 0 ? 3 : 4; }
   double Ammesso(std::size_t risultato) const {

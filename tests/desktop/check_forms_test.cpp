@@ -253,19 +253,25 @@ TEST_F(Checks, F4TellsHowResultsCameAboutAsATextToCopy) {
   });
 }
 
-// Compressed steel of these sections is held against nothing.
+// Compressed steel of these sections is held against nothing. A stress of other data has no mark.
 TEST_F(Checks, AStressHasItsLimitBesideItAndAMarkBeyondIt) {
   Show("VER_ST1", [](FormDialog& dialog) {
     Press(dialog, "Option1");
     Write(dialog, "CD_12", "200");
     QTest::keyClick(&dialog, Qt::Key_Return);
     const auto told = [&](const char* name) {
-      const QString beyond = FieldOf(dialog, name)->accessibleDescription();
-      return dialog.Model().Find(name)->Unit() + (beyond.isEmpty() ? "" : " !");
+      const std::string said = FromQt(FieldOf(dialog, name)->accessibleDescription());
+      return dialog.Model().Find(name)->Unit() + " " + said;
     };
-    EXPECT_EQ(told("cdOUT(2)"), "< 97,5");
-    EXPECT_EQ(told("cdOUT(4)"), "");
-    EXPECT_EQ(told("cdOUT(5)"), "< 200 !");
+    EXPECT_EQ(told("cdOUT(2)"), "< 97,5 ");
+    EXPECT_EQ(told("cdOUT(4)"), "esclusa ");
+    EXPECT_EQ(told("cdOUT(5)"), "< 200 Valore oltre il limite");
+    const QColor weight = FieldOf(dialog, "cdOUT(2)")->palette().color(QPalette::Text);
+    Write(dialog, "CD_12", "300");
+    for (const char* name : {"cdOUT(2)", "cdOUT(5)"})
+      EXPECT_NE(FieldOf(dialog, name)->palette().color(QPalette::Text), weight) << name;
+    EXPECT_EQ(told("cdOUT(5)"), "< 300 Valore da calcolare");
+    EXPECT_NE(dialog.Model().Find("cdOUT(5)")->ShownText(), "0");
   });
 }
 
