@@ -14,6 +14,7 @@ namespace orm {
 PannelloDatiSolaio::PannelloDatiSolaio(Form& form, RunState& stato) : form_(form), stato_(stato) {
   for (const std::size_t finoA16 : {0U, 3U, 4U})
     cmbFERRI[finoA16].SetItems({kDiametriFerri.begin(), kDiametriFerri.begin() + kDiametriFinoA16});
+  for (Label* guida : {&lblBlu, &lblVuoto, &lblAutomatica, &lblZero}) guida->KeepOffPaper();
   ValoriIniziali();
 }
 

@@ -25,10 +25,13 @@ std::array<Barra, 7> BarreDi(const RisultatiSolaioT& r) {
 }  // namespace
 
 PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
-  for (OptionButton& opt : optVisualizza)
+  fraVisualizza.KeepOffPaper();
+  for (OptionButton& opt : optVisualizza) {
+    opt.KeepOffPaper();
     opt.onChange = [this, &opt] {
       if (opt.Value()) ScegliVista();
     };
+  }
   optVisualizza[Schema].SetValue(true);
   Lavagna.SetOtherViews({&fraFerri, &fraSollecitazioni, &fraTensioni});
 }

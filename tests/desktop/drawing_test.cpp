@@ -84,8 +84,8 @@ TEST_F(DrawingMenu, CopiesAPictureByKeyAndByMenu) {
   EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasFormat("image/svg+xml"));
 }
 
-// Data and results beside the drawing, buttons, hidden fields and empty lines not; all on the
-// sheet.
+// Data and results beside the drawing, areas too; buttons, hidden fields, empty lines, hints and
+// results of other data not; all on the sheet. What is beyond its limit says so.
 TEST_F(DrawingMenu, PrintsOneSheetWithDataAndResults) {
   Form form("frm", "VERIFICA");
   Frame dati(form, "dati", "GEOMETRIA");
@@ -93,15 +93,21 @@ TEST_F(DrawingMenu, PrintsOneSheetWithDataAndResults) {
   FerriBox ferri(form, "ferri", "1"), vuoti(form, "vuoti", "strato vuoto");
   FloatBox d(form, "d", "Distanza"), vuota(form, "vuota", "Distanza");
   Label titolo(form, "titolo", "Ferri"), distanza(form, "distanza", "Distanza");
+  FloatBox oltre(form, "oltre", "Acciaio", {.unit = "< 2.600"}), vecchia(form, "vecchia", "Cls");
+  oltre.SetWarning(true);
+  vecchia.SetStale(true);
+  Label aiuto(form, "aiuto", "In blu i diametri");
+  aiuto.KeepOffPaper();
   Button calcola(form, "calcola", "CALCOLA", Button::Role::Default);
   Lavagna disegno(form, "disegno", 200, 150, 520);
   disegno.DrawText(10, 100, "asse neutro");
   form.SetContent(
-      Column({Row({Group(dati, {Fields({altezza, nascosta})}),
+      Column({Row({Group(dati, {Fields({altezza, nascosta, oltre, vecchia}), aiuto}),
                    Column({Fields({Row({titolo, distanza}), Row({ferri, d}), Row({vuoti, vuota})}),
                            disegno})}),
               Buttons({calcola})}));
   altezza.SetValue(80);
+  oltre.SetValue(3445.3);
   nascosta.SetVisible(false);
   ferri.SetText("3D16");
   d.SetValue(3);
@@ -121,11 +127,33 @@ TEST_F(DrawingMenu, PrintsOneSheetWithDataAndResults) {
   if (!reader.waitForStarted()) GTEST_SKIP() << "pdftotext";
   reader.waitForFinished();
   const QString text = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
-  for (const char* there : {"VERIFICA", "asse neutro", "GEOMETRIA", "Altezza [cm] 80", "1 3D16 3"})
+  for (const char* there : {"VERIFICA", "asse neutro", "GEOMETRIA", "Altezza [cm] 80",
+                            "1 3D16 6,03 cmq 3", "! 3.445,3 oltre 2.600"})
     EXPECT_TRUE(text.contains(there)) << there << " in " << text.toStdString();
-  for (const char* away : {"Non vista", "strato vuoto", "CALCOLA"})
+  for (const char* away : {"Non vista", "strato vuoto", "CALCOLA", "Cls", "In blu"})
     EXPECT_FALSE(text.contains(away)) << away;
   EXPECT_EQ(text.count("\f"), 0);
+}
+
+// The edge at 150 %, where it stands between two pixels; a picture whose height is none of pixels.
+TEST_F(DrawingMenu, HasItsEdgeOnTheScreenAndNothingBeyondItInAPicture) {
+  TestPlayer player;
+  player.onForm = [&](FormDialog& dialog) {
+    QWidget* field = dialog.ViewOf(disegno_).Field();
+    QImage screen(field->size() * 1.5 + QSize(4, 4), QImage::Format_RGB32);
+    screen.setDevicePixelRatio(1.5);
+    screen.fill(Qt::red);
+    field->render(&screen, QPoint(1, 1));
+    const QColor edge =
+        field->palette().color(field->hasFocus() ? QPalette::Highlight : QPalette::Mid);
+    const int right = qRound((field->width() + 1) * 1.5) - 1;
+    for (const QPoint& at : {QPoint(50, 2), QPoint(2, 50), QPoint(right, 50)})
+      EXPECT_EQ(screen.pixelColor(at), edge) << at.x() << " " << at.y();
+  };
+  player.Show(form_);
+  const Lavagna fine(form_, "fine", 30, 9.8, 504);
+  const QImage picture = PictureOf(fine);
+  EXPECT_EQ(picture.pixelColor(picture.width() / 2, picture.height() - 1), QColor(Qt::white));
 }
 
 TEST_F(DrawingMenu, AFailedSaveIsTold) {
