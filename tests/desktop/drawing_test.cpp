@@ -151,9 +151,10 @@ TEST_F(DrawingMenu, HasItsEdgeOnTheScreenAndNothingBeyondItInAPicture) {
       EXPECT_EQ(screen.pixelColor(at), edge) << at.x() << " " << at.y();
   };
   player.Show(form_);
-  const Lavagna fine(form_, "fine", 30, 9.8, 504);
+  Lavagna fine(form_, "fine", 30, 9.799, 504);
+  fine.SetBackground({255, 255, 0});
   const QImage picture = PictureOf(fine);
-  EXPECT_EQ(picture.pixelColor(picture.width() / 2, picture.height() - 1), QColor(Qt::white));
+  EXPECT_EQ(picture.pixelColor(picture.width() / 2, picture.height() - 1), QColor(Qt::yellow));
 }
 
 TEST_F(DrawingMenu, AFailedSaveIsTold) {
