@@ -70,12 +70,12 @@ void Quote::Centrato(double x, double y, const std::string& testo) const {
 }
 
 void Quote::Orizzontale(double x1, double x2, double y, const std::string& nome,
-                        std::optional<double> daY) const {
+                        std::optional<double> daY, std::optional<double> nomeX) const {
   Riga({x1, y}, {x2, y});
   if (daY)
     for (const double x : {x1, x2}) Richiamo({x, *daY}, {x, y});
   const bool below = daY && *daY > y;
-  Nome((x1 + x2) / 2, below ? y - tacca_ / 2 : y + tacca_ / 2, nome,
+  Nome(nomeX.value_or((x1 + x2) / 2), below ? y - tacca_ / 2 : y + tacca_ / 2, nome,
        below ? Anchor::Below : Anchor::Above);
 }
 
@@ -85,7 +85,9 @@ void Quote::Verticale(double x, double y1, double y2, const std::string& nome,
   if (daX)
     for (const double y : {y1, y2}) Richiamo({*daX, y}, {x, y});
   const bool left = daX && *daX > x;
-  Nome(left ? x - tacca_ * 1.3 : x + tacca_ * 1.3, nomeY.value_or((y1 + y2) / 2), nome,
+  const bool tight = std::abs(y2 - y1) < lavagna_.LineHeight() + 2 * tacca_;
+  const double away = tacca_ * (tight ? 2 : 1.3);
+  Nome(left ? x - away : x + away, nomeY.value_or((y1 + y2) / 2), nome,
        left ? Anchor::Right : Anchor::Left);
 }
 

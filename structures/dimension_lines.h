@@ -15,12 +15,12 @@ class Quote {
   // that is set.
   Quote(Lavagna& lavagna, double tacca) : lavagna_(lavagna), tacca_(tacca) {}
 
-  // The name stands above the line; with `daY`, witness lines come from that height, and the name
-  // stands on the far side.
+  // The name stands above the line, with its middle at that of the line or at `nomeX`; with `daY`,
+  // witness lines come from that height, and the name stands on the far side.
   void Orizzontale(double x1, double x2, double y, const std::string& nome,
-                   std::optional<double> daY = {}) const;
+                   std::optional<double> daY = {}, std::optional<double> nomeX = {}) const;
   // The name stands right of the line, or on the side away from `daX`, with its middle at that of
-  // the line or at `nomeY`.
+  // the line or at `nomeY`; beside the ticks of a short line it steps out.
   void Verticale(double x, double y1, double y2, const std::string& nome,
                  std::optional<double> daX = {}, std::optional<double> nomeY = {}) const;
   // The line alone, with its ticks and witness lines.

@@ -6,6 +6,8 @@
 
 #include <cmath>
 #include <random>
+#include <string>
+#include <utility>
 
 #include "dialogs/form.h"
 #include "structures/balcony/drawing.h"
@@ -169,6 +171,28 @@ TEST_P(Balcone, DrawingStaysOnItsPanel) {
       for (const Point& p : op.points)
         ASSERT_TRUE(p.x >= 0 && p.x <= kLarghezzaBalcone && p.y >= 0 && p.y <= kAltezzaBalcone)
             << lavagna.AsText();
+  }
+}
+
+// All that can be seen at the scale of the longest measures is drawn as it is.
+TEST(Balcony, DrawingTellsWhatItLosesAtItsScale) {
+  Form form("frm", "");
+  Lavagna lavagna(form, "Lavagna", kLarghezzaBalcone, kAltezzaBalcone, kPuntiBalcone);
+  DatiBalcone lastra, mensole;
+  lastra.tipo = TipoBalcone::LastraSemplice, mensole.tipo = TipoBalcone::Mensole;
+  lastra.si = lastra.se = 0.2, lastra.lunghezza = 3, lastra.a = 1.1, lastra.pr = 0.3;
+  mensole.t = 0.4, mensole.b = mensole.Bm = 0.5, mensole.Lm = 0.6, mensole.pr = 0.45;
+  mensole.b0 = 0.25, mensole.hi = mensole.he = 1.5;
+  DatiBalcone minuta = lastra, lunga = mensole;
+  minuta.si = minuta.se = 0.02, minuta.pr = 2, lunga.Lm = 99;
+  const std::pair<DatiBalcone, const char*> casi[] = {
+      {lastra, ""}, {mensole, ""}, {minuta, "Sezione"}, {lunga, "Pianta"}};
+  for (const auto& [dati, perde] : casi) {
+    DisegnaBalcone(lavagna, dati);
+    std::string detto;
+    for (const DrawOperation& op : lavagna.Operations())
+      if (op.text.ends_with("  (non in scala)")) detto += op.text.substr(0, op.text.find(' '));
+    EXPECT_EQ(detto, perde);
   }
 }
 
