@@ -98,6 +98,10 @@ class Lavagna : public Control {
   int PixelsWide() const { return pixelsWide_; }
   const std::vector<DrawView>& Views() const { return views_; }
 
+  // A drawing whose heights are not to scale takes all the width that its place has.
+  void SetStretches(bool stretches) { stretches_ = stretches; }
+  bool Stretches() const { return stretches_; }
+
   // Frames that take the place of the drawing's on the screen and stand beside it on paper.
   void SetOtherViews(std::vector<const Frame*> frames) { otherViews_ = std::move(frames); }
   const std::vector<const Frame*>& OtherViews() const { return otherViews_; }
@@ -122,6 +126,7 @@ class Lavagna : public Control {
   DrawOperation pen_;
   std::vector<DrawOperation> operations_;
   std::vector<DrawView> views_;
+  bool stretches_ = false;
   std::vector<const Frame*> otherViews_;
 };
 

@@ -4,6 +4,10 @@
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QStyle>
+#include <utility>
 
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
@@ -13,6 +17,24 @@ namespace orm {
 namespace {
 
 constexpr int kWidestCaption = 42;  // characters; a longer caption wraps
+
+// Above others of its kind, a caption that ends in its unit has it at its right end.
+class AlignedCaption : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    static const QRegularExpression parts("^(.*\\S)\\s+(\\[[^\\]]*\\])$");
+    const QRegularExpressionMatch match = parts.match(text());
+    if (wordWrap() || !match.hasMatch()) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    for (const auto& [part, side] : {std::pair{1, Qt::AlignLeft}, std::pair{2, Qt::AlignRight}})
+      style()->drawItemText(&painter, contentsRect(),
+                            static_cast<int>(side | Qt::AlignVCenter) | Qt::TextShowMnemonic,
+                            palette(), isEnabled(), match.captured(part), foregroundRole());
+  }
+};
 
 void SetCaptionText(QLabel& label, const QString& text) {
   label.setText(QString(text).replace('&', "&&"));
@@ -57,7 +79,7 @@ void ControlView::UseField(QWidget* field) {
   unit_ = new QLabel(whole_);
   unit_->setTextFormat(Qt::PlainText);
   line_->addWidget(unit_);
-  caption_ = new QLabel(host_.Window());
+  caption_ = new AlignedCaption(host_.Window());
   caption_->setTextFormat(Qt::PlainText);
   caption_->setBuddy(field);
 }

@@ -105,16 +105,18 @@ void PaintDrawing(QPainter& painter, const Lavagna& lavagna, const QRectF& room)
   const QSizeF least = DrawingSize(lavagna);
   const double zoom = std::min(room.width() / least.width(), room.height() / least.height());
   const double smaller = std::min(1.0, zoom);  // lines and letters
-  const QSizeF size = least * (zoom / smaller);
+  QSizeF size = least * (zoom / smaller);
+  const double scale = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
+  if (lavagna.Stretches()) size.setWidth(room.width() / smaller);
+  const double along = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.fillRect(room, InQt(lavagna.Background()));
   painter.translate(room.center() - QPointF(size.width(), size.height()) * smaller / 2);
   painter.scale(smaller, smaller);
   painter.setClipRect(QRectF(QPointF(0, 0), size));
-  const double scale = size.width() / (lavagna.RightEdge() - lavagna.LeftEdge());
   const auto at = [&](const Point& p) {
-    return QPointF((p.x - lavagna.LeftEdge()) * scale, (lavagna.TopEdge() - p.y) * scale);
+    return QPointF((p.x - lavagna.LeftEdge()) * along, (lavagna.TopEdge() - p.y) * scale);
   };
   const bool stale = !lavagna.Notice().empty();
   for (const DrawOperation& op : lavagna.Operations()) {

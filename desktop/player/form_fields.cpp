@@ -76,7 +76,12 @@ void FormBuilder::AddTable(const std::vector<Layout>& lines, QBoxLayout* into) {
         view.LeaveCaptionOut();
       const Qt::Alignment field =
           view.KeepsWidth() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
-      grid->addWidget(view.Whole(), row, column++, row == 0 ? Qt::AlignBottom : field);
+      // The unit of a line that ends early stands in the room of the columns that it lacks.
+      const int last = static_cast<int>(lines[0].children.size()) - 1;
+      const bool ends = view.KeepsWidth() && &cell == &cells.back() && column < last;
+      grid->addWidget(view.Whole(), row, column, 1, ends ? last - column + 1 : 1,
+                      row == 0 ? Qt::AlignBottom : field);
+      ++column;
     }
   }
   grid->setColumnStretch(grid->columnCount() - 1, 1);

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "runtime/numbers.h"
 #include "structures/dimension_lines.h"
-#include "structures/truss_slab/tables.h"
 
 namespace orm {
 namespace {
@@ -17,12 +17,14 @@ using Anchor = DrawOperation::Anchor;
 constexpr Colour kBlack{0, 0, 0}, kGrey{110, 110, 110}, kConcrete{200, 200, 200},
     kSteel{160, 30, 30};
 constexpr double kMargin = 3;       // units left and right of the longest bar
+constexpr double kBeyondBar = 0.4;  // of a support, beyond that bar
 constexpr double kAboveBar = 0.45;  // from a bar up to its label
 constexpr double kSlabTop = 21, kSlabBottom = 17.8;
 constexpr double kLongStubs = 25, kShortStubs = 22.2;
 constexpr double kInBend = 0.8;  // from a stub's bend to its name
 constexpr double kSpanBars = 14.2, kBarStep = 2.5, kSpanLine = 3.4;
 constexpr double kTick = 0.5;
+constexpr double kBearing = 0.1;  // m of a joist on each support, as it is customary
 
 // What is drawn: lengths in m, the labels as they stand. A bar of length 0 is not there.
 struct BarraDisegnata {
@@ -63,8 +65,9 @@ void Rettangolo(Lavagna& lavagna, double x1, double x2, double y1, double y2, bo
 void DisegnaSolaio(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
   lavagna.SetColour(kConcrete);
-  Rettangolo(lavagna, kMargin, x1, kSlabBottom - 0.9, kSlabTop, true);
-  Rettangolo(lavagna, x2, kLarghezzaDisegno - kMargin, kSlabBottom - 0.9, kSlabTop, true);
+  const double fuori = kMargin - kBeyondBar;
+  Rettangolo(lavagna, fuori, x1, kSlabBottom - 0.9, kSlabTop, true);
+  Rettangolo(lavagna, x2, kLarghezzaDisegno - fuori, kSlabBottom - 0.9, kSlabTop, true);
   Rettangolo(lavagna, x1, scala.X(figura.zonaPiena), kSlabBottom, kSlabTop, true);
   Rettangolo(lavagna, scala.X(figura.luce - figura.zonaPiena), x2, kSlabBottom, kSlabTop, true);
   lavagna.SetColour(kGrey);
@@ -121,12 +124,14 @@ void DisegnaCampata(Lavagna& lavagna, const Figura& figura, const Scala& scala) 
                  scala.X((figura.luce + barre[i].campata) / 2), quota(i));
 }
 
-// The faces of the supports go through all bars, so that one sees what lies in the supports; the
-// labels of the bars interrupt them.
+// The faces of the supports, so that one sees which bars lie in them: through the bars in the span
+// and up to the first stub, above which the names begin.
 void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const Quote quote(lavagna, kTick);
   const double x1 = scala.X(0), x2 = scala.X(figura.luce);
-  for (const double x : {x1, x2}) quote.Richiamo({x, kSlabTop}, {x, kLongStubs});
+  for (const auto& [x, corto] : {std::pair{x1, &figura.cortoSin}, std::pair{x2, &figura.cortoDex}})
+    quote.Richiamo({x, kSlabTop},
+                   {x, (corto->campata == 0 ? kLongStubs : kShortStubs) - kTick / 2});
   for (const double x : {x1, x2}) quote.Richiamo({x, kSlabBottom - 0.9}, {x, kSpanLine});
   quote.Riga({x1, kSpanLine}, {x2, kSpanLine});
   quote.Nome(kLarghezzaDisegno / 2, kSpanLine + kAboveBar, figura.quota, Anchor::Above);
@@ -134,7 +139,7 @@ void DisegnaQuote(Lavagna& lavagna, const Figura& figura, const Scala& scala) {
   const double zona = scala.X(figura.zonaPiena) - x1;
   for (const auto& [da, a] : {std::pair{x1, x1 + zona}, std::pair{x2 - zona, x2}})
     quote.Riga({da, kSpanLine}, {a, kSpanLine});
-  const double below = kSpanLine - 0.3 - lavagna.LineHeight() / 2;
+  const double below = kSpanLine - kTick - 0.3 - lavagna.LineHeight() / 2;
   quote.Nome(x1, below, figura.quotaZona, Anchor::Left);
   quote.Nome(x2, below, figura.quotaZona, Anchor::Right);
 }
@@ -182,7 +187,7 @@ void DisegnaSchemaSolaio(Lavagna& lavagna) {
                 {{0, 3.3, "Integrativo n° 1"},
                  {0, 2.4, "Integrativo n° 2"},
                  {0, 4.4, "Aggiuntivo"},
-                 {0, kRapportoLuci * 4, kTraliccio}},
+                 {0, 4 + 2 * kBearing, kTraliccio}},
                 "Luce netta",
                 ""};
   const Scala scala(figura);
@@ -213,7 +218,7 @@ void DisegnaArmatureSolaio(Lavagna& lavagna, const DatiSolaioT& dati,
                       {DiCampata("Integrativo n° 1", risultati.campata[1]),
                        DiCampata("Integrativo n° 2", risultati.campata[2]),
                        DiCampata("Aggiuntivo", risultati.campata[0]),
-                       BarraDisegnata{0, kRapportoLuci * dati.luce, kTraliccio}},
+                       BarraDisegnata{0, dati.luce + 2 * kBearing, kTraliccio}},
                       "(Luce netta = " + FormatPattern(dati.luce, "###0.00") + " ml)",
                       "Zona piena " + FormatPattern(risultati.zonaPiena * 100, "##0.0") + " cm"};
   const Scala scala(figura);

@@ -78,7 +78,7 @@ class PannelloDatiSolaio {
                              Elenco(kDiametriFerri)};
   Button cmdAutomatico{form_, "cmdAutomatico", "Automatico"};
   Label lblBlu{form_, "lblBlu",
-               "In blu i diametri scelti dal programma:\nCALCOLA li sceglie di nuovo.",
+               "In blu i diametri in campata scelti\nda CALCOLA, che li sceglie di nuovo.",
                Label::Style::Note};
   Label lblVuoto{
       form_, "lblVuoto",

@@ -33,6 +33,7 @@ PannelloVisteSolaio::PannelloVisteSolaio(Form& form) : form_(form) {
     };
   }
   optVisualizza[Schema].SetValue(true);
+  Lavagna.SetStretches(true);
   Lavagna.SetOtherViews({&fraFerri, &fraSollecitazioni, &fraTensioni});
 }
 
@@ -61,9 +62,8 @@ Layout PannelloVisteSolaio::Contents(Label& esito) {
   for (TestoBox& zona : cdZonePiene) campata.push_back(Row({zona}));
   for (TestoBox& valore : cdSollecitazioni) sollecitazioni.push_back(Row({valore}));
   scelte.assign(optVisualizza.begin(), optVisualizza.end());
-  scelte.emplace_back(esito);
   return Column(
-      {Group(fraVisualizza, {Row(std::move(scelte))}),
+      {Row({Group(fraVisualizza, {Row(std::move(scelte))}), Group(fraEsito, {esito})}),
        Views({Group(fraDisegno, {Lavagna}),
               Group(fraFerri,
                     {Row({Tabella(0, std::move(campata)), Tabella(3, std::move(monconi))})}),
@@ -116,9 +116,9 @@ void PannelloVisteSolaio::Scrivi(Valore tensione, double valore, double ammessa)
 void PannelloVisteSolaio::ScriviFerri(const RisultatiSolaioT& r) {
   const auto barre = BarreDi(r);
   for (std::size_t i = 0; i < barre.size(); ++i) {
-    if (barre[i].diametro == 0) continue;
-    cdLunghezze[i].SetText(FormatPattern(barre[i].lunghezza, kDueDecimali));
-    lblDiametri[i].SetText("Ø " + NumberText(barre[i].diametro));
+    const bool assente = barre[i].diametro == 0;
+    cdLunghezze[i].SetText(assente ? "" : FormatPattern(barre[i].lunghezza, kDueDecimali));
+    lblDiametri[i].SetText(assente ? "assente" : "Ø " + NumberText(barre[i].diametro));
   }
   for (TestoBox& zona : cdZonePiene) zona.SetText(FormatPattern(r.zonaPiena * 100, "##0.0"));
 }

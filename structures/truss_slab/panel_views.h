@@ -86,6 +86,7 @@ class PannelloVisteSolaio {
       0,
       {"Schema input dati", "Disegno armature", "Tabella Ferri", "Sollecitazioni ", "Tensioni"},
       gruppo};
+  Frame fraEsito{form_, "fraEsito", "ESITO"};
   Frame fraDisegno{form_, "fraDisegno", "DISEGNO SCHEMA ARMATURE"};
   orm::Lavagna Lavagna{form_, "Lavagna", kLarghezzaDisegno, kAltezzaDisegno, kPuntiDisegno};
   Frame fraFerri{form_, "fraFerri", "DISPOSIZIONE FERRI E LATERIZI"};

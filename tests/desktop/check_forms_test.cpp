@@ -227,6 +227,16 @@ TEST_F(Checks, NothingSizesTheWindowAtACalculationOrAnotherView) {
     });
 }
 
+TEST_F(Checks, ASlabIsDrawnAsWideAsItsPlace) {
+  Show("VER_SOLAIO_T", [](FormDialog& dialog) {
+    dialog.resize(1600, dialog.height());
+    DesignSlab(dialog);
+    const QImage seen = FieldOf(dialog, "Lavagna")->grab().toImage();
+    const QPoint support(seen.width() * 4 / 138, seen.height() * 11 / 30);
+    EXPECT_EQ(seen.pixelColor(support), QColor(200, 200, 200));
+  });
+}
+
 // From wherever the focus is, also from a list, which opens with that key otherwise.
 TEST_F(Checks, F4TellsHowResultsCameAboutAsATextToCopy) {
   int told = 0;
