@@ -237,6 +237,27 @@ TEST_F(Checks, ASlabIsDrawnAsWideAsItsPlace) {
   });
 }
 
+TEST_F(Checks, TablesOfASlabStandInColumns) {
+  Show("VER_SOLAIO_T", [](FormDialog& dialog) {
+    DesignSlab(dialog);
+    Press(dialog, "optVisualizza(2)");
+    const auto left = [&](const char* name) {
+      return FieldOf(dialog, name)->mapTo(&dialog, QPoint(0, 0)).x();
+    };
+    EXPECT_EQ(left("lblDiametri(0)") - left("cdLunghezze(0)"),
+              left("lblDiametri(3)") - left("cdLunghezze(3)"));
+    Press(dialog, "optVisualizza(4)");
+    for (const QLabel* caption : dialog.findChildren<QLabel*>()) {
+      if (!caption->isVisible() || !caption->text().startsWith("INCASTRO")) continue;
+      const QImage seen = const_cast<QLabel*>(caption)->grab().toImage();
+      int ink = 0;  // of its closing bracket
+      for (int x = seen.width() - 5; x < seen.width(); ++x)
+        for (int y = 0; y < seen.height(); ++y) ink += seen.pixel(x, y) != seen.pixel(x, 0);
+      EXPECT_GT(ink, 0) << FromQt(caption->text());
+    }
+  });
+}
+
 // From wherever the focus is, also from a list, which opens with that key otherwise.
 TEST_F(Checks, F4TellsHowResultsCameAboutAsATextToCopy) {
   int told = 0;
