@@ -139,8 +139,10 @@ void Pianta::Misure() {
     quote_.Orizzontale(a - mensola, a + mensola, muro + 1.2, "Ba", muro);
   // Beside a bracket at the end of the slab, which is wider than the slab there.
   const double fine = X(f_.Fronte()), bordo = std::max(fine, a + mensola);
-  quote_.Verticale(bordo + 1.8, lastra, faccia_, "La");
-  quote_.Richiamo({f_.Bm < f_.La ? fine : bordo, lastra}, {bordo + 1.8, lastra});
+  const double accanto = bordo + 1.8, fuori = kLeft + kWide + 3.2;  // not on the wall's corner
+  const double x = accanto > kLeft + kWide ? fuori : accanto;
+  quote_.Verticale(x, lastra, faccia_, "La");
+  quote_.Richiamo({f_.Bm < f_.La ? fine : bordo, lastra}, {x, lastra});
 }
 
 }  // namespace

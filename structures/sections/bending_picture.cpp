@@ -18,6 +18,7 @@ constexpr double kLeft = -4.6, kLeftOfFlanges = -7.4, kBottom = -1.6, kRight = 3
 constexpr double kTitle = 10.9, kSecondLine = 9.9;  // middle of what stands above the drawing
 constexpr double kSample = 18.6;                    // of the legend
 constexpr double kNameOfAxis = 13;                  // where it begins
+constexpr double kBeside = 0.8;                     // from the edge of a section to it
 constexpr double kHatchStep = 0.2;
 constexpr const char* kAsseNeutro = "asse neutro";
 
@@ -147,18 +148,19 @@ void DisegnoFlessione::AsseNeutro(double profondita) {
   lavagna_.SetColour(kBlue);
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
-  const double end = std::max(15.6, X(W_) + 0.5);
+  // That of a wide section goes on under its name.
+  const double end = X(W_) > kNameOfAxis ? X(W_) + kBeside + lavagna_.TextWidth(kAsseNeutro) : 15.6;
   lavagna_.DrawLine(0.4, y, end, y);
   posti_.Riga(0.4, end, y);
 }
 
-// Above the line at 13, or at the end of the line of a section that reaches as far; where a stress
-// stands there, the nearest free place, in the section or out of it.
+// Above the line at 13, or beside a section that reaches as far; where a stress stands there, the
+// nearest free place, in the section or out of it.
 PostiEtichette::Richiesta DisegnoFlessione::NomeAsse() const {
   const double width = lavagna_.TextWidth(kAsseNeutro), height = 0.9 * lavagna_.LineHeight();
   const double within = X(W_) - width - 0.3;
-  if (X(W_) > kNameOfAxis) return {{X(W_) + 0.8, within}, Y(asse_), width, height, {}};
-  return {{kNameOfAxis, within}, Y(asse_) + 0.8, width, height, {}};
+  const double beside = X(W_) > kNameOfAxis ? X(W_) + kBeside : kNameOfAxis;
+  return {{beside, within}, Y(asse_) + 0.8, width, height, {}};
 }
 
 void DisegnoFlessione::Armature(std::vector<double> profondita, std::vector<double> aree,
