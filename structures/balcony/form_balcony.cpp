@@ -76,6 +76,7 @@ void FrmVerBalcone::Calcola() {
   const bool entro = !tensioni.Supera(risultati);
   Calcolato(entro ? "TENSIONI ENTRO LE AMMISSIBILI" : "TENSIONI OLTRE LE AMMISSIBILI", entro,
             tensioni.Spiegate(risultati, std::move(perche)));
+  tensioni.MostraLimiti();
   if (!entro) Label_NOTA.SetText("IL BALCONE NON RISULTA SICURO.");
   ConfrontaConStatica(dati, risultati);
 }

@@ -70,6 +70,7 @@ void PannelloTensioniBalcone::Azzera() {
     risultato.SetValue(0);
     risultato.SetWarning(false);
   }
+  MostraLimiti();
 }
 
 void PannelloTensioniBalcone::Mostra(const RisultatiBalcone& risultati) {
@@ -110,10 +111,11 @@ double PannelloTensioniBalcone::Ammessa(std::size_t mostrato) const {
   return (mostrato % 2 == 0 ? cdMaterialiS : cdMaterialiT)[mostrato / 2].Value();
 }
 
-// Behind each stress the one that it may reach.
+// Behind each stress the one that it may reach, or is beyond.
 void PannelloTensioniBalcone::MostraLimiti() {
   for (std::size_t i = 0; i < 2 * cdMaterialiS.size(); ++i)
-    cdOUT[i].SetUnit("≤ " + ShownNumber(Ammessa(i), cdMaterialiS[0].Limits()));
+    cdOUT[i].SetUnit((cdOUT[i].Warns() ? "> " : "≤ ") +
+                     ShownNumber(Ammessa(i), cdMaterialiS[0].Limits()));
 }
 
 // The wall, shown last, is held against nothing.

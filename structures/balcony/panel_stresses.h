@@ -25,6 +25,7 @@ class PannelloTensioniBalcone {
   void Scegli(TipoBalcone tipo);
 
   void Azzera();
+  void MostraLimiti();  // once more when results have come
   // Shows the results and marks those beyond what is allowed.
   void Mostra(const RisultatiBalcone& risultati);
   // Of the results that the kind has, each with what it is held against.
@@ -61,7 +62,6 @@ class PannelloTensioniBalcone {
       NumberLimits{.least = -999999.9, .most = 999999.9, .decimals = 1}};
 
  private:
-  void MostraLimiti();
   double Ammessa(std::size_t mostrato) const;
   bool Supera(const RisultatiBalcone& risultati, std::size_t mostrato) const;
   void ChiediPietra(std::size_t pietra);

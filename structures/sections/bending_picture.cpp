@@ -149,7 +149,7 @@ void DisegnoFlessione::AsseNeutro(double profondita) {
   lavagna_.SetStroke(Stroke::Dashed);
   lavagna_.SetWidth(2);
   // That of a wide section goes on under its name.
-  const double end = X(W_) > kNameOfAxis ? X(W_) + kBeside + lavagna_.TextWidth(kAsseNeutro) : 15.6;
+  const double end = X(W_) > kNameOfAxis ? X(W_) + kBeside + 2.6 : 15.6;
   lavagna_.DrawLine(0.4, y, end, y);
   posti_.Riga(0.4, end, y);
 }

@@ -77,6 +77,7 @@ void FormFlessione::Scegli(std::size_t forma) {
     Label_NOTA.SetText(note_.segni);
   else
     SenzaRisultati();
+  MostraLimiti();
 }
 
 void FormFlessione::Disponi(std::vector<Layout> geometria, std::vector<Layout> armature) {
@@ -118,8 +119,8 @@ void FormFlessione::Mostra(const RisultatiFlessione& r, bool verificata, CateneF
     const bool provato = i != 0 && i != NonProvato();
     cdOUT[i].SetWarning(provato && std::fabs(valori[i]) >= Ammesso(i));
   }
-  MostraLimiti();
   Calcolato(verificata ? kVerificata : kNonVerificata, verificata, std::move(spiegazioni));
+  MostraLimiti();
   Label_NOTA.SetText(std::string(note_.segni) + (verificata ? "" : note_.nonVerificata));
 }
 
@@ -130,19 +131,20 @@ void FormFlessione::Azzera() {
   }
 }
 
-// Behind each stress the one that it must not reach.
+// Behind each stress the one that it must not reach, or has reached.
 void FormFlessione::MostraLimiti() {
   for (std::size_t i = 1; i < cdOUT.size(); ++i) {
     const bool provato = i != NonProvato();
     cdOUT[i].SetHint(provato ? "" : "L'acciaio compresso non entra nel giudizio.");
     if (provato)
-      cdOUT[i].SetUnit("< " + ShownNumber(Ammesso(i), kTensione));
+      cdOUT[i].SetUnit((cdOUT[i].Warns() ? "≥ " : "< ") + ShownNumber(Ammesso(i), kTensione));
     else
       cdOUT[i].SetUnit("esclusa", true);
   }
 }
 
 void FormFlessione::ADatiCambiati() {
+  MostraLimiti();
   if (Lavagna.HasVerdict()) Lavagna.SetNotice(kDatiCambiati);
 }
 

@@ -296,7 +296,7 @@ TEST_F(Checks, AStressHasItsLimitBesideItAndAMarkBeyondIt) {
     };
     EXPECT_EQ(told("cdOUT(2)"), "< 97,5 ");
     EXPECT_EQ(told("cdOUT(4)"), "esclusa ");
-    EXPECT_EQ(told("cdOUT(5)"), "< 200 Valore oltre il limite");
+    EXPECT_EQ(told("cdOUT(5)"), "≥ 200 Valore oltre il limite");
     const QColor weight = FieldOf(dialog, "cdOUT(2)")->palette().color(QPalette::Text);
     Write(dialog, "CD_12", "300");
     for (const char* name : {"cdOUT(2)", "cdOUT(5)"})
