@@ -105,8 +105,8 @@ void DisegnoFlessione::Legenda(bool verificata) {
   lavagna_.DrawVerdict(sinistra_ + 0.4, kTitle, verificata ? kVerificata : kNonVerificata,
                        Anchor::Left);
   lavagna_.SetFont(kSmall);
-  lavagna_.DrawText(kSample + 1.6, kTitle, "calcestruzzo compresso", Anchor::Left);
-  lavagna_.DrawText(kSample + 1.6, kSecondLine, "tensione non ammissibile", Anchor::Left);
+  lavagna_.DrawText(kSample + 1.8, kTitle, "calcestruzzo compresso", Anchor::Left);
+  lavagna_.DrawText(kSample + 1.8, kSecondLine, "tensione non ammissibile", Anchor::Left);
   lavagna_.DrawText(sinistra_ + 0.4, kBottom + 0.55, "quote in cm", Anchor::Left);
   for (const double y : {kTitle - 0.2, kTitle, kTitle + 0.2})
     HatchLine(lavagna_, kSample, kSample + 1.4, y);
@@ -117,7 +117,7 @@ void DisegnoFlessione::Legenda(bool verificata) {
 // The arrow turns as the moment does on the right face of a beam: compression, left of the base
 // line, lies where it points to the left.
 void DisegnoFlessione::Momento(double kgxcm) {
-  constexpr double kRadius = 0.42;
+  constexpr double kRadius = 0.34;
   const bool positive = kgxcm > 0;
   const double x = sinistra_ + 0.8, y = kSecondLine, tip = positive ? y + kRadius : y - kRadius;
   lavagna_.SetColour(kBlack);
