@@ -117,7 +117,7 @@ class FormText {
   QString ColumnHtml(const Layout& part) {
     const Widths outer = std::exchange(widths_, {});
     ForEachLine(part, [this](const Line& line) { Widen(line); });
-    const QString html = PartHtml(part);
+    QString html = PartHtml(part);
     widths_ = outer;
     return html;
   }
@@ -135,7 +135,7 @@ class FormText {
         return IsField(part.children[0]) ? TableHtml({part}) : BesideHtml(part.children, 1e9);
       case Layout::Kind::Group: {
         if (!Printed(*part.control)) return {};
-        const QString inside = PartsHtml(part.children);
+        QString inside = PartsHtml(part.children);
         if (inside.isEmpty() || !part.control->OnPaper()) return inside;
         // A line of its own: a margin is lost at the top of a cell.
         return QString("<p style='margin:0px; font-size:%1px'>&nbsp;</p>").arg(kAboveGroup) +
