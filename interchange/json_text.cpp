@@ -13,7 +13,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr int kPiuProfondo = 16;
+constexpr std::size_t kPiuProfondo = 16;
+constexpr std::size_t kPiuNomi = 200;  // each is looked for among all those before it
 
 [[noreturn]] void RespingiTesto(std::string_view testo, std::size_t fine,
                                 const std::string& motivo) {
@@ -24,33 +25,57 @@ constexpr int kPiuProfondo = 16;
       .AtLine(1 + static_cast<int>(std::ranges::count(prima, '\n')));
 }
 
-// Keeps the names of the objects that are open.
-class NomiDiversi {
+// Goes through a text before anything is built of it: a reader that builds and asks at each step
+// looks through the whole list at the end of each of its objects.
+class FormaDelTesto : public nlohmann::json_sax<Json> {
  public:
-  bool operator()(int livello, Json::parse_event_t evento, const Json& valore) {
-    if (livello > kPiuProfondo)
-      throw RuntimeFailure("Gli oggetti sono annidati più di quanto è previsto.");
-    const auto quale = static_cast<std::size_t>(livello);
-    if (evento == Json::parse_event_t::object_start) {
-      nomi_.resize(quale + 1);
-      nomi_.emplace_back();
-    }
-    if (evento == Json::parse_event_t::key &&
-        !nomi_[quale].insert(valore.get<std::string>()).second)
-      throw RuntimeFailure("Questo nome sta due volte nello stesso oggetto.")
-          .AtField(valore.get<std::string>());
+  bool null() override { return true; }
+  bool boolean(bool) override { return true; }
+  bool number_integer(number_integer_t) override { return true; }
+  bool number_unsigned(number_unsigned_t) override { return true; }
+  bool number_float(number_float_t, const string_t&) override { return true; }
+  bool string(string_t&) override { return true; }
+  bool binary(binary_t&) override { return true; }
+  bool start_object(std::size_t) override { return Apri(); }
+  bool end_object() override { return Chiudi(); }
+  bool start_array(std::size_t) override { return Apri(); }
+  bool end_array() override { return Chiudi(); }
+  // Told by the reader that builds, which comes to the same place.
+  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
+    return false;
+  }
+
+  bool key(string_t& nome) override {
+    auto& nomi = nomi_.back();
+    if (!nomi.insert(nome).second)
+      throw RuntimeFailure("Questo nome sta due volte nello stesso oggetto.").AtField(nome);
+    if (nomi.size() > kPiuNomi)
+      throw RuntimeFailure("Un oggetto ha più campi di quanti sono previsti.").AtField(nome);
     return true;
   }
 
  private:
-  std::vector<std::set<std::string>> nomi_;
+  bool Apri() {
+    if (nomi_.size() > kPiuProfondo)
+      throw RuntimeFailure("Gli oggetti sono annidati più di quanto è previsto.");
+    nomi_.emplace_back();
+    return true;
+  }
+  bool Chiudi() {
+    nomi_.pop_back();
+    return true;
+  }
+
+  std::vector<std::set<std::string>> nomi_;  // of what is open
 };
 
 }  // namespace
 
 Json LeggiJson(std::string_view testo) {
   try {
-    return Json::parse(testo, NomiDiversi());
+    FormaDelTesto forma;
+    Json::sax_parse(testo, &forma);
+    return Json::parse(testo);
   } catch (const Json::parse_error& errore) {
     const bool codifica = std::string_view(errore.what()).find("UTF-8") != std::string_view::npos;
     const char* motivo = codifica                     ? "Il testo non è in codifica UTF-8"

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "desktop/viewer/window.h"
+#include "interchange/interchange.h"
 #include "runtime/failure.h"
 #include "shell/memo/form_memo.h"
 #include "shell/shell.h"
@@ -48,6 +49,7 @@ TEST(Bombs, AreShownOrRefusedWithinTwoSecondsAnd500Megabytes) {
       {"RIGA.RTF", "{\\rtf1 " + std::string(8'000'000, 'x') + "}"},
       {"CAPOVERSI.RTF", "{\\rtf1 " + Many(24'000, "a\\par ") + "}"},
       {"LUNGO.RTF", "{\\rtf1 " + Many(199, std::string(4'990, 'x') + "\\par ") + "}"},
+      {"ELENCO.json", "[" + Many(2'700'000, "{},") + "{}]"},
       {"UTENTE.DAG", Many(14, "\"" + std::string(590'000, 'x') + "\",")},
   };
   for (const auto& [name, bytes] : bombs) {
@@ -57,6 +59,8 @@ TEST(Bombs, AreShownOrRefusedWithinTwoSecondsAnd500Megabytes) {
     try {
       if (name.ends_with(".DAG")) {
         Shell(player, folder).Choose("PERS_UTENTE");
+      } else if (name.ends_with(".json")) {
+        LeggiNotaDaJson(name, bytes);
       } else if (name.ends_with(".RTF")) {
         FrmGenVisualizzaRtf memo(run);
         memo.NomeFile = name;

@@ -61,6 +61,7 @@ class Hurried : public orm::Player {
       if (control->GetKind() == Kind::NumberBox) control->Enter("7");
     }
     if (chosen != nullptr) chosen->Press();
+    if (auto* print = dynamic_cast<orm::Button*>(form.Find("cmdSTAMPA"))) print->Press();
   }
 
   std::string leaves_;

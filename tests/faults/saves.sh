@@ -19,6 +19,12 @@ cp -r "$old" "$work/state-acconti"
 "$saver" "$work/state-acconti" PARCELLE_PPE_ID frmGEN_Acconti
 loop "input di una parcella" "$saver" "$at" PARCELLE_PPE_ID
 
+# The report of a check grows by hand: it is on the disk before the next step.
+loop "relazione di una verifica" "$saver" "$at" VER_SBALZI_P
+rm "$at"/*.DOC
+strace -o "$work/trace" -e trace=fsync "$saver" "$at" VER_SBALZI_P 2>/dev/null
+[ "$(grep -c '^fsync' "$work/trace")" = 2 ] || breaks "relazione di una verifica: non è portata sul disco"
+
 # A folder that lacks two of the installed files.
 rm -rf "$old" "$work"/state-* && mkdir "$old" "$work/installed"
 for name in {CAC,CS1,CS2,GEO,INC,IND,TUS}.CFG {BALCONI,SOLAIATRALICCIO}.PDF; do

@@ -1,7 +1,10 @@
 // What a save replaces stays in `storico`; what a folder holds instead of files is refused.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
+#include <array>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 
@@ -116,6 +119,31 @@ TEST_F(GenerationsTest, WhatIsNoFileIsNoTarget) {
   EXPECT_EQ(ReasonOfReplace("C.DAP"), "Non è un file di dati.");
   const WorkFolder gone(path_ + "/assente");
   EXPECT_THROW((void)gone.Exists("A.DAP"), RuntimeFailure);
+}
+
+// A colleague's right stays on the file that has it, and the folder's own list comes to no file
+// that had none.
+TEST_F(GenerationsTest, AccessListsStayAsTheyWere) {
+  struct Right {
+    std::uint16_t whose, what;
+    std::uint32_t id;
+  };
+  struct {
+    std::uint32_t version = 2;
+    std::array<Right, 5> rights{{{1, 6, 0}, {2, 6, 60'002}, {4, 4, 0}, {16, 6, 0}, {32, 0, 0}}};
+  } const list;
+  constexpr const char* kOfFile = "system.posix_acl_access";
+  const auto length = [](const std::string& path) {
+    return ::getxattr(path.c_str(), kOfFile, nullptr, 0);
+  };
+  Lay("A.DAP", "prima"), Lay("B.DAP", "prima");
+  if (::setxattr((path_ + "/A.DAP").c_str(), kOfFile, &list, sizeof list, 0) != 0)
+    GTEST_SKIP() << "the disk keeps no access lists";
+  ASSERT_EQ(::setxattr(path_.c_str(), "system.posix_acl_default", &list, sizeof list, 0), 0);
+  for (const char* name : {"A.DAP", "B.DAP", "C.DAP"}) folder_.Replace(name, "dopo");
+  EXPECT_EQ(length(path_ + "/A.DAP"), static_cast<ssize_t>(sizeof list));
+  EXPECT_EQ(length(path_ + "/B.DAP"), -1);
+  EXPECT_EQ(length(path_ + "/C.DAP"), static_cast<ssize_t>(sizeof list));  // as any new file
 }
 
 }  // namespace

@@ -115,12 +115,15 @@ TEST_F(Viaggio, WhatIsWrongIsToldWithItsPlaceAndWritesNothing) {
     EXPECT_NE(detto.find("File : nota.json"), std::string::npos) << detto;
   }
   const std::string profondo(100000, '[');
+  Json largo = buona;
+  for (int i = 0; i < 200; ++i) largo["dati"][0]["altro " + std::to_string(i)] = i;
   for (const auto& [testo, atteso] :
        {std::pair<std::string, const char*>{"{\n \"caso\": PPE }", "Riga : 2"},
         {"{\"caso\": \"PPE\"", "finisce a metà"},
         {"{\"caso\": \"\xE0\"}", "UTF-8"},
         {"{\"a\": 1, \"b\": {\"a\": 1}, \"a\": 2}", "due volte"},
         {"{\"a\": 1e999}", "fuori da ogni limite"},
+        {largo.dump(), "più campi di quanti"},
         {profondo, "annidati"}})
     EXPECT_NE(messaggio(testo).find(atteso), std::string::npos) << messaggio(testo);
   for (const std::string& nome : altra.Names()) EXPECT_TRUE(nome.ends_with(".CFG")) << nome;
