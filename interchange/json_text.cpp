@@ -29,6 +29,8 @@ constexpr std::size_t kPiuNomi = 200;  // each is looked for among all those bef
 // looks through the whole list at the end of each of its objects.
 class FormaDelTesto : public nlohmann::json_sax<Json> {
  public:
+  explicit FormaDelTesto(std::string_view testo) : testo_(testo) {}
+
   bool null() override { return true; }
   bool boolean(bool) override { return true; }
   bool number_integer(number_integer_t) override { return true; }
@@ -40,9 +42,16 @@ class FormaDelTesto : public nlohmann::json_sax<Json> {
   bool end_object() override { return Chiudi(); }
   bool start_array(std::size_t) override { return Apri(); }
   bool end_array() override { return Chiudi(); }
-  // Told by the reader that builds, which comes to the same place.
-  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
-    return false;
+  // Of text that is none, and of a number beyond every limit.
+  bool parse_error(std::size_t fine, const std::string&,
+                   const nlohmann::detail::exception& errore) override {
+    if (dynamic_cast<const Json::parse_error*>(&errore) == nullptr)
+      throw RuntimeFailure("Il testo JSON contiene un numero fuori da ogni limite.");
+    const bool codifica = std::string_view(errore.what()).find("UTF-8") != std::string_view::npos;
+    RespingiTesto(testo_, fine,
+                  codifica               ? "Il testo non è in codifica UTF-8"
+                  : fine > testo_.size() ? "Il testo JSON finisce a metà"
+                                         : "Il testo non è JSON");
   }
 
   bool key(string_t& nome) override {
@@ -66,25 +75,16 @@ class FormaDelTesto : public nlohmann::json_sax<Json> {
     return true;
   }
 
+  std::string_view testo_;
   std::vector<std::set<std::string>> nomi_;  // of what is open
 };
 
 }  // namespace
 
 Json LeggiJson(std::string_view testo) {
-  try {
-    FormaDelTesto forma;
-    Json::sax_parse(testo, &forma);
-    return Json::parse(testo);
-  } catch (const Json::parse_error& errore) {
-    const bool codifica = std::string_view(errore.what()).find("UTF-8") != std::string_view::npos;
-    const char* motivo = codifica                     ? "Il testo non è in codifica UTF-8"
-                         : errore.byte > testo.size() ? "Il testo JSON finisce a metà"
-                                                      : "Il testo non è JSON";
-    RespingiTesto(testo, errore.byte, motivo);
-  } catch (const Json::out_of_range&) {
-    throw RuntimeFailure("Il testo JSON contiene un numero fuori da ogni limite.");
-  }
+  FormaDelTesto forma(testo);
+  Json::sax_parse(testo, &forma);
+  return Json::parse(testo);
 }
 
 std::string AlPostoDi(const std::string& atteso, const Json& trovato) {
