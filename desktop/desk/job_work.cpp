@@ -94,7 +94,9 @@ void OpenJob(DeskWindow& window) {
                   kDeskName);
     case Opened::Failed:
       return Tell(&window, QMessageBox::Warning, QStringLiteral("ORM2002 non si può far partire."),
-                  QStringLiteral("Il programma orm2002 non è accanto a orm2002-lavori."),
+                  QFileInfo(ToQt(window.Folder())).isDir()
+                      ? QStringLiteral("Il programma orm2002 non è accanto a orm2002-lavori.")
+                      : QStringLiteral("La cartella del lavoro non c'è più."),
                   kDeskName);
   }
 }

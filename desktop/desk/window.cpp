@@ -1,5 +1,6 @@
 #include "desktop/desk/window.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -107,7 +108,8 @@ QWidget* DeskWindow::JobsSide() {
     sought_->clear();
     jobsView_->setFocus();
   });
-  connect(jobsView_, &QTableView::activated, this, [this] { OpenJob(*this); });
+  connect(jobsView_, &QTableView::activated, this,
+          [this] { findChild<QAction*>(QStringLiteral("open"))->trigger(); });
   return side;
 }
 
@@ -256,11 +258,16 @@ void DeskWindow::ChooseRow() {
 
 void DeskWindow::ShowJob() {
   Lavoro job;
-  QString why;
+  unreadableJob_.clear();
   try {
+    // The system's functions of files would look for another name.
+    if (job_.contains(QChar::ReplacementCharacter))
+      throw RuntimeFailure(
+          "Il nome della cartella non è scritto in UTF-8: prima di lavorarci va cambiato con il "
+          "gestore dei file.");
     if (!job_.isEmpty()) job = Jobs().Dettagli(FromQt(job_));
   } catch (const RuntimeFailure& failure) {
-    why = ToQt(failure.Text());
+    unreadableJob_ = ToQt(failure.Text());
   }
   contents_->Show(job);
   jobTitle_->setText(Foldable(job_));
@@ -269,7 +276,6 @@ void DeskWindow::ShowJob() {
   MarkFound();
   Watch();
   ShowState();
-  if (!why.isEmpty()) jobState_->setText(Foldable(why));
 }
 
 // The note that is sought is the one chosen.

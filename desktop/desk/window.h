@@ -88,8 +88,9 @@ class DeskWindow : public QMainWindow {
   QStackedWidget* pages_;
   DeskMenus menus_;
   QString job_;
-  QString unreadable_;  // why the root cannot be read
-  QString starting_;    // the program started last
+  QString unreadable_;     // why the root cannot be read
+  QString unreadableJob_;  // why the chosen job cannot be
+  QString starting_;       // the program started last
   QElapsedTimer started_;
   bool listing_ = false, listed_ = false;  // just now; ever
   QFileSystemWatcher watcher_;

@@ -28,7 +28,7 @@ constexpr int kRoomAround = 20;      // pixels that a new window leaves free at 
 void DeskWindow::ShowState() {
   setWindowTitle(QString::fromLatin1(kDeskName));
   DeskChoice choice;
-  choice.job = !job_.isEmpty();
+  choice.job = !job_.isEmpty() && unreadableJob_.isEmpty();
   choice.inUse = choice.job && InUso(Folder());
   const int row = Row();
   const ParcellaDelLavoro* note = contents_->NoteAt(row);
@@ -39,7 +39,8 @@ void DeskWindow::ShowState() {
         choice.reports || (contents_->NoteAt(i) != nullptr && !contents_->FileAt(i).empty());
   choice.model = choice.job && settings_.Model() == job_;
   menus_.ShowChoice(choice);
-  jobState_->setText(choice.inUse ? QStringLiteral("In uso: ORM2002 lavora in questa cartella.")
+  jobState_->setText(!unreadableJob_.isEmpty() ? Foldable(unreadableJob_)
+                     : choice.inUse ? QStringLiteral("In uso: ORM2002 lavora in questa cartella.")
                      : contents_->rowCount() > 0 || !choice.job
                          ? QString()
                          : QStringLiteral("Ancora nessuna parcella: \"Apri\" fa partire ORM2002 in "

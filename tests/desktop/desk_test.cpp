@@ -1,4 +1,6 @@
 // The desk of the jobs, with real keys: what a person does with them, and what comes from outside.
+#include <sys/stat.h>
+
 #include <QAction>
 #include <QClipboard>
 #include <QDir>
@@ -336,6 +338,14 @@ TEST_F(Desk, WatchesTheFolders) {
   EXPECT_EQ(window->Job(), "Uno");
   QDir(settings.Root() + "/Uno").removeRecursively();
   EXPECT_TRUE(QTest::qWaitFor([&] { return window->Job() == "Altro"; }));
+  // A name in the letters of another system, which no other function would find again.
+  ASSERT_EQ(::mkdir((settings.Root().toStdString() + "/Citt\xE0").c_str(), 0777), 0);
+  window->Look();
+  window->GoTo(QString("Citt") + QChar(QChar::ReplacementCharacter));
+  for (int times = 0; times < 2; ++times, window->ShowState())
+    EXPECT_TRUE(window->findChild<QLabel*>("jobState")->text().contains("UTF-8"));
+  EXPECT_FALSE(Command("open").isEnabled());
+  EXPECT_FALSE(Command("trash").isEnabled());
 }
 
 TEST_F(Desk, AJobInUseSaysSoAndItsWindowIsCalled) {
