@@ -9,11 +9,17 @@ class QWidget;
 
 namespace orm {
 
-// The text without control characters, which no file of text may hold; empty when it would make the
-// document too large for its file. Either is told beside `at`.
-QString FitForPasting(QString text, const QTextDocument& document, std::size_t most, QWidget* at);
+// What a kind of file holds at most, bytes.
+struct TextRoom {
+  std::size_t whole = 0, line = 0;
+};
 
-// True while another `more` characters fit into `most` bytes; else the person is told.
-bool HasRoom(const QTextDocument& document, qsizetype more, std::size_t most, QWidget* at);
+// The text without control characters, which no file of text may hold; empty when it would make the
+// document too large for its file, or has a line that is. Each is told beside `at`.
+QString FitForPasting(QString text, const QTextDocument& document, const TextRoom& room,
+                      QWidget* at);
+
+// True while another `more` characters fit into the file; else the person is told.
+bool HasRoom(const QTextDocument& document, qsizetype more, const TextRoom& room, QWidget* at);
 
 }  // namespace orm

@@ -21,6 +21,8 @@
 namespace orm {
 namespace {
 
+constexpr TextRoom kRoom{kLongestRichText, kLongestRichParagraph};
+
 // Takes what a file of rich text can hold.
 class RichTextEdit : public QTextEdit {
  public:
@@ -29,13 +31,13 @@ class RichTextEdit : public QTextEdit {
  protected:
   void insertFromMimeData(const QMimeData* source) override {
     if (isReadOnly()) return;
-    const QString text = FitForPasting(source->text(), *document(), kLongestRichText, this);
+    const QString text = FitForPasting(source->text(), *document(), kRoom, this);
     if (!text.isEmpty()) textCursor().insertText(text);
     ensureCursorVisible();
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->text().isEmpty() || event->text()[0] < QChar(' ') ||
-        event->key() == Qt::Key_Delete || HasRoom(*document(), 1, kLongestRichText, this))
+        event->key() == Qt::Key_Delete || HasRoom(*document(), 1, kRoom, this))
       QTextEdit::keyPressEvent(event);
   }
 };

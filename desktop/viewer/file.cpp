@@ -11,7 +11,8 @@ namespace orm {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::size_t kLongestLine = 100'000;  // bytes
+// Of lines with their usual end, which may have others within: all of one are laid out at once.
+constexpr std::size_t kLongestWhole = 100'000;  // bytes of UTF-8
 constexpr int kMostLines = 100'000;
 
 // An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
@@ -45,14 +46,16 @@ void RefuseControlCharacters(std::string_view bytes) {
 }
 
 // A line or a number of lines that nobody reads would keep the window busy for minutes.
-void RefuseEndlessText(std::string_view bytes) {
-  std::size_t length = 0;
+void RefuseEndlessText(std::string_view text) {
+  std::size_t length = 0, whole = 0;
   int line = 1;
-  for (const char c : bytes) {
-    if (c == '\n' || c == '\r') {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n') {
+      length = whole = 0;
+      ++line;
+    } else if (text.substr(i, kLoneLineFeed.size()) == kLoneLineFeed) {
       length = 0;
-      line += c == '\n';
-    } else if (++length > kLongestLine) {
+    } else if (++length > kLongestLine || ++whole > kLongestWhole) {
       throw RuntimeFailure("Una riga del file è troppo lunga per essere mostrata.").AtLine(line);
     }
   }
@@ -121,7 +124,6 @@ std::string WithLineEnds(std::string_view text, LineEnd usual) {
 
 DecodedText DecodeText(std::string_view bytes) {
   RefuseControlCharacters(bytes);
-  RefuseEndlessText(bytes);
   DecodedText result;
   result.format.byteOrderMark = bytes.starts_with(kByteOrderMark);
   if (result.format.byteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
@@ -130,6 +132,7 @@ DecodedText DecodeText(std::string_view bytes) {
   result.text = result.format.encoding == TextEncoding::Utf8
                     ? WithoutLineEnds(bytes, result.format.lineEnd)
                     : WithoutLineEnds(FromWindows1252(bytes), result.format.lineEnd);
+  RefuseEndlessText(result.text);
   return result;
 }
 

@@ -44,7 +44,12 @@ TEST(Bombs, AreShownOrRefusedWithinTwoSecondsAnd500Megabytes) {
   };
   const std::pair<std::string, std::string> bombs[] = {
       {"RIGA.DOC", std::string(8'000'000, 'x')},
-      {"RIGHE_LUNGHE.DOC", Many(79, std::string(99'999, 'x') + "\n")},
+      {"RIGHE_LUNGHE.DOC", Many(790, std::string(9'999, 'x') + "\n")},
+      {"FACCINE.DOC", Many(790, Many(392, "👨‍👩‍👧‍👦") + "\r\n")},
+      {"RITORNI.DOC", std::string(3'000'000, '\r')},
+      {"SEGNI.DOC", Many(400, std::string(19'000, 'x') + "\r") + std::string(500, '\n')},
+      {"SEZIONI.DOC",
+       Many(90'000, std::string(30, '=') + " TOTALI " + std::string(30, '=') + "\n")},
       {"RIGHE.DOC", Many(99'000, std::string(78, 'x') + "\r\n")},
       {"RIGA.RTF", "{\\rtf1 " + std::string(8'000'000, 'x') + "}"},
       {"CAPOVERSI.RTF", "{\\rtf1 " + Many(24'000, "a\\par ") + "}"},

@@ -13,6 +13,7 @@
 
 #include "desktop/export/pages.h"
 #include "desktop/pasted_text.h"
+#include "desktop/viewer/file.h"
 #include "runtime/folder.h"
 
 namespace orm {
@@ -22,6 +23,7 @@ constexpr qreal kLetters = 11;    // points at 100 %
 constexpr int kSheetMargin = 44;  // pixels, at each edge of the sheet
 constexpr int kLeastZoom = 50, kMostZoom = 400, kZoomStep = 10;
 constexpr int kShadow = 5;
+constexpr TextRoom kRoom{WorkFolder::kLargestFile, kLongestLine};
 
 bool IsDark(const QColor& colour) { return colour.lightness() < 128; }
 
@@ -158,7 +160,7 @@ bool ViewerPage::canInsertFromMimeData(const QMimeData* source) const {
 
 void ViewerPage::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly()) return;
-  const QString text = FitForPasting(source->text(), *document(), WorkFolder::kLargestFile, this);
+  const QString text = FitForPasting(source->text(), *document(), kRoom, this);
   if (!text.isEmpty()) textCursor().insertText(text);
   ensureCursorVisible();
 }
@@ -173,7 +175,7 @@ void ViewerPage::wheelEvent(QWheelEvent* event) {
 void ViewerPage::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && escaped) return escaped();
   if (!isReadOnly() && !event->text().isEmpty() && event->text()[0] >= QChar(' ') &&
-      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, WorkFolder::kLargestFile, this))
+      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, kRoom, this))
     return;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter || isReadOnly()) return QPlainTextEdit::keyPressEvent(event);

@@ -6,6 +6,9 @@
 #include <algorithm>
 
 namespace orm {
+namespace {
+constexpr std::size_t kMostSections = 10'000;
+}  // namespace
 
 std::vector<Section> SectionsOf(const QString& text) {
   static const QRegularExpression section(QStringLiteral("^==+ ?(.*[^ =]) ?=*$"));
@@ -14,7 +17,7 @@ std::vector<Section> SectionsOf(const QString& text) {
   QString plain = text;
   const QStringList lines = plain.replace(QChar::LineSeparator, '\n').split('\n');
   std::vector<Section> sections;
-  for (int i = 0; i < lines.size(); ++i) {
+  for (int i = 0; i < lines.size() && sections.size() < kMostSections; ++i) {
     const QString line = lines[i].trimmed();
     if (const auto found = section.match(line); found.hasMatch())
       sections.push_back({found.captured(1), i, 0});
@@ -48,12 +51,13 @@ void SectionList::Fill(const QString& text) {
   clear();
   sections_ = std::move(sections);
   for (const Section& section : sections_) {
-    auto* item =
-        new QListWidgetItem(QString(qsizetype{3} * section.depth, ' ') + section.title, this);
+    // Complete before it is one of the list, which else looks for it at each change.
+    auto* item = new QListWidgetItem(QString(qsizetype{3} * section.depth, ' ') + section.title);
     item->setToolTip(section.title);
     QFont font = item->font();
     font.setBold(section.depth == 0);
     item->setFont(font);
+    addItem(item);
   }
 }
 
