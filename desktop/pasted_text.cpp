@@ -13,13 +13,21 @@ void Say(QWidget* at, const QString& text) {
 }
 
 // Characters: what those of several bytes add is found at the save.
-qsizetype LongestLine(const QString& text) {
-  qsizetype longest = 0, length = 0;
+struct Extent {
+  qsizetype longest = 0;
+  int ends = 0;
+};
+
+Extent ExtentOf(const QString& text) {
+  Extent extent;
+  qsizetype length = 0;
   for (const QChar c : text) {
-    length = c == '\n' || c == '\r' ? 0 : length + 1;
-    longest = std::max(longest, length);
+    const bool end = c == '\n' || c == QChar::ParagraphSeparator;
+    length = end ? 0 : length + 1;
+    extent.longest = std::max(extent.longest, length);
+    if (end) ++extent.ends;
   }
-  return longest;
+  return extent;
 }
 
 bool IsControl(QChar c) {
@@ -40,12 +48,19 @@ QString FitForPasting(QString text, const QTextDocument& document, const TextRoo
                       QWidget* at) {
   const qsizetype before = text.size();
   text.removeIf(IsControl);
+  const bool cleaned = text.size() < before;
+  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace('\r', '\n');
   if (!HasRoom(document, text.size(), room, at)) return {};
-  if (LongestLine(text) > static_cast<qsizetype>(room.line)) {
+  const Extent extent = ExtentOf(text);
+  if (extent.longest > static_cast<qsizetype>(room.line)) {
     Say(at, QStringLiteral("Il testo incollato ha una riga troppo lunga per il suo file."));
     return {};
   }
-  if (text.size() < before)
+  if (document.blockCount() + extent.ends > room.lines) {
+    Say(at, QStringLiteral("Il testo avrebbe troppe righe per il suo file."));
+    return {};
+  }
+  if (cleaned)
     Say(at, QStringLiteral("Dal testo incollato sono stati tolti i caratteri di controllo."));
   return text;
 }

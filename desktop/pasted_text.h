@@ -12,10 +12,12 @@ namespace orm {
 // What a kind of file holds at most, bytes.
 struct TextRoom {
   std::size_t whole = 0, line = 0;
+  int lines = 0;
 };
 
 // The text without control characters, which no file of text may hold; empty when it would make the
-// document too large for its file, or has a line that is. Each is told beside `at`.
+// document too large for its file, with too many lines, or has one that is too long. Each is told
+// beside `at`.
 QString FitForPasting(QString text, const QTextDocument& document, const TextRoom& room,
                       QWidget* at);
 

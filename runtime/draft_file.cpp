@@ -72,12 +72,14 @@ std::vector<DraftFile::Place> DraftFile::Places(int number) const {
   return places;
 }
 
-std::optional<std::string> DraftFile::TakeOver() {
+std::optional<std::string> DraftFile::TakeOver(
+    const std::function<bool(std::string_view)>& wanted) {
   for (int number = 1; number <= kMostDrafts; ++number) {
     for (const Place& place : Places(number)) {
       if (StateOf(place.Path()) != State::Left) continue;
       try {
         std::string bytes = place.folder.Read(place.name);
+        if (!wanted(bytes)) continue;
         number_ = number;
         Hold(place);
         return bytes;

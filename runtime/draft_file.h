@@ -1,6 +1,7 @@
 // What a person has typed and not saved, in a file of its own, so that it outlives the program.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,8 +22,10 @@ class DraftFile {
   DraftFile(const DraftFile&) = delete;
   DraftFile& operator=(const DraftFile&) = delete;
 
-  // What a program that is gone has left, and this one takes over.
-  std::optional<std::string> TakeOver();
+  // What a program that is gone has left, and this one takes over, if it is `wanted`; what is not
+  // stays where it is.
+  std::optional<std::string> TakeOver(const std::function<bool(std::string_view)>& wanted =
+                                          [](std::string_view) { return true; });
   // Replaces the draft, unless it is the one that was kept last. False when it can be kept nowhere.
   bool Keep(std::string_view bytes);
   // Removes what was taken over or kept.

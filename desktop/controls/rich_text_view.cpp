@@ -21,7 +21,7 @@
 namespace orm {
 namespace {
 
-constexpr TextRoom kRoom{kLongestRichText, kLongestRichParagraph};
+constexpr TextRoom kRoom{kLongestRichText, kLongestRichParagraph, kMostRichPieces / 2 - 1};
 
 // Takes what a file of rich text can hold.
 class RichTextEdit : public QTextEdit {

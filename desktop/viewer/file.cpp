@@ -13,7 +13,6 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 // Of lines with their usual end, which may have others within: all of one are laid out at once.
 constexpr std::size_t kLongestWhole = 100'000;  // bytes of UTF-8
-constexpr int kMostLines = 100'000;
 
 // An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
 // like follows in Windows-1252, look like one character of two bytes: «CAFFÈ» ends in one.
@@ -134,6 +133,17 @@ DecodedText DecodeText(std::string_view bytes) {
                     : WithoutLineEnds(FromWindows1252(bytes), result.format.lineEnd);
   RefuseEndlessText(result.text);
   return result;
+}
+
+bool CanBeShown(std::string_view text) {
+  std::size_t length = 0;
+  int lines = 0;
+  for (const char c : text) {
+    length = c == '\n' ? 0 : length + 1;
+    lines += c == '\n';
+    if (length > 2 * kLongestWhole || lines > 2 * kMostLines) return false;
+  }
+  return true;
 }
 
 void CheckOpensAgain(std::string_view bytes, const TextFormat& format) {

@@ -27,6 +27,7 @@ inline constexpr std::string_view kLoneReturn = "\u240D";
 
 // A line as it is shown, bytes of UTF-8: a longer one would keep the window busy for seconds.
 inline constexpr std::size_t kLongestLine = 10'000;
+inline constexpr int kMostLines = 100'000;
 
 struct DecodedText {
   std::string text;  // UTF-8, '\n' at the file's usual line ends
@@ -36,6 +37,10 @@ struct DecodedText {
 // UTF-8 where the bytes can be nothing else, Windows-1252 otherwise. Bytes that are no text are a
 // RuntimeFailure.
 DecodedText DecodeText(std::string_view bytes);
+
+// A text that was being written may be beyond what a file of it could hold; far beyond it the
+// window would be busy for minutes. UTF-8 with '\n' at line ends.
+bool CanBeShown(std::string_view text);
 
 // Refuses, as a RuntimeFailure, bytes that this program would not open again as the same text.
 void CheckOpensAgain(std::string_view bytes, const TextFormat& format);

@@ -12,7 +12,17 @@ void UnsavedText::Follow(const FilePlace& place) {
 }
 
 bool UnsavedText::ComesBack(QWidget* window) {
-  const auto left = draft_->TakeOver();
+  bool tooLarge = false;
+  const auto left = draft_->TakeOver([&tooLarge](std::string_view text) {
+    const bool fits = CanBeShown(text);
+    tooLarge = tooLarge || !fits;
+    return fits;
+  });
+  if (tooLarge)
+    Tell(window, QMessageBox::Warning,
+         QStringLiteral("Di questo file c'è un testo non salvato troppo grande per riprenderlo."),
+         QStringLiteral(
+             "Resta dov'è, in un file nascosto della cartella che finisce in \".bozza\"."));
   if (!left) return false;
   const bool wanted =
       *left != page_.Text() &&

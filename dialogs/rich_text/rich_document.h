@@ -51,6 +51,7 @@ struct RichParagraph {
 // What a window of rich text shows in time; no memo comes near. In bytes.
 inline constexpr std::size_t kLongestRichText = 1'000'000;
 inline constexpr std::size_t kLongestRichParagraph = 20'000;
+inline constexpr int kMostRichPieces = 50'000;  // paragraphs, and runs of one look
 
 struct RichDocument {
   std::vector<RichParagraph> paragraphs;

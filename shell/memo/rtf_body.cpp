@@ -18,11 +18,10 @@ bool IsBulletSign(std::string_view text) {
                  !((c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')));
 }
 
-constexpr std::size_t kMostPieces = 50'000;
 constexpr std::size_t kLongestListText = 64;
 
 void RefuseTooMany(std::size_t pieces) {
-  if (pieces > kMostPieces) FailRtf("ha troppi paragrafi o cambi di carattere");
+  if (pieces > kMostRichPieces) FailRtf("ha troppi paragrafi o cambi di carattere");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "desktop/last_words.h"
 #include "desktop/viewer/parts/page.h"
@@ -163,6 +164,23 @@ TEST_F(Unsaved, AnOpenWindowKeepsItsOwnAndWhatIsNotWantedGoes) {
   Person person("Non salvare");
   EXPECT_TRUE(one.close() && two.close());
   EXPECT_EQ(Drafts(folder_), 0);
+}
+
+// Of a folder that somebody sent: told, and neither shown nor lost.
+TEST_F(Unsaved, WhatNoWindowCanShowStays) {
+  const std::string draft = PathOf(".orm2002-A.TXT.bozza"), endless(7'000'000, '\n');
+  std::ofstream(draft) << endless;
+  Person person("Chiudi");
+  ViewerWindow window;
+  window.Open(PathOf("A.TXT"));
+  EXPECT_TRUE(person.Said().contains("troppo grande per riprenderlo"))
+      << person.Said().toStdString();
+  EXPECT_EQ(window.Page().Text(), "prima\n");
+  QTest::keyClicks(&window.Page(), "due ");
+  window.KeepUnsaved();
+  EXPECT_EQ(Drafts(folder_), 2);
+  EXPECT_EQ(fs::file_size(draft), endless.size());
+  window.Page().document()->setModified(false);
 }
 
 }  // namespace

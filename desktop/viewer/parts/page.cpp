@@ -23,7 +23,7 @@ constexpr qreal kLetters = 11;    // points at 100 %
 constexpr int kSheetMargin = 44;  // pixels, at each edge of the sheet
 constexpr int kLeastZoom = 50, kMostZoom = 400, kZoomStep = 10;
 constexpr int kShadow = 5;
-constexpr TextRoom kRoom{WorkFolder::kLargestFile, kLongestLine};
+constexpr TextRoom kRoom{WorkFolder::kLargestFile, kLongestLine, kMostLines};
 
 bool IsDark(const QColor& colour) { return colour.lightness() < 128; }
 
