@@ -12,7 +12,6 @@ void Say(QWidget* at, const QString& text) {
   QToolTip::showText(at->mapToGlobal(at->rect().center()), text, at, {}, 6000);
 }
 
-// Characters: what those of several bytes add is found at the save.
 struct Extent {
   qsizetype longest = 0;
   int ends = 0;

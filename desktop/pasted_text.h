@@ -2,18 +2,13 @@
 #pragma once
 
 #include <QString>
-#include <cstddef>
+
+#include "desktop/text_room.h"
 
 class QTextDocument;
 class QWidget;
 
 namespace orm {
-
-// What a kind of file holds at most, bytes.
-struct TextRoom {
-  std::size_t whole = 0, line = 0;
-  int lines = 0;
-};
 
 // The text without control characters, which no file of text may hold; empty when it would make the
 // document too large for its file, with too many lines, or has one that is too long. Each is told

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "desktop/text_room.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 
@@ -54,11 +55,11 @@ void RefuseEndlessText(std::string_view text) {
       ++line;
     } else if (text.substr(i, kLoneLineFeed.size()) == kLoneLineFeed) {
       length = 0;
-    } else if (++length > kLongestLine || ++whole > kLongestWhole) {
+    } else if (++length > kTextRoom.line || ++whole > kLongestWhole) {
       throw RuntimeFailure("Una riga del file è troppo lunga per essere mostrata.").AtLine(line);
     }
   }
-  if (line > kMostLines) throw RuntimeFailure("Il file ha troppe righe per essere mostrato.");
+  if (line > kTextRoom.lines) throw RuntimeFailure("Il file ha troppe righe per essere mostrato.");
 }
 
 LineEnd UsualLineEnd(std::string_view bytes) {
@@ -141,13 +142,13 @@ bool CanBeShown(std::string_view text) {
   for (const char c : text) {
     length = c == '\n' ? 0 : length + 1;
     lines += c == '\n';
-    if (length > 2 * kLongestWhole || lines > 2 * kMostLines) return false;
+    if (length > 2 * kLongestWhole || lines > 2 * kTextRoom.lines) return false;
   }
   return true;
 }
 
 void CheckOpensAgain(std::string_view bytes, const TextFormat& format) {
-  if (bytes.size() > WorkFolder::kLargestFile)
+  if (bytes.size() > kTextRoom.whole)
     throw RuntimeFailure("Il testo è troppo grande per il suo file.");
   const TextFormat again = DecodeText(bytes).format;
   const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });

@@ -25,10 +25,6 @@ struct TextFormat {
 inline constexpr std::string_view kLoneLineFeed = "\u2028";
 inline constexpr std::string_view kLoneReturn = "\u240D";
 
-// A line as it is shown, bytes of UTF-8: a longer one would keep the window busy for seconds.
-inline constexpr std::size_t kLongestLine = 10'000;
-inline constexpr int kMostLines = 100'000;
-
 struct DecodedText {
   std::string text;  // UTF-8, '\n' at the file's usual line ends
   TextFormat format;

@@ -13,8 +13,6 @@
 
 #include "desktop/export/pages.h"
 #include "desktop/pasted_text.h"
-#include "desktop/viewer/file.h"
-#include "runtime/folder.h"
 
 namespace orm {
 namespace {
@@ -23,7 +21,6 @@ constexpr qreal kLetters = 11;    // points at 100 %
 constexpr int kSheetMargin = 44;  // pixels, at each edge of the sheet
 constexpr int kLeastZoom = 50, kMostZoom = 400, kZoomStep = 10;
 constexpr int kShadow = 5;
-constexpr TextRoom kRoom{WorkFolder::kLargestFile, kLongestLine, kMostLines};
 
 bool IsDark(const QColor& colour) { return colour.lightness() < 128; }
 
@@ -160,7 +157,7 @@ bool ViewerPage::canInsertFromMimeData(const QMimeData* source) const {
 
 void ViewerPage::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly()) return;
-  const QString text = FitForPasting(source->text(), *document(), kRoom, this);
+  const QString text = FitForPasting(source->text(), *document(), kTextRoom, this);
   if (!text.isEmpty()) textCursor().insertText(text);
   ensureCursorVisible();
 }
@@ -175,7 +172,7 @@ void ViewerPage::wheelEvent(QWheelEvent* event) {
 void ViewerPage::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && escaped) return escaped();
   if (!isReadOnly() && !event->text().isEmpty() && event->text()[0] >= QChar(' ') &&
-      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, kRoom, this))
+      event->key() != Qt::Key_Delete && !HasRoom(*document(), 1, kTextRoom, this))
     return;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter || isReadOnly()) return QPlainTextEdit::keyPressEvent(event);
