@@ -16,12 +16,6 @@ void PutNumber(NumberBox& box, double value) {
   if (value == 0 || (value >= limits.least && value <= limits.most)) box.SetValue(value);
 }
 
-// A draft on the disk may come from anybody.
-template <class Box>
-void PutText(Box& box, const std::string& text) {
-  if (box.Objection(text).empty()) box.SetText(text);
-}
-
 }  // namespace
 
 FormValues::FormValues(Values values, std::vector<std::string> hidden)
@@ -51,6 +45,7 @@ FormValues::FormValues(const Form& form) : hidden_(form.Hidden()) {
 }
 
 void FormValues::PutInto(Form& form) const {
+  // A draft on the disk may come from anybody: what a field would not let be typed stays out.
   // Twice: a choice may fill fields that stand before it, over what was typed there.
   for (int pass = 0; pass < 2; ++pass) {
     for (const auto& [name, value] : values_) {
@@ -58,9 +53,9 @@ void FormValues::PutInto(Form& form) const {
       if (auto* number = dynamic_cast<NumberBox*>(control))
         Put<double>(value, [&](double v) { PutNumber(*number, v); });
       else if (auto* text = dynamic_cast<TestoBox*>(control))
-        Put<std::string>(value, [&](const std::string& v) { PutText(*text, v); });
+        Put<std::string>(value, [&](const std::string& v) { text->Type(v); });
       else if (auto* bars = dynamic_cast<FerriBox*>(control))
-        Put<std::string>(value, [&](const std::string& v) { PutText(*bars, v); });
+        Put<std::string>(value, [&](const std::string& v) { bars->Type(v); });
       else if (auto* option = dynamic_cast<OptionButton*>(control))
         Put<bool>(value, [&](bool v) { option->SetValue(v); });
       else if (auto* check = dynamic_cast<CheckBox*>(control))
