@@ -21,6 +21,7 @@
 namespace orm {
 namespace {
 
+// A paragraph counts once for itself and once for its text.
 constexpr TextRoom kRoom{kLongestRichText, kLongestRichParagraph, kMostRichPieces / 2 - 1};
 
 // Takes what a file of rich text can hold.

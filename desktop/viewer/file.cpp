@@ -12,8 +12,14 @@ namespace orm {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-// Of lines with their usual end, which may have others within: all of one are laid out at once.
-constexpr std::size_t kLongestWhole = 100'000;  // bytes of UTF-8
+// Bytes of UTF-8: of a line as it is shown, and of one with its usual end, which may have others
+// within that are laid out with it.
+struct LineBounds {
+  std::size_t shown, whole;
+  int lines;
+};
+constexpr LineBounds kOfFiles{kTextRoom.line, 100'000, kTextRoom.lines};
+constexpr LineBounds kOfDrafts{200'000, 200'000, 2 * kTextRoom.lines};
 
 // An Italian capital with its accent, the diameter and the times sign, when a closing quote or the
 // like follows in Windows-1252, look like one character of two bytes: «CAFFÈ» ends in one.
@@ -45,21 +51,29 @@ void RefuseControlCharacters(std::string_view bytes) {
         .AtLine(1 + static_cast<int>(std::count(bytes.begin(), found, '\n')));
 }
 
-// A line or a number of lines that nobody reads would keep the window busy for minutes.
-void RefuseEndlessText(std::string_view text) {
-  std::size_t length = 0, whole = 0;
+// The first line that is too long, or is one too many. What nobody reads would keep the window busy
+// for minutes.
+std::optional<int> LineBeyond(std::string_view text, const LineBounds& bounds) {
+  std::size_t shown = 0, whole = 0;
   int line = 1;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == '\n') {
-      length = whole = 0;
-      ++line;
+      shown = whole = 0;
+      if (++line > bounds.lines) return line;
     } else if (text.substr(i, kLoneLineFeed.size()) == kLoneLineFeed) {
-      length = 0;
-    } else if (++length > kTextRoom.line || ++whole > kLongestWhole) {
-      throw RuntimeFailure("Una riga del file è troppo lunga per essere mostrata.").AtLine(line);
+      shown = 0;
+    } else if (++shown > bounds.shown || ++whole > bounds.whole) {
+      return line;
     }
   }
-  if (line > kTextRoom.lines) throw RuntimeFailure("Il file ha troppe righe per essere mostrato.");
+  return std::nullopt;
+}
+
+void RefuseEndlessText(std::string_view text) {
+  const auto line = LineBeyond(text, kOfFiles);
+  if (!line) return;
+  if (*line > kOfFiles.lines) throw RuntimeFailure("Il file ha troppe righe per essere mostrato.");
+  throw RuntimeFailure("Una riga del file è troppo lunga per essere mostrata.").AtLine(*line);
 }
 
 LineEnd UsualLineEnd(std::string_view bytes) {
@@ -136,16 +150,7 @@ DecodedText DecodeText(std::string_view bytes) {
   return result;
 }
 
-bool CanBeShown(std::string_view text) {
-  std::size_t length = 0;
-  int lines = 0;
-  for (const char c : text) {
-    length = c == '\n' ? 0 : length + 1;
-    lines += c == '\n';
-    if (length > 2 * kLongestWhole || lines > 2 * kTextRoom.lines) return false;
-  }
-  return true;
-}
+bool CanBeShown(std::string_view text) { return !LineBeyond(text, kOfDrafts); }
 
 void CheckOpensAgain(std::string_view bytes, const TextFormat& format) {
   if (bytes.size() > kTextRoom.whole)

@@ -7,7 +7,7 @@
 
 namespace orm {
 namespace {
-constexpr std::size_t kMostSections = 10'000;
+constexpr std::size_t kMostSections = 10'000;  // of more nobody chooses one
 }  // namespace
 
 std::vector<Section> SectionsOf(const QString& text) {
