@@ -228,14 +228,15 @@ void DeskWindow::SearchOn() {
   if (!ended) searching_.start(0);
 }
 
+bool DeskWindow::IsListed(const QString& job) {
+  return std::ranges::any_of(
+      Jobs().Voci(), [name = FromQt(job)](const VoceLavoro& one) { return one.nome == name; });
+}
+
 void DeskWindow::GoTo(const QString& job) {
   if (!listed_) ListJobs();
   int row = job.isEmpty() ? -1 : jobs_->RowOf(job);
-  const auto& all = Jobs().Voci();
-  const bool hidden = row < 0 && !job.isEmpty() &&
-                      std::any_of(all.begin(), all.end(), [&job](const VoceLavoro& one) {
-                        return one.nome == FromQt(job);
-                      });
+  const bool hidden = row < 0 && IsListed(job);
   if (hidden && job != job_) {
     sought_->clear();
     row = jobs_->RowOf(job);
@@ -254,34 +255,6 @@ void DeskWindow::ChooseRow() {
   if (listing_) return;
   job_ = jobs_->NameAt(jobsView_->currentIndex().row());
   ShowJob();
-}
-
-void DeskWindow::ShowJob() {
-  Lavoro job;
-  unreadableJob_.clear();
-  try {
-    // The system's functions of files would look for another name.
-    if (job_.contains(QChar::ReplacementCharacter))
-      throw RuntimeFailure(
-          "Il nome della cartella non è scritto in UTF-8: prima di lavorarci va cambiato con il "
-          "gestore dei file.");
-    if (!job_.isEmpty()) job = Jobs().Dettagli(FromQt(job_));
-  } catch (const RuntimeFailure& failure) {
-    unreadableJob_ = ToQt(failure.Text());
-  }
-  contents_->Show(job);
-  jobTitle_->setText(Foldable(job_));
-  jobTitle_->setToolTip(job_.isEmpty() ? QString() : ToQt(Folder()));
-  if (contents_->rowCount() > 0) contentsView_->selectRow(0);
-  MarkFound();
-  Watch();
-  ShowState();
-}
-
-// The note that is sought is the one chosen.
-void DeskWindow::MarkFound() {
-  const std::vector<std::size_t> found = jobs_->FoundIn(job_);
-  if (!found.empty()) contentsView_->selectRow(static_cast<int>(found.front()));
 }
 
 void DeskWindow::ShowPages() {

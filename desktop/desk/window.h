@@ -72,6 +72,7 @@ class DeskWindow : public QMainWindow {
   void ListJobs();
   void Narrow();
   void SearchOn();
+  bool IsListed(const QString& job);  // under that very name
   void ChooseRow();
   void ShowJob();
   void MarkFound();

@@ -7,14 +7,18 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTableView>
 #include <algorithm>
 
 #include "desktop/desk/contents_model.h"
 #include "desktop/desk/job_work.h"
+#include "desktop/desk/jobs_model.h"
 #include "desktop/desk/questions.h"
 #include "desktop/desk/window.h"
 #include "desktop/dress/look.h"
 #include "desktop/qt_text.h"
+#include "desktop/viewer/messages.h"
+#include "runtime/failure.h"
 
 namespace orm {
 namespace {
@@ -24,6 +28,33 @@ constexpr int kRoomAround = 20;      // pixels that a new window leaves free at 
 }  // namespace
 
 // ---------------------------------------------------------------- what is shown of it
+
+void DeskWindow::ShowJob() {
+  Lavoro job;
+  unreadableJob_.clear();
+  try {
+    if (!job_.isEmpty() && !IsListed(job_))  // Qt would look for another name
+      throw RuntimeFailure(
+          "Il nome della cartella non è scritto in UTF-8: prima di lavorarci va cambiato con il "
+          "gestore dei file.");
+    if (!job_.isEmpty()) job = Jobs().Dettagli(FromQt(job_));
+  } catch (const RuntimeFailure& failure) {
+    unreadableJob_ = ToQt(failure.Text());
+  }
+  contents_->Show(job);
+  jobTitle_->setText(Foldable(job_));
+  jobTitle_->setToolTip(job_.isEmpty() ? QString() : ToQt(Folder()));
+  if (contents_->rowCount() > 0) contentsView_->selectRow(0);
+  MarkFound();
+  Watch();
+  ShowState();
+}
+
+// The note that is sought is the one chosen.
+void DeskWindow::MarkFound() {
+  const std::vector<std::size_t> found = jobs_->FoundIn(job_);
+  if (!found.empty()) contentsView_->selectRow(static_cast<int>(found.front()));
+}
 
 void DeskWindow::ShowState() {
   setWindowTitle(QString::fromLatin1(kDeskName));
