@@ -21,8 +21,7 @@ bool UnsavedText::ComesBack(QWidget* window) {
   if (tooLarge)
     Tell(window, QMessageBox::Warning,
          QStringLiteral("Di questo file c'è un testo non salvato troppo grande per riprenderlo."),
-         QStringLiteral(
-             "Resta dov'è, in un file nascosto della cartella che finisce in \".bozza\"."));
+         QStringLiteral("Resta dov'è, in un file nascosto che finisce in \".bozza\"."));
   if (!left) return false;
   const bool wanted =
       *left != page_.Text() &&
